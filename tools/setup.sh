@@ -1,0 +1,67 @@
+# Shared by run, test, bench and .ci/run: installs what is missing and builds a preset.
+# Sourced, never started by itself; leaves the caller in the project's own folder.
+# shellcheck shell=bash disable=SC2034
+
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." || exit 1
+
+# Debian packages by purpose; the scripts use those that the caller names.
+BuildPackages=(build-essential cmake ninja-build ccache qt6-base-dev fontconfig fonts-dejavu-core)
+TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils)
+BenchPackages=(libbenchmark-dev)
+CheckPackages=(clang-format clang-tidy git python3)
+
+IsInstalled() {
+    dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
+}
+
+# InstallMissing PACKAGE...: touches the network only when a package is missing.
+# Ends the script with the line to type when it may not install.
+InstallMissing() {
+    local Package Missing=() AsRoot=()
+    if ! command -v dpkg-query apt-get >/dev/null; then
+        echo "Not a Debian system: the packages needed go by these names there: $*" >&2
+        return
+    fi
+    for Package in "$@"; do
+        IsInstalled "$Package" || Missing+=("$Package")
+    done
+    if ((${#Missing[@]} == 0)); then
+        return
+    fi
+    if ((EUID != 0)); then
+        if ! command -v sudo >/dev/null; then
+            echo "Packages are missing, and installing them needs root. As root, run:" >&2
+            echo "apt-get update && apt-get install -y --no-install-recommends ${Missing[*]}" >&2
+            exit 1
+        fi
+        AsRoot=(sudo)
+    fi
+    echo "Installing: ${Missing[*]}"
+    "${AsRoot[@]}" apt-get -q update
+    "${AsRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q install -y --no-install-recommends "${Missing[@]}"
+}
+
+# Configure PRESET [-DNAME=VALUE...]: the presets ask for Ninja; without it make serves.
+Configure() {
+    local Preset=$1 Generator=()
+    shift
+    if ! command -v ninja >/dev/null; then
+        Generator=(-G "Unix Makefiles")
+    fi
+    cmake --preset "$Preset" "${Generator[@]}" "$@"
+}
+
+# Build PRESET [TARGET...]: everything when no target is named.
+Build() {
+    local Preset=$1
+    shift
+    cmake --build --preset "$Preset" --parallel "$(nproc)" ${1+--target "$@"}
+}
+
+# RunTests PRESET [CTEST-OPTION...]
+RunTests() {
+    local Preset=$1
+    shift
+    ctest --preset "$Preset" --parallel "$(nproc)" "$@"
+}
