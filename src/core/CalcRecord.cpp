@@ -1,0 +1,106 @@
+// See CalcRecord.h.
+#include "core/CalcRecord.h"
+
+#include <algorithm>
+
+#include "core/Words.h"
+#include "platform/Forms.h"
+
+namespace quillmetra {
+
+CalcRecord Calc;
+
+void ResetRecord() {
+    CalcRecord fresh;
+    fresh.CurrentProgram = Calc.CurrentProgram;
+    fresh.FluidType = Calc.FluidType;
+    fresh.LiquidUnitSet = Calc.LiquidUnitSet;
+    fresh.GasUnitSet = Calc.GasUnitSet;
+    Calc = std::move(fresh);
+    UnloadForm("frmPipeSize");
+}
+
+void ResetForNew() {
+    const CalcRecord old = Calc;
+    ResetRecord();
+    Calc.UnitName = old.UnitName;
+    Calc.UnitFactor = old.UnitFactor;
+    Calc.UnitNameShown = old.UnitNameShown;
+    Calc.UnitFactorShown = old.UnitFactorShown;
+    Calc.UnitNamePrevious = old.UnitNamePrevious;
+    Calc.UnitFactorPrevious = old.UnitFactorPrevious;
+    Calc.ChosenUnitRowNames = old.ChosenUnitRowNames;
+    Calc.Basis = old.Basis;
+    Calc.BasisPrevious = old.BasisPrevious;
+    Calc.LiquidBasis = old.LiquidBasis;
+    Calc.LiquidBasisPrevious = old.LiquidBasisPrevious;
+    Calc.UnitSystem = old.UnitSystem;
+    Calc.UnitSetName = old.UnitSetName;
+    Calc.UnitsTitle = old.UnitsTitle;
+    Calc.CalcMode = old.CalcMode;
+    Calc.DataMode = old.DataMode;
+    Calc.CalcOption = old.CalcOption;
+    Calc.FluidOk = old.FluidOk;
+    Calc.LiquidDensityMode = old.LiquidDensityMode;
+    Calc.LiquidDensityModePrevious = old.LiquidDensityModePrevious;
+    Calc.PressureMode = old.PressureMode;
+    Calc.PressureModePrevious = old.PressureModePrevious;
+    Calc.PipeMaterialName = old.PipeMaterialName;
+    Calc.StdTemperature = old.StdTemperature;
+    Calc.StdPressure = old.StdPressure;
+    Calc.BaroPressure = old.BaroPressure;
+    for (const std::size_t row : {21U, 22U, 23U}) Calc.CaseInput[row][0] = old.CaseInput[row][0];
+}
+
+void MarkCalculated() {
+    std::copy_n(Calc.CaseInput.begin(), 28, Calc.CaseInputShown.begin());
+    std::copy_n(Calc.CaseResult.begin(), 6, Calc.CaseResultShown.begin());
+    Calc.PipeDataShown = Calc.PipeData;
+    Calc.HammerResultShown = Calc.HammerResult;
+    Calc.RecordUpdated = words::Yes;
+    Calc.ChangedFlag = words::No;
+}
+
+void RestoreShown() {
+    Calc.CaseInput = Calc.CaseInputSaved;
+    Calc.UnitFactor = Calc.UnitFactorShown;
+    Calc.UnitName = Calc.UnitNameShown;
+    Calc.PipeData = Calc.PipeDataSaved;
+    Calc.FittingCount = Calc.FittingCountShown;
+    Calc.HammerResult = Calc.HammerResultSaved;
+    Calc.CaseUnitsText = Calc.CaseUnitsTextSaved;
+    Calc.CaseText = Calc.CaseTextSaved;
+    Calc.HeadingText = Calc.HeadingTextSaved;
+    Calc.CaseResult = Calc.CaseResultSaved;
+    Calc.FluidPercent = Calc.FluidPercentSaved;
+    Calc.FluidData = Calc.FluidDataSaved;
+    Calc.PressureDirection = Calc.PressureDirectionSaved;
+    Calc.LiquidBasis = Calc.LiquidBasisSaved;
+    Calc.Basis = Calc.BasisSaved;
+}
+
+void TakeSaved() {
+    Calc.CaseInputSaved = Calc.CaseInput;
+    Calc.CaseResultSaved = Calc.CaseResult;
+    Calc.PipeDataSaved = Calc.PipeData;
+    Calc.HammerResultSaved = Calc.HammerResult;
+    Calc.HeadingTextSaved = Calc.HeadingText;
+    Calc.CaseTextSaved = Calc.CaseText;
+    Calc.CaseUnitsTextSaved = Calc.CaseUnitsText;
+    Calc.FluidPercentSaved = Calc.FluidPercent;
+    Calc.FluidDataSaved = Calc.FluidData;
+    Calc.PipeFoulingSaved = Calc.PipeFouling;
+    Calc.FluidNameSaved = Calc.FluidName;
+    Calc.BasisSaved = Calc.Basis;
+    Calc.LiquidBasisSaved = Calc.LiquidBasis;
+    Calc.PressureDirectionSaved = Calc.PressureDirection;
+    Calc.PipeMaterialSaved = Calc.PipeMaterial;
+    Calc.PipeMaterialNumberSaved = Calc.PipeMaterialNumber;
+    Calc.TagSaved = Calc.Tag;
+    // Units and fittings have no saved copy of their own: their shown copy is the reference.
+    Calc.UnitNameShown = Calc.UnitName;
+    Calc.UnitFactorShown = Calc.UnitFactor;
+    Calc.FittingCountShown = Calc.FittingCount;
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,157 @@
+// See StartUp.h.
+#include "core/StartUp.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "core/Suite.h"
+#include "core/Version.h"
+#include "platform/Forms.h"
+#include "platform/ProgramPlaces.h"
+#include "platform/TextFiles.h"
+
+namespace quillmetra {
+
+namespace fs = std::filesystem;
+
+const std::array<std::uint32_t, 12> DefaultColours = {12632256, 0,       15793151, 0,   8421504, 8388608,
+                                                      16777215, 8388608, 4227200,  255, 65535,   0};
+
+namespace {
+
+// The shipped tables, all of which belong below the program's folder in TRData.
+constexpr std::array ShippedTables = {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"};
+
+void UseDefaultColours() { std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1); }
+
+void ReadColours() {
+    try {
+        ItemReader file(Suite.DefaultPaths[4] + "\\TRColr.txt");
+        for (std::size_t slot = 1; slot <= 12; ++slot) {
+            const double packed = file.NextNumber();
+            Suite.Colours[slot] =
+                packed >= 0 && packed <= 0xFFFFFF ? static_cast<std::uint32_t>(packed) : DefaultColours[slot - 1];
+        }
+    } catch (const RuntimeError&) {
+        UseDefaultColours();
+    }
+}
+
+struct StandardCondition {
+    std::size_t Row;
+    double CalcRecord::*Field;
+    double Usual;
+    const char* Unit;
+    bool ZeroAlone;  // only exactly zero counts as missing: minus 10 degF is a temperature
+};
+
+constexpr std::array StandardConditions = {
+    StandardCondition{22, &CalcRecord::StdPressure, 14.7, "psia", false},
+    StandardCondition{21, &CalcRecord::StdTemperature, 60, "degF", true},
+    StandardCondition{23, &CalcRecord::BaroPressure, 14.7, "psia", false},
+};
+
+}  // namespace
+
+std::string ProgramFolder() {
+    const fs::path portable = ExecutableFolder();
+    std::error_code error;
+    if (fs::is_directory(portable / "TRData", error)) return SuitePath(portable);
+    return SuitePath(UserDataFolder());
+}
+
+void SeedShippedData(const std::string& programFolder) {
+    std::error_code ignored;
+    const fs::path source = ShippedDataFolder();
+    for (const char* name : ShippedTables) {
+        const fs::path target = MachinePath(programFolder + "\\TRData\\" + name);
+        if (fs::exists(target, ignored)) continue;
+        fs::create_directories(target.parent_path(), ignored);
+        fs::copy_file(source / name, target, fs::copy_options::skip_existing, ignored);
+    }
+}
+
+void StartUp(const std::string& programFolder) {
+    Suite.VersionText = "Ver." + std::to_string(version::Major) + "." + std::to_string(version::Minor) + "." +
+                        std::to_string(version::Revision) + ".  ";
+    Boot(programFolder);
+}
+
+void Boot(const std::string& programFolder) {
+    UseDefaultColours();
+    Suite.DefaultPaths[5] = programFolder;
+    Suite.HelpFile = programFolder + "\\VOTR.HLP";
+    if (!ReadDefaultPaths()) {
+        for (std::size_t i = 1; i <= 4; ++i) Suite.DefaultPaths[i] = programFolder + "\\TRData";
+    }
+    ReadColours();
+    ShowForm("frmTRProg");
+}
+
+bool ReadDefaultPaths() {
+    try {
+        ItemReader file(Suite.DefaultPaths[5] + "\\TRDrv.txt");
+        Row<std::string, 6> paths = Suite.DefaultPaths;
+        for (std::size_t i = 1; i <= 4; ++i) paths[i] = file.NextText();
+        Suite.DefaultPaths = paths;
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+void LoadHeadings() {
+    try {
+        LineReader file(Suite.DefaultPaths[3] + "\\TRHDG.txt");
+        std::string line;
+        for (std::size_t i = 1; i <= 7 && file.Next(line); ++i) {
+            Calc.HeadingText[i] = line;
+            Calc.HeadingTextSaved[i] = line;
+        }
+    } catch (const RuntimeError&) {
+        // headings stay empty
+    }
+}
+
+void ReadStandardConditions() {
+    try {
+        ItemReader file(Suite.DefaultPaths[2] + "\\TRSTP.TXT");
+        Calc.StdFileValues.fill(0);
+        for (std::size_t i = 1; i <= 3 && !file.AtEnd(); ++i) Calc.StdFileValues[i] = file.NextNumber();
+    } catch (const RuntimeError&) {
+        return;
+    }
+    for (std::size_t i = 1; i <= 3; ++i) Calc.CaseInput[20 + i][0] = Calc.StdFileValues[i];
+    Calc.StdTemperature = Calc.StdFileValues[1];
+    Calc.StdPressure = Calc.StdFileValues[2];
+    Calc.BaroPressure = Calc.StdFileValues[3];
+    RestoreStandardConditions();
+}
+
+void RestoreStandardConditions() {
+    for (const StandardCondition& condition : StandardConditions) {
+        double& value = Calc.*condition.Field;
+        if (condition.ZeroAlone ? value != 0 : value > 0) continue;
+        value = condition.Usual;
+        Calc.CaseInput[condition.Row][0] = condition.Usual;
+        Calc.UnitName[condition.Row] = condition.Unit;
+    }
+}
+
+void SaveStandardConditions() {
+    Calc.MessageTitle = "User units file";
+    try {
+        TextWriter file(Suite.DefaultPaths[4] + "\\TRSTP.TXT");
+        file.Number(Calc.StdPressure);
+        file.Number(Calc.StdTemperature);
+        file.Number(Calc.BaroPressure);
+        file.Line(Suite.HideFluidReminder);
+        file.Line(Suite.HideRoundReminder);
+        file.Line(Suite.HideFlowStatus);
+        file.Commit();
+    } catch (const RuntimeError&) {
+        // the words still hold for this run
+    }
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,220 @@
+// See Controls.h.
+#include "platform/Controls.h"
+
+#include <algorithm>
+
+#include "platform/Form.h"
+#include "platform/Forms.h"
+
+namespace quillmetra {
+
+namespace {
+const std::string Nothing;
+
+// A caption as it is read: without the "&" that marks its access key and without a colon at its end.
+std::string Spoken(const std::string& caption) {
+    std::string text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && i + 1 < caption.size()) ++i;
+        text += caption[i];
+    }
+    while (!text.empty() && (text.back() == ' ' || text.back() == ':')) text.pop_back();
+    return text;
+}
+}  // namespace
+
+const char* Word(ControlKind kind) {
+    switch (kind) {
+        case ControlKind::TextBox: return "TextBox";
+        case ControlKind::Label: return "Label";
+        case ControlKind::CommandButton: return "CommandButton";
+        case ControlKind::OptionButton: return "OptionButton";
+        case ControlKind::CheckBox: return "CheckBox";
+        case ControlKind::ListBox: return "ListBox";
+        case ControlKind::ComboBox: return "ComboBox";
+        case ControlKind::Frame: return "Frame";
+        case ControlKind::MenuItem: return "MenuItem";
+        case ControlKind::Grid: return "Grid";
+    }
+    return "";
+}
+
+Parent::Parent(Frame& frame) : Owner(frame.Owner()), Container(&frame) {}
+Parent::Parent(MenuItem& head) : Owner(head.Owner()), Container(&head) {}
+
+Control::Control(const Parent& parent, ControlKind kind, std::string name, std::string text, int index)
+    : text_(std::move(text)),
+      owner_(parent.Owner),
+      container_(parent.Container),
+      kind_(kind),
+      name_(std::move(name)),
+      index_(index) {
+    owner_.Register(*this);
+}
+
+std::string Control::FullName() const {
+    return index_ == NoIndex ? name_ : name_ + "(" + std::to_string(index_) + ")";
+}
+
+void Control::Notify(Aspect aspect) {
+    if (Host* host = CurrentHost()) host->ControlChanged(*this, aspect);
+}
+
+void Control::SetCaption(const std::string& caption) {
+    if (caption == text_) return;
+    text_ = caption;
+    Notify(Aspect::Text);
+}
+
+void Control::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    Notify(Aspect::Enabled);
+}
+
+void Control::SetVisible(bool visible) {
+    if (visible == visible_) return;
+    visible_ = visible;
+    Notify(Aspect::Visible);
+}
+
+bool Control::Seen() const { return visible_ && (container_ == nullptr || container_->Seen()); }
+
+bool Control::Works() const {
+    return enabled_ && visible_ && (container_ == nullptr || container_->Works());
+}
+
+void Control::SetToolTip(const std::string& text) {
+    if (text == toolTip_) return;
+    toolTip_ = text;
+    Notify(Aspect::ToolTip);
+}
+
+void Control::SetColours(Colour back, Colour fore) {
+    if (back == back_ && fore == fore_) return;
+    back_ = back;
+    fore_ = fore;
+    Notify(Aspect::Colours);
+}
+
+void Control::Describe(Control* label, Control* unit, std::string column) {
+    label_ = label;
+    unit_ = unit;
+    column_ = std::move(column);
+}
+
+std::string Control::AccessibleName() const {
+    if (kind_ != ControlKind::TextBox && kind_ != ControlKind::ListBox && kind_ != ControlKind::ComboBox &&
+        label_ == nullptr) {
+        return Spoken(text_);
+    }
+    std::string name = label_ == nullptr ? "" : Spoken(label_->Caption());
+    if (!column_.empty()) name += (name.empty() ? "" : ", ") + column_;
+    return name;
+}
+
+void TextBox::SetText(const std::string& text) {
+    if (text == text_) return;
+    text_ = text;
+    Notify(Aspect::Text);
+    if (Change) Change();
+}
+
+void Tickable::SetChecked(bool checked) {
+    if (checked == checked_) return;
+    checked_ = checked;
+    Notify(Aspect::Checked);
+}
+
+void OptionButton::SetChecked(bool checked) {
+    if (checked) {
+        for (Control* other : Owner().Controls()) {
+            if (other == this || other->Kind() != ControlKind::OptionButton) continue;
+            if (other->Container() == Container()) static_cast<OptionButton*>(other)->SetChecked(false);
+        }
+    }
+    Tickable::SetChecked(checked);
+}
+
+ListBox::ListBox(const Parent& parent, ControlKind kind, std::string name, int index)
+    : Control(parent, kind, std::move(name), {}, index) {
+    TabStop = true;
+}
+
+const std::string& ListBox::Row(int row) const {
+    return row < 0 || row >= RowCount() ? Nothing : rows_[static_cast<std::size_t>(row)];
+}
+
+void ListBox::SetRows(std::vector<std::string> rows) {
+    rows_ = std::move(rows);
+    picked_.assign(rows_.size(), false);
+    selected_ = -1;
+    if (Kind() == ControlKind::ListBox) text_.clear();
+    Notify(Aspect::Rows);
+}
+
+void ListBox::Preselect(int row) {
+    if (row < -1 || row >= RowCount() || row == selected_) return;
+    selected_ = row;
+    text_ = Row(row);
+    Notify(Aspect::Selection);
+}
+
+void ListBox::Select(int row) {
+    if (row == selected_ || row < -1 || row >= RowCount()) return;
+    Preselect(row);
+    if (row >= 0 && Click) Click();
+}
+
+bool ListBox::IsPicked(int row) const {
+    if (row < 0 || row >= RowCount()) return false;
+    return Multiple ? picked_[static_cast<std::size_t>(row)] : row == selected_;
+}
+
+void ListBox::Pick(int row, bool picked) {
+    if (row < 0 || row >= RowCount()) return;
+    picked_[static_cast<std::size_t>(row)] = picked;
+    selected_ = row;
+    text_ = Row(row);
+    Notify(Aspect::Selection);
+    if (Click) Click();
+}
+
+void ComboBox::SetText(const std::string& text) {
+    if (text == text_) return;
+    text_ = text;
+    Notify(Aspect::Text);
+    if (Change) Change();
+}
+
+const std::string& Grid::Cell(int row, int column) const {
+    if (row < 0 || row >= RowCount() || column < 0 || column >= columns_) {
+        throw failure::SubscriptOutOfRange();
+    }
+    return cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+}
+
+void Grid::SetSize(int rows, int columns) {
+    columns_ = std::max(columns, 0);
+    cells_.resize(static_cast<std::size_t>(std::max(rows, 0)));
+    for (auto& row : cells_) row.resize(static_cast<std::size_t>(columns_));
+    if (selected_ >= RowCount()) selected_ = -1;
+    Notify(Aspect::Rows);
+}
+
+void Grid::SetCell(int row, int column, const std::string& text) {
+    if (Cell(row, column) == text) return;
+    cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
+    Notify(Aspect::Rows);
+}
+
+void Grid::Select(int row, int column) {
+    Cell(row, column);
+    selected_ = row;
+    selectedColumn_ = column;
+    text_ = Cell(row, column);
+    Notify(Aspect::Selection);
+    if (Click) Click();
+}
+
+}  // namespace quillmetra

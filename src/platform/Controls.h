@@ -1,0 +1,313 @@
+// The control model: what a form is made of, with no toolkit behind it. A control knows its name, text,
+// state and handlers; a host draws it and passes on what the user does (UserActs.h).
+//
+// Events from code: setting the text of a box fires its Change when the text differs, and selecting a row
+// of a list fires the list's Click, as the user's act does. Options, check boxes, captions and the filling
+// of a list fire nothing.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Host.h"
+#include "platform/RuntimeError.h"
+
+namespace quillmetra {
+
+class Form;
+class Frame;
+class MenuItem;
+
+using Colour = std::uint32_t;  // 0x00BBGGRR
+using Handler = std::function<void()>;
+
+enum class ControlKind { TextBox, Label, CommandButton, OptionButton, CheckBox, ListBox, ComboBox, Frame, MenuItem, Grid };
+const char* Word(ControlKind kind);
+
+// A key press: one character, or the name of a key ("Enter", "Escape", "F1"), with modifiers in front
+// ("Ctrl+c"). A handler that uses the key up sets Handled.
+struct Key {
+    std::string Name;
+    bool Handled = false;
+};
+
+// Where a control is put: on the form itself, in a frame, or under a menu head.
+struct Parent {
+    Parent(Form& form) : Owner(form) {}  // NOLINT: written as Label{*this, ...}
+    Parent(Frame& frame);                // NOLINT
+    Parent(MenuItem& head);              // NOLINT
+
+    Form& Owner;
+    class Control* Container = nullptr;
+};
+
+class Control {
+public:
+    static constexpr int NoIndex = -1;
+
+    Control(const Parent& parent, ControlKind kind, std::string name, std::string text = {},
+            int index = NoIndex);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& Name() const { return name_; }
+    int Index() const { return index_; }
+    std::string FullName() const;  // "txtFlow(0)" for an element of an array
+    ControlKind Kind() const { return kind_; }
+    Form& Owner() const { return owner_; }
+    Control* Container() const { return container_; }
+
+    // The text of a box, the caption of anything else, as a host shows it.
+    const std::string& Text() const { return text_; }
+    const std::string& Caption() const { return text_; }
+    void SetCaption(const std::string& caption);
+
+    bool Enabled() const { return enabled_; }
+    bool Visible() const { return visible_; }
+    void SetEnabled(bool enabled);
+    void SetVisible(bool visible);
+    // Seen: this and all that holds it is visible. Works: and enabled too.
+    bool Seen() const;
+    bool Works() const;
+
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(const std::string& text);
+
+    Colour BackColour() const { return back_; }
+    Colour ForeColour() const { return fore_; }
+    void SetColours(Colour back, Colour fore);
+
+    // What names this control to a screen reader and to a test: the label beside it and, in a table of
+    // cases, the word of its column. Unit is the control that shows its unit, null for what has none.
+    void Describe(Control* label, Control* unit = nullptr, std::string column = {});
+    std::string AccessibleName() const;
+    Control* LabelControl() const { return label_; }
+    Control* UnitControl() const { return unit_; }
+
+    // Gives this control the focus, at once outside of a handler, else when the outermost handler ends.
+    void SetFocus();
+
+    // The colour group 1 to 6 of a control, 0 for one that keeps the host's colours.
+    int ColourGroup = 0;
+    bool TabStop = false;
+
+    Handler Click, DoubleClick, GotFocus, LostFocus;
+    std::function<void(Key&)> KeyPress;
+
+protected:
+    void Notify(Aspect aspect);
+    std::string text_;
+
+private:
+    Form& owner_;
+    Control* container_;
+    ControlKind kind_;
+    std::string name_;
+    int index_;
+    bool enabled_ = true;
+    bool visible_ = true;
+    std::string toolTip_;
+    Colour back_ = 0x00FFFFFF;
+    Colour fore_ = 0;
+    Control* label_ = nullptr;
+    Control* unit_ = nullptr;
+    std::string column_;
+};
+
+class TextBox : public Control {
+public:
+    TextBox(const Parent& parent, std::string name, int index = NoIndex)
+        : Control(parent, ControlKind::TextBox, std::move(name), {}, index) {
+        TabStop = true;
+    }
+
+    // Sets the text and fires Change when it differs.
+    void SetText(const std::string& text);
+    void SelectAll() { Notify(Aspect::SelectAll); }
+
+    // A result: read, selected and copied, never typed into.
+    bool Locked = false;
+    // Holds a number: hosts right-align it and select it whole on focus.
+    bool IsNumber = false;
+    // The most characters that the user can type; 0 for no limit.
+    std::size_t MaxLength = 0;
+
+    Handler Change;
+};
+
+class Label : public Control {
+public:
+    Label(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
+        : Control(parent, ControlKind::Label, std::move(name), std::move(caption), index) {}
+};
+
+class CommandButton : public Control {
+public:
+    CommandButton(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
+        : Control(parent, ControlKind::CommandButton, std::move(name), std::move(caption), index) {
+        TabStop = true;
+    }
+};
+
+// An option button or a check box.
+class Tickable : public Control {
+public:
+    using Control::Control;
+    bool Checked() const { return checked_; }
+    virtual void SetChecked(bool checked);
+
+private:
+    bool checked_ = false;
+};
+
+// Option buttons of one container exclude one another.
+class OptionButton : public Tickable {
+public:
+    OptionButton(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
+        : Tickable(parent, ControlKind::OptionButton, std::move(name), std::move(caption), index) {
+        TabStop = true;
+    }
+    void SetChecked(bool checked) override;
+};
+
+class CheckBox : public Tickable {
+public:
+    CheckBox(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
+        : Tickable(parent, ControlKind::CheckBox, std::move(name), std::move(caption), index) {
+        TabStop = true;
+    }
+};
+
+// A menu head or entry. A head with a Click runs it before its entries show.
+class MenuItem : public Tickable {
+public:
+    MenuItem(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
+        : Tickable(parent, ControlKind::MenuItem, std::move(name), std::move(caption), index) {}
+
+    std::string Shortcut;  // "Ctrl+S"
+    bool SeparatorBefore = false;
+};
+
+// A list of rows with one of them selected, or several when Multiple is set.
+class ListBox : public Control {
+public:
+    ListBox(const Parent& parent, std::string name, int index = NoIndex)
+        : ListBox(parent, ControlKind::ListBox, std::move(name), index) {}
+
+    const std::vector<std::string>& Rows() const { return rows_; }
+    int RowCount() const { return static_cast<int>(rows_.size()); }
+    // The text of a row, empty outside of the list.
+    const std::string& Row(int row) const;
+    // Fills the list in one call; nothing is selected after it.
+    void SetRows(std::vector<std::string> rows);
+    void Clear() { SetRows({}); }
+
+    // The selected row, -1 for none. Selecting by code fires Click when the row differs and exists.
+    int Selected() const { return selected_; }
+    void Select(int row);
+    // As Select, without the event, for a list that is being filled.
+    void Preselect(int row);
+
+    bool IsPicked(int row) const;
+    void Pick(int row, bool picked);  // in a list of several selections
+
+    bool Multiple = false;
+
+protected:
+    ListBox(const Parent& parent, ControlKind kind, std::string name, int index);
+
+private:
+    std::vector<std::string> rows_;
+    std::vector<bool> picked_;
+    int selected_ = -1;
+};
+
+// A text box over a list that is always open.
+class ComboBox : public ListBox {
+public:
+    ComboBox(const Parent& parent, std::string name, int index = NoIndex)
+        : ListBox(parent, ControlKind::ComboBox, std::move(name), index) {}
+
+    void SetText(const std::string& text);
+    Handler Change;
+};
+
+class Frame : public Control {
+public:
+    Frame(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
+        : Control(parent, ControlKind::Frame, std::move(name), std::move(caption), index) {}
+};
+
+// Rows and columns of text with a row in hand.
+class Grid : public Control {
+public:
+    Grid(const Parent& parent, std::string name, int index = NoIndex)
+        : Control(parent, ControlKind::Grid, std::move(name), {}, index) {
+        TabStop = true;
+    }
+
+    int RowCount() const { return static_cast<int>(cells_.size()); }
+    int ColumnCount() const { return columns_; }
+    const std::string& Cell(int row, int column) const;  // throws outside of the grid
+    void SetSize(int rows, int columns);
+    void SetCell(int row, int column, const std::string& text);
+    int Selected() const { return selected_; }
+    int SelectedColumn() const { return selectedColumn_; }
+    void Select(int row, int column);
+
+    int FixedRows = 1;
+    int FixedColumns = 1;
+
+private:
+    std::vector<std::vector<std::string>> cells_;
+    int columns_ = 0;
+    int selected_ = -1;
+    int selectedColumn_ = 0;
+};
+
+// Controls of one name told apart by their index. It holds the indices it was made with and no others: a
+// wrong index is a failure, never a new control.
+template <typename T>
+class ControlArray {
+public:
+    template <typename... More>
+    ControlArray(const Parent& parent, const std::string& name, std::initializer_list<int> indices,
+                 const More&... more) {
+        for (const int index : indices) {
+            elements_.push_back(std::make_unique<T>(parent, name, more..., index));
+        }
+    }
+
+    T& operator()(int index) const {
+        for (const auto& element : elements_) {
+            if (element->Index() == index) return *element;
+        }
+        throw failure::NoSuchElement(elements_.empty() ? std::string() : elements_.front()->Name(), index);
+    }
+
+    bool Has(int index) const {
+        for (const auto& element : elements_) {
+            if (element->Index() == index) return true;
+        }
+        return false;
+    }
+
+    // Runs act(element, index) over the array in the order of its indices.
+    template <typename Act>
+    void Each(Act act) const {
+        for (const auto& element : elements_) act(*element, element->Index());
+    }
+
+private:
+    std::vector<std::unique_ptr<T>> elements_;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,89 @@
+// See Dialogs.h.
+#include "platform/Dialogs.h"
+
+#include <stdexcept>
+
+#include "platform/Host.h"
+
+namespace quillmetra {
+
+namespace {
+
+Host* InstalledHost = nullptr;
+int ShownBoxes = 0;
+int BusyDepth = 0;
+
+Host& RequiredHost() {
+    if (InstalledHost == nullptr) throw std::logic_error("a question to the user without a host");
+    return *InstalledHost;
+}
+
+}  // namespace
+
+Host* CurrentHost() { return InstalledHost; }
+void InstallHost(Host* host) { InstalledHost = host; }
+
+Answer DefaultAnswer(const MessageBox& box) {
+    return box.Default.value_or(box.Choice == Buttons::Ok ? Answer::Ok : Answer::Yes);
+}
+
+Answer ShowMessage(const MessageBox& box) {
+    ++ShownBoxes;
+    return RequiredHost().ShowMessageBox(box);
+}
+
+void Tell(const std::string& text, const std::string& title, Icon sign) {
+    ShowMessage({.Text = text, .Title = title, .Choice = Buttons::Ok, .Sign = sign});
+}
+
+bool AskYesNo(const std::string& text, const std::string& title, Icon sign, Answer preset) {
+    return ShowMessage({.Text = text,
+                        .Title = title,
+                        .Choice = Buttons::YesNo,
+                        .Sign = sign,
+                        .Default = preset}) == Answer::Yes;
+}
+
+std::string AskText(const std::string& prompt, const std::string& title) {
+    ++ShownBoxes;
+    return RequiredHost().InputBox(prompt, title).value_or("");
+}
+
+int BoxesShown() { return ShownBoxes; }
+
+const char* Word(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::YesNo: return "YesNo";
+        case Buttons::YesNoCancel: return "YesNoCancel";
+        default: return "OK";
+    }
+}
+
+const char* Word(Icon icon) {
+    switch (icon) {
+        case Icon::Stop: return "Stop";
+        case Icon::Question: return "Question";
+        case Icon::Exclamation: return "Exclamation";
+        case Icon::Information: return "Information";
+        default: return "None";
+    }
+}
+
+const char* Word(Answer answer) {
+    switch (answer) {
+        case Answer::Yes: return "Yes";
+        case Answer::No: return "No";
+        case Answer::Cancel: return "Cancel";
+        default: return "OK";
+    }
+}
+
+BusyPointer::BusyPointer() {
+    if (++BusyDepth == 1 && InstalledHost != nullptr) InstalledHost->SetBusyPointer(true);
+}
+
+BusyPointer::~BusyPointer() {
+    if (--BusyDepth == 0 && InstalledHost != nullptr) InstalledHost->SetBusyPointer(false);
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,55 @@
+// Message boxes and the other questions to the user, as the suite asks them. The host in force answers.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace quillmetra {
+
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Icon { None, Stop, Question, Exclamation, Information };
+enum class Answer { Ok, Yes, No, Cancel };
+
+struct MessageBox {
+    std::string Text;
+    std::string Title;
+    Buttons Choice = Buttons::Ok;
+    Icon Sign = Icon::None;
+    // The button that Enter presses and an unattended run takes; the first of the box unless told.
+    std::optional<Answer> Default = {};
+};
+
+// The default answer of a box when it names none: OK or Yes.
+Answer DefaultAnswer(const MessageBox& box);
+
+// Shows a message box and waits. A box with Yes and No alone cannot be closed in another way.
+Answer ShowMessage(const MessageBox& box);
+
+// Shows a text and an OK button.
+void Tell(const std::string& text, const std::string& title, Icon sign = Icon::None);
+
+// Asks Yes or No; true for Yes.
+bool AskYesNo(const std::string& text, const std::string& title, Icon sign = Icon::None,
+              Answer preset = Answer::Yes);
+
+// Asks for one line of text; empty when cancelled.
+std::string AskText(const std::string& prompt, const std::string& title);
+
+// How many boxes were shown since the start: a menu head that put one up keeps its entries shut.
+int BoxesShown();
+
+// The words of a button, icon or answer as the script host prints and reads them.
+const char* Word(Buttons buttons);
+const char* Word(Icon icon);
+const char* Word(Answer answer);
+
+// Shows the busy pointer for its life; it nests, and every way out restores the pointer.
+class BusyPointer {
+public:
+    BusyPointer();
+    ~BusyPointer();
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,174 @@
+// See Forms.h.
+#include "platform/Forms.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/Events.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra {
+
+// Owns the loaded forms, and the unloaded ones for as long as a handler of theirs is on the stack.
+class FormRegistry {
+public:
+    struct Factory {
+        std::string Name;
+        FormFactory Make;
+    };
+
+    Form* Loaded(std::string_view name) const {
+        for (const auto& form : loaded_) {
+            if (SameName(form->Name(), name)) return form.get();
+        }
+        return nullptr;
+    }
+
+    Form& Load(std::string_view name) {
+        if (Form* form = Loaded(name)) return *form;
+        const auto factory = std::find_if(Factories.begin(), Factories.end(),
+                                          [&](const Factory& each) { return SameName(each.Name, name); });
+        if (factory == Factories.end()) throw failure::NoSuchForm(name);
+        loaded_.push_back(factory->Make());
+        Form& form = *loaded_.back();
+        ++form.running_;
+        struct Guard {
+            int& Running;
+            ~Guard() { --Running; }
+        } guard{form.running_};
+        form.Load();
+        return form;
+    }
+
+    void Show(Form& form, Modal modal) {
+        Host* const host = CurrentHost();
+        if (host == nullptr) return;
+        const bool wasModal = form.modal_;
+        form.visible_ = true;
+        form.modal_ = modal == Modal::Yes;
+        form.Dispatch([&form] { form.Focus.Start(); });
+        if (modal == Modal::No || wasModal) {
+            host->FormShown(form);
+            return;
+        }
+        ++form.running_;
+        modal_.push_back(&form);
+        {
+            const events::ModalLevel level;
+            host->RunModal(form);
+        }
+        std::erase(modal_, &form);
+        form.modal_ = false;
+        --form.running_;
+    }
+
+    void Hide(Form& form) {
+        if (!form.visible_) return;
+        form.visible_ = false;
+        if (Host* host = CurrentHost()) host->FormHidden(form);
+    }
+
+    void Unload(std::string_view name) {
+        const auto found = std::find_if(loaded_.begin(), loaded_.end(),
+                                        [&](const auto& form) { return SameName(form->Name(), name); });
+        if (found == loaded_.end()) return;
+        Form& form = **found;
+        unloaded_.push_back(std::move(*found));
+        loaded_.erase(found);
+        events::ForgetFocusMoves(form);
+        Hide(form);
+        Bury();
+    }
+
+    // Destroys the unloaded forms of which no handler is on the stack.
+    void Bury() {
+        for (std::size_t i = 0; i < unloaded_.size();) {
+            if (unloaded_[i]->running_ > 0) {
+                ++i;
+                continue;
+            }
+            const std::unique_ptr<Form> form = std::move(unloaded_[i]);
+            unloaded_.erase(unloaded_.begin() + static_cast<std::ptrdiff_t>(i));
+            if (Host* host = CurrentHost()) host->FormGone(*form);
+        }
+    }
+
+    Form* TopModal() const {
+        for (auto form = modal_.rbegin(); form != modal_.rend(); ++form) {
+            if ((*form)->visible_) return *form;
+        }
+        return nullptr;
+    }
+
+    void Reset() {
+        while (!loaded_.empty()) Unload(loaded_.back()->Name());
+        Bury();
+        modal_.clear();
+        events::Reset();
+        Ended = false;
+        AfterAct = {};
+    }
+
+    std::vector<Factory> Factories;
+    Handler AfterAct;
+    bool Ended = false;
+
+private:
+    std::vector<std::unique_ptr<Form>> loaded_;
+    std::vector<std::unique_ptr<Form>> unloaded_;
+    std::vector<Form*> modal_;
+};
+
+namespace {
+FormRegistry& Registry() {
+    static FormRegistry registry;
+    return registry;
+}
+}  // namespace
+
+void RegisterForm(std::string_view name, FormFactory factory) {
+    for (const auto& each : Registry().Factories) {
+        if (SameName(each.Name, name)) return;
+    }
+    Registry().Factories.push_back({std::string(name), factory});
+}
+
+Form& LoadForm(std::string_view name) { return Registry().Load(name); }
+Form* LoadedForm(std::string_view name) { return Registry().Loaded(name); }
+void ShowForm(std::string_view name, Modal modal) { Registry().Show(Registry().Load(name), modal); }
+
+void HideForm(std::string_view name) {
+    if (Form* form = Registry().Loaded(name)) Registry().Hide(*form);
+}
+
+void UnloadForm(std::string_view name) { Registry().Unload(name); }
+
+Control& ControlOf(std::string_view form, std::string_view control, int index) {
+    Control* const found = LoadForm(form).Find(control, index);
+    if (found == nullptr) throw failure::NoSuchControl(control);
+    return *found;
+}
+
+Form* TopModalForm() { return Registry().TopModal(); }
+
+bool TakesInput(const Form& form) {
+    const Form* const modal = TopModalForm();
+    return form.Visible() && form.Enabled() && !ProcessHasEnded() && (modal == nullptr || modal == &form);
+}
+
+void SetAfterAct(Handler afterAct) { Registry().AfterAct = std::move(afterAct); }
+
+void AfterUserAct() {
+    if (events::Idle() && Registry().AfterAct) Registry().AfterAct();
+    Registry().Bury();
+}
+
+void EndProcess() {
+    Registry().Ended = true;
+    if (Host* host = CurrentHost()) host->ProcessEnded();
+}
+
+bool ProcessHasEnded() { return Registry().Ended; }
+void ResetForms() { Registry().Reset(); }
+
+}  // namespace quillmetra

@@ -1,0 +1,72 @@
+// The one interface that a host implements: the desktop over a widget toolkit, the script player without a
+// display. Forms and calculations reach it only through Dialogs.h and Forms.h.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/Dialogs.h"
+
+namespace quillmetra {
+
+class Control;
+class Form;
+
+// What changed about a control, so that a host renews no more than that.
+enum class Aspect { Text, Checked, Enabled, Visible, Colours, ToolTip, Rows, Selection, SelectAll };
+
+struct FileQuestion {
+    std::string Title;
+    std::string Filter;  // "Access DB Files(TRDB.MDB)|TRDB.MDB"
+    std::string Folder;
+    bool ForSaving = false;
+};
+
+struct FontChoice {
+    std::string Name;
+    double Size = 10;  // points
+    bool Bold = false;
+    bool Italic = false;
+    bool Underline = false;
+};
+
+struct PrinterChoice {
+    int Copies = 1;
+    int FromPage = 1;
+    int ToPage = 1;
+};
+
+class Host {
+public:
+    virtual ~Host() = default;
+
+    virtual Answer ShowMessageBox(const MessageBox& box) = 0;
+    // Nothing when the user cancels; so the five dialogs below.
+    virtual std::optional<std::string> InputBox(const std::string& prompt, const std::string& title) = 0;
+    virtual std::optional<std::string> FileDialog(const FileQuestion& question) = 0;
+    virtual std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) = 0;
+    virtual std::optional<FontChoice> FontDialog(const FontChoice& preset) = 0;
+    virtual std::optional<unsigned> ColourDialog(unsigned preset) = 0;  // 0x00BBGGRR
+    virtual void ShowHelp(int topic) = 0;
+    virtual void SetBusyPointer(bool busy) = 0;
+    // Lets the host breathe within a long calculation; true when the user pressed Escape.
+    virtual bool Yield() = 0;
+
+    virtual void FormShown(Form& form) = 0;
+    // Shows a form over all others and returns when it is hidden or unloaded.
+    virtual void RunModal(Form& form) = 0;
+    virtual void FormHidden(Form& form) = 0;
+    // The form is about to be destroyed: forget it and its controls.
+    virtual void FormGone(Form& form) = 0;
+    // Caption, enabled state or status line of a form changed.
+    virtual void FormChanged(Form& form) = 0;
+    virtual void ControlChanged(Control& control, Aspect aspect) = 0;
+    virtual void FocusMoved(Form& form) = 0;
+    virtual void ProcessEnded() = 0;
+};
+
+// The host in force, or null before one is installed (calculation tests run without).
+Host* CurrentHost();
+void InstallHost(Host* host);
+
+}  // namespace quillmetra

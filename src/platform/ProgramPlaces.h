@@ -1,0 +1,19 @@
+// Where the machine keeps things: the executable's folder, the user's application data folder, and the
+// installed data. The only place that asks the operating system about itself.
+#pragma once
+
+#include <filesystem>
+
+namespace quillmetra {
+
+// The folder of the running executable; the current folder when the machine does not tell.
+std::filesystem::path ExecutableFolder();
+
+// "quillmetra" in the folder where a user's programs keep their data.
+std::filesystem::path UserDataFolder();
+
+// The folder of the tables that are shipped with the suite, beside the executable's own folder as installed
+// and in a build; it need not exist.
+std::filesystem::path ShippedDataFolder();
+
+}  // namespace quillmetra

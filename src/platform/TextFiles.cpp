@@ -1,0 +1,227 @@
+// See TextFiles.h.
+#include "platform/TextFiles.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <system_error>
+
+#include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Code page 1252, bytes 0x80 to 0x9F; 0 where the code page has no character.
+constexpr std::array<char32_t, 32> HighControls = {
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+void AppendUtf8(std::string& text, char32_t c) {
+    if (c < 0x80) {
+        text += static_cast<char>(c);
+    } else if (c < 0x800) {
+        text += static_cast<char>(0xC0U | (c >> 6U));
+        text += static_cast<char>(0x80U | (c & 0x3FU));
+    } else {
+        text += static_cast<char>(0xE0U | (c >> 12U));
+        text += static_cast<char>(0x80U | ((c >> 6U) & 0x3FU));
+        text += static_cast<char>(0x80U | (c & 0x3FU));
+    }
+}
+
+// The byte of a character of up to three UTF-8 bytes; -1 when the code page does not have it.
+int ByteOf(char32_t c) {
+    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<int>(c);
+    const auto found = std::find(HighControls.begin(), HighControls.end(), c);
+    if (found != HighControls.end()) return 0x80 + static_cast<int>(found - HighControls.begin());
+    // The five bytes without a character are held as the control characters of their number.
+    if (c >= 0x80 && c < 0xA0 && HighControls[c - 0x80] == 0) return static_cast<int>(c);
+    return -1;
+}
+
+constexpr std::uintmax_t LargestFile = 256U << 20U;
+
+std::string ReadWhole(std::string_view suitePath) {
+    const fs::path path = MachinePath(suitePath);
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) throw failure::FileNotFound();
+    // A folder, a pipe or a device under the name of a table is no file, and reading it could wait for ever.
+    if (status.type() != fs::file_type::regular) throw failure::PathAccess();
+    const std::uintmax_t size = fs::file_size(path, error);
+    if (error || size > LargestFile) throw failure::PathAccess();
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw failure::PathAccess();
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(size));
+    if (file.bad()) throw failure::DeviceError();
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    if (const std::size_t end = bytes.find('\x1A'); end != std::string::npos) bytes.resize(end);
+    return Utf8From1252(bytes);
+}
+
+bool IsEndOfLine(char c) { return c == '\r' || c == '\n'; }
+
+// Steps over one end of a line: CR LF, LF or CR.
+void SkipEndOfLine(const std::string& text, std::size_t& next) {
+    if (next < text.size() && text[next] == '\r') {
+        ++next;
+        if (next < text.size() && text[next] == '\n') ++next;
+    } else if (next < text.size() && text[next] == '\n') {
+        ++next;
+    }
+}
+
+// The name in a folder that matches a wanted one without regard to case.
+fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
+    std::error_code error;
+    if (fs::exists(folder / wanted, error)) return folder / wanted;
+    for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (SameName(entry->path().filename().string(), wanted)) return folder / entry->path().filename();
+    }
+    return folder / wanted;
+}
+
+}  // namespace
+
+fs::path MachinePath(std::string_view suitePath) {
+    std::string text(suitePath);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    const fs::path path = fs::path(text).lexically_normal();
+    std::error_code error;
+    if (fs::exists(path, error)) return path;
+    fs::path found = path.root_path();
+    for (const fs::path& part : path.relative_path()) {
+        found = part == ".." ? found / part : MatchInFolder(found, part.string());
+    }
+    return found;
+}
+
+std::string SuitePath(const fs::path& path) { return path.string(); }
+
+bool FileExists(std::string_view suitePath) {
+    std::error_code error;
+    return fs::is_regular_file(MachinePath(suitePath), error);
+}
+
+std::string Utf8From1252(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char raw : bytes) {
+        const auto byte = static_cast<unsigned char>(raw);
+        if (byte < 0x80) {
+            text += raw;
+        } else {
+            const char32_t high = byte < 0xA0 ? HighControls[byte - 0x80U] : 0;
+            AppendUtf8(text, high == 0 ? byte : high);
+        }
+    }
+    return text;
+}
+
+std::string Code1252From(std::string_view utf8) {
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    for (std::size_t i = 0; i < utf8.size();) {
+        const auto lead = static_cast<unsigned char>(utf8[i]);
+        const std::size_t length = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 1;
+        if (length == 1 || i + length > utf8.size()) {
+            bytes += utf8[i++];
+            continue;
+        }
+        char32_t c = lead & (length == 2 ? 0x1FU : 0x0FU);
+        for (std::size_t k = 1; k < length; ++k) {
+            c = (c << 6U) | (static_cast<unsigned char>(utf8[i + k]) & 0x3FU);
+        }
+        const int byte = ByteOf(c);
+        if (byte >= 0) {
+            bytes += static_cast<char>(byte);
+        } else {
+            bytes += utf8.substr(i, length);
+        }
+        i += length;
+    }
+    return bytes;
+}
+
+LineReader::LineReader(std::string_view suitePath) : text_(ReadWhole(suitePath)) {}
+
+bool LineReader::Next(std::string& line) {
+    if (AtEnd()) return false;
+    const std::size_t end = std::min(text_.find_first_of("\r\n", next_), text_.size());
+    line.assign(text_, next_, end - next_);
+    next_ = end;
+    SkipEndOfLine(text_, next_);
+    return true;
+}
+
+ItemReader::ItemReader(std::string_view suitePath) : text_(ReadWhole(suitePath)) {}
+
+void ItemReader::SkipBlanks() {
+    while (next_ < text_.size() && (text_[next_] == ' ' || text_[next_] == '\t')) ++next_;
+}
+
+std::string ItemReader::NextText() {
+    SkipBlanks();
+    if (AtEnd()) throw failure::InputPastEnd();
+    std::string item;
+    if (text_[next_] == '"') {
+        const std::size_t end = std::min(text_.find('"', next_ + 1), text_.size());
+        item = text_.substr(next_ + 1, end - next_ - 1);
+        next_ = std::min(end + 1, text_.size());
+        SkipBlanks();
+    } else {
+        const std::size_t end = std::min(text_.find_first_of(",\r\n", next_), text_.size());
+        item = std::string(Trim(std::string_view(text_).substr(next_, end - next_)));
+        next_ = end;
+    }
+    if (!AtEnd() && text_[next_] == ',') {
+        ++next_;
+    } else if (!AtEnd() && IsEndOfLine(text_[next_])) {
+        SkipEndOfLine(text_, next_);
+    }
+    return item;
+}
+
+double ItemReader::NextNumber() { return Val(NextText()); }
+
+TextWriter::TextWriter(std::string_view suitePath) : target_(MachinePath(suitePath)) {
+    beside_ = target_;
+    beside_ += ".quillmetra-new";
+}
+
+TextWriter::~TextWriter() {
+    std::error_code ignored;
+    if (written_) fs::remove(beside_, ignored);
+}
+
+void TextWriter::Line(std::string_view text) {
+    text_ += Code1252From(text);
+    text_ += "\r\n";
+}
+
+void TextWriter::Quoted(std::string_view text) { Line('"' + std::string(text) + '"'); }
+
+void TextWriter::Number(double value) { Line(Str(value)); }
+
+void TextWriter::Commit() {
+    std::error_code error;
+    fs::create_directories(target_.parent_path(), error);
+    written_ = true;
+    std::ofstream file(beside_, std::ios::binary | std::ios::trunc);
+    file.write(text_.data(), static_cast<std::streamsize>(text_.size()));
+    file.close();
+    if (!file) throw failure::PathAccess();
+    fs::rename(beside_, target_, error);
+    if (error) throw failure::PathAccess();
+    written_ = false;
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,82 @@
+// Plain text files as the suite reads and writes them: item by item or line by line, code page 1252 on
+// disk and UTF-8 in memory, CR LF written and a lone LF accepted. A byte 0x1A ends a file.
+//
+// Failures are RuntimeErrors: "File not found", "Path/File access error", "Input past end of file".
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmetra {
+
+// The suite's own words separate the parts of a path with "\" and take no notice of case. Gives the path of
+// the machine: the existing name that matches without regard to case, an exact match first, and the name as
+// it stands where there is none.
+std::filesystem::path MachinePath(std::string_view suitePath);
+
+// A path of the machine in the suite's words, UTF-8.
+std::string SuitePath(const std::filesystem::path& path);
+
+bool FileExists(std::string_view suitePath);
+
+// Code page 1252 to UTF-8 and back. A byte or a character that the code page does not have passes through
+// unchanged, so that nothing of a foreign file is lost when it is rewritten.
+std::string Utf8From1252(std::string_view bytes);
+std::string Code1252From(std::string_view utf8);
+
+// Reads line by line. The file is read whole when it is opened; a file of more than 256 MB is refused.
+class LineReader {
+public:
+    explicit LineReader(std::string_view suitePath);
+
+    // The next line without its end; false at the end of the file.
+    bool Next(std::string& line);
+    bool AtEnd() const { return next_ >= text_.size(); }
+
+private:
+    std::string text_;
+    std::size_t next_ = 0;
+};
+
+// Reads item by item: items end at a comma or at the end of a line, blanks around them are dropped, and an
+// item in quotes may hold commas.
+class ItemReader {
+public:
+    explicit ItemReader(std::string_view suitePath);
+
+    bool AtEnd() const { return next_ >= text_.size(); }
+    // Throws "Input past end of file" when there is no item left.
+    std::string NextText();
+    double NextNumber();
+
+private:
+    void SkipBlanks();
+
+    std::string text_;
+    std::size_t next_ = 0;
+};
+
+// Writes a file beside its place and puts it there in one step, so that a failure leaves the old file as
+// it was. The folder of the file is made when it is not there. Without Commit nothing changes.
+class TextWriter {
+public:
+    explicit TextWriter(std::string_view suitePath);
+    ~TextWriter();
+    TextWriter(const TextWriter&) = delete;
+    TextWriter& operator=(const TextWriter&) = delete;
+
+    void Line(std::string_view text);
+    void Quoted(std::string_view text);  // a text item in quotes
+    void Number(double value);           // as Str writes it
+    void Commit();
+
+private:
+    std::filesystem::path target_;
+    std::filesystem::path beside_;
+    bool written_ = false;
+    std::string text_;
+};
+
+}  // namespace quillmetra

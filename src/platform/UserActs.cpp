@@ -1,0 +1,231 @@
+// See UserActs.h.
+#include "platform/UserActs.h"
+
+#include <algorithm>
+
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra {
+
+namespace {
+
+// The longest head of a UTF-8 text with so many characters; all of it when there is no limit.
+std::string FirstCharacters(const std::string& text, std::size_t most) {
+    if (most == 0) return text;
+    std::size_t characters = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool continues = (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80U;
+        if (!continues && ++characters > most) return text.substr(0, i);
+    }
+    return text;
+}
+
+void ClickInHandler(Control& control) {
+    Form& form = control.Owner();
+    if (control.TabStop) form.Focus.UserMoves(control);
+    if (!control.Works()) return;  // what was left may have switched this off
+    switch (control.Kind()) {
+        case ControlKind::OptionButton: {
+            auto& option = static_cast<OptionButton&>(control);
+            if (option.Checked()) return;
+            option.SetChecked(true);
+            break;
+        }
+        case ControlKind::CheckBox: {
+            auto& box = static_cast<CheckBox&>(control);
+            box.SetChecked(!box.Checked());
+            break;
+        }
+        default: break;
+    }
+    if (control.Click) control.Click();
+}
+
+// Opens the heads over an entry from the top, as a user does on the way to it; false when one of them put
+// up a box instead of its entries.
+bool OpenHeadsOf(MenuItem& entry) {
+    auto* const head = static_cast<MenuItem*>(entry.Container());
+    return head == nullptr || (OpenHeadsOf(*head) && OpenMenu(*head));
+}
+
+char AccessKey(const std::string& caption) {
+    const std::size_t mark = caption.find('&');
+    return mark == std::string::npos || mark + 1 >= caption.size() ? '\0' : LowerCase(caption[mark + 1]);
+}
+
+bool PressShortcut(Form& form, const std::string& key) {
+    const bool access = key.size() == 5 && key.starts_with("Alt+");
+    for (Control* control : form.Controls()) {
+        const bool isMenu = control->Kind() == ControlKind::MenuItem;
+        if (isMenu && static_cast<MenuItem*>(control)->Shortcut == key) return ClickControl(*control);
+        if (access && !isMenu && control->Click && AccessKey(control->Caption()) == LowerCase(key[4]) &&
+            CanAct(*control)) {
+            return ClickControl(*control);
+        }
+    }
+    return false;
+}
+
+bool MoveInList(ListBox& list, const std::string& key) {
+    constexpr int page = 10;
+    const int row = list.Selected();
+    int wanted = row;
+    if (key == "Up") wanted = row - 1;
+    if (key == "Down") wanted = row + 1;
+    if (key == "PageUp") wanted = row - page;
+    if (key == "PageDown") wanted = row + page;
+    if (wanted == row) return false;
+    return PickRow(list, std::clamp(wanted, 0, std::max(0, list.RowCount() - 1)));
+}
+
+bool EditByKey(TextBox& box, const std::string& key) {
+    std::string text = box.Text();
+    if (key == "Delete") return TypeText(box, "");
+    if (key == "Backspace") {
+        while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) text.pop_back();
+        if (!text.empty()) text.pop_back();
+        return TypeText(box, text);
+    }
+    return key.size() == 1 && TypeText(box, text + key);
+}
+
+bool PressEnter(Control& control) {
+    Form& form = control.Owner();
+    if (control.Kind() == ControlKind::CommandButton) return ClickControl(control);
+    if (form.DefaultButton != nullptr && CanAct(*form.DefaultButton)) return ClickControl(*form.DefaultButton);
+    if (!form.EnterMovesOn) return false;
+    MoveAlong(form, false);
+    return true;
+}
+
+bool PressPlainKey(Control& control, const std::string& key) {
+    Form& form = control.Owner();
+    if (key == "Enter") return PressEnter(control);
+    if (key == "Escape") return form.CancelButton != nullptr && ClickControl(*form.CancelButton);
+    if (key == "Tab" || key == "Shift+Tab") {
+        MoveAlong(form, key != "Tab");
+        return true;
+    }
+    switch (control.Kind()) {
+        case ControlKind::TextBox: return EditByKey(static_cast<TextBox&>(control), key);
+        case ControlKind::ListBox: return MoveInList(static_cast<ListBox&>(control), key);
+        case ControlKind::CommandButton:
+        case ControlKind::OptionButton:
+        case ControlKind::CheckBox: return key == " " && ClickControl(control);
+        default: return false;
+    }
+}
+
+}  // namespace
+
+bool CanAct(const Control& control) { return control.Works() && TakesInput(control.Owner()); }
+
+bool MoveFocus(Control& control) {
+    if (!CanAct(control)) return false;
+    Form& form = control.Owner();
+    form.Dispatch([&] { form.Focus.UserMoves(control); });
+    return true;
+}
+
+void LeaveFocus(Form& form) {
+    if (TakesInput(form)) form.Dispatch([&] { form.Focus.UserLeaves(); });
+}
+
+void MoveAlong(Form& form, bool backwards) {
+    std::vector<Control*> stops = form.TabStops();
+    if (backwards) std::reverse(stops.begin(), stops.end());
+    std::erase_if(stops, [&](Control* stop) { return stop != form.Focus.Current() && !CanAct(*stop); });
+    if (stops.empty()) return;
+    auto next = std::find(stops.begin(), stops.end(), form.Focus.Current());
+    if (next != stops.end()) ++next;
+    if (next == stops.end()) next = stops.begin();
+    MoveFocus(**next);
+}
+
+bool TypeText(Control& control, const std::string& text) {
+    if (!CanAct(control)) return false;
+    if (control.Kind() == ControlKind::ComboBox) {
+        control.Owner().Dispatch([&] { static_cast<ComboBox&>(control).SetText(text); });
+        return true;
+    }
+    if (control.Kind() != ControlKind::TextBox) return false;
+    auto& box = static_cast<TextBox&>(control);
+    if (box.Locked) return false;
+    box.Owner().Dispatch([&] { box.SetText(FirstCharacters(text, box.MaxLength)); });
+    return true;
+}
+
+bool ClickControl(Control& control) {
+    if (control.Kind() == ControlKind::MenuItem && TakesInput(control.Owner()) &&
+        !OpenHeadsOf(static_cast<MenuItem&>(control))) {
+        return true;
+    }
+    if (!CanAct(control)) return false;
+    control.Owner().Dispatch([&] { ClickInHandler(control); });
+    return true;
+}
+
+bool DoubleClickControl(Control& control) {
+    if (!CanAct(control)) return false;
+    control.Owner().Dispatch([&] {
+        ClickInHandler(control);
+        if (control.DoubleClick && control.Works()) control.DoubleClick();
+    });
+    return true;
+}
+
+bool OpenMenu(MenuItem& head) {
+    if (!CanAct(head)) return false;
+    const int boxes = BoxesShown();
+    if (head.Click) head.Owner().Dispatch([&] { head.Click(); });
+    return boxes == BoxesShown();
+}
+
+bool PickRow(ListBox& list, int row) {
+    if (!CanAct(list) || row < 0 || row >= list.RowCount()) return false;
+    list.Owner().Dispatch([&] {
+        list.Owner().Focus.UserMoves(list);
+        if (list.Multiple) {
+            list.Pick(row, true);
+        } else if (row == list.Selected()) {
+            if (list.Click) list.Click();
+        } else {
+            list.Select(row);
+        }
+    });
+    return true;
+}
+
+bool UnpickRow(ListBox& list, int row) {
+    if (!CanAct(list) || !list.Multiple || row < 0 || row >= list.RowCount()) return false;
+    list.Owner().Dispatch([&] { list.Pick(row, false); });
+    return true;
+}
+
+bool PickCell(Grid& grid, int row, int column) {
+    if (!CanAct(grid) || row < 0 || row >= grid.RowCount() || column < 0 || column >= grid.ColumnCount()) {
+        return false;
+    }
+    grid.Owner().Dispatch([&] {
+        grid.Owner().Focus.UserMoves(grid);
+        grid.Select(row, column);
+    });
+    return true;
+}
+
+bool PressKey(Control& control, const std::string& key) {
+    if (!CanAct(control)) return false;
+    Key press{.Name = key};
+    if (control.KeyPress) control.Owner().Dispatch([&] { control.KeyPress(press); });
+    if (press.Handled) return true;
+    if (!CanAct(control)) return false;
+    return PressShortcut(control.Owner(), key) || PressPlainKey(control, key);
+}
+
+void CloseWindow(Form& form) {
+    if (TakesInput(form)) form.Dispatch([&] { form.CloseBox(); });
+}
+
+}  // namespace quillmetra

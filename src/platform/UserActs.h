@@ -1,0 +1,37 @@
+// What a user can do to a form, the same for every host: the widget that was clicked and the line of a
+// script both end here. Each act runs through Form::Dispatch, and each does nothing and returns false when
+// the control does not work or its form takes no input.
+#pragma once
+
+#include <string>
+
+#include "platform/Form.h"
+
+namespace quillmetra {
+
+bool CanAct(const Control& control);
+
+// The focus goes to the control as by Tab or by the mouse.
+bool MoveFocus(Control& control);
+// The focus leaves the control that has it.
+void LeaveFocus(Form& form);
+// The focus goes to the next or previous tab stop that works.
+void MoveAlong(Form& form, bool backwards);
+
+// The text of a box as it stands after one keystroke of the user, or after all of them.
+bool TypeText(Control& control, const std::string& text);
+// Buttons, options, check boxes, menu entries and labels. A button takes the focus first.
+bool ClickControl(Control& control);
+bool DoubleClickControl(Control& control);
+// Runs the Click of a menu head; false when it put up a box, so that its entries do not show.
+bool OpenMenu(MenuItem& head);
+bool PickRow(ListBox& list, int row);
+bool UnpickRow(ListBox& list, int row);
+bool PickCell(Grid& grid, int row, int column);
+
+// One key: the control's KeyPress first, then Enter and Escape by the form's rules. True when used up.
+bool PressKey(Control& control, const std::string& key);
+
+void CloseWindow(Form& form);
+
+}  // namespace quillmetra
