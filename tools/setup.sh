@@ -42,10 +42,13 @@ InstallMissing() {
         apt-get -q install -y --no-install-recommends "${Missing[@]}"
 }
 
-# Configure PRESET [-DNAME=VALUE...]: the presets ask for Ninja; without it make serves.
+# Configure PRESET [-DNAME=VALUE...]: the presets ask for Ninja; without it make serves. ccache where present.
 Configure() {
     local Preset=$1 Generator=()
     shift
+    if command -v ccache >/dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    fi
     if ! command -v ninja >/dev/null; then
         Generator=(-G "Unix Makefiles")
     fi
