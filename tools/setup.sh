@@ -10,6 +10,9 @@ TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils)
 BenchPackages=(libbenchmark-dev)
 CheckPackages=(clang-format clang-tidy git python3)
 
+# Where the release build puts its programs.
+ProgramFolder=build/release/bin
+
 IsInstalled() {
     dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }
