@@ -3,7 +3,7 @@
 
 Fails when a file of src/ includes a folder that stands above its own, when an outside library is included
 where it has no place, when an include is not written as a path from src/, or when files include each other
-in a circle. tests/ and bench/ may include anything, but not in circles either.
+in a circle. tests/ and benchmarks/ may include anything, but not in circles either.
 
     check_includes.py              checks the project that this file is part of
     check_includes.py --self-test  checks that each kind of fault is found
@@ -40,7 +40,7 @@ RESTRICTED = [
     ("SQLite", re.compile(r"sqlite3(ext)?\.h"), {"platform"}),
 ]
 
-FREE_ROOTS = ("tests", "bench")
+FREE_ROOTS = ("tests", "benchmarks")
 SUFFIXES = {".h", ".cpp"}
 # Written by Qt's own tools in the build folder.
 BUILT = re.compile(r"(.*\.moc|(moc|ui)_\w+\.(h|cpp))")

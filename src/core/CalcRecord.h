@@ -37,19 +37,19 @@ using UnitFactors = Row<double, 36>;     // rows 0 to 27; 31 to 33 belong to the
 
 struct CalcRecord {
     // --- Display layer, in the units shown ------------------------------------------------------------
-    CaseInputs CaseInput{};      // row by quantity (see InputRow), column by case
-    CaseResults CaseResult{};    // row by result (see ResultRow), column by case
-    PipeValues PipeData{};       // length, diameter, start elevation; flags 2 ticked, 1 not
+    CaseInputs CaseInput{};    // row by quantity (see InputRow), column by case
+    CaseResults CaseResult{};  // row by result (see ResultRow), column by case
+    PipeValues PipeData{};     // length, diameter, start elevation; flags 2 ticked, 1 not
     FittingCounts FittingCount{};
     HammerResults HammerResult{};
-    Row<std::string, 13> HeadingText{};    // 1 to 7 print headings, 6 manufacturer, 7 model, 8 to 10 notes
-    Row<std::string, 12> CaseText{};       // 5 pipe material, 8 calc by, 9 approved, 10 calc date, 11 data date
-    Row<std::string, 6> CaseUnitsText{};   // 1 date, 2 by, 3 fluid, 4 approved, 5 pipe material, as printed
-    Row<std::string, 4> NoteText{};        // 1 to 3, the notes kept with the record
-    Row<double, 21> FluidPercent{};        // components of a mixture, 0 to 15 in use
-    Row<std::string, 21> FluidData{};      // their table rows
+    Row<std::string, 13> HeadingText{};  // 1 to 7 print headings, 6 manufacturer, 7 model, 8 to 10 notes
+    Row<std::string, 12> CaseText{};     // 5 pipe material, 8 calc by, 9 approved, 10 calc date, 11 data date
+    Row<std::string, 6> CaseUnitsText{};  // 1 date, 2 by, 3 fluid, 4 approved, 5 pipe material, as printed
+    Row<std::string, 4> NoteText{};       // 1 to 3, the notes kept with the record
+    Row<double, 21> FluidPercent{};       // components of a mixture, 0 to 15 in use
+    Row<std::string, 21> FluidData{};     // their table rows
     int MixtureCount = 0;
-    double PipeFouling = 0;                // percent, 0 to 100
+    double PipeFouling = 0;  // percent, 0 to 100
 
     // --- Generations ----------------------------------------------------------------------------------
     // Shown: what stood when the record was last calculated or loaded; the reference for colouring.
@@ -74,11 +74,12 @@ struct CalcRecord {
 
     // --- Units ----------------------------------------------------------------------------------------
     UnitNames UnitName{};
-    UnitFactors UnitFactor{};               // value shown x factor = value in the base unit; never 0
+    UnitFactors UnitFactor{};  // value shown x factor = value in the base unit; never 0
     UnitNames UnitNamePrevious{};
-    UnitFactors UnitFactorPrevious{};       // in force before the user's last change of units
-    Row<std::string, 4> ChosenUnitRowNames{};  // 1 temperature, 2 critical temperature, 3 viscosity, as last converted
-    std::string Basis = "Mas";              // gas flow, "Mas" or "Vol"
+    UnitFactors UnitFactorPrevious{};  // in force before the user's last change of units
+    Row<std::string, 4>
+        ChosenUnitRowNames{};   // 1 temperature, 2 critical temperature, 3 viscosity, as last converted
+    std::string Basis = "Mas";  // gas flow, "Mas" or "Vol"
     std::string BasisPrevious = "Mas";
     std::string BasisSaved;
     std::string LiquidBasis = "Mas";
@@ -88,86 +89,86 @@ struct CalcRecord {
     std::string LiquidDensityModePrevious = "LiqSG";
     std::string PressureMode = "Psig";
     std::string PressureModePrevious = "Psig";
-    std::string UnitSystem;                 // "English", "SI"
-    std::string UnitSetName;                // "English mass units" ...
-    std::string UnitsTitle;                 // the units' name and the options, for headings
-    std::string UnitsConverted;             // "Yes" when a conversion ran on all cases
-    std::string RoundedFlag;                // "No" between a conversion and its rounding, then "Yes"
+    std::string UnitSystem;      // "English", "SI"
+    std::string UnitSetName;     // "English mass units" ...
+    std::string UnitsTitle;      // the units' name and the options, for headings
+    std::string UnitsConverted;  // "Yes" when a conversion ran on all cases
+    std::string RoundedFlag;     // "No" between a conversion and its rounding, then "Yes"
     std::string NoConversion;
 
     // --- Working layer, fixed internal units ----------------------------------------------------------
-    double MassFlow = 0;                    // lb/h
-    double FlowTemperature = 0;             // degF
-    double FlowTemperatureF = 0;            // degF, of the conversion in hand
-    double FlowPressure = 0;                // psia, at the point in hand
-    double EnteredPressure = 0;             // psi, as typed
-    int PipeIndex = 1;                      // always 1: a calculation has one line
-    Row<double, 2> SourcePressure{};        // psia, element 1
-    Row<double, 2> PipeLength{};            // ft
-    Row<double, 2> PipeId{};                // in
-    Row<double, 3> Elevation{};             // ft, 1 start, 2 end
-    Row<double, 2> EquipLoss{};             // psi
+    double MassFlow = 0;              // lb/h
+    double FlowTemperature = 0;       // degF
+    double FlowTemperatureF = 0;      // degF, of the conversion in hand
+    double FlowPressure = 0;          // psia, at the point in hand
+    double EnteredPressure = 0;       // psi, as typed
+    int PipeIndex = 1;                // always 1: a calculation has one line
+    Row<double, 2> SourcePressure{};  // psia, element 1
+    Row<double, 2> PipeLength{};      // ft
+    Row<double, 2> PipeId{};          // in
+    Row<double, 3> Elevation{};       // ft, 1 start, 2 end
+    Row<double, 2> EquipLoss{};       // psi
     double GateValves = 0, GlobeValves = 0, CheckValves = 0;
     double Ells90 = 0, Ells45 = 0, ThruTees = 0, BranchTees = 0;
-    double EntranceK = 0;                   // 1.5 or 0
-    double ExitK = 0;                       // 2.7 or 0
+    double EntranceK = 0;                     // 1.5 or 0
+    double ExitK = 0;                         // 2.7 or 0
     Row<double, 10> EquivLengthPerFitting{};  // ft, 1 to 9
     double FrictionFactor = 0, TurbulentFactor = 0, LaminarFactor = 0;
-    double ColebrookTerm = 0;               // the last term, kept by a material number out of range
+    double ColebrookTerm = 0;  // the last term, kept by a material number out of range
     int IterationCount = 0;
     double ReynoldsNumber = 0;
-    double LossPer100 = 0;                  // psi per 100 ft
-    double EquivLength = 0;                 // ft, signed
-    double FittingsEquivLength = 0;         // ft, gas only
-    double Velocity = 0, SonicVelocity = 0; // ft/s
-    double FinalPressure = 0;               // psia
-    double Density = 0;                     // lb/ft3
+    double LossPer100 = 0;                   // psi per 100 ft
+    double EquivLength = 0;                  // ft, signed
+    double FittingsEquivLength = 0;          // ft, gas only
+    double Velocity = 0, SonicVelocity = 0;  // ft/s
+    double FinalPressure = 0;                // psia
+    double Density = 0;                      // lb/ft3
     double FlowingSG = 0;
     double SGAtStandard = 0;
-    double Viscosity = 0;                   // cp, of the calculation
-    double VaporPressure = 0;               // psia
+    double Viscosity = 0;      // cp, of the calculation
+    double VaporPressure = 0;  // psia
     double MolecularWeight = 0;
     double RatioSpecificHeats = 0;
-    double CritPressure = 0;                // psia
-    double CritTemperature = 0;             // degR
+    double CritPressure = 0;     // psia
+    double CritTemperature = 0;  // degR
     double CompressFactor = 0;
-    double StdTemperature = 0;              // degF
-    double StdPressure = 0;                 // psia
-    double BaroPressure = 0;                // psia
+    double StdTemperature = 0;  // degF
+    double StdPressure = 0;     // psia
+    double BaroPressure = 0;    // psia
 
     // The fluid row parsed last, see fluids/FluidTables.h.
     std::string FluidRow;
     std::string SelectedFluidName;
-    std::string FluidClass;                 // 1 organic, 2 other, 3 water, compared as a number
+    std::string FluidClass;                         // 1 organic, 2 other, 3 water, compared as a number
     double ViscosityTemp1 = 0, ViscosityTemp2 = 0;  // degF
-    double Viscosity1 = 0, Viscosity2 = 0;  // cp
+    double Viscosity1 = 0, Viscosity2 = 0;          // cp
     double ViscosityA = 0, ViscosityB = 0;
-    double FluidViscosity = 0;              // cp, of the fluid
-    double NormalBoilingPoint = 0;          // degF
+    double FluidViscosity = 0;                                       // cp, of the fluid
+    double NormalBoilingPoint = 0;                                   // degF
     double LiquidCp60 = 0, LiquidCp300 = 0, LiquidSpecificHeat = 0;  // Btu/lb degF
-    double FlashPoint = 0;                  // degF
-    double BulkModulusBase = 0;             // psi/1000
-    double BulkModulusSlope = 0;            // psi per psia
-    double LiquidLatentHeat = 0;            // Btu/lb
+    double FlashPoint = 0;                                           // degF
+    double BulkModulusBase = 0;                                      // psi/1000
+    double BulkModulusSlope = 0;                                     // psi per psia
+    double LiquidLatentHeat = 0;                                     // Btu/lb
     // Working values of the liquid correlations.
     double ReducedBoilingTemperature = 0, ReducedTemperature = 0;
-    float ReducedTemperature60 = 0;         // single precision: later formulas read the rounded value
-    float CritCompressFactor = 0;           // single precision, as above
+    float ReducedTemperature60 = 0;  // single precision: later formulas read the rounded value
+    float CritCompressFactor = 0;    // single precision, as above
     double CompressibilityAt60 = 0, LiquidCompressibility = 0, PressureCorrection = 0;
 
     // --- Identity and options -------------------------------------------------------------------------
     std::string Tag, TagSaved, TagChanged;
-    int ProgramNumber = 0;                  // as stored: program x 100 + unit set
-    int CurrentProgram = 0;                 // 1 to 5, 0 before a choice
-    std::string FluidType;                  // "Liquid", "Gas"; set when a program is chosen
-    std::string FluidKind;                  // "Gas" or empty, for titles
+    int ProgramNumber = 0;   // as stored: program x 100 + unit set
+    int CurrentProgram = 0;  // 1 to 5, 0 before a choice
+    std::string FluidType;   // "Liquid", "Gas"; set when a program is chosen
+    std::string FluidKind;   // "Gas" or empty, for titles
     std::string ProgramTitle, MethodText;
     std::string FluidName, FluidNameSaved;
     std::string CalcMode, DataMode;
-    std::string CalcOption, OtherCalcs;     // option codes as stored
-    int PressureDirection = 1;              // 1 source given, 2 destination given
+    std::string CalcOption, OtherCalcs;  // option codes as stored
+    int PressureDirection = 1;           // 1 source given, 2 destination given
     int PressureDirectionSaved = 1;
-    int PipeMaterialNumber = 1;             // 1 to 7
+    int PipeMaterialNumber = 1;  // 1 to 7
     int PipeMaterialNumberSaved = 1;
     std::string PipeMaterial = "Steel", PipeMaterialSaved = "Steel";
     Row<std::string, 8> PipeMaterialName{};
@@ -178,12 +179,12 @@ struct CalcRecord {
     int LiquidUnitSet = 0, GasUnitSet = 0;  // 1 to 4 named sets, 5 user, 0 none yet
 
     // --- Status words ---------------------------------------------------------------------------------
-    int CaseIndex = 0;                      // 0 maximum or case 1, 1 normal or case 2, 2 minimum or case 3
+    int CaseIndex = 0;  // 0 maximum or case 1, 1 normal or case 2, 2 minimum or case 3
     std::string FlowZone, TransitionMark;
-    std::string FormLoading;                // "Yes" while code fills a form: input changes then blank nothing
+    std::string FormLoading;  // "Yes" while code fills a form: input changes then blank nothing
     std::string InCalculation = "No";
     Row<std::string, CaseCount> ResultsClearable{"Yes", "Yes", "Yes"};  // per case: results stand
-    std::string ChangedFlag;                // "No" after an input change
+    std::string ChangedFlag;                                            // "No" after an input change
     std::string DataOk = "No";
     std::string TempPressureOk;
     std::string CalculatedFlag, HammerCalculated;
@@ -191,21 +192,25 @@ struct CalcRecord {
     std::string RecordChanged, SavePDRow, SaveFDRow, SaveWHRow, MixtureSave, SaveAll;
     std::string PDRowLoaded, FDRowLoaded, WHRowLoaded;
     std::string MixtureMarker = "No";
-    std::string BrowserOpen = "No";         // "Yes" once the browser opened a saved record
+    std::string BrowserOpen = "No";  // "Yes" once the browser opened a saved record
     std::string SaveAnswer, SavePrompt, ProgramChosen;
-    std::string HideResults;                // "Yes" around a refresh that leaves the results alone
+    std::string HideResults;  // "Yes" around a refresh that leaves the results alone
     std::string CalcOptionCaller, OptionsLoaded, FormClosing;
     std::string SteamFindMode;
     std::string LoadedDatabaseFile;
     Row<int, CaseCount> TemperatureBlank{};
     Row<std::string, CaseCount> TemperatureEntered{}, PressureEntered{};
-    Row<double, 4> StdFileValues{};         // 1 to 3: temperature degF, pressure psia, barometer psia, as read
-    Row<double, 4> StdConditions{};         // 1 to 3: pressure, temperature, barometer, kept for a cancel
+    Row<double, 4> StdFileValues{};  // 1 to 3: temperature degF, pressure psia, barometer psia, as read
+    Row<double, 4> StdConditions{};  // 1 to 3: pressure, temperature, barometer, kept for a cancel
     double PipeInsideDiameter = 0, PipeWallThickness = 0;  // of the chosen pipe row, in the list's unit
     std::string MessageTitle, MessageText;  // title of the next message; text that goes back to a caller
     double Scratch = 0;                     // in and out of the rounding routines
 
-    CalcRecord() { UnitFactor.fill(1); UnitFactorShown.fill(1); UnitFactorPrevious.fill(1); }
+    CalcRecord() {
+        UnitFactor.fill(1);
+        UnitFactorShown.fill(1);
+        UnitFactorPrevious.fill(1);
+    }
 };
 
 extern CalcRecord Calc;

@@ -7,8 +7,8 @@ namespace quillmetra {
 
 struct Program {
     int Number;
-    const char* Title;        // the default ProgramTitle
-    const char* Method;       // the reference line of form and report
+    const char* Title;   // the default ProgramTitle
+    const char* Method;  // the reference line of form and report
     const char* FluidType;
     const char* Form;
     const char* OptionsWord;  // CalcOptionCaller

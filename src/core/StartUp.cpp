@@ -22,15 +22,17 @@ namespace {
 // The shipped tables, all of which belong below the program's folder in TRData.
 constexpr std::array ShippedTables = {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"};
 
-void UseDefaultColours() { std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1); }
+void UseDefaultColours() {
+    std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
+}
 
 void ReadColours() {
     try {
         ItemReader file(Suite.DefaultPaths[4] + "\\TRColr.txt");
         for (std::size_t slot = 1; slot <= 12; ++slot) {
             const double packed = file.NextNumber();
-            Suite.Colours[slot] =
-                packed >= 0 && packed <= 0xFFFFFF ? static_cast<std::uint32_t>(packed) : DefaultColours[slot - 1];
+            Suite.Colours[slot] = packed >= 0 && packed <= 0xFFFFFF ? static_cast<std::uint32_t>(packed)
+                                                                    : DefaultColours[slot - 1];
         }
     } catch (const RuntimeError&) {
         UseDefaultColours();

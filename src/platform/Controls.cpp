@@ -80,9 +80,7 @@ void Control::SetVisible(bool visible) {
 
 bool Control::Seen() const { return visible_ && (container_ == nullptr || container_->Seen()); }
 
-bool Control::Works() const {
-    return enabled_ && visible_ && (container_ == nullptr || container_->Works());
-}
+bool Control::Works() const { return enabled_ && visible_ && (container_ == nullptr || container_->Works()); }
 
 void Control::SetToolTip(const std::string& text) {
     if (text == toolTip_) return;

@@ -28,7 +28,18 @@ class MenuItem;
 using Colour = std::uint32_t;  // 0x00BBGGRR
 using Handler = std::function<void()>;
 
-enum class ControlKind { TextBox, Label, CommandButton, OptionButton, CheckBox, ListBox, ComboBox, Frame, MenuItem, Grid };
+enum class ControlKind {
+    TextBox,
+    Label,
+    CommandButton,
+    OptionButton,
+    CheckBox,
+    ListBox,
+    ComboBox,
+    Frame,
+    MenuItem,
+    Grid
+};
 const char* Word(ControlKind kind);
 
 // A key press: one character, or the name of a key ("Enter", "Escape", "F1"), with modifiers in front

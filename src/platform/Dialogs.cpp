@@ -37,17 +37,17 @@ void Tell(const std::string& text, const std::string& title, Icon sign) {
 }
 
 bool AskYesNo(const std::string& text, const std::string& title, Icon sign, Answer preset) {
-    return ShowMessage({.Text = text,
-                        .Title = title,
-                        .Choice = Buttons::YesNo,
-                        .Sign = sign,
-                        .Default = preset}) == Answer::Yes;
+    return ShowMessage(
+               {.Text = text, .Title = title, .Choice = Buttons::YesNo, .Sign = sign, .Default = preset}) ==
+           Answer::Yes;
 }
 
 std::string AskText(const std::string& prompt, const std::string& title) {
     ++ShownBoxes;
     return RequiredHost().InputBox(prompt, title).value_or("");
 }
+
+void ShowHelpTopic(int topic) { RequiredHost().ShowHelp(topic); }
 
 int BoxesShown() { return ShownBoxes; }
 

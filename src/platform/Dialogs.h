@@ -35,6 +35,9 @@ bool AskYesNo(const std::string& text, const std::string& title, Icon sign = Ico
 // Asks for one line of text; empty when cancelled.
 std::string AskText(const std::string& prompt, const std::string& title);
 
+// Shows a topic of the help by its number.
+void ShowHelpTopic(int topic);
+
 // How many boxes were shown since the start: a menu head that put one up keeps its entries shut.
 int BoxesShown();
 

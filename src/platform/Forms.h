@@ -18,8 +18,8 @@ using FormFactory = std::unique_ptr<Form> (*)();
 // forms/ registers its factories once, in one table.
 void RegisterForm(std::string_view name, FormFactory factory);
 
-Form& LoadForm(std::string_view name);     // loads it hidden when it is not loaded
-Form* LoadedForm(std::string_view name);   // null when it is not loaded
+Form& LoadForm(std::string_view name);    // loads it hidden when it is not loaded
+Form* LoadedForm(std::string_view name);  // null when it is not loaded
 inline bool IsFormLoaded(std::string_view name) { return LoadedForm(name) != nullptr; }
 
 // Shows a form; a modal one returns when it was hidden or unloaded.

@@ -43,8 +43,6 @@ fs::path UserDataFolder() {
 #endif
 }
 
-fs::path ShippedDataFolder() {
-    return ExecutableFolder().parent_path() / "share" / "quillmetra" / "data";
-}
+fs::path ShippedDataFolder() { return ExecutableFolder().parent_path() / "share" / "quillmetra" / "data"; }
 
 }  // namespace quillmetra

@@ -94,7 +94,7 @@ fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
 fs::path MachinePath(std::string_view suitePath) {
     std::string text(suitePath);
     std::replace(text.begin(), text.end(), '\\', '/');
-    const fs::path path = fs::path(text).lexically_normal();
+    fs::path path = fs::path(text).lexically_normal();
     std::error_code error;
     if (fs::exists(path, error)) return path;
     fs::path found = path.root_path();

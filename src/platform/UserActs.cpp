@@ -94,7 +94,8 @@ bool EditByKey(TextBox& box, const std::string& key) {
 bool PressEnter(Control& control) {
     Form& form = control.Owner();
     if (control.Kind() == ControlKind::CommandButton) return ClickControl(control);
-    if (form.DefaultButton != nullptr && CanAct(*form.DefaultButton)) return ClickControl(*form.DefaultButton);
+    if (form.DefaultButton != nullptr && CanAct(*form.DefaultButton))
+        return ClickControl(*form.DefaultButton);
     if (!form.EnterMovesOn) return false;
     MoveAlong(form, false);
     return true;

@@ -1,10 +1,10 @@
 // The four number conversions: what a user types and what the suite shows.
 #include "platform/NumberText.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <random>
+
+#include <gtest/gtest.h>
 
 namespace quillmetra {
 namespace {
@@ -15,14 +15,36 @@ TEST(NumberText, ValReadsTheLeadingNumber) {
         double Value;
         bool All;
     } cases[] = {
-        {"", 0, true},           {"   ", 0, true},        {"12", 12, true},        {" 12 ", 12, true},
-        {"+12.5", 12.5, true},   {"-.5", -0.5, true},     {"5.", 5, true},         {"1 000", 1000, true},
-        {"\t1\t2", 12, true},    {"12,5", 12, false},     {"12 psi", 12, false},   {"abc", 0, false},
-        {"inf", 0, false},       {"nan", 0, false},       {"0x10", 0, false},      {"1.2.3", 1.2, false},
-        {"1e3", 1000, true},     {"1D3", 1000, true},     {"1E", 1, false},        {"1e+", 1, false},
-        {"2E-3kg", 0.002, false}, {"1 E 2", 100, true},   {"--5", 0, false},       {".", 0, false},
-        {"1e400", 0, true},      {"-1e400", 0, true},     {"1e-400", 0, true},     {"1e99999999999", 0, true},
-        {"1-2", 1, false},       {"&H10", 0, false},
+        {"", 0, true},
+        {"   ", 0, true},
+        {"12", 12, true},
+        {" 12 ", 12, true},
+        {"+12.5", 12.5, true},
+        {"-.5", -0.5, true},
+        {"5.", 5, true},
+        {"1 000", 1000, true},
+        {"\t1\t2", 12, true},
+        {"12,5", 12, false},
+        {"12 psi", 12, false},
+        {"abc", 0, false},
+        {"inf", 0, false},
+        {"nan", 0, false},
+        {"0x10", 0, false},
+        {"1.2.3", 1.2, false},
+        {"1e3", 1000, true},
+        {"1D3", 1000, true},
+        {"1E", 1, false},
+        {"1e+", 1, false},
+        {"2E-3kg", 0.002, false},
+        {"1 E 2", 100, true},
+        {"--5", 0, false},
+        {".", 0, false},
+        {"1e400", 0, true},
+        {"-1e400", 0, true},
+        {"1e-400", 0, true},
+        {"1e99999999999", 0, true},
+        {"1-2", 1, false},
+        {"&H10", 0, false},
     };
     for (const auto& each : cases) {
         EXPECT_EQ(Val(each.Text), each.Value) << '"' << each.Text << '"';

@@ -1,0 +1,259 @@
+// See CalculationForm.h.
+#include "forms/CalculationForm.h"
+
+#include "core/CalcRecord.h"
+#include "core/Filling.h"
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "lineloss/PipeMaterials.h"
+#include "platform/Clock.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "records/ChangeDetection.h"
+#include "reports/FormRefresh.h"
+#include "reports/FormRows.h"
+#include "units/NamedUnitSets.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* CaseWords[CaseCount] = {"Maximum", "Normal", "Minimum"};
+constexpr const char* CaseCaptions[CaseCount] = {"&Maximum", "&Normal", "M&inimum"};
+constexpr const char* DatePrompt = "Date";
+
+// The longest texts that the database keeps.
+constexpr std::size_t TagLength = 30;
+constexpr std::size_t FluidLength = 30;
+constexpr std::size_t NameLength = 15;
+constexpr std::size_t CommentLength = 60;
+
+std::string WithoutPrompt(const std::string& text, const char* prompt) { return text == prompt ? "" : text; }
+
+// A number goes into its field only when it differs from what the box was last filled with.
+void TakeNumber(double& field, const std::string& text) {
+    const double typed = Val(text);
+    if (typed != Val(Str(field))) field = typed;
+}
+
+}  // namespace
+
+CalculationForm::CalculationForm(const Names& names)
+    : SuiteForm(names.Form),
+      mnuFluiProp(*this, names.FluidMenu, "Fl&uid properties"),
+      Liquids(*this, names.ListFrame, names.ListCaption),
+      Mixture(*this),
+      program_(names.Program) {
+    EnterMovesOn = true;
+    txtTagNum.MaxLength = TagLength;
+    txtFluid.MaxLength = FluidLength;
+    txtBy.MaxLength = txtApprov.MaxLength = NameLength;
+    txtComments.Each([this](TextBox& box, int) {
+        box.MaxLength = CommentLength;
+        box.Describe(&lblComments);
+    });
+    txtTagNum.Describe(&lblTagNum);
+    txtFluid.Describe(&lblFluid);
+    txtBy.Describe(&lblBy);
+    txtApprov.Describe(&lblApprov);
+    mnuCase.Each([](MenuItem& entry, int i) { entry.SetCaption(CaseCaptions[i]); });
+    mnuExit.SeparatorBefore = true;
+    mnuProgram.SeparatorBefore = true;
+    mnuNew.Shortcut = "Ctrl+N";
+    mnuSave.Shortcut = "Ctrl+S";
+    mnuPrint.Shortcut = "Ctrl+P";
+    mnuHelp.Shortcut = "F1";
+    // Records, reports, the path finder and the panels of units and options are yet to come.
+    for (Control* later : std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
+                                                          &mnuPathUserUnitFile, &mnuPathPrintHdgs,
+                                                          &cmdFormLayout}) {
+        later->SetEnabled(false);
+    }
+
+    mnuNew.Click = [this] { mnuNew_Click(); };
+    mnuProgram.Click = [this] { mnuProgram_Click(); };
+    mnuExit.Click = [this] { mnuExit_Click(); };
+    mnuHelp.Click = [this] { mnuHelp_Click(); };
+    cmdDate.Click = [this] { cmdDate_Click(); };
+    cmdDate.KeyPress = [this](Key& key) {
+        if (key.Name != "Escape") return;
+        cmdDate.SetCaption(Calc.CaseText[10].empty() ? DatePrompt : Calc.CaseText[10]);
+        key.Handled = true;
+    };
+    txtTagNum.Change = [] {
+        if (Calc.FormLoading != words::Yes) Calc.ChangedFlag = words::No;
+    };
+    txtFluid.Change = [this] {
+        if (Calc.FormLoading == words::Yes) return;
+        // A name typed by hand is no longer the table's fluid: neither its row nor its vapour pressure hold.
+        Calc.FluidDataSource.clear();
+        Calc.CaseInput[8].fill(0);
+        ClearAllCases();
+    };
+}
+
+void CalculationForm::DescribeRows() {
+    for (const FormRow& row : FormRows(program_)) {
+        for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
+            auto& box = static_cast<TextBox&>(RowControl(*this, row, i));
+            Control* const unit = *row.Unit == '\0' ? nullptr : Find(row.Unit, row.UnitIndex);
+            box.Describe(Find(row.Label), unit, row.PerCase ? CaseWords[i] : "");
+            box.IsNumber = true;
+            box.Locked = row.From == Source::CaseResult;
+            box.ColourGroup = box.Locked ? 4 : 2;
+            if (box.Locked) box.TabStop = false;
+            if (box.Locked || box.Change) continue;
+            box.Change = row.PerCase ? Handler([this, i] { ClearCase(i); }) : Handler([this] { ClearAllCases(); });
+        }
+    }
+    for (Control* control : Controls()) {
+        const ControlKind kind = control->Kind();
+        if (control->ColourGroup != 0 || kind == ControlKind::MenuItem || kind == ControlKind::CommandButton) {
+            continue;
+        }
+        control->ColourGroup = kind == ControlKind::TextBox ? 2 : kind == ControlKind::ListBox ? 4 : 1;
+    }
+}
+
+void CalculationForm::Load() {
+    if (Calc.CurrentProgram != program_) return;
+    {
+        const Filling filling;
+        ApplyColours(*this);
+        if (Calc.InCalculation != words::Yes) ApplyUnits();
+        ComposeHeading();
+        if (Calc.PipeMaterialNumber <= 0) Calc.PipeMaterialNumber = 1;
+        for (std::size_t i = 0; i < PipeMaterials.size(); ++i) Calc.PipeMaterialName[i + 1] = PipeMaterials[i].Name;
+    }
+    Calc.FormLoading = words::No;
+    const Filling filling;  // ticking an option below is no change of the record
+    const bool mixture = Calc.MixtureFlag == words::Yes;
+    Calc.FluidOk = mixture ? "" : words::FluidLoaded;
+    ShowChoices();
+}
+
+void CalculationForm::ApplyUnits() {
+    int& set = Calc.FluidType == words::Gas ? Calc.GasUnitSet : Calc.LiquidUnitSet;
+    if (set == 0) set = 1;
+    if (ApplyNamedUnitSet(set)) return;
+    Tell("File is empty, please make and save\nusing Change Setup to the Calc Options Form", "Boot up File");
+    set = 1;
+    ApplyNamedUnitSet(set);
+}
+
+void CalculationForm::StoreForm() {
+    const Filling filling;  // the tag is written back
+    Calc.Tag = std::string(Trim(txtTagNum.Text()));
+    txtTagNum.SetText(Calc.Tag);
+    Calc.FluidName = txtFluid.Text();
+    for (const FormRow& row : FormRows(program_)) {
+        if (row.From == Source::CaseResult) continue;
+        for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
+            TakeNumber(LiveValue(row, i), RowControl(*this, row, i).Text());
+        }
+    }
+    StoreOwn();
+    Calc.CaseText[8] = WithoutPrompt(txtBy.Text(), words::ByPrompt);
+    Calc.CaseText[9] = WithoutPrompt(txtApprov.Text(), words::ApprovedPrompt);
+    Calc.CaseText[10] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
+    Calc.ChosenUnitRowNames = {"", Calc.UnitName[2], Calc.UnitName[12], Calc.UnitName[7]};
+    Calc.HeadingText[8] = txtComments(0).Text();
+    Calc.HeadingText[9] = txtComments(1).Text();
+}
+
+void CalculationForm::BlankResults(int caseIndex) {
+    for (const FormRow& row : FormRows(program_)) {
+        if (row.From == Source::CaseResult && row.PerCase) {
+            static_cast<TextBox&>(RowControl(*this, row, caseIndex)).SetText("");
+        }
+    }
+}
+
+void CalculationForm::ClearCase(int caseIndex) {
+    if (Calc.FormLoading == words::Yes) return;
+    Calc.ChangedFlag = words::No;
+    std::string& clearable = Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)];
+    if (clearable == words::No) return;
+    mnuPrint.SetEnabled(false);
+    if (Control* button = CalculateButton(caseIndex)) button->SetEnabled(true);
+    BlankResults(caseIndex);
+    clearable = words::No;
+}
+
+void CalculationForm::ClearAllCases() {
+    if (Calc.FormLoading == words::Yes) return;
+    for (int i = 0; i < CaseCount; ++i) ClearCase(i);
+    for (const FormRow& row : FormRows(program_)) {
+        if (row.From == Source::CaseResult && !row.PerCase) {
+            static_cast<TextBox&>(RowControl(*this, row, 0)).SetText("");
+        }
+    }
+}
+
+int CalculationForm::InputSlot(const Control& box) const {
+    if (&box == &txtFluid) return TextSlot(txtFluid.Text(), Calc.FluidNameSaved);
+    const FormRow* const row = RowOf(program_, box);
+    if (row == nullptr) return slot::InputText;
+    const int caseIndex = row->PerCase ? box.Index() : 0;
+    double value = LiveValue(*row, caseIndex);
+    TakeNumber(value, box.Text());
+    return ValueSlot(value, ShownValue(*row, caseIndex));
+}
+
+bool CalculationForm::SaveChangesStops() {
+    StoreForm();
+    DetectChanges();
+    Calc.SaveAnswer.clear();
+    if (Calc.RecordChanged == words::Yes) {
+        Calc.SavePrompt = "Save changes?";
+        Calc.SaveAnswer = AskYesNo(Calc.SavePrompt, Calc.ProgramTitle) ? words::Yes : words::No;
+    }
+    return Calc.SaveAnswer == words::ExitSub || Calc.SaveAnswer == words::Yes;
+}
+
+void CalculationForm::EmptyForm() {
+    for (Control* control : Controls()) {
+        if (control->Kind() == ControlKind::TextBox) static_cast<TextBox&>(*control).SetText("");
+    }
+}
+
+void CalculationForm::mnuNew_Click() {
+    if (SaveChangesStops()) return;
+    const Filling filling;
+    Liquids.Close();
+    EmptyForm();
+    ResetForNew();
+    Calc.PipeData[4] = Calc.PipeData[5] = 1;
+    Calc.PressureDirection = 1;
+    UnloadForm("frmUnits");
+    UnloadForm("frmObxPrintCalc");
+    mnuPrint.SetEnabled(false);
+    Calc.ProgramChosen = words::Yes;
+    ApplyColours(*this);
+    ComposeHeading();
+    ShowChoices();
+    txtTagNum.SetFocus();
+}
+
+void CalculationForm::mnuProgram_Click() {
+    if (SaveChangesStops()) return;
+    Calc.ProgramTitle.clear();  // the next program brings its own
+    ShowForm("frmTRProg");
+    for (const char* form : {"frmUnits", "frmObxPrintCalc", "frmCalcOptions"}) UnloadForm(form);
+    UnloadForm(Name());
+}
+
+void CalculationForm::mnuExit_Click() {
+    if (!SaveChangesStops()) EndProcess();
+}
+
+void CalculationForm::mnuHelp_Click() {
+    if (const Program* program = FindProgram(program_)) ShowHelpTopic(program->HelpTopic);
+}
+
+void CalculationForm::cmdDate_Click() { cmdDate.SetCaption(Today()); }
+
+}  // namespace quillmetra

@@ -1,0 +1,105 @@
+// The life that the five calculation forms share: the common block of controls, loading, storing, blanking
+// of results, new, back to the browser, exit.
+#pragma once
+
+#include <string>
+
+#include "forms/FluidPanels.h"
+#include "forms/SuiteForm.h"
+
+namespace quillmetra {
+
+class CalculationForm : public SuiteForm {
+public:
+    // The names that differ from form to form.
+    struct Names {
+        int Program;
+        const char* Form;
+        const char* FluidMenu;  // the menu head of the fluid properties
+        const char* ListFrame;
+        const char* ListCaption;
+    };
+
+    explicit CalculationForm(const Names& names);
+
+    void Load() override;
+    void CloseBox() override { mnuProgram_Click(); }
+
+    int ProgramNumber() const { return program_; }
+
+    // Takes the texts of the form into the record. A number whose box still says what the refresh wrote
+    // leaves its field alone, so that an untouched value keeps all its digits.
+    void StoreForm();
+
+    // Blanks the results of a case, or of all, after a change of input; does nothing while code fills the
+    // form.
+    void ClearCase(int caseIndex);
+    void ClearAllCases();
+
+    // Menus
+    MenuItem mnuFile{*this, "mnuFile", "&File"};
+    MenuItem mnuNew{mnuFile, "mnuNew", "&New"};
+    MenuItem mnuSave{mnuFile, "mnuSave", "&Save"};
+    MenuItem mnuSaveAs{mnuFile, "mnuSaveAs", "Save &As..."};
+    MenuItem mnuPrint{mnuFile, "mnuPrint", "&Print..."};
+    MenuItem mnuProgram{mnuFile, "mnuProgram", "Pro&gram"};
+    MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
+    MenuItem mnuFluiProp;
+    ControlArray<MenuItem> mnuCase{mnuFluiProp, "mnuCase", {0, 1, 2}, ""};
+    MenuItem mnuDefPath{*this, "mnuDefPath", "Default pa&ths"};
+    MenuItem mnuPathDataFile{mnuDefPath, "mnuPathDataFile", "Data file default path"};
+    MenuItem mnuPathUserUnitFile{mnuDefPath, "mnuPathUserUnitFile", "User unit file default path"};
+    MenuItem mnuPathPrintHdgs{mnuDefPath, "mnuPathPrintHdgs", "Printout heading file default path"};
+
+    MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+
+    // The container of the inputs, switched off while a list of fluids is open over it.
+    Frame Picture1{*this, "Picture1"};
+    Label lblTagNum{Picture1, "lblTagNum", "Tag number"};
+    TextBox txtTagNum{Picture1, "txtTagNum"};
+    Label lblFluid{Picture1, "lblFluid", "Fluid"};
+    TextBox txtFluid{Picture1, "txtFluid"};
+    Label lblSetupSelections{Picture1, "lblSetupSelections"};
+    Label lblCalcSource{Picture1, "lblCalcSource"};
+    CommandButton cmdFormLayout{Picture1, "cmdFormLayout", "Change &Setup"};
+    Label lblBy{Picture1, "lblBy", "Calculated by"};
+    TextBox txtBy{Picture1, "txtBy"};
+    Label lblApprov{Picture1, "lblApprov", "Approved by"};
+    TextBox txtApprov{Picture1, "txtApprov"};
+    CommandButton cmdDate{Picture1, "cmdDate", "Date"};
+    Label lblComments{Picture1, "lblComments", "Comments"};
+    ControlArray<TextBox> txtComments{Picture1, "txtComments", {0, 1}};
+
+    FluidList Liquids;
+    MixturePanel Mixture;
+
+    void mnuNew_Click();
+    void mnuProgram_Click();
+    void mnuExit_Click();
+    void mnuHelp_Click();
+    void cmdDate_Click();
+
+protected:
+    // The units routine of the form: applies the unit set in force to the record.
+    void ApplyUnits();
+    // The numbers and texts that a form has beside the common ones.
+    virtual void StoreOwn() {}
+    // What a load and a new calculation set on the form's own controls.
+    virtual void ShowChoices() {}
+    // The calculate button of a case, null when there is none.
+    virtual Control* CalculateButton(int) { return nullptr; }
+    int InputSlot(const Control& box) const override;
+
+    // Runs the prompt to save. True when the caller must stop.
+    bool SaveChangesStops();
+    // Names, colours and tab order of the boxes of the program's table of rows.
+    void DescribeRows();
+    void EmptyForm();
+
+private:
+    void BlankResults(int caseIndex);
+
+    int program_;
+};
+
+}  // namespace quillmetra

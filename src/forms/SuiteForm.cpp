@@ -1,0 +1,37 @@
+// See SuiteForm.h.
+#include "forms/SuiteForm.h"
+
+#include "core/CalcRecord.h"
+#include "forms/ColourSchemes.h"
+#include "platform/NumberText.h"
+
+namespace quillmetra {
+
+namespace {
+bool IsInput(const Control& control) {
+    return control.Kind() == ControlKind::TextBox && !static_cast<const TextBox&>(control).Locked;
+}
+}  // namespace
+
+std::string SuiteForm::ProblemTitle() const { return Calc.ProgramTitle.empty() ? Caption() : Calc.ProgramTitle; }
+
+int SuiteForm::InputSlot(const Control&) const { return slot::InputText; }
+
+void SuiteForm::ControlGotFocus(Control& control) {
+    SetStatus("");
+    if (!IsInput(control)) return;
+    auto& box = static_cast<TextBox&>(control);
+    box.SetColours(SlotColour(slot::SelectedBack), SlotColour(slot::SelectedText));
+    if (box.IsNumber) box.SelectAll();
+}
+
+void SuiteForm::ControlLostFocus(Control& control) {
+    if (!IsInput(control)) return;
+    auto& box = static_cast<TextBox&>(control);
+    box.SetColours(SlotColour(slot::InputBack), SlotColour(InputSlot(box)));
+    if (box.IsNumber && !ValReadsAll(box.Text())) {
+        SetStatus(std::string(Trim(box.Text())) + " is read as " + TrimmedStr(Val(box.Text())));
+    }
+}
+
+}  // namespace quillmetra

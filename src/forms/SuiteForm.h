@@ -1,0 +1,26 @@
+// What all forms of the suite have in common: colours, the look of the box that has the focus, and the
+// title of an unexpected failure.
+#pragma once
+
+#include "platform/Form.h"
+
+namespace quillmetra {
+
+class SuiteForm : public Form {
+public:
+    using Form::Form;
+
+    std::string ProblemTitle() const override;
+    // The box that takes the focus shows the selected colours; a number box is selected whole.
+    void ControlGotFocus(Control& control) override;
+    // The box that loses it goes back to the input colours, in the changed colour when its value differs
+    // from what was last calculated or loaded. A number that is not read to its end is told in the status
+    // line.
+    void ControlLostFocus(Control& control) override;
+
+protected:
+    // The text colour slot of an input box that is left.
+    virtual int InputSlot(const Control& box) const;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,194 @@
+// See FormRefresh.h.
+#include "reports/FormRefresh.h"
+
+#include <cmath>
+
+#include "core/CalcRecord.h"
+#include "core/Filling.h"
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "platform/Arithmetic.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "reports/FormRows.h"
+
+namespace quillmetra {
+
+namespace {
+
+Control& Named(Form& form, std::string_view name, int index = Control::NoIndex) {
+    Control* const control = form.Find(name, index);
+    if (control == nullptr) throw failure::NoSuchControl(name);
+    return *control;
+}
+
+void SetText(Control& control, const std::string& text) {
+    if (control.Kind() == ControlKind::TextBox) {
+        static_cast<TextBox&>(control).SetText(text);
+    } else {
+        control.SetCaption(text);
+    }
+}
+
+void PaintValue(Control& control, int slot) {
+    control.SetColours(control.BackColour(), Suite.Colours.at(static_cast<std::size_t>(slot)));
+}
+
+// A captioned control that shows the name of a unit row.
+struct UnitControl {
+    const char* Control;
+    int Index;
+    int UnitRow;
+};
+
+constexpr int Single = Control::NoIndex;
+constexpr UnitControl LiquidLossUnits[] = {
+    {"cmdUnits", 1, 1},   {"cmdUnits", 2, 2},   {"cmdUnits", 3, 3},
+    {"cmdUnits", 4, 4},   {"cmdUnits", 6, 6},   {"cmdUnits", 7, 7},
+    {"cmdUnits", 18, 18}, {"cmdUnits", 25, 25}, {"unInletPipeElev", Single, 25},
+    {"unOutletPipeElev", Single, 25}, {"unDropP100", Single, 4}, {"unDestPress", Single, 3},
+    {"unVelocity", Single, 20}, {"unEquivLen", Single, 25},
+};
+
+void ShowRow(Form& form, const FormRow& row, int caseIndex) {
+    Control& control = RowControl(form, row, caseIndex);
+    double& value = LiveValue(row, caseIndex);
+    switch (row.Rule) {
+        case ShowRule::Positive:
+            if (value > 0) ShowNumber(control, value);
+            break;
+        case ShowRule::Signed:
+            if (value != 0) ShowNumber(control, value);
+            break;
+        case ShowRule::LegalZero:
+            if (std::abs(value) < 1e-06) value = 0;
+            if (value != 0 || !control.Text().empty()) ShowNumber(control, value);
+            break;
+    }
+    PaintValue(control, ValueSlot(value, ShownValue(row, caseIndex)));
+}
+
+// The cases that the line-loss forms refresh: all three after a conversion, else the one in hand.
+std::pair<int, int> CasesToShow() {
+    if (Calc.UnitsConverted == words::Yes) return {0, CaseCount - 1};
+    return {Calc.CaseIndex, Calc.CaseIndex};
+}
+
+void ShowRows(Form& form, int program) {
+    const auto [first, last] = CasesToShow();
+    const bool results = Calc.HideResults != words::Yes;
+    for (const FormRow& row : FormRows(program)) {
+        const bool isResult = row.From == Source::CaseResult;
+        if (isResult && !results) continue;
+        for (int i = row.PerCase ? first : Calc.CaseIndex; i <= (row.PerCase ? last : Calc.CaseIndex); ++i) {
+            if (!isResult || ResultsStand(i)) ShowRow(form, row, i);
+        }
+    }
+    Calc.UnitsConverted.clear();
+}
+
+void ShowUnits(Form& form) {
+    for (const UnitControl& unit : LiquidLossUnits) {
+        Named(form, unit.Control, unit.Index).SetCaption(Calc.UnitName[static_cast<std::size_t>(unit.UnitRow)]);
+    }
+    Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[25]);
+}
+
+// The liquid form, when the destination is given, writes its input label twice: the second text stands, and
+// the result label keeps what the click of optSource wrote.
+void ShowDirection(Form& form) {
+    if (Calc.PressureDirection == 2) {
+        Named(form, "lblPressure").SetCaption("End pressure");
+        Named(form, "lblPressure").SetCaption("Destination pressure");
+    } else {
+        Named(form, "lblPressure").SetCaption("Source pressure");
+        Named(form, "lblDestPress").SetCaption("Destination pressure");
+    }
+}
+
+void ShowDensityMode(Form& form, const char* gravityTip) {
+    const bool density = Calc.LiquidDensityMode == words::Density;
+    Named(form, "lblSGFlow").SetCaption(density ? "Flowing density" : "Specific gravity @ FTP");
+    for (int i = 0; i < CaseCount; ++i) {
+        Named(form, "txtSGFlow", i).SetToolTip(density ? " Enter flowing density" : gravityTip);
+    }
+    Named(form, "cmdUnits", 6).SetVisible(density);
+}
+
+// The boxes of the two names and the date show their prompt while they are empty.
+std::string OrPrompt(const std::string& text, const char* prompt) { return text.empty() ? prompt : text; }
+
+void ShowIdentity(Form& form) {
+    form.SetCaption(Suite.VersionText + Calc.ProgramTitle);
+    Named(form, "lblSetupSelections").SetCaption(Calc.UnitsTitle);
+    Named(form, "lblCalcSource").SetCaption(Calc.MethodText);
+    SetText(Named(form, "txtTagNum"), Calc.Tag);
+    Control& fluid = Named(form, "txtFluid");
+    SetText(fluid, Calc.FluidName);
+    PaintValue(fluid, TextSlot(Calc.FluidName, Calc.FluidNameSaved));
+}
+
+void ShowSignatures(Form& form) {
+    SetText(Named(form, "txtBy"), OrPrompt(Calc.CaseText[8], words::ByPrompt));
+    SetText(Named(form, "cmdDate"), OrPrompt(Calc.CaseText[10], "Date"));
+    SetText(Named(form, "txtApprov"), OrPrompt(Calc.CaseText[9], words::ApprovedPrompt));
+    SetText(Named(form, "txtComments", 0), Calc.HeadingText[8]);
+    SetText(Named(form, "txtComments", 1), Calc.HeadingText[9]);
+}
+
+}  // namespace
+
+bool ResultsStand(int caseIndex) {
+    return Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)] != words::No;
+}
+
+void ShowNumber(Control& control, double value) { SetText(control, Str(CheckFinite(value))); }
+
+void ShowLiquidLoss() {
+    const Filling filling;
+    Form& form = LoadForm("frmLiqLineLoss");
+    ShowIdentity(form);
+    ShowUnits(form);
+    ShowDirection(form);
+    ShowDensityMode(form, "Specific gravity @ FTPy");
+    Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
+    static_cast<CheckBox&>(Named(form, "chkEntrance")).SetChecked(Calc.PipeData[4] > 1.1);
+    static_cast<CheckBox&>(Named(form, "chkExit")).SetChecked(Calc.PipeData[5] > 1.1);
+    ShowRows(form, 1);
+    ShowSignatures(form);
+}
+
+void ShowCalculation() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    if (program == nullptr) return;
+    if (Calc.ProgramTitle.empty()) Calc.ProgramTitle = program->Title;
+    Calc.MethodText = program->Method;
+    if (program->Number == 1) ShowLiquidLoss();
+}
+
+void ComposeHeading() {
+    struct Choice {
+        const char* Mode;
+        const char* Words;
+    };
+    static constexpr Choice dataModes[] = {{words::FileData, ", all calculations"},
+                                           {words::DensityData, ", basic plus calculate density"},
+                                           {words::ManualData, ", basic calculation"}};
+    static constexpr Choice calcModes[] = {{words::PressureDrop, ", calculate Pressure drop"},
+                                           {words::FlowRate, ", calculate flowrate"},
+                                           {words::ValveSize, ", calculate data"},
+                                           {"", ", calculate data"}};
+    Calc.UnitsTitle = Calc.UnitSetName;
+    if (Calc.CurrentProgram < 4) {
+        for (const Choice& choice : dataModes) {
+            if (Calc.DataMode == choice.Mode) Calc.UnitsTitle += choice.Words;
+        }
+        for (const Choice& choice : calcModes) {
+            if (Calc.CalcMode == choice.Mode) Calc.UnitsTitle += choice.Words;
+        }
+    }
+    ShowCalculation();
+}
+
+}  // namespace quillmetra

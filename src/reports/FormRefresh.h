@@ -1,0 +1,26 @@
+// The form refresh: writes the record to the controls of the open calculation form. It is the only place
+// where a number of the record becomes text, and since reports print the text of the controls it is the only
+// formatter of printed numbers too.
+#pragma once
+
+#include "platform/Form.h"
+
+namespace quillmetra {
+
+// Fills ProgramTitle when it is empty, sets MethodText and refreshes the form of CurrentProgram.
+void ShowCalculation();
+
+// Builds UnitsTitle from the units' name and the options, then runs ShowCalculation.
+void ComposeHeading();
+
+// The refresh of each program.
+void ShowLiquidLoss();
+
+// Whether the results of a case stand; an input change since its calculation has blanked them, and a refresh
+// then leaves them blank.
+bool ResultsStand(int caseIndex);
+
+// Writes a number to a control. Throws when it is not finite, with the control left as it was.
+void ShowNumber(Control& control, double value);
+
+}  // namespace quillmetra

@@ -1,0 +1,93 @@
+// See FormRows.h.
+#include "reports/FormRows.h"
+
+#include "core/CalcRecord.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr int Single = Control::NoIndex;
+constexpr bool Each = true;   // one for each case
+constexpr bool Once = false;  // one for all cases
+
+constexpr FormRow LiquidLossRows[] = {
+    {"txtInletPipeLen", Source::PipeData, 1, ShowRule::Positive, Once, "lblInletPipeLen", "cmdUnits", 25},
+    {"txtInletPipeID", Source::PipeData, 2, ShowRule::Positive, Once, "lblInletPipeID", "cmdUnits", 18},
+    {"txtInletPipeElev", Source::PipeData, 3, ShowRule::Signed, Once, "lblInletPipeElev", "unInletPipeElev",
+     Single},
+    {"txtOutletPipeElev", Source::CaseInput, 25, ShowRule::Signed, Once, "lblOutletPipeElev",
+     "unOutletPipeElev", Single},
+    {"txtPipeCond", Source::PipeFouling, 0, ShowRule::Positive, Once, "lblPipeCond", "", Single},
+    {"txtInletGate", Source::FittingCount, 1, ShowRule::Signed, Once, "lblInletGate", "", Single},
+    {"txtInletGlobe", Source::FittingCount, 2, ShowRule::Signed, Once, "lblInletGlobe", "", Single},
+    {"txtInletCheck", Source::FittingCount, 3, ShowRule::Signed, Once, "lblInletCheck", "", Single},
+    {"txtInlet90Deg", Source::FittingCount, 4, ShowRule::Signed, Once, "lblInlet90Deg", "", Single},
+    {"txtInlet45Deg", Source::FittingCount, 5, ShowRule::Signed, Once, "lblInlet45Deg", "", Single},
+    {"txtInletThru", Source::FittingCount, 6, ShowRule::Signed, Once, "lblInletThru", "", Single},
+    {"txtInletBranch", Source::FittingCount, 7, ShowRule::Signed, Once, "lblInletBranch", "", Single},
+    {"txtFlow", Source::CaseInput, 1, ShowRule::Positive, Each, "lblFlow", "cmdUnits", 1},
+    {"txtTemp", Source::CaseInput, 2, ShowRule::LegalZero, Each, "lblTemp", "cmdUnits", 2},
+    {"txtPressure", Source::CaseInput, 3, ShowRule::LegalZero, Each, "lblPressure", "cmdUnits", 3},
+    {"txtSGFlow", Source::CaseInput, 6, ShowRule::Positive, Each, "lblSGFlow", "cmdUnits", 6},
+    {"txtViscosity", Source::CaseInput, 7, ShowRule::Positive, Each, "lblViscosity", "cmdUnits", 7},
+    {"txtEquip", Source::CaseInput, 4, ShowRule::Positive, Each, "lblEquip", "cmdUnits", 4},
+    {"txtDropP100", Source::CaseResult, 0, ShowRule::Positive, Each, "lblDropP100", "unDropP100", Single},
+    {"txtDestPress", Source::CaseResult, 1, ShowRule::LegalZero, Each, "lblDestPress", "unDestPress", Single},
+    {"txtVelocity", Source::CaseResult, 2, ShowRule::Positive, Each, "lblVelocity", "unVelocity", Single},
+    {"txtReynoldsNum", Source::CaseResult, 4, ShowRule::Positive, Each, "lblReynoldsNum", "", Single},
+    {"txtEquivLen", Source::CaseResult, 5, ShowRule::Positive, Once, "lblEquivLen", "unEquivLen", Single},
+};
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+}  // namespace
+
+std::span<const FormRow> FormRows(int program) {
+    if (program == 1) return LiquidLossRows;
+    return {};
+}
+
+double& LiveValue(const FormRow& row, int caseIndex) {
+    const std::size_t column = row.PerCase ? At(caseIndex) : 0;
+    switch (row.From) {
+        case Source::CaseResult: return Calc.CaseResult[At(row.Row)][column];
+        case Source::PipeData: return Calc.PipeData[At(row.Row)];
+        case Source::FittingCount: return Calc.FittingCount[At(row.Row)];
+        case Source::PipeFouling: return Calc.PipeFouling;
+        default: return Calc.CaseInput[At(row.Row)][column];
+    }
+}
+
+double ShownValue(const FormRow& row, int caseIndex) {
+    const std::size_t column = row.PerCase ? At(caseIndex) : 0;
+    switch (row.From) {
+        case Source::CaseResult: return Calc.CaseResultShown[At(row.Row)][column];
+        case Source::PipeData: return Calc.PipeDataShown[At(row.Row)];
+        case Source::FittingCount: return Calc.FittingCountShown[At(row.Row)];
+        case Source::PipeFouling: return Calc.PipeFoulingSaved;
+        default: return Calc.CaseInputShown[At(row.Row)][column];
+    }
+}
+
+Control& RowControl(const Form& form, const FormRow& row, int caseIndex) {
+    Control* const control = form.Find(row.Control, row.PerCase ? caseIndex : Control::NoIndex);
+    if (control == nullptr) throw failure::NoSuchControl(row.Control);
+    return *control;
+}
+
+const FormRow* RowOf(int program, const Control& control) {
+    for (const FormRow& row : FormRows(program)) {
+        if (SameName(row.Control, control.Name())) return &row;
+    }
+    return nullptr;
+}
+
+int ValueSlot(double value, double shown) { return shown == 0 || value == shown ? 4 : 10; }
+
+int TextSlot(const std::string& value, const std::string& saved) {
+    return saved.empty() || value == saved ? 4 : 10;
+}
+
+}  // namespace quillmetra

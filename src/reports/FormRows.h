@@ -1,0 +1,52 @@
+// Which control of a calculation form holds which number of the record. One table a program serves the
+// refresh of the form, its storing, its colours and the blanking of its results, and later the reports, so
+// that a field is written down once.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "platform/Form.h"
+
+namespace quillmetra {
+
+enum class Source { CaseInput, CaseResult, PipeData, FittingCount, PipeFouling };
+
+// When a number replaces the text of its control.
+enum class ShowRule {
+    Positive,   // only a value above 0; else the old text stays
+    Signed,     // any value but 0, for elevations
+    LegalZero,  // zero is a value too: shown unless the box is empty
+};
+
+struct FormRow {
+    const char* Control;  // a box, or an array of one for each case
+    Source From;
+    int Row;
+    ShowRule Rule;
+    bool PerCase;
+    const char* Label;  // the label that names the row
+    const char* Unit;   // the control that shows its unit, empty for a dimensionless number
+    int UnitIndex;      // its index in an array, Control::NoIndex for none
+};
+
+// The rows of a program's form, in reading order; none for a program without a form.
+std::span<const FormRow> FormRows(int program);
+
+// The number of the record behind a row; a row that is not per case has case 0 alone.
+double& LiveValue(const FormRow& row, int caseIndex);
+// What it is compared with for its colour.
+double ShownValue(const FormRow& row, int caseIndex);
+
+// The control of a row on its form, that of the case when there is one for each.
+Control& RowControl(const Form& form, const FormRow& row, int caseIndex);
+
+// The row of a control; null for a control that holds no number of the record.
+const FormRow* RowOf(int program, const Control& control);
+
+// The colour slot of a value: 10 when it differs from what was last calculated or loaded, else 4. A
+// reference of 0 or none counts as no reference.
+int ValueSlot(double value, double shown);
+int TextSlot(const std::string& value, const std::string& saved);
+
+}  // namespace quillmetra
