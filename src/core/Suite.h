@@ -10,20 +10,30 @@
 
 namespace quillmetra {
 
+// A unit as a list offers it: value x Factor = value in the list's base unit. An unused line is empty.
+struct UnitLine {
+    std::string Name;
+    double Factor = 0;
+};
+using UnitList = Row<UnitLine, 11>;  // lines 1 to 10
+
 struct SuiteState {
-    std::string VersionText;              // "Ver.6.0.0.  "
+    std::string VersionText;  // "Ver.6.0.0.  "
     std::string HelpFile;
     // 1 database, 2 user units, 3 printout headings, 4 data files, 5 the program's own folder; in the
     // suite's words, with "\" between the parts that it adds.
     Row<std::string, 6> DefaultPaths{};
-    Row<std::uint32_t, 13> Colours{};     // 1 to 12, 0x00BBGGRR
+    Row<std::uint32_t, 13> Colours{};                                  // 1 to 12, 0x00BBGGRR
     std::string HideFluidReminder, HideRoundReminder, HideFlowStatus;  // "Yes" or empty, never read back
     Row<std::string, 36> UserLiquidUnitName{}, UserGasUnitName{};
     UnitFactors UserLiquidUnitFactor{}, UserGasUnitFactor{};
+    Row<UnitList, 21> UnitLibrary{};  // the unit lists 0 to 20, see units/UnitCatalogue.h
+    UnitList PressureStem{};          // pressure units without the ending "g" or "a"
+    std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded
     std::string DatabaseFile, DatabasePath, BrowsePath;
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;
-    std::string TableKind;                // the table that the editor is to open: "Gas", "Liquid", ...
+    std::string TableKind;  // the table that the editor is to open: "Gas", "Liquid", ...
 };
 
 extern SuiteState Suite;
