@@ -10,6 +10,13 @@
 
 namespace quillmetra {
 
+// A unit as a list offers it: value x Factor = value in the list's base unit. An unused line is empty.
+struct UnitLine {
+    std::string Name;
+    double Factor = 0;
+};
+using UnitList = Row<UnitLine, 11>;  // lines 1 to 10
+
 struct SuiteState {
     std::string VersionText;  // "Ver.6.0.0.  "
     std::string HelpFile;
@@ -20,6 +27,9 @@ struct SuiteState {
     std::string HideFluidReminder, HideRoundReminder, HideFlowStatus;  // "Yes" or empty, never read back
     Row<std::string, 36> UserLiquidUnitName{}, UserGasUnitName{};
     UnitFactors UserLiquidUnitFactor{}, UserGasUnitFactor{};
+    Row<UnitList, 21> UnitLibrary{};  // the unit lists 0 to 20, see units/UnitCatalogue.h
+    UnitList PressureStem{};          // pressure units without the ending "g" or "a"
+    std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded
     std::string DatabaseFile, DatabasePath, BrowsePath;
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;

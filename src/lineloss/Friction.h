@@ -1,0 +1,45 @@
+// Friction factor of a line, and the pressure loss and velocity that follow from it. Liquid and gas programs
+// share the formulas; CalcFriction strings them together for a liquid.
+#pragma once
+
+#include "lineloss/PipeMaterials.h"
+
+namespace quillmetra {
+
+// Bounds of the flow zones by Reynolds number; each belongs to the zone below it.
+constexpr double LaminarLimit = 2000;
+constexpr double CriticalLimit = 4000;
+
+// 6.31 x flow (lb/h) / inside diameter (in) / viscosity (cp).
+double ReynoldsOf(double massFlow, double pipeId, double viscosity);
+
+struct ColebrookResult {
+    double Factor;  // Darcy friction factor
+    double Term;    // x of the last round
+    int Rounds;     // 101 when it did not converge
+    bool Converged;
+};
+
+// Solves 1 / sqrt(f) = -2 log10(e / 3.7 / D + a / (Re sqrt(f))) for the Darcy friction factor f by damped
+// Newton steps from 0.01 until a step is 1e-6 or less, at most 100 rounds. pipeId in inches, as the
+// roughness. Without a material the Colebrook term stays at lastTerm.
+ColebrookResult SolveColebrook(double reynolds, double pipeId, const PipeMaterial* material, double lastTerm);
+
+// Darcy's formula: psi per 100 ft, at most 50000. Flow lb/h, inside diameter in, density lb/ft3.
+double LossPer100Feet(double frictionFactor, double massFlow, double pipeId, double density);
+
+// ft/s from flow (lb/h), density (lb/ft3) and inside diameter (in).
+double LineVelocity(double massFlow, double density, double pipeId);
+
+// Sets FrictionFactor, LaminarFactor, FlowZone, IterationCount and, for laminar flow, TurbulentFactor from
+// ReynoldsNumber and the pipe; fouling is in it. Warns when the iteration does not converge, and goes on.
+void CalcFrictionFactor();
+
+// Straight pipe, fittings, entrance and exit as feet of pipe, from EquivLengthPerFitting.
+double LengthWithFittings();
+
+// The liquid line of the record in hand: friction factor, flow status, LossPer100, Velocity and EquivLength
+// with equipment and elevation in it. Needs what data checking has put into the working layer.
+void CalcFriction();
+
+}  // namespace quillmetra
