@@ -67,9 +67,9 @@ CalculationForm::CalculationForm(const Names& names)
     mnuPrint.Shortcut = "Ctrl+P";
     mnuHelp.Shortcut = "F1";
     // Records, reports, the path finder and the panels of units and options are yet to come.
-    for (Control* later : std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
-                                                          &mnuPathUserUnitFile, &mnuPathPrintHdgs,
-                                                          &cmdFormLayout}) {
+    for (Control* later :
+         std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
+                                         &mnuPathUserUnitFile, &mnuPathPrintHdgs, &cmdFormLayout}) {
         later->SetEnabled(false);
     }
 
@@ -106,12 +106,14 @@ void CalculationForm::DescribeRows() {
             box.ColourGroup = box.Locked ? 4 : 2;
             if (box.Locked) box.TabStop = false;
             if (box.Locked || box.Change) continue;
-            box.Change = row.PerCase ? Handler([this, i] { ClearCase(i); }) : Handler([this] { ClearAllCases(); });
+            box.Change =
+                row.PerCase ? Handler([this, i] { ClearCase(i); }) : Handler([this] { ClearAllCases(); });
         }
     }
     for (Control* control : Controls()) {
         const ControlKind kind = control->Kind();
-        if (control->ColourGroup != 0 || kind == ControlKind::MenuItem || kind == ControlKind::CommandButton) {
+        if (control->ColourGroup != 0 || kind == ControlKind::MenuItem ||
+            kind == ControlKind::CommandButton) {
             continue;
         }
         control->ColourGroup = kind == ControlKind::TextBox ? 2 : kind == ControlKind::ListBox ? 4 : 1;
@@ -126,7 +128,8 @@ void CalculationForm::Load() {
         if (Calc.InCalculation != words::Yes) ApplyUnits();
         ComposeHeading();
         if (Calc.PipeMaterialNumber <= 0) Calc.PipeMaterialNumber = 1;
-        for (std::size_t i = 0; i < PipeMaterials.size(); ++i) Calc.PipeMaterialName[i + 1] = PipeMaterials[i].Name;
+        for (std::size_t i = 0; i < PipeMaterials.size(); ++i)
+            Calc.PipeMaterialName[i + 1] = PipeMaterials[i].Name;
     }
     Calc.FormLoading = words::No;
     const Filling filling;  // ticking an option below is no change of the record

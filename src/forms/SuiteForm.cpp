@@ -13,7 +13,9 @@ bool IsInput(const Control& control) {
 }
 }  // namespace
 
-std::string SuiteForm::ProblemTitle() const { return Calc.ProgramTitle.empty() ? Caption() : Calc.ProgramTitle; }
+std::string SuiteForm::ProblemTitle() const {
+    return Calc.ProgramTitle.empty() ? Caption() : Calc.ProgramTitle;
+}
 
 int SuiteForm::InputSlot(const Control&) const { return slot::InputText; }
 

@@ -44,11 +44,20 @@ struct UnitControl {
 
 constexpr int Single = Control::NoIndex;
 constexpr UnitControl LiquidLossUnits[] = {
-    {"cmdUnits", 1, 1},   {"cmdUnits", 2, 2},   {"cmdUnits", 3, 3},
-    {"cmdUnits", 4, 4},   {"cmdUnits", 6, 6},   {"cmdUnits", 7, 7},
-    {"cmdUnits", 18, 18}, {"cmdUnits", 25, 25}, {"unInletPipeElev", Single, 25},
-    {"unOutletPipeElev", Single, 25}, {"unDropP100", Single, 4}, {"unDestPress", Single, 3},
-    {"unVelocity", Single, 20}, {"unEquivLen", Single, 25},
+    {"cmdUnits", 1, 1},
+    {"cmdUnits", 2, 2},
+    {"cmdUnits", 3, 3},
+    {"cmdUnits", 4, 4},
+    {"cmdUnits", 6, 6},
+    {"cmdUnits", 7, 7},
+    {"cmdUnits", 18, 18},
+    {"cmdUnits", 25, 25},
+    {"unInletPipeElev", Single, 25},
+    {"unOutletPipeElev", Single, 25},
+    {"unDropP100", Single, 4},
+    {"unDestPress", Single, 3},
+    {"unVelocity", Single, 20},
+    {"unEquivLen", Single, 25},
 };
 
 void ShowRow(Form& form, const FormRow& row, int caseIndex) {
@@ -90,7 +99,8 @@ void ShowRows(Form& form, int program) {
 
 void ShowUnits(Form& form) {
     for (const UnitControl& unit : LiquidLossUnits) {
-        Named(form, unit.Control, unit.Index).SetCaption(Calc.UnitName[static_cast<std::size_t>(unit.UnitRow)]);
+        Named(form, unit.Control, unit.Index)
+            .SetCaption(Calc.UnitName[static_cast<std::size_t>(unit.UnitRow)]);
     }
     Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[25]);
 }

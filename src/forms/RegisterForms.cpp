@@ -1,0 +1,54 @@
+// See RegisterForms.h.
+#include "forms/RegisterForms.h"
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "forms/frmLiqLineLoss.h"
+#include "forms/frmObxProg.h"
+#include "forms/frmPipeSize.h"
+#include "forms/frmTRProg.h"
+#include "platform/Forms.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra {
+
+namespace {
+
+template <typename T>
+std::unique_ptr<Form> MakeForm() {
+    return std::make_unique<T>();
+}
+
+struct FormEntry {
+    const char* Name;
+    FormFactory Make;
+};
+
+constexpr FormEntry FormTable[] = {
+    {"frmTRProg", MakeForm<frmTRProg>},
+    {"frmObxProg", MakeForm<frmObxProg>},
+    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>},
+    {"frmPipeSize", MakeForm<frmPipeSize>},
+};
+
+// Routines that fill a form leave FormLoading at "Yes"; the end of the user's act puts it back, so that the
+// next edit blanks results. The panels of units and options clear it themselves when they close.
+void AfterAct() {
+    if (!IsFormLoaded("frmUnits") && !IsFormLoaded("frmCalcOptions")) Calc.FormLoading = words::No;
+}
+
+}  // namespace
+
+void RegisterForms() {
+    for (const FormEntry& entry : FormTable) RegisterForm(entry.Name, entry.Make);
+    SetAfterAct(AfterAct);
+}
+
+bool IsFormKnown(std::string_view name) {
+    for (const FormEntry& entry : FormTable) {
+        if (SameName(entry.Name, name)) return true;
+    }
+    return false;
+}
+
+}  // namespace quillmetra

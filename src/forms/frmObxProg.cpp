@@ -1,0 +1,82 @@
+// See frmObxProg.h.
+#include "forms/frmObxProg.h"
+
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "forms/LoadDefaults.h"
+#include "forms/RegisterForms.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "reports/FormRefresh.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr int SelectorHelpTopic = 400;
+}
+
+frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
+    Fixed = true;
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdCancel;
+    mnuHelp.Shortcut = "F1";
+    // The table editor is yet to come, and with it the way to the tables.
+    for (MenuItem* table : {&mnuGasTable, &mnuLiquidTable, &mnuMaterialTable, &mnuPipeSizes}) {
+        table->SetEnabled(false);
+    }
+    fraProgram.ColourGroup = 1;
+    for (const Program& program : Programs) {
+        OptionButton& option = optProgram(program.Number);
+        option.SetCaption(program.Title);
+        option.ColourGroup = 1;
+        option.SetEnabled(IsFormKnown(program.Form));
+        option.DoubleClick = [this] { cmdOK_Click(); };
+    }
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+    mnuExit.Click = [this] { mnuExit_Click(); };
+    mnuHelp.Click = [] { ShowHelpTopic(SelectorHelpTopic); };
+}
+
+void frmObxProg::Load() {
+    ApplyColours(*this);
+    if (Calc.InCalculation != words::Yes) {
+        ResetRecord();
+        LoadDefaults();
+        Calc.HeadingText[8].clear();
+        Calc.HeadingText[9].clear();
+    }
+    if (Calc.CurrentProgram == 0) Calc.CurrentProgram = 1;
+    SetCaption(Suite.VersionText + "New Calculation");
+    optProgram(Calc.CurrentProgram).SetChecked(true);
+}
+
+void frmObxProg::cmdOK_Click() {
+    const BusyPointer busy;
+    for (const Program& program : Programs) {
+        if (!optProgram(program.Number).Checked()) continue;
+        Calc.CurrentProgram = program.Number;
+        Calc.FluidType = program.FluidType;
+    }
+    ShowCalculation();
+    OpenProgram();
+}
+
+void frmObxProg::OpenProgram() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    if (program == nullptr) return;
+    ShowForm(program->Form);
+    HideForm(Name());
+}
+
+void frmObxProg::cmdCancel_Click() {
+    ShowForm("frmTRProg");
+    UnloadForm(Name());
+}
+
+void frmObxProg::mnuExit_Click() { EndProcess(); }
+
+}  // namespace quillmetra

@@ -1,0 +1,94 @@
+// See frmTRProg.h.
+#include "forms/frmTRProg.h"
+
+#include "core/CalcRecord.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "forms/LoadDefaults.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr int BrowserHelpTopic = 400;
+constexpr const char* SuiteName = "Quillmetra";
+}  // namespace
+
+frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
+    const struct {
+        TextBox& Box;
+        Label& Name;
+    } fields[] = {{txtTagNum, lblTagNum}, {txtTRCalc, lblTRCalc},     {txtFluidType, lblFluidType},
+                  {txtCalcBy, lblCalcBy}, {txtCalcDate, lblCalcDate}, {txtDataDate, lblDataDate}};
+    for (const auto& field : fields) {
+        field.Box.Locked = true;
+        field.Box.ColourGroup = 4;
+        field.Box.Describe(&field.Name);
+    }
+    lstTags.Describe(&fraTags);
+    lstTags.ColourGroup = 4;
+    for (Control* control : Controls()) {
+        const ControlKind kind = control->Kind();
+        if (kind == ControlKind::Frame || kind == ControlKind::Label || kind == ControlKind::OptionButton) {
+            control->ColourGroup = 1;
+        }
+    }
+    mnuExit.SeparatorBefore = true;
+    mnuHelp.Shortcut = "F1";
+    DefaultButton = &cmdOK;
+    optDefaultDB.SetChecked(true);
+    fraTags.SetVisible(false);
+    // The database, printing, paths, colours and the conversion of old data are yet to come.
+    for (Control* control : Controls()) {
+        const bool isEntry = control->Kind() == ControlKind::MenuItem && control->Container() != nullptr;
+        const bool isDatabase = control->Kind() == ControlKind::CommandButton;
+        if (isEntry || isDatabase) control->SetEnabled(false);
+    }
+    optBrouseDB.SetEnabled(false);
+    for (Control* control : std::initializer_list<Control*>{&cmdOK, &mnuExit, &mnuHelp, &mnuAbout}) {
+        control->SetEnabled(true);
+    }
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    mnuExit.Click = [this] { mnuExit_Click(); };
+    mnuHelp.Click = [] { ShowHelpTopic(BrowserHelpTopic); };
+    mnuAbout.Click = [this] { mnuAbout_Click(); };
+}
+
+void frmTRProg::Load() {
+    ApplyColours(*this);
+    SetCaption(Suite.VersionText + SuiteName);
+    LoadDefaults();
+    ShowNoDatabase();
+}
+
+// With no database open the fields of the record and the counters are hidden.
+void frmTRProg::ShowNoDatabase() {
+    for (Control* control : Controls()) {
+        if (control->Container() != &fraRecord) continue;
+        const ControlKind kind = control->Kind();
+        if (kind == ControlKind::TextBox || kind == ControlKind::Label) control->SetVisible(false);
+    }
+    optDefaultDB.SetChecked(true);
+}
+
+void frmTRProg::cmdOK_Click() {
+    ResetRecord();
+    Calc.OtherCalcs = words::NoCodes;
+    Calc.Tag.clear();
+    Calc.TagSaved.clear();
+    Calc.LoadedDatabaseFile.clear();
+    Calc.TagChanged = words::Yes;
+    UnloadForm("frmObxProg");  // so that its load starts the new calculation
+    ShowForm("frmObxProg");
+    HideForm(Name());
+}
+
+void frmTRProg::mnuAbout_Click() {
+    Tell(std::string(SuiteName) + "\n" + Suite.VersionText, SuiteName, Icon::Information);
+}
+
+void frmTRProg::mnuExit_Click() { EndProcess(); }
+
+}  // namespace quillmetra

@@ -1,0 +1,97 @@
+// The record browser, the main window of the suite: opens the database, walks the records, starts a
+// calculation for one of them, and starts new calculations.
+#pragma once
+
+#include "forms/SuiteForm.h"
+
+namespace quillmetra {
+
+class frmTRProg : public SuiteForm {
+public:
+    frmTRProg();
+
+    void Load() override;
+    void CloseBox() override { mnuExit_Click(); }
+
+    MenuItem mnuFile{*this, "mnuFile", "&File"};
+    MenuItem mnuCreateDB{mnuFile, "mnuCreateDB", "Create database"};
+    MenuItem mnuCompactDB{mnuFile, "mnuCompactDB", "Compact database"};
+    MenuItem mnuRepairDB{mnuFile, "mnuRepairDB", "Repair database"};
+    MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
+    MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
+    MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
+    MenuItem mnuDefPath{*this, "mnuDefPath", "Default paths"};
+    MenuItem mnuPathDataFile{mnuDefPath, "mnuPathDataFile", "Data file default path"};
+    MenuItem mnuPathUserUnitFile{mnuDefPath, "mnuPathUserUnitFile", "User unit file default path"};
+    MenuItem mnuPathPrintHdgs{mnuDefPath, "mnuPathPrintHdgs", "Printout heading file default path"};
+    MenuItem mnuPathTables{mnuDefPath, "mnuPathTables", "Tables default path"};
+    MenuItem mnuColours{*this, "mnuColours", "&Colours"};
+    MenuItem mnuColInputFrame{mnuColours, "mnuColInputFrame", "Input frame background"};
+    MenuItem mnuColInputFrameText{mnuColours, "mnuColInputFrameText", "Input frame text"};
+    MenuItem mnuColInputBack{mnuColours, "mnuColInputBack", "Input field background"};
+    MenuItem mnuColInputText{mnuColours, "mnuColInputText", "Input field text"};
+    MenuItem mnuColOptsFrame{mnuColours, "mnuColOptsFrame", "Options frame background"};
+    MenuItem mnuColOptsFrameText{mnuColours, "mnuColOptsFrameText", "Options frame text"};
+    MenuItem mnuColOptsBack{mnuColours, "mnuColOptsBack", "Options field background"};
+    MenuItem mnuColOptsText{mnuColours, "mnuColOptsText", "Options field text"};
+    MenuItem mnuBackground{mnuColours, "mnuBackground", "Form background"};
+    MenuItem mnuChangeData{mnuColours, "mnuChangeData", "Changed data"};
+    MenuItem mnuColorOptsSelBG{mnuColours, "mnuColorOptsSelBG", "Selected field background"};
+    MenuItem mnuColorOptsSelFG{mnuColours, "mnuColorOptsSelFG", "Selected field text"};
+    MenuItem mnuSaveColor{mnuColours, "mnuSaveColor", "Save colours"};
+    MenuItem mnuBackgroundList{mnuColours, "mnuBackgroundList", "Background list"};
+    MenuItem mnuOptions{*this, "mnuOptions", "&Options"};
+    MenuItem mnuDoNotShow{mnuOptions, "mnuDoNotShow", "Hide prompting messages"};
+    MenuItem mnuHelpHead{*this, "mnuHelpHead", "&Help"};
+    MenuItem mnuHelp{mnuHelpHead, "mnuHelp", "&Help"};
+    MenuItem mnuAbout{mnuHelpHead, "mnuAbout", "&About"};
+
+    Frame fraDatabase{*this, "fraDatabase", "Records database"};
+    OptionButton optDefaultDB{fraDatabase, "optDefaultDB", "DB on Defa&ult Path"};
+    OptionButton optBrouseDB{fraDatabase, "optBrouseDB", "&Browse for DB Path"};
+    CommandButton cmdDBOpen{fraDatabase, "cmdDBOpen", "&Open database"};
+    CommandButton cmdDBClose{fraDatabase, "cmdDBClose", "&Close database"};
+    ControlArray<Label> lblPath{fraDatabase, "lblPath", {0}, ""};
+
+    Frame fraRecord{*this, "fraRecord", "Selected record"};
+    Label lblTagNum{fraRecord, "lblTagNum", "Tag number"};
+    TextBox txtTagNum{fraRecord, "txtTagNum"};
+    Label lblTRCalc{fraRecord, "lblTRCalc", "Calculation"};
+    TextBox txtTRCalc{fraRecord, "txtTRCalc"};
+    Label lblFluidType{fraRecord, "lblFluidType", "Fluid type"};
+    TextBox txtFluidType{fraRecord, "txtFluidType"};
+    Label lblCalcBy{fraRecord, "lblCalcBy", "Calculated by"};
+    TextBox txtCalcBy{fraRecord, "txtCalcBy"};
+    Label lblCalcDate{fraRecord, "lblCalcDate", "Calculation date"};
+    TextBox txtCalcDate{fraRecord, "txtCalcDate"};
+    Label lblDataDate{fraRecord, "lblDataDate", "Process data date"};
+    TextBox txtDataDate{fraRecord, "txtDataDate"};
+    Label lblCurrentRecord{fraRecord, "lblCurrentRecord"};
+    Label lblNumRecords{fraRecord, "lblNumRecords"};
+    CommandButton cmdFirst{fraRecord, "cmdFirst", "&First"};
+    CommandButton cmdPrev{fraRecord, "cmdPrev", "&Previous"};
+    CommandButton cmdNext{fraRecord, "cmdNext", "&Next"};
+    CommandButton cmdLast{fraRecord, "cmdLast", "&Last"};
+    CommandButton cmdBrowse{fraRecord, "cmdBrowse", "B&rowse tags"};
+    CommandButton cmdFind{fraRecord, "cmdFind", "Fin&d tag"};
+    CommandButton cmdSearchDate{fraRecord, "cmdSearchDate", "Search by da&te"};
+    CommandButton cmdDelete{fraRecord, "cmdDelete", "D&elete"};
+    CommandButton cmdDisplayCalc{fraRecord, "cmdDisplayCalc", "Display Calculation"};
+
+    Frame fraTags{*this, "fraTags", "Tag numbers"};
+    ListBox lstTags{fraTags, "lstTags"};
+    CommandButton cmdSelect{fraTags, "cmdSelect", "&Select"};
+    CommandButton cmdCancel{fraTags, "cmdCancel", "Cancel"};
+
+    Frame fraPrograms{*this, "fraPrograms", "New Calculation"};
+    CommandButton cmdOK{fraPrograms, "cmdOK", "&Go to Menu"};
+
+    void cmdOK_Click();
+    void mnuAbout_Click();
+    void mnuExit_Click();
+
+private:
+    void ShowNoDatabase();
+};
+
+}  // namespace quillmetra
