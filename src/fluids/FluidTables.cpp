@@ -1,0 +1,123 @@
+// See FluidTables.h.
+#include "fluids/FluidTables.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/CalcRecord.h"
+#include "core/Suite.h"
+#include "fluids/LiquidCorrelations.h"
+#include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
+
+namespace quillmetra {
+
+namespace {
+
+std::string TablePath(std::string_view fluidType) {
+    return Suite.DefaultPaths[4] + "\\" + std::string(fluidType) + ".txt";
+}
+
+// Column numbers count from 1, as the tables' descriptions do.
+using Fields = std::array<std::string_view, 20>;
+
+// The first fields of a row, empty where it has no more.
+Fields SplitRow(std::string_view row, std::size_t count) {
+    Fields fields{};
+    std::size_t start = 0;
+    for (std::size_t i = 1; i <= count && start <= row.size(); ++i) {
+        const std::size_t end = std::min(row.find(',', start), row.size());
+        fields[i] = row.substr(start, end - start);
+        start = end + 1;
+    }
+    return fields;
+}
+
+std::string Rejoined(const Fields& fields, std::size_t count) {
+    std::string row;
+    for (std::size_t i = 1; i <= count; ++i) row.append(Trim(fields[i])).append(1, ',');
+    return row;
+}
+
+struct Column {
+    std::size_t Number;
+    double CalcRecord::*Field;
+};
+
+constexpr std::size_t LiquidColumns = 17;
+
+// Columns 1 and 2 are texts.
+constexpr std::array<Column, 15> LiquidNumbers = {{
+    {3, &CalcRecord::MolecularWeight},
+    {4, &CalcRecord::SGAtStandard},
+    {5, &CalcRecord::CritTemperature},
+    {6, &CalcRecord::ViscosityTemp1},
+    {7, &CalcRecord::Viscosity1},
+    {8, &CalcRecord::ViscosityTemp2},
+    {9, &CalcRecord::Viscosity2},
+    {10, &CalcRecord::CritPressure},
+    {11, &CalcRecord::NormalBoilingPoint},
+    {12, &CalcRecord::LiquidCp60},
+    {13, &CalcRecord::LiquidCp300},
+    {14, &CalcRecord::FlashPoint},
+    {15, &CalcRecord::BulkModulusBase},
+    {16, &CalcRecord::BulkModulusSlope},
+    {17, &CalcRecord::LiquidLatentHeat},
+}};
+
+}  // namespace
+
+std::vector<std::string> ReadFluidRows(std::string_view fluidType) {
+    LineReader file(TablePath(fluidType));
+    std::vector<std::string> rows;
+    std::string line;
+    file.Next(line);
+    while (file.Next(line)) rows.push_back(line);
+    return rows;
+}
+
+std::string_view FluidRowName(std::string_view row) {
+    return Trim(row.substr(0, row.find(',')));
+}
+
+int FindFluidName(const std::vector<std::string>& rows, std::string_view name) {
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [name](const std::string& row) { return FluidRowName(row) == name; });
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+void FindFluidRow() {
+    try {
+        LineReader file(TablePath(Calc.FluidType));
+        std::string line;
+        file.Next(line);
+        while (file.Next(line)) {
+            if (FluidRowName(line) != Calc.FluidName) continue;
+            Calc.FluidRow = line;
+            return;
+        }
+    } catch (const RuntimeError&) {
+        Calc.FluidRow.clear();
+    }
+}
+
+void ParseLiquidRow() {
+    const Fields fields = SplitRow(Calc.FluidRow, LiquidColumns);
+    Calc.SelectedFluidName = Trim(fields[1]);
+    Calc.FluidClass = fields[2];
+    for (const Column& column : LiquidNumbers) Calc.*column.Field = Val(fields[column.Number]);
+    // To degrees Rankine by 460.0, though every other temperature uses 459.67: settled, and limits depend on
+    // it.
+    Calc.CritTemperature += 460.0;
+    Calc.MessageText = Rejoined(fields, LiquidColumns);
+
+    const ViscosityLine line =
+        ViscosityLineOf(Calc.ViscosityTemp1, Calc.Viscosity1, Calc.ViscosityTemp2, Calc.Viscosity2);
+    Calc.ViscosityA = line.A;
+    Calc.ViscosityB = line.B;
+    Calc.FluidViscosity = ViscosityAt(line, Calc.FlowTemperature);
+    Calc.LiquidSpecificHeat = LiquidSpecificHeatAt(Calc.LiquidCp60, Calc.LiquidCp300, Calc.FlowTemperature);
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,29 @@
+// The rows of Liquid.txt and Gas.txt: found by name, listed for a pick, and parsed into the record.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmetra {
+
+// The lines of the fluid table after its heading, whole, for "Liquid" or "Gas". Throws the RuntimeError of a
+// file that cannot be read; a table that is empty or has a heading alone gives no rows.
+std::vector<std::string> ReadFluidRows(std::string_view fluidType);
+
+// The fluid name of a row: its text before the first comma, trimmed.
+std::string_view FluidRowName(std::string_view row);
+
+// The index of the first row with exactly this name; -1 when there is none.
+int FindFluidName(const std::vector<std::string>& rows, std::string_view name);
+
+// Sets FluidRow to the row of FluidName in the table of FluidType. A file failure empties it, a name that the
+// table does not have leaves it as it was.
+void FindFluidRow();
+
+// Splits FluidRow into the liquid fields of the record and derives viscosity and specific heat at
+// FlowTemperature. A field that is missing or no number reads 0; the derived values may then be infinite or
+// no numbers, which ProcessLiquidData tells of. MessageText becomes the row with its fields trimmed.
+void ParseLiquidRow();
+
+}  // namespace quillmetra

@@ -1,0 +1,154 @@
+// See LiquidData.h.
+#include "fluids/LiquidData.h"
+
+#include <cmath>
+#include <string>
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "fluids/LiquidCorrelations.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr double Rankine = 459.67;  // degF to degR
+constexpr double Base = 60;         // degF, of the gravities
+constexpr double BaseRankine = 519.67;
+
+constexpr const char* Title = "Liquid Calculation";
+constexpr int Organic = 1;
+constexpr int Water = 3;
+
+int FluidClassNumber() {
+    const double number = Val(Calc.FluidClass);
+    return number == Organic ? Organic : number == Water ? Water : 0;
+}
+
+bool IsMixture() {
+    return Calc.FluidOk != words::FluidPicked;
+}
+
+bool GoOnAboveCritical() {
+    if (!(Calc.FlowTemperature > Calc.CritTemperature - Rankine)) return true;
+    return AskYesNo("Flow temperature is greater then Critical temperature\nContinue ?", Title);
+}
+
+// The vapor pressure is told in the unit of the pressure row, gauge or absolute as the pressure itself.
+bool GoOnBelowVaporPressure() {
+    if (!(Calc.VaporPressure >= Calc.FlowPressure)) return true;
+    const double pressure =
+        Calc.PressureMode == words::Gauge ? Calc.VaporPressure - Calc.BaroPressure : Calc.VaporPressure;
+    const std::string shown = TrimmedStr(RoundedFour(pressure / Calc.UnitFactor[3]));
+    if (AskYesNo("At the pressure and temperature entered\n The Vapor Pressure is " + shown + " " +
+                     Calc.UnitName[3] + "\nThis indicates that the fluid is a gas!\nContinue ?",
+                 Title)) {
+        return true;
+    }
+    Calc.SelectedFluidName.clear();
+    return false;
+}
+
+bool ResultsAreFinite() {
+    return std::isfinite(Calc.VaporPressure) && std::isfinite(Calc.FlowingSG) &&
+           std::isfinite(Calc.FluidViscosity) && std::isfinite(Calc.SGAtStandard);
+}
+
+bool TellNotCalculated() {
+    Calc.VaporPressure = 0;
+    Calc.FlowingSG = 0;
+    Calc.FluidViscosity = 0;
+    Tell("Fluid properties cannot be calculated", Title);
+    return false;
+}
+
+void CalcGravityAndViscosity() {
+    if (FluidClassNumber() == Water) {
+        CalcWaterProperties();
+        return;
+    }
+    CalcLiquidSG();
+    if (FluidClassNumber() != Organic) return;
+    if (Calc.FlowingSG < 1) CalcLightLiquidCompressibility();
+    if (Calc.FluidViscosity > 1.2) {
+        Calc.FluidViscosity *= PressureViscosityFactor(Calc.FluidViscosity, Calc.FlowPressure);
+    }
+}
+
+// How far the vapor pressure at 60 degF lies above the barometer, psi. The water hammer program does without
+// for a mixture, and does not put the vapor pressure at flow back, since it does not show it.
+double PressureOffset() {
+    const bool waterHammer = Calc.CurrentProgram == 3;
+    if (waterHammer && IsMixture()) return 0;
+    const double flowTemperature = Calc.FlowTemperature;
+    const double vaporPressure = Calc.VaporPressure;
+    Calc.FlowTemperature = Base;
+    CalcVaporPressure();
+    Calc.FlowTemperature = flowTemperature;
+    const double above = Calc.VaporPressure - Calc.BaroPressure;
+    if (!waterHammer) Calc.VaporPressure = vaporPressure;
+    return above > 0 ? above : 0;
+}
+
+}  // namespace
+
+void CalcVaporPressure() {
+    Calc.ReducedBoilingTemperature = ReducedTemperatureOf(Calc.NormalBoilingPoint, Calc.CritTemperature);
+    Calc.ReducedTemperature = ReducedTemperatureOf(Calc.FlowTemperature, Calc.CritTemperature);
+    Calc.VaporPressure = VaporPressureOf(Calc.NormalBoilingPoint, Calc.CritTemperature, Calc.CritPressure,
+                                         Calc.FlowTemperature);
+}
+
+void CalcLiquidCompressibility() {
+    Calc.ReducedTemperature60 = static_cast<float>(BaseRankine / Calc.CritTemperature);
+    Calc.ReducedTemperature = ReducedTemperatureOf(Calc.FlowTemperature, Calc.CritTemperature);
+    const double at60 = GeneralCompressibility(static_cast<double>(Calc.ReducedTemperature60));
+    Calc.CompressibilityAt60 = 1 + at60 * Calc.BaroPressure / 1000;
+    Calc.LiquidCompressibility = GeneralCompressibility(Calc.ReducedTemperature);
+}
+
+void CalcLiquidSG() {
+    Calc.CritCompressFactor = CritCompressibilityOf(Calc.SGAtStandard, Calc.CritTemperature,
+                                                    Calc.CritPressure, Calc.MolecularWeight);
+    Calc.FlowingSG = GravityAt(Calc.CritCompressFactor, Calc.CritTemperature, Calc.CritPressure,
+                               Calc.MolecularWeight, Calc.FlowTemperature);
+}
+
+void CalcLightLiquidCompressibility() {
+    const double gravity = Calc.FlowingSG;
+    Calc.CompressibilityAt60 = 1 + (LightCompressibilityAt60(gravity) * Calc.BaroPressure) / 1000;
+    Calc.LiquidCompressibility = LightCompressibility(gravity, Calc.FlowTemperature);
+}
+
+void CalcWaterProperties() {
+    Calc.FlowingSG = WaterGravityAt(Calc.FlowTemperature);
+    Calc.FluidViscosity = WaterViscosityAt(Calc.FlowTemperature);
+}
+
+bool ProcessLiquidData() {
+    if (!GoOnAboveCritical()) return false;
+    if (IsMixture()) {
+        Calc.VaporPressure = 0;
+    } else {
+        CalcVaporPressure();
+        if (!std::isfinite(Calc.VaporPressure)) return TellNotCalculated();
+        if (!GoOnBelowVaporPressure()) return false;
+    }
+    CalcLiquidCompressibility();
+    CalcGravityAndViscosity();
+    const double offset = PressureOffset();
+    Calc.PressureCorrection = 1 + (Calc.LiquidCompressibility * (Calc.FlowPressure - offset)) / 1000;
+    if (FluidClassNumber() != Water) {
+        Calc.FlowingSG = Calc.FlowingSG * Calc.PressureCorrection / Calc.CompressibilityAt60;
+        if (Calc.MixtureFlag == words::Yes) {
+            Calc.SGAtStandard = BaseGravityOf(Calc.CritCompressFactor, Calc.CritTemperature,
+                                              Calc.CritPressure, Calc.MolecularWeight);
+        }
+    }
+    return ResultsAreFinite() || TellNotCalculated();
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,80 @@
+// A host without a screen for tests of what asks or tells the user: it keeps the boxes that were shown and
+// gives the answers that a test has queued.
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/Host.h"
+
+namespace quillmetra {
+
+class FakeHost : public Host {
+public:
+    FakeHost() : former_(CurrentHost()) { InstallHost(this); }
+    ~FakeHost() override { InstallHost(former_); }
+    FakeHost(const FakeHost&) = delete;
+    FakeHost& operator=(const FakeHost&) = delete;
+
+    // Answers of the coming boxes and of input boxes. A box that finds none takes its default, an input box
+    // is cancelled.
+    std::deque<Answer> Answers;
+    std::deque<std::string> Inputs;
+
+    std::vector<MessageBox> Boxes;     // those shown so far, oldest first
+    std::vector<std::string> Prompts;  // of input boxes
+    std::vector<int> HelpTopics;
+    bool EscapePressed = false;  // what Yield tells
+    bool Ended = false;
+
+    // The text of the last box; empty when none was shown.
+    std::string LastText() const { return Boxes.empty() ? "" : Boxes.back().Text; }
+
+    Answer ShowMessageBox(const MessageBox& box) override {
+        CountBox();
+        Boxes.push_back(box);
+        if (box.Choice == Buttons::Ok) return Answer::Ok;
+        if (Answers.empty()) return DefaultAnswer(box);
+        const Answer answer = Answers.front();
+        Answers.pop_front();
+        return answer;
+    }
+
+    std::optional<std::string> InputBox(const std::string& prompt, const std::string&) override {
+        CountBox();
+        Prompts.push_back(prompt);
+        if (Inputs.empty()) return std::nullopt;
+        std::string text = Inputs.front();
+        Inputs.pop_front();
+        return text;
+    }
+
+    std::optional<std::string> FileDialog(const FileQuestion&) override { return std::nullopt; }
+    std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return std::nullopt; }
+    std::optional<FontChoice> FontDialog(const FontChoice&) override { return std::nullopt; }
+    std::optional<unsigned> ColourDialog(unsigned) override { return std::nullopt; }
+    void ShowHelp(int topic) override { HelpTopics.push_back(topic); }
+    void SetBusyPointer(bool) override {}
+    bool Yield() override { return EscapePressed; }
+    void FormShown(Form&) override {}
+    void RunModal(Form&) override {}
+    void FormHidden(Form&) override {}
+    void FormGone(Form&) override {}
+    void FormChanged(Form&) override {}
+    void ControlChanged(Control&, Aspect) override {}
+    void FocusMoved(Form&) override {}
+    void ProcessEnded() override { Ended = true; }
+
+private:
+    // A loop that asks until it gets a good answer would never end without a user.
+    void CountBox() {
+        if (Boxes.size() + Prompts.size() >= 1000) throw std::logic_error("more than 1000 boxes in a test");
+    }
+
+    Host* former_;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,66 @@
+// The fixture of every test that touches the record: fresh aggregates, fresh forms, a folder of its own with
+// the shipped tables, and a host that records what the user would see.
+#pragma once
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "core/CalcRecord.h"
+#include "core/StartUp.h"
+#include "core/Suite.h"
+#include "platform/Forms.h"
+#include "platform/TextFiles.h"
+#include "tests/FakeHost.h"
+
+namespace quillmetra {
+
+// The source tree, for tests that read checked-in data.
+inline std::filesystem::path SourceFolder() {
+    const char* folder = std::getenv("QUILLMETRA_SOURCE");
+    return folder == nullptr ? "." : folder;
+}
+
+class SuiteTest : public ::testing::Test {
+protected:
+    SuiteTest() {
+        ResetForms();
+        Calc = CalcRecord();
+        Suite = SuiteState();
+        std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
+
+        std::string pattern = (std::filesystem::temp_directory_path() / "quillmetra-XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+        Folder = pattern;
+        std::filesystem::create_directory(DataFolder());
+        for (const char* name : {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"}) {
+            std::filesystem::copy_file(SourceFolder() / "data" / name, DataFolder() / name);
+        }
+        Suite.DefaultPaths.fill(SuitePath(DataFolder()));
+        Suite.DefaultPaths[5] = SuitePath(Folder);
+    }
+
+    ~SuiteTest() override {
+        ResetForms();
+        std::error_code ignored;
+        std::filesystem::remove_all(Folder, ignored);
+    }
+
+    // Where the data files of this test lie; Folder is the program's own.
+    std::filesystem::path DataFolder() const { return Folder / "TRData"; }
+
+    // Replaces a data file of this test, bytes as they are.
+    void WriteData(const std::string& name, std::string_view bytes) const {
+        std::ofstream(DataFolder() / name, std::ios::binary) << bytes;
+    }
+
+    std::filesystem::path Folder;
+    FakeHost User;
+};
+
+}  // namespace quillmetra
