@@ -80,9 +80,7 @@ void Control::SetVisible(bool visible) {
 
 bool Control::Seen() const { return visible_ && (container_ == nullptr || container_->Seen()); }
 
-bool Control::Works() const {
-    return enabled_ && visible_ && (container_ == nullptr || container_->Works());
-}
+bool Control::Works() const { return enabled_ && visible_ && (container_ == nullptr || container_->Works()); }
 
 void Control::SetToolTip(const std::string& text) {
     if (text == toolTip_) return;
@@ -198,7 +196,10 @@ void Grid::SetSize(int rows, int columns) {
     columns_ = std::max(columns, 0);
     cells_.resize(static_cast<std::size_t>(std::max(rows, 0)));
     for (auto& row : cells_) row.resize(static_cast<std::size_t>(columns_));
-    if (selected_ >= RowCount()) selected_ = -1;
+    if (selected_ >= RowCount() || selectedColumn_ >= columns_) {
+        selected_ = -1;
+        selectedColumn_ = 0;
+    }
     Notify(Aspect::Rows);
 }
 
