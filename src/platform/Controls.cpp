@@ -196,7 +196,10 @@ void Grid::SetSize(int rows, int columns) {
     columns_ = std::max(columns, 0);
     cells_.resize(static_cast<std::size_t>(std::max(rows, 0)));
     for (auto& row : cells_) row.resize(static_cast<std::size_t>(columns_));
-    if (selected_ >= RowCount()) selected_ = -1;
+    if (selected_ >= RowCount() || selectedColumn_ >= columns_) {
+        selected_ = -1;
+        selectedColumn_ = 0;
+    }
     Notify(Aspect::Rows);
 }
 

@@ -18,13 +18,22 @@ public:
     ModalLevel& operator=(const ModalLevel&) = delete;
 };
 
-void HandlerStarts();
-void HandlerEnds();
+// A handler runs for the life of this.
+class HandlerScope {
+public:
+    HandlerScope();
+    ~HandlerScope();
+    HandlerScope(const HandlerScope&) = delete;
+    HandlerScope& operator=(const HandlerScope&) = delete;
+};
+
 // The focus move that waits for the handler in hand to end, when that is the outermost of its level; null
 // when there is none. Each move is given out once.
 Control* DueFocusMove();
 // True when no handler runs at any level.
 bool Idle();
+// True in the handler that no other one waits for, at any level.
+bool Outermost();
 // Asks for the focus; done at once when no handler runs at this level.
 void AskFocus(Control& control);
 void ForgetFocusMoves(const Form& form);
@@ -32,6 +41,8 @@ void Reset();
 
 }  // namespace events
 
-// What follows a user's act: the after-act hook, and the end of forms that were unloaded meanwhile.
-void AfterUserAct();
+// The hook that follows a user's act.
+void RunAfterAct();
+// Destroys the forms that were unloaded, unless a handler runs that may still refer to them.
+void BuryForms();
 }  // namespace quillmetra

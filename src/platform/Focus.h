@@ -4,7 +4,8 @@
 //   message box or another window is no loss of focus;
 // - while a LostFocus handler runs, no other LostFocus of that form starts;
 // - a move asked for by a handler is done when the outermost handler of its modal level has ended; the last
-//   one asked for wins, and it fires GotFocus but not LostFocus.
+//   one asked for wins, and it fires GotFocus but not LostFocus;
+// - a move asked for while the form is not shown is done when it is.
 #pragma once
 
 namespace quillmetra {
@@ -24,7 +25,10 @@ public:
     void UserLeaves();
     // A handler asked for the focus: GotFocus alone.
     void CodeMoves(Control& target);
-    // The first control that can take it has the focus when the form is first shown.
+    // The form is not shown: the control gets the focus, and its GotFocus, when it is.
+    void WhenShown(Control& target);
+    // The form is shown. The first time, the first control that can take it has the focus unless a handler
+    // asked for another one.
     void Start();
 
 private:
@@ -34,6 +38,7 @@ private:
     Form& form_;
     Control* current_ = nullptr;
     bool losing_ = false;
+    bool waiting_ = false;  // the current control has the focus, but has not been told
 };
 
 }  // namespace quillmetra

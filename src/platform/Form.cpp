@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <stdexcept>
+#include <utility>
 
 #include "platform/Events.h"
 #include "platform/Forms.h"
@@ -25,9 +26,8 @@ ModalLevel::~ModalLevel() {
     if (Levels.size() > 1) Levels.pop_back();
 }
 
-void HandlerStarts() { ++Levels.back().Handlers; }
-
-void HandlerEnds() { --Levels.back().Handlers; }
+HandlerScope::HandlerScope() { ++Levels.back().Handlers; }
+HandlerScope::~HandlerScope() { --Levels.back().Handlers; }
 
 Control* DueFocusMove() {
     return Levels.back().Handlers == 1 ? std::exchange(Levels.back().WantsFocus, nullptr) : nullptr;
@@ -35,8 +35,12 @@ Control* DueFocusMove() {
 
 bool Idle() { return Levels.size() == 1 && Levels.back().Handlers == 0; }
 
+bool Outermost() { return Levels.size() == 1 && Levels.back().Handlers == 1; }
+
 void AskFocus(Control& control) {
-    if (Levels.back().Handlers > 0) {
+    if (!control.Owner().Visible()) {
+        control.Owner().Focus.WhenShown(control);
+    } else if (Levels.back().Handlers > 0) {
         Levels.back().WantsFocus = &control;
     } else {
         control.Owner().Dispatch([&control] { events::AskFocus(control); });
@@ -77,7 +81,8 @@ void FocusModel::Gain(Control& target) {
 void FocusModel::UserMoves(Control& target) {
     if (&target == current_) return;
     Lose();
-    if (target.Works()) Gain(target);
+    // What ran for the old control may have switched off the new one, or closed the form.
+    if (target.Works() && form_.Visible()) Gain(target);
 }
 
 void FocusModel::UserLeaves() {
@@ -87,13 +92,25 @@ void FocusModel::UserLeaves() {
 }
 
 void FocusModel::CodeMoves(Control& target) {
+    if (!form_.Visible()) return WhenShown(target);
     if (!target.Works()) return;
-    if (current_ != nullptr && current_ != &target) form_.ControlLostFocus(*current_);
+    if (current_ == &target) {
+        // No move; a toolkit may have put its own focus elsewhere meanwhile.
+        if (Host* host = CurrentHost()) host->FocusMoved(form_);
+        return;
+    }
+    if (current_ != nullptr) form_.ControlLostFocus(*current_);
     Gain(target);
 }
 
+void FocusModel::WhenShown(Control& target) {
+    current_ = &target;
+    waiting_ = true;
+}
+
 void FocusModel::Start() {
-    if (current_ != nullptr) return;
+    if (std::exchange(waiting_, false) && current_->Works()) return Gain(*current_);
+    if (current_ != nullptr && current_->Works()) return;
     for (Control* control : form_.TabStops()) {
         if (!control->Works()) continue;
         Gain(*control);
@@ -160,19 +177,30 @@ void Form::SetBackColour(Colour colour) {
 }
 
 void Form::Dispatch(const Handler& act) {
-    ++running_;
-    events::HandlerStarts();
+    const FormHold hold(*this);
+    const events::HandlerScope scope;
     Guarded(act);
+    MoveFocusAsAsked();
+    if (!events::Outermost()) return;
+    Guarded(RunAfterAct);
+    MoveFocusAsAsked();
+}
+
+void Form::MoveFocusAsAsked() {
     // A GotFocus may ask for the focus again; two that ask for each other must not go on for ever.
     constexpr int mostMoves = 10;
-    for (int moves = 0; moves < mostMoves; ++moves) {
-        Control* const target = events::DueFocusMove();
-        if (target == nullptr) break;
-        Guarded([target] { target->Owner().Focus.CodeMoves(*target); });
+    Control* target = events::DueFocusMove();
+    for (int moves = 0; target != nullptr && moves < mostMoves; ++moves) {
+        Form& owner = target->Owner();
+        const FormHold hold(owner);
+        owner.Guarded([&] { owner.Focus.CodeMoves(*target); });
+        target = events::DueFocusMove();
     }
-    events::HandlerEnds();
-    --running_;
-    AfterUserAct();  // may destroy this form
+}
+
+FormHold::~FormHold() {
+    --form_.holds_;
+    BuryForms();  // may destroy the form
 }
 
 // Runs a part of an act. What escapes from it is told here, at the last place where the user can be told.
@@ -186,9 +214,7 @@ void Form::Guarded(const Handler& part) {
     } catch (const std::exception& error) {
         words = error.what();
     }
-    if (Host* host = CurrentHost()) {
-        host->ShowMessageBox({.Text = words, .Title = ProblemTitle(), .Sign = Icon::Stop});
-    }
+    if (CurrentHost() != nullptr) Tell(words, ProblemTitle(), Icon::Stop);
 }
 
 }  // namespace quillmetra

@@ -63,9 +63,11 @@ public:
 
 private:
     friend class Control;
+    friend class FormHold;
     friend class FormRegistry;
     void Register(Control& control);
     void Guarded(const Handler& part);
+    static void MoveFocusAsAsked();
 
     std::string name_;
     std::string caption_;
@@ -73,7 +75,7 @@ private:
     bool enabled_ = true;
     bool visible_ = false;
     bool modal_ = false;
-    int running_ = 0;  // handlers of this form on the stack
+    int holds_ = 0;  // see FormHold
     Colour back_ = 0x00FFFFFF;
     std::vector<Control*> controls_;
 
@@ -87,6 +89,19 @@ private:
         std::size_t operator()(const NameKey& key) const;
     };
     std::unordered_map<NameKey, Control*, NameHash> byName_;
+};
+
+// Keeps the object of a form for as long as this lives: one act may run several handlers, and any of them
+// may unload the form.
+class FormHold {
+public:
+    explicit FormHold(Form& form) : form_(form) { ++form_.holds_; }
+    ~FormHold();
+    FormHold(const FormHold&) = delete;
+    FormHold& operator=(const FormHold&) = delete;
+
+private:
+    Form& form_;
 };
 
 }  // namespace quillmetra

@@ -2,6 +2,8 @@
 #include "platform/Forms.h"
 
 #include <algorithm>
+#include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "platform/Events.h"
@@ -9,7 +11,7 @@
 
 namespace quillmetra {
 
-// Owns the loaded forms, and the unloaded ones for as long as a handler of theirs is on the stack.
+// Owns the loaded forms, and the unloaded ones until the act that unloaded them has ended.
 class FormRegistry {
 public:
     struct Factory {
@@ -29,37 +31,29 @@ public:
         const auto factory = std::find_if(Factories.begin(), Factories.end(),
                                           [&](const Factory& each) { return SameName(each.Name, name); });
         if (factory == Factories.end()) throw failure::NoSuchForm(name);
-        loaded_.push_back(factory->Make());
-        Form& form = *loaded_.back();
-        ++form.running_;
-        struct Guard {
-            int& Running;
-            ~Guard() { --Running; }
-        } guard{form.running_};
-        form.Load();
+        std::unique_ptr<Form> made = factory->Make();
+        Form& form = *made;
+        if (!SameName(form.Name(), factory->Name))
+            throw std::logic_error(factory->Name + " made " + form.Name());
+        loaded_.push_back(std::move(made));
+        RunLoad(form);
         return form;
     }
 
     void Show(Form& form, Modal modal) {
         Host* const host = CurrentHost();
-        if (host == nullptr) return;
-        const bool wasModal = form.modal_;
+        if (host == nullptr || Ended) return;
+        const FormHold hold(form);
+        const bool opensLevel = modal == Modal::Yes && !form.modal_;
         form.visible_ = true;
-        form.modal_ = modal == Modal::Yes;
-        form.Dispatch([&form] { form.Focus.Start(); });
-        if (modal == Modal::No || wasModal) {
-            host->FormShown(form);
+        if (!opensLevel) {
+            StartFocus(form);
+            if (form.visible_) host->FormShown(form);
             return;
         }
-        ++form.running_;
-        modal_.push_back(&form);
-        {
-            const events::ModalLevel level;
-            host->RunModal(form);
-        }
-        std::erase(modal_, &form);
-        form.modal_ = false;
-        --form.running_;
+        const ModalStay stay(*this, form);
+        StartFocus(form);
+        if (form.visible_) host->RunModal(form);
     }
 
     void Hide(Form& form) {
@@ -80,10 +74,11 @@ public:
         Bury();
     }
 
-    // Destroys the unloaded forms of which no handler is on the stack.
+    // A handler of any form may hold on to what it unloaded, so nothing is destroyed before the act ends.
     void Bury() {
+        if (!events::Idle()) return;
         for (std::size_t i = 0; i < unloaded_.size();) {
-            if (unloaded_[i]->running_ > 0) {
+            if (unloaded_[i]->holds_ > 0) {
                 ++i;
                 continue;
             }
@@ -101,10 +96,10 @@ public:
     }
 
     void Reset() {
+        events::Reset();
+        modal_.clear();
         while (!loaded_.empty()) Unload(loaded_.back()->Name());
         Bury();
-        modal_.clear();
-        events::Reset();
         Ended = false;
         AfterAct = {};
     }
@@ -114,6 +109,43 @@ public:
     bool Ended = false;
 
 private:
+    // The stay of a form over all others, with an event level of its own.
+    struct ModalStay {
+        ModalStay(FormRegistry& registry, Form& form) : Registry(registry), Shown(form) {
+            Shown.modal_ = true;
+            Registry.modal_.push_back(&Shown);
+        }
+        ~ModalStay() {
+            std::erase(Registry.modal_, &Shown);
+            Shown.modal_ = false;
+        }
+        ModalStay(const ModalStay&) = delete;
+        ModalStay& operator=(const ModalStay&) = delete;
+
+        FormRegistry& Registry;
+        Form& Shown;
+        events::ModalLevel Level;
+    };
+
+    // A form whose Load fails is not loaded, so that the next one who names it does not get half of it.
+    void RunLoad(Form& form) {
+        const std::string name = form.Name();
+        {
+            const FormHold hold(form);
+            try {
+                form.Load();
+            } catch (...) {
+                Unload(name);
+                throw;
+            }
+        }
+        if (Loaded(name) != &form) throw failure::Unloaded();
+    }
+
+    static void StartFocus(Form& form) {
+        form.Dispatch([&form] { form.Focus.Start(); });
+    }
+
     std::vector<std::unique_ptr<Form>> loaded_;
     std::vector<std::unique_ptr<Form>> unloaded_;
     std::vector<Form*> modal_;
@@ -158,10 +190,11 @@ bool TakesInput(const Form& form) {
 
 void SetAfterAct(Handler afterAct) { Registry().AfterAct = std::move(afterAct); }
 
-void AfterUserAct() {
-    if (events::Idle() && Registry().AfterAct) Registry().AfterAct();
-    Registry().Bury();
+void RunAfterAct() {
+    if (Registry().AfterAct) Registry().AfterAct();
 }
+
+void BuryForms() { Registry().Bury(); }
 
 void EndProcess() {
     Registry().Ended = true;

@@ -25,8 +25,8 @@ inline bool IsFormLoaded(std::string_view name) { return LoadedForm(name) != nul
 // Shows a form; a modal one returns when it was hidden or unloaded.
 void ShowForm(std::string_view name, Modal modal = Modal::No);
 void HideForm(std::string_view name);
-// Takes effect at once for names; the object lives until no handler of it is on the stack. Unloading what
-// is not loaded does nothing.
+// Takes effect at once for names; the object lives until the user's act in hand has ended. Unloading what is
+// not loaded does nothing.
 void UnloadForm(std::string_view name);
 
 // A control of a form by their names; loads the form when need be, throws when there is no such control.

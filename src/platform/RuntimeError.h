@@ -25,6 +25,7 @@ inline RuntimeError FileNotFound() { return {53, "File not found"}; }
 inline RuntimeError DeviceError() { return {57, "Device I/O error"}; }
 inline RuntimeError InputPastEnd() { return {62, "Input past end of file"}; }
 inline RuntimeError PathAccess() { return {75, "Path/File access error"}; }
+inline RuntimeError Unloaded() { return {364, "Object was unloaded"}; }
 inline RuntimeError NoSuchElement(std::string_view name, int index) {
     return {340, "Control array element '" + std::string(name) + "(" + std::to_string(index) +
                      ")' does not exist"};

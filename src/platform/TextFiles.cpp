@@ -89,6 +89,14 @@ fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
     return folder / wanted;
 }
 
+// Renaming over a file would not ask whether its owner allows it to be written.
+bool IsWriteProtected(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    constexpr fs::perms anyone = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    return fs::exists(status) && (status.permissions() & anyone) == fs::perms::none;
+}
+
 }  // namespace
 
 fs::path MachinePath(std::string_view suitePath) {
@@ -137,8 +145,15 @@ std::string Code1252From(std::string_view utf8) {
             continue;
         }
         char32_t c = lead & (length == 2 ? 0x1FU : 0x0FU);
+        bool whole = true;
         for (std::size_t k = 1; k < length; ++k) {
-            c = (c << 6U) | (static_cast<unsigned char>(utf8[i + k]) & 0x3FU);
+            const auto next = static_cast<unsigned char>(utf8[i + k]);
+            whole = whole && (next & 0xC0U) == 0x80U;
+            c = (c << 6U) | (next & 0x3FU);
+        }
+        if (!whole) {
+            bytes += utf8[i++];
+            continue;
         }
         const int byte = ByteOf(c);
         if (byte >= 0) {
@@ -213,9 +228,11 @@ void TextWriter::Number(double value) { Line(Str(value)); }
 
 void TextWriter::Commit() {
     std::error_code error;
+    if (IsWriteProtected(target_)) throw failure::PathAccess();
     fs::create_directories(target_.parent_path(), error);
-    written_ = true;
     std::ofstream file(beside_, std::ios::binary | std::ios::trunc);
+    if (!file) throw failure::PathAccess();
+    written_ = true;
     file.write(text_.data(), static_cast<std::streamsize>(text_.size()));
     file.close();
     if (!file) throw failure::PathAccess();

@@ -25,7 +25,7 @@ std::string FirstCharacters(const std::string& text, std::size_t most) {
 void ClickInHandler(Control& control) {
     Form& form = control.Owner();
     if (control.TabStop) form.Focus.UserMoves(control);
-    if (!control.Works()) return;  // what was left may have switched this off
+    if (!CanAct(control)) return;  // what was left may have switched this off, or closed the form
     switch (control.Kind()) {
         case ControlKind::OptionButton: {
             auto& option = static_cast<OptionButton&>(control);
@@ -43,12 +43,17 @@ void ClickInHandler(Control& control) {
     if (control.Click) control.Click();
 }
 
+bool IsOneCharacter(const std::string& key) { return !key.empty() && FirstCharacters(key, 1) == key; }
+
 // Opens the heads over an entry from the top, as a user does on the way to it; false when one of them put
 // up a box instead of its entries.
 bool OpenHeadsOf(MenuItem& entry) {
     auto* const head = static_cast<MenuItem*>(entry.Container());
     return head == nullptr || (OpenHeadsOf(*head) && OpenMenu(*head));
 }
+
+// The entry itself may still be off: a head's Click decides about that.
+bool HeadsWork(const Control& entry) { return entry.Container() != nullptr && CanAct(*entry.Container()); }
 
 char AccessKey(const std::string& caption) {
     const std::size_t mark = caption.find('&');
@@ -59,7 +64,7 @@ bool PressShortcut(Form& form, const std::string& key) {
     const bool access = key.size() == 5 && key.starts_with("Alt+");
     for (Control* control : form.Controls()) {
         const bool isMenu = control->Kind() == ControlKind::MenuItem;
-        if (isMenu && static_cast<MenuItem*>(control)->Shortcut == key) return ClickControl(*control);
+        if (isMenu && SameName(static_cast<MenuItem*>(control)->Shortcut, key)) return ClickControl(*control);
         if (access && !isMenu && control->Click && AccessKey(control->Caption()) == LowerCase(key[4]) &&
             CanAct(*control)) {
             return ClickControl(*control);
@@ -76,8 +81,8 @@ bool MoveInList(ListBox& list, const std::string& key) {
     if (key == "Down") wanted = row + 1;
     if (key == "PageUp") wanted = row - page;
     if (key == "PageDown") wanted = row + page;
-    if (wanted == row) return false;
-    return PickRow(list, std::clamp(wanted, 0, std::max(0, list.RowCount() - 1)));
+    wanted = std::clamp(wanted, 0, std::max(0, list.RowCount() - 1));
+    return wanted != row && PickRow(list, wanted);
 }
 
 bool EditByKey(TextBox& box, const std::string& key) {
@@ -88,7 +93,7 @@ bool EditByKey(TextBox& box, const std::string& key) {
         if (!text.empty()) text.pop_back();
         return TypeText(box, text);
     }
-    return key.size() == 1 && TypeText(box, text + key);
+    return IsOneCharacter(key) && TypeText(box, text + key);
 }
 
 bool PressEnter(Control& control) {
@@ -111,7 +116,8 @@ bool PressPlainKey(Control& control, const std::string& key) {
     }
     switch (control.Kind()) {
         case ControlKind::TextBox: return EditByKey(static_cast<TextBox&>(control), key);
-        case ControlKind::ListBox: return MoveInList(static_cast<ListBox&>(control), key);
+        case ControlKind::ListBox:
+        case ControlKind::ComboBox: return MoveInList(static_cast<ListBox&>(control), key);
         case ControlKind::CommandButton:
         case ControlKind::OptionButton:
         case ControlKind::CheckBox: return key == " " && ClickControl(control);
@@ -159,9 +165,11 @@ bool TypeText(Control& control, const std::string& text) {
 }
 
 bool ClickControl(Control& control) {
-    if (control.Kind() == ControlKind::MenuItem && TakesInput(control.Owner()) &&
-        !OpenHeadsOf(static_cast<MenuItem&>(control))) {
-        return true;
+    const FormHold hold(control.Owner());
+    if (control.Kind() == ControlKind::MenuItem && HeadsWork(control)) {
+        const int boxes = BoxesShown();
+        OpenHeadsOf(static_cast<MenuItem&>(control));
+        if (boxes != BoxesShown()) return true;
     }
     if (!CanAct(control)) return false;
     control.Owner().Dispatch([&] { ClickInHandler(control); });
@@ -172,7 +180,7 @@ bool DoubleClickControl(Control& control) {
     if (!CanAct(control)) return false;
     control.Owner().Dispatch([&] {
         ClickInHandler(control);
-        if (control.DoubleClick && control.Works()) control.DoubleClick();
+        if (control.DoubleClick && CanAct(control)) control.DoubleClick();
     });
     return true;
 }
@@ -188,6 +196,7 @@ bool PickRow(ListBox& list, int row) {
     if (!CanAct(list) || row < 0 || row >= list.RowCount()) return false;
     list.Owner().Dispatch([&] {
         list.Owner().Focus.UserMoves(list);
+        if (!CanAct(list)) return;
         if (list.Multiple) {
             list.Pick(row, true);
         } else if (row == list.Selected()) {
@@ -211,13 +220,14 @@ bool PickCell(Grid& grid, int row, int column) {
     }
     grid.Owner().Dispatch([&] {
         grid.Owner().Focus.UserMoves(grid);
-        grid.Select(row, column);
+        if (CanAct(grid) && row < grid.RowCount() && column < grid.ColumnCount()) grid.Select(row, column);
     });
     return true;
 }
 
 bool PressKey(Control& control, const std::string& key) {
     if (!CanAct(control)) return false;
+    const FormHold hold(control.Owner());
     Key press{.Name = key};
     if (control.KeyPress) control.Owner().Dispatch([&] { control.KeyPress(press); });
     if (press.Handled) return true;
