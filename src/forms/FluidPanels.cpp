@@ -1,6 +1,8 @@
 // See FluidPanels.h.
 #include "forms/FluidPanels.h"
 
+#include <algorithm>
+
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
@@ -28,15 +30,11 @@ void FluidList::Open(const std::string& fluidType) {
     std::vector<std::string> rows;
     try {
         rows = ReadFluidRows(fluidType);
-    } catch (const RuntimeError& error) {
-        Tell("File " + FluidTableName(fluidType) + "\n" + error.Description, Calc.ProgramTitle, Icon::Stop);
+    } catch (const RuntimeError&) {
+        Tell("File " + fluidType + ".txt", Calc.ProgramTitle, Icon::Stop);
     }
-    int current = rows.empty() ? -1 : 0;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (FluidRowName(rows[i]) != Calc.FluidName) continue;
-        current = static_cast<int>(i);
-        break;
-    }
+    const int known = FindFluidName(rows, Calc.FluidName);
+    const int current = rows.empty() ? -1 : std::max(known, 0);
     cameFrom_ = form_.Focus.Current();
     lstFluid.SetRows(std::move(rows));
     lstFluid.Preselect(current);
@@ -60,7 +58,7 @@ void FluidList::Close() {
 
 MixturePanel::MixturePanel(CalculationForm& form)
     : fraComponent(form, "fraComponent", "Mixture components"),
-      lblComponent(fraComponent, "lblComponent", Components),
+      lblComponent(fraComponent, "lblComponent", Components, ""),
       txtPercent(fraComponent, "txtPercent", Components),
       lblRemainingCaption(fraComponent, "lblRemainingCaption", "Remaining percent"),
       lblRemaining(fraComponent, "lblRemaining", "100"),

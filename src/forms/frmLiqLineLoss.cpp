@@ -6,7 +6,7 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
-#include "fluids/LiquidCorrelations.h"
+#include "fluids/LiquidData.h"
 #include "forms/ColourSchemes.h"
 #include "forms/DataCheck.h"
 #include "lineloss/Friction.h"
