@@ -1,0 +1,98 @@
+// See frmPipeSize.h.
+#include "forms/frmPipeSize.h"
+
+#include "forms/ColourSchemes.h"
+#include "platform/Dialogs.h"
+#include "tables/PipeSizes.h"
+#include "tables/TableDescriptions.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr const char* FileTitle = "Pipe Size file";
+}  // namespace
+
+frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
+    SetCaption("Pipe sizes");
+    Fixed = true;
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdCancel;
+
+    txtNomSize.IsNumber = true;
+    txtNomSize.Describe(&lblNomSize, &lblPipeUnits);
+    lstPipeSize.Describe(&lblPipeSize);
+    for (Label* label : {&lblNomSize, &lblPipeUnits, &lblPipeSize, &lblConvertUnits}) label->ColourGroup = 1;
+    txtNomSize.ColourGroup = 2;
+    lstPipeSize.ColourGroup = 4;
+    cmdSearch.SetEnabled(false);
+    lstPipeSize.SetEnabled(false);
+    cmdOK.SetEnabled(false);
+
+    txtNomSize.Change = [this] { txtNomSize_Change(); };
+    txtNomSize.GotFocus = [this] { txtNomSize_GotFocus(); };
+    txtNomSize.DoubleClick = [this] { cmdSearch_Click(); };
+    cmdSearch.Click = [this] { cmdSearch_Click(); };
+    lstPipeSize.Click = [this] { lstPipeSize_Click(); };
+    lstPipeSize.DoubleClick = [this] { cmdOK_Click(); };
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+void frmPipeSize::Load() { ApplyColours(*this); }
+
+// Enter searches while the size is being typed, and takes the selected row afterwards.
+void frmPipeSize::ControlGotFocus(Control& control) {
+    DefaultButton = &control == &txtNomSize ? &cmdSearch : &cmdOK;
+    if (&control == &txtNomSize) {
+        txtNomSize.SetColours(SlotColour(slot::SelectedBack), SlotColour(slot::SelectedText));
+    }
+}
+
+void frmPipeSize::ControlLostFocus(Control& control) {
+    if (&control != &txtNomSize) return;
+    txtNomSize.SetColours(SlotColour(slot::InputBack), SlotColour(slot::InputText));
+}
+
+void frmPipeSize::txtNomSize_Change() {
+    cmdSearch.SetEnabled(true);
+    lstPipeSize.Clear();
+}
+
+void frmPipeSize::txtNomSize_GotFocus() { txtNomSize.SelectAll(); }
+
+void frmPipeSize::cmdSearch_Click() {
+    lstPipeSize.Clear();
+    std::vector<std::string> lines;
+    try {
+        lines = FindPipeSizes(txtNomSize.Text());
+    } catch (const RuntimeError&) {
+        Tell("File " + std::string(table::Pipe.FileName), FileTitle);
+        return;
+    }
+    if (lines.empty()) {
+        Tell("Pipe size " + txtNomSize.Text() + " is not on File", FileTitle);
+        txtNomSize.SetFocus();
+        return;
+    }
+    const int middle = static_cast<int>(lines.size()) / 2;
+    lstPipeSize.SetEnabled(true);
+    lstPipeSize.SetRows(std::move(lines));
+    lstPipeSize.Select(middle);
+    lstPipeSize.SetFocus();
+}
+
+void frmPipeSize::lstPipeSize_Click() { cmdOK.SetEnabled(true); }
+
+void frmPipeSize::cmdOK_Click() {
+    if (lstPipeSize.Selected() < 0) {
+        Tell("Please find and select an item", Caption());
+        txtNomSize.SetFocus();
+        return;
+    }
+    TakePipeRow(lstPipeSize.Row(lstPipeSize.Selected()));
+    ReturnPipeSize();
+}
+
+void frmPipeSize::cmdCancel_Click() { CancelPipeSize(); }
+
+}  // namespace quillmetra

@@ -1,0 +1,36 @@
+// The pipe size dialog: a nominal size is searched, a row chosen, and its inside diameter returned to the
+// form that opened the dialog. What it looks up and returns is in tables/PipeSizes.h.
+#pragma once
+
+#include "platform/Form.h"
+
+namespace quillmetra {
+
+class frmPipeSize : public Form {
+public:
+    frmPipeSize();
+
+    void Load() override;
+    void CloseBox() override { cmdCancel_Click(); }
+    void ControlGotFocus(Control& control) override;
+    void ControlLostFocus(Control& control) override;
+
+    Label lblNomSize{*this, "lblNomSize", "Nominal size"};
+    TextBox txtNomSize{*this, "txtNomSize"};
+    Label lblPipeUnits{*this, "lblPipeUnits"};
+    CommandButton cmdSearch{*this, "cmdSearch", "&Search"};
+    Label lblPipeSize{*this, "lblPipeSize", "Size, schedule, inside diameter, wall"};
+    ListBox lstPipeSize{*this, "lstPipeSize"};
+    Label lblConvertUnits{*this, "lblConvertUnits"};
+    CommandButton cmdOK{*this, "cmdOK", "OK"};
+    CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
+
+    void txtNomSize_Change();
+    void txtNomSize_GotFocus();
+    void cmdSearch_Click();
+    void lstPipeSize_Click();
+    void cmdOK_Click();
+    void cmdCancel_Click();
+};
+
+}  // namespace quillmetra

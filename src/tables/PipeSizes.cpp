@@ -1,0 +1,166 @@
+// See PipeSizes.h.
+#include "tables/PipeSizes.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "platform/Arithmetic.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "tables/TableFiles.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* Dialog = "frmPipeSize";
+
+// Inches in a millimetre, as the suite's own unit of pipe size has it.
+constexpr double InchesPerMillimetre = 0.03937;
+
+// Nominal sizes go by 25 mm to the inch. The offsets let every size of the table find itself again: 88 typed
+// is size 3.5, and size 3.5 (87.5) is listed as 88.
+constexpr double MillimetreGrid = 0.04;
+constexpr double TypedSizeOffset = 0.65;
+constexpr double ListedSizeOffset = 0.63;
+
+// A size is read from the first characters of a line alone.
+constexpr std::size_t SizeLength = 4;
+
+struct PipeCaller {
+    std::string_view Word;
+    const char* Form;
+    const char* DiameterBox;
+    const char* WallBox;  // null where the form has none
+};
+
+constexpr std::array<PipeCaller, 3> PipeCallers = {{
+    {words::PipeLiquidLoss, "frmLiqLineLoss", "txtInletPipeID", nullptr},
+    {words::PipeGasLoss, "frmGasLineLoss", "txtInletPipeID", nullptr},
+    {words::PipeWaterHammer, "frmWaterHammer", "txtPipeID", "txtPipeWall"},
+}};
+
+// Factors that went through a database have seven digits.
+bool SameFactor(double a, double b) { return std::abs(a - b) <= 1e-6 * std::abs(b); }
+
+bool IsMetric(double diameterFactor) {
+    const std::array metricFactors = {InchesPerMillimetre, 0.3937, 39.37};  // mm, cm, m
+    return std::any_of(metricFactors.begin(), metricFactors.end(),
+                       [&](double factor) { return SameFactor(diameterFactor, factor); });
+}
+
+bool ListsMillimetres() { return SameFactor(Calc.UnitFactor[pipeunit::List], InchesPerMillimetre); }
+
+void SetPipeUnits() {
+    const bool metric = IsMetric(Calc.UnitFactor[pipeunit::Diameter]);
+    Calc.UnitFactor[pipeunit::Grid] = metric ? MillimetreGrid : 1;
+    Calc.UnitFactor[pipeunit::List] = metric ? InchesPerMillimetre : 1;
+    Calc.UnitFactor[pipeunit::Offset] = metric ? ListedSizeOffset : 0;
+    Calc.UnitName[pipeunit::Grid] = metric ? "mm" : "in";
+}
+
+// The size on the table's inch grid up to which rows count.
+double TargetSize(std::string_view typed) {
+    const double target = Val(typed) * Calc.UnitFactor[pipeunit::List];
+    if (!ListsMillimetres()) return target;
+    return (target / InchesPerMillimetre + TypedSizeOffset) * MillimetreGrid;
+}
+
+// The rows of the largest size not above the target. A line that starts with no size is no row of pipe.
+std::vector<std::string> RowsOfSize(double target) {
+    std::vector<std::string> kept;
+    double keptSize = 0;
+    for (std::string& row : ReadTable(table::Pipe)) {
+        const double size = Val(std::string_view(row).substr(0, SizeLength));
+        if (size > target || size <= 0 || size < keptSize) continue;
+        if (size > keptSize) kept.clear();
+        keptSize = size;
+        kept.push_back(std::move(row));
+    }
+    return kept;
+}
+
+std::string ListedSize(const std::string& size) {
+    return TrimmedStr(Int(Val(size) / Calc.UnitFactor[pipeunit::Grid] + Calc.UnitFactor[pipeunit::Offset]));
+}
+
+std::string ListedLength(const std::string& inches) {
+    return TrimmedStr(CheckFinite(RoundedThree(Val(inches) / Calc.UnitFactor[pipeunit::List])));
+}
+
+std::string PadLeft(std::string text, std::size_t width) {
+    return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
+}
+
+std::string PadRight(std::string text, std::size_t width) {
+    text.resize(std::max(width, text.size()), ' ');
+    return text;
+}
+
+std::string ListLine(const std::string& row) {
+    TableFields fields = SplitTableLine(table::Pipe, row);
+    if (ListsMillimetres()) {
+        fields[0] = ListedSize(fields[0]);
+        fields[2] = ListedLength(fields[2]);
+        fields[3] = ListedLength(fields[3]);
+    }
+    return PadLeft(fields[0] + ",", 4) + PadRight(fields[1] + ",", 6) + PadRight(fields[2] + ",", 7) +
+           PadRight(fields[3] + ",", 6);
+}
+
+// A length of the list in the form's unit of the diameter.
+double InFormUnit(double length) {
+    return CheckFinite(length / Calc.UnitFactor[pipeunit::Diameter] * Calc.UnitFactor[pipeunit::List]);
+}
+
+void WriteBox(const char* form, const char* box, double value) {
+    dynamic_cast<TextBox&>(ControlOf(form, box)).SetText(Str(value));
+}
+
+}  // namespace
+
+void PreparePipeUnits() {
+    SetPipeUnits();
+    const std::string& word = Calc.UnitName[pipeunit::Grid];
+    if (ControlOf(Dialog, "lblPipeUnits").Caption() != word) UnloadForm(Dialog);
+    const bool converts =
+        !SameFactor(Calc.UnitFactor[pipeunit::List], Calc.UnitFactor[pipeunit::Diameter]);
+    ControlOf(Dialog, "lblPipeUnits").SetCaption(word);
+    ControlOf(Dialog, "lblConvertUnits").SetCaption(converts ? "Units will be Converted" : "");
+    ShowForm(Dialog, Modal::Yes);
+}
+
+std::vector<std::string> FindPipeSizes(std::string_view nominalSize) {
+    std::vector<std::string> lines = RowsOfSize(TargetSize(nominalSize));
+    std::transform(lines.begin(), lines.end(), lines.begin(), ListLine);
+    return lines;
+}
+
+void TakePipeRow(std::string_view listLine) {
+    const TableFields fields = SplitTableLine(table::Pipe, listLine);
+    Calc.PipeInsideDiameter = Val(fields[2]);
+    Calc.PipeWallThickness = Val(fields[3]);
+}
+
+void ReturnPipeSize() {
+    const double wall = RoundedFour(InFormUnit(Calc.PipeWallThickness));
+    const double diameter = RoundedSix(InFormUnit(Calc.PipeInsideDiameter));
+    for (const PipeCaller& caller : PipeCallers) {
+        if (Calc.MessageText != caller.Word) continue;
+        WriteBox(caller.Form, caller.DiameterBox, diameter);
+        if (caller.WallBox != nullptr) WriteBox(caller.Form, caller.WallBox, wall);
+        break;
+    }
+    CancelPipeSize();
+}
+
+void CancelPipeSize() {
+    Calc.MessageText.clear();
+    UnloadForm(Dialog);
+}
+
+}  // namespace quillmetra

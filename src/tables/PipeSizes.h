@@ -1,0 +1,40 @@
+// The pipe size lookup: finds the rows of W-PIPE.TXT for a nominal size, in inches or in millimetres by the
+// unit of the pipe's diameter, and returns the chosen row to the form that asked.
+//
+// The form that opens it puts its own word into MessageText (words::PipeLiquidLoss and its like).
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmetra {
+
+// Unit rows that the lookup works with.
+namespace pipeunit {
+inline constexpr std::size_t Diameter = 18;  // the form's unit of the diameter, in per unit
+inline constexpr std::size_t Grid = 31;      // inches of nominal size in a listed one; its name is "in" or "mm"
+inline constexpr std::size_t List = 32;      // inches in the list's unit of diameter and wall
+inline constexpr std::size_t Offset = 33;    // added before a listed size is cut to a whole number; may be 0
+}  // namespace pipeunit
+
+// Sets the lookup's unit rows from the unit of the diameter and shows the dialog; returns when it is closed.
+void PreparePipeUnits();
+
+// The list for a nominal size as typed, in the lookup's unit: the rows of the largest size of the table that
+// is not above it, as "size,schedule,inside diameter,wall," in columns. Empty when there is none. Failures
+// are those of ReadTable.
+std::vector<std::string> FindPipeSizes(std::string_view nominalSize);
+
+// Takes diameter and wall of a line of that list into the record, in the list's unit.
+void TakePipeRow(std::string_view listLine);
+
+// Returns the row taken to the form that MessageText names, in the form's unit of the diameter: the diameter
+// to six significant figures, the wall, where the form has a box for it, to four. Closes the dialog and
+// clears MessageText. Throws when the form's factor makes the diameter infinite.
+void ReturnPipeSize();
+
+// Closes the dialog and leaves the caller as it was.
+void CancelPipeSize();
+
+}  // namespace quillmetra
