@@ -68,6 +68,7 @@ void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.Clear();
     std::vector<std::string> lines;
     try {
+        const BusyPointer busy;
         lines = FindPipeSizes(txtNomSize.Text());
     } catch (const RuntimeError&) {
         Tell("File " + std::string(table::Pipe.FileName), FileTitle);

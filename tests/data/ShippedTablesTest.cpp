@@ -7,28 +7,22 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Suite.h"
+#include "fluids/LiquidCorrelations.h"
 #include "platform/NumberText.h"
 #include "tables/TableFiles.h"
+#include "tests/SuiteFixture.h"
 
 namespace quillmetra {
 namespace {
 
 constexpr double AbsoluteZero = -459.67;  // degF
 
-std::string SourceFolder() {
-    const char* folder = std::getenv("QUILLMETRA_SOURCE");
-    if (folder == nullptr) throw std::runtime_error("QUILLMETRA_SOURCE names no source tree");
-    return folder;
-}
-
-class ShippedTables : public testing::Test {
+class ShippedTables : public SuiteTest {
 protected:
-    ShippedTables() { Suite.DefaultPaths[4] = SourceFolder() + "\\data"; }
-
-    static std::vector<std::string> Reference(const char* file) {
-        Suite.DefaultPaths[4] = SourceFolder() + "\\tools\\reference";
-        return ReadTable(table::Gas, {.FileName = file});
+    // The true figures behind Gas.txt, in the same columns.
+    static std::vector<std::string> TrueGases() {
+        Suite.DefaultPaths[4] = SuitePath(SourceFolder() / "tools" / "reference");
+        return ReadTable(table::Gas, {.FileName = "gases.csv"});
     }
 };
 
@@ -49,17 +43,9 @@ std::vector<NumberRow> NumberRows(const TableDescription& table) {
     return rows;
 }
 
-// The reduced vapor pressure equation, psia; temperatures degF, pressure psia.
 double VaporPressure(double boiling, double criticalTemperature, double criticalPressure,
                      double temperature) {
-    const double tc = criticalTemperature - AbsoluteZero;
-    const double tbr = (boiling - AbsoluteZero) / tc;
-    const double pc = criticalPressure / 14.7;
-    const double h = tbr * std::log(pc) / (1 - tbr);
-    const double g = 0.4835 + 0.4605 * h;
-    const double k = ((h / g) - (1 + tbr)) / ((3 + tbr) * std::pow(1 - tbr, 2));
-    const double tr = (temperature - AbsoluteZero) / tc;
-    return pc * std::exp(-g / tr * ((1 - tr * tr) + k * (3 + tr) * std::pow(1 - tr, 3))) * 14.7;
+    return VaporPressureOf(boiling, criticalTemperature - AbsoluteZero, criticalPressure, temperature);
 }
 
 void ExpectVaporPressureOfAFluid(const std::string& name, double boiling, double criticalTemperature,
@@ -129,7 +115,7 @@ TEST_F(ShippedTables, LiquidsBehaveAsLiquids) {
         const double criticalTemperature = liquid[5], criticalPressure = liquid[10], boiling = liquid[11];
         EXPECT_TRUE(type == 1 || type == 2 || type == 3);
         EXPECT_GT(weight, 1);
-        EXPECT_GT(gravity, 0.2);
+        EXPECT_GT(gravity, 0.15);
         EXPECT_LT(gravity, 14);
         ExpectVaporPressureOfAFluid(liquid.Name, boiling, criticalTemperature, criticalPressure);
 
@@ -137,20 +123,21 @@ TEST_F(ShippedTables, LiquidsBehaveAsLiquids) {
         EXPECT_GT(liquid[7], liquid[9]) << "viscosity falls with temperature";
         EXPECT_GT(liquid[9], 0);
 
-        // Gravity of a liquid above its boiling point falls to nothing before or near the critical point: the
-        // back-solved compressibility factor is then that of a real fluid, some way around 0.27.
-        const double tc = criticalTemperature - AbsoluteZero;
-        const double a = 0.008 / ((gravity * tc / criticalPressure / weight) + 5.7267634 / tc);
-        const double factor = std::pow(a, 1 / 0.773);
-        EXPECT_GT(factor, 0.1);
-        EXPECT_LT(factor, 0.6);
+        // What makes the gravity come out at 60 degF is that of a real fluid, lower where constants of a
+        // solution were fitted. A liquid metal is beyond the equation.
+        if (liquid.Name != "Mercury") {
+            const float factor =
+                CritCompressibilityOf(gravity, criticalTemperature - AbsoluteZero, criticalPressure, weight);
+            EXPECT_GT(factor, type == 1 ? 0.12 : 0.08);
+            EXPECT_LT(factor, 0.33);
+        }
 
-        EXPECT_GE(liquid[13], liquid[12]) << "specific heat rises with temperature";
+        EXPECT_GT(liquid[13], 0.97 * liquid[12]) << "specific heat rises, but for metals and strong alkali";
         EXPECT_GT(liquid[12], 0);
         EXPECT_LT(liquid[13], 2);
         EXPECT_GE(liquid[15], 0);
         EXPECT_LT(liquid[15], 5000) << "bulk modulus is entered in psi/1000";
-        EXPECT_GT(liquid[17], 0);
+        EXPECT_GE(liquid[17], 0) << "latent heat, 0 where it is not known";
     }
 }
 
@@ -177,7 +164,7 @@ TEST_F(ShippedTables, GasesBehaveAsGases) {
         const double factor = criticalPressure * gas[3] * gas[5] / 10.7316 / tc;
         EXPECT_GT(factor, 0.1) << "critical compressibility factor";
         EXPECT_LT(factor, 0.5) << "critical compressibility factor";
-        EXPECT_GE(gas[13], gas[12]) << "specific heat rises with temperature";
+        EXPECT_GE(gas[13], 0.995 * gas[12]) << "specific heat rises, but for the noble gases";
         EXPECT_GT(gas[12] * gas[5], 1.986 * 1.5) << "no gas has less than three degrees of freedom";
         EXPECT_GT(gas[14], 0);
     }
@@ -188,12 +175,12 @@ TEST_F(ShippedTables, GasesBehaveAsGases) {
 // it is the results that must be true.
 TEST_F(ShippedTables, GasFormulasMeetTheTrueFigures) {
     std::map<std::string, NumberRow> truth;
-    for (const std::string& line : Reference("gases.csv")) {
+    const std::vector<NumberRow> gases = NumberRows(table::Gas);
+    for (const std::string& line : TrueGases()) {
         const NumberRow row(table::Gas, line);
         truth.emplace(row.Name, row);
     }
-    Suite.DefaultPaths[4] = SourceFolder() + "\\data";
-    for (const NumberRow& gas : NumberRows(table::Gas)) {
+    for (const NumberRow& gas : gases) {
         SCOPED_TRACE(gas.Name);
         ASSERT_TRUE(truth.contains(gas.Name));
         const NumberRow& real = truth.at(gas.Name);
@@ -268,7 +255,8 @@ TEST_F(ShippedTables, MaterialsExpandMoreWhenHot) {
 
 TEST_F(ShippedTables, AreWhatTheirMakerWrites) {
     if (std::system("python3 -c '' >/dev/null 2>&1") != 0) GTEST_SKIP() << "no python3";
-    const std::string maker = "python3 '" + SourceFolder() + "/tools/make_tables.py' --check";
+    const std::string maker =
+        "python3 '" + (SourceFolder() / "tools" / "make_tables.py").string() + "' --check";
     EXPECT_EQ(std::system(maker.c_str()), 0);
 }
 

@@ -5,57 +5,39 @@
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 
 #include <gtest/gtest.h>
 
-#include "core/CalcRecord.h"
-#include "core/StartUp.h"
-#include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/frmPipeSize.h"
-#include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/UserActs.h"
 #include "tables/TableFiles.h"
+#include "tests/SuiteFixture.h"
 
 namespace quillmetra {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Plays Act whenever a form is shown modally, and remembers the boxes.
-class PlayingHost : public Host {
+// Plays Act whenever the dialog is shown.
+class PlayingHost : public FakeHost {
 public:
     std::function<void(frmPipeSize&)> Act;
-    std::vector<std::string> Boxes;
     int FormsShown = 0;
 
-    Answer ShowMessageBox(const MessageBox& box) override {
-        Boxes.push_back(box.Title + " | " + box.Text);
-        return DefaultAnswer(box);
-    }
     void RunModal(Form& form) override {
         ++FormsShown;
         if (Act) Act(dynamic_cast<frmPipeSize&>(form));
     }
 
-    std::optional<std::string> InputBox(const std::string&, const std::string&) override { return {}; }
-    std::optional<std::string> FileDialog(const FileQuestion&) override { return {}; }
-    std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return {}; }
-    std::optional<FontChoice> FontDialog(const FontChoice&) override { return {}; }
-    std::optional<unsigned> ColourDialog(unsigned) override { return {}; }
-    void ShowHelp(int) override {}
-    void SetBusyPointer(bool) override {}
-    bool Yield() override { return false; }
-    void FormShown(Form&) override {}
-    void FormHidden(Form&) override {}
-    void FormGone(Form&) override {}
-    void FormChanged(Form&) override {}
-    void ControlChanged(Control&, Aspect) override {}
-    void FocusMoved(Form&) override {}
-    void ProcessEnded() override {}
+    // "title | text" of each box shown.
+    std::vector<std::string> Told() const {
+        std::vector<std::string> told;
+        for (const MessageBox& box : Boxes) told.push_back(box.Title + " | " + box.Text);
+        return told;
+    }
 };
 
 // A calling form with the boxes that the lookup may write, and a count of their changes.
@@ -72,32 +54,26 @@ public:
     int Changes = 0;
 };
 
-class PipeSizes : public testing::Test {
+// A factory takes no arguments, so each name has its own.
+const char LiquidForm[] = "frmLiqLineLoss";
+const char GasForm[] = "frmGasLineLoss";
+const char HammerForm[] = "frmWaterHammer";
+template <const char* Name>
+std::unique_ptr<Form> MakeCaller() {
+    return std::make_unique<CallerForm>(Name);
+}
+
+class PipeSizes : public SuiteTest {
 protected:
     PipeSizes() {
-        Calc = CalcRecord();
-        Suite = SuiteState();
-        ResetForms();
-        InstallHost(&Host);
         RegisterForm("frmPipeSize",
                      []() -> std::unique_ptr<Form> { return std::make_unique<frmPipeSize>(); });
-        RegisterForm("frmLiqLineLoss", []() -> std::unique_ptr<Form> {
-            return std::make_unique<CallerForm>("frmLiqLineLoss");
-        });
-        RegisterForm("frmGasLineLoss", []() -> std::unique_ptr<Form> {
-            return std::make_unique<CallerForm>("frmGasLineLoss");
-        });
-        RegisterForm("frmWaterHammer", []() -> std::unique_ptr<Form> {
-            return std::make_unique<CallerForm>("frmWaterHammer");
-        });
-        Suite.DefaultPaths[4] = std::string(std::getenv("QUILLMETRA_SOURCE")) + "\\data";
+        RegisterForm(LiquidForm, MakeCaller<LiquidForm>);
+        RegisterForm(GasForm, MakeCaller<GasForm>);
+        RegisterForm(HammerForm, MakeCaller<HammerForm>);
         Calc.MessageText = words::PipeLiquidLoss;
     }
-    ~PipeSizes() override {
-        ResetForms();
-        InstallHost(nullptr);
-        fs::remove_all(Folder);
-    }
+    ~PipeSizes() override { ResetForms(); }
 
     // Opens the lookup as a form's pipe button does, with the given factor of the diameter, in a unit.
     void Open(double factor = 1) {
@@ -105,16 +81,11 @@ protected:
         PreparePipeUnits();
     }
 
-    void UseTable(const std::string& bytes) {
-        fs::create_directories(Folder);
-        std::ofstream(Folder / "W-PIPE.TXT", std::ios::binary) << bytes;
-        Suite.DefaultPaths[4] = Folder.string();
-    }
+    void UseTable(std::string_view bytes) { WriteData("W-PIPE.TXT", bytes); }
 
     static std::string Box(const char* form, const char* box) { return ControlOf(form, box).Text(); }
 
-    PlayingHost Host;
-    const fs::path Folder = fs::temp_directory_path() / "quillmetra-pipe-sizes";
+    PlayingHost Player;
 };
 
 std::vector<std::string> SizesOf(const std::vector<std::string>& lines) {
@@ -212,13 +183,14 @@ TEST_F(PipeSizes, EveryShippedPipeIsFoundAndReturnedInEveryUnit) {
             Calc.MessageText = words::PipeWaterHammer;
             TakePipeRow(lines[position]);
             ReturnPipeSize();
-            const double inside = Val(Box("frmWaterHammer", "txtPipeID")) * unit.Factor;
-            const double wall = Val(Box("frmWaterHammer", "txtPipeWall")) * unit.Factor;
-            // The list has three figures of a millimetre, and the form's unit six.
+            const double inside = Val(Box(HammerForm, "txtPipeID")) * unit.Factor;
+            const double wall = Val(Box(HammerForm, "txtPipeWall")) * unit.Factor;
+            // The list has three figures of the millimetres, or all before the point; the form has six.
             EXPECT_NEAR(inside, Val(pipe[2]), (unit.Metric ? 5.1e-3 : 5.1e-6) * Val(pipe[2]));
             EXPECT_NEAR(wall, Val(pipe[3]), (unit.Metric ? 5.6e-3 : 5.1e-4) * Val(pipe[3]));
             if (unit.Metric) {
-                const double listed = Rounded(Val(pipe[2]) / 0.03937, 3);
+                const double millimetres = Val(pipe[2]) / 0.03937;
+                const double listed = Rounded(millimetres, millimetres < 1000 ? 3 : 4);
                 EXPECT_NEAR(inside, listed * 0.03937, 1e-5 * inside);
             }
         }
@@ -245,8 +217,8 @@ TEST_F(PipeSizes, ReturnsSixFiguresOfTheDiameterAndFourOfTheWall) {
         Calc.MessageText = words::PipeWaterHammer;
         TakePipeRow(each.Line);
         ReturnPipeSize();
-        EXPECT_EQ(Box("frmWaterHammer", "txtPipeID"), each.Diameter) << each.Line << " by " << each.Factor;
-        EXPECT_EQ(Box("frmWaterHammer", "txtPipeWall"), each.Wall) << each.Line << " by " << each.Factor;
+        EXPECT_EQ(Box(HammerForm, "txtPipeID"), each.Diameter) << each.Line << " by " << each.Factor;
+        EXPECT_EQ(Box(HammerForm, "txtPipeWall"), each.Wall) << each.Line << " by " << each.Factor;
     }
 }
 
@@ -256,9 +228,9 @@ TEST_F(PipeSizes, ReturnsToTheFormThatAsked) {
         const char* Form;
         const char* Box;
         int Changes;
-    } cases[] = {{words::PipeLiquidLoss, "frmLiqLineLoss", "txtInletPipeID", 1},
-                 {words::PipeGasLoss, "frmGasLineLoss", "txtInletPipeID", 1},
-                 {words::PipeWaterHammer, "frmWaterHammer", "txtPipeID", 2}};
+    } cases[] = {{words::PipeLiquidLoss, LiquidForm, "txtInletPipeID", 1},
+                 {words::PipeGasLoss, GasForm, "txtInletPipeID", 1},
+                 {words::PipeWaterHammer, HammerForm, "txtPipeID", 2}};
     for (const auto& each : cases) {
         Open();
         Calc.MessageText = each.Word;
@@ -272,7 +244,7 @@ TEST_F(PipeSizes, ReturnsToTheFormThatAsked) {
     }
     Calc.MessageText = "Bypass";
     ReturnPipeSize();
-    EXPECT_EQ(dynamic_cast<CallerForm&>(LoadForm("frmLiqLineLoss")).Changes, 1) << "a word of somebody else";
+    EXPECT_EQ(dynamic_cast<CallerForm&>(LoadForm(LiquidForm)).Changes, 1) << "a word of somebody else";
 }
 
 TEST_F(PipeSizes, NothingReturnsThatIsNotFinite) {
@@ -280,7 +252,7 @@ TEST_F(PipeSizes, NothingReturnsThatIsNotFinite) {
     Calc.UnitFactor[pipeunit::Diameter] = 1e-300;
     TakePipeRow("  4,40,   1e300, 0.237, ");
     EXPECT_THROW(ReturnPipeSize(), RuntimeError);
-    EXPECT_EQ(Box("frmLiqLineLoss", "txtInletPipeID"), "");
+    EXPECT_EQ(Box(LiquidForm, "txtInletPipeID"), "");
 }
 
 // A row that a user added at the end, one in the middle out of order, short lines, five fields, no text.
@@ -298,7 +270,7 @@ TEST_F(PipeSizes, TableMayBeOutOfOrderAndFullOfRubbish) {
 }
 
 TEST_F(PipeSizes, DialogIsPlayedByKeyboardAlone) {
-    Host.Act = [&](frmPipeSize& dialog) {
+    Player.Act = [&](frmPipeSize& dialog) {
         EXPECT_EQ(dialog.Focus.Current(), &dialog.txtNomSize);
         EXPECT_FALSE(dialog.cmdSearch.Enabled());
         EXPECT_FALSE(dialog.cmdOK.Enabled());
@@ -313,14 +285,14 @@ TEST_F(PipeSizes, DialogIsPlayedByKeyboardAlone) {
         PressKey(dialog.lstPipeSize, "Enter");
     };
     Open();
-    EXPECT_EQ(Host.FormsShown, 1);
+    EXPECT_EQ(Player.FormsShown, 1);
     EXPECT_FALSE(IsFormLoaded("frmPipeSize"));
-    EXPECT_EQ(Val(Box("frmLiqLineLoss", "txtInletPipeID")), Val(SplitTableLine(table::Pipe, Calc.Tag)[2]));
-    EXPECT_TRUE(Host.Boxes.empty());
+    EXPECT_EQ(Val(Box(LiquidForm, "txtInletPipeID")), Val(SplitTableLine(table::Pipe, Calc.Tag)[2]));
+    EXPECT_TRUE(Player.Boxes.empty());
 }
 
 TEST_F(PipeSizes, DialogIsPlayedByDoubleClicks) {
-    Host.Act = [&](frmPipeSize& dialog) {
+    Player.Act = [&](frmPipeSize& dialog) {
         TypeText(dialog.txtNomSize, "25");
         DoubleClickControl(dialog.txtNomSize);
         PickRow(dialog.lstPipeSize, 0);
@@ -328,11 +300,11 @@ TEST_F(PipeSizes, DialogIsPlayedByDoubleClicks) {
     };
     Open(0.03937);
     const double inside = Val(SplitTableLine(table::Pipe, FindPipeSizes("25").front())[2]);
-    EXPECT_EQ(Val(Box("frmLiqLineLoss", "txtInletPipeID")), inside);
+    EXPECT_EQ(Val(Box(LiquidForm, "txtInletPipeID")), inside);
 }
 
 TEST_F(PipeSizes, DialogTellsWhatIsWrong) {
-    Host.Act = [&](frmPipeSize& dialog) {
+    Player.Act = [&](frmPipeSize& dialog) {
         TypeText(dialog.txtNomSize, "0.1");
         ClickControl(dialog.cmdSearch);
         EXPECT_EQ(dialog.Focus.Current(), &dialog.txtNomSize);
@@ -345,20 +317,20 @@ TEST_F(PipeSizes, DialogTellsWhatIsWrong) {
 
         UseTable("");
         ClickControl(dialog.cmdSearch);
-        fs::remove_all(Folder);
+        fs::remove(DataFolder() / "W-PIPE.TXT");
         ClickControl(dialog.cmdSearch);
         UseTable("Size\n");
         ClickControl(dialog.cmdSearch);
     };
     Open();
-    EXPECT_EQ(Host.Boxes, (std::vector<std::string>{
-                              "Pipe Size file | Pipe size 0.1 is not on File",
-                              "Pipe sizes | Please find and select an item",
-                              "Pipe Size file | File W-PIPE.TXT",
-                              "Pipe Size file | File W-PIPE.TXT",
-                              "Pipe Size file | Pipe size 5 is not on File",
-                          }));
-    EXPECT_EQ(Box("frmLiqLineLoss", "txtInletPipeID"), "");
+    EXPECT_EQ(Player.Told(), (std::vector<std::string>{
+                                 "Pipe Size file | Pipe size 0.1 is not on File",
+                                 "Pipe sizes | Please find and select an item",
+                                 "Pipe Size file | File W-PIPE.TXT",
+                                 "Pipe Size file | File W-PIPE.TXT",
+                                 "Pipe Size file | Pipe size 5 is not on File",
+                             }));
+    EXPECT_EQ(Box(LiquidForm, "txtInletPipeID"), "");
 }
 
 TEST_F(PipeSizes, CancelLeavesTheCallerAlone) {
@@ -370,7 +342,7 @@ TEST_F(PipeSizes, CancelLeavesTheCallerAlone) {
     };
     for (const auto& way : ways) {
         Calc.MessageText = words::PipeLiquidLoss;
-        Host.Act = [&](frmPipeSize& dialog) {
+        Player.Act = [&](frmPipeSize& dialog) {
             TypeText(dialog.txtNomSize, "4");
             ClickControl(dialog.cmdSearch);
             way(dialog);
@@ -378,15 +350,15 @@ TEST_F(PipeSizes, CancelLeavesTheCallerAlone) {
         Open();
         EXPECT_FALSE(IsFormLoaded("frmPipeSize"));
         EXPECT_EQ(Calc.MessageText, "");
-        EXPECT_EQ(Box("frmLiqLineLoss", "txtInletPipeID"), "");
+        EXPECT_EQ(Box(LiquidForm, "txtInletPipeID"), "");
     }
 }
 
 TEST_F(PipeSizes, ChangeOfUnitsEmptiesAnOpenDialog) {
-    Host.Act = [](frmPipeSize& dialog) { TypeText(dialog.txtNomSize, "4"); };
+    Player.Act = [](frmPipeSize& dialog) { TypeText(dialog.txtNomSize, "4"); };
     Open();
     EXPECT_EQ(Box("frmPipeSize", "txtNomSize"), "4") << "not closed by this act";
-    Host.Act = {};
+    Player.Act = {};
     Open();
     EXPECT_EQ(Box("frmPipeSize", "txtNomSize"), "4");
     Open(0.03937);

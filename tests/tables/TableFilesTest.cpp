@@ -2,37 +2,19 @@
 #include "tables/TableFiles.h"
 
 #include <filesystem>
-#include <fstream>
 #include <set>
 
 #include <gtest/gtest.h>
 
-#include "core/Suite.h"
-#include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
+#include "tests/SuiteFixture.h"
 
 namespace quillmetra {
 namespace {
 
 namespace fs = std::filesystem;
 
-class TableFiles : public testing::Test {
-protected:
-    TableFiles() {
-        fs::remove_all(Folder);
-        fs::create_directories(Folder);
-        Suite.DefaultPaths[4] = Folder.string();
-    }
-    ~TableFiles() override { fs::remove_all(Folder); }
-
-    void Write(const char* file, const std::string& bytes) {
-        std::ofstream(Folder / file, std::ios::binary) << bytes;
-    }
-
-    const fs::path Folder =
-        fs::temp_directory_path() /
-        ("quillmetra-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-};
+class TableFiles : public SuiteTest {};
 
 std::string Joined(const TableDescription& table, const std::string& line) {
     const TableFields fields = SplitTableLine(table, line);
@@ -60,14 +42,15 @@ TEST_F(TableFiles, SplitsALineByItsTable) {
         {table::Rotameter, "Steel          , 8.02 ,", "[Steel][8.02]"},
         {table::Elbow, "2,3", "[][]"},
         {table::Elbow, "2,3.5", "[2][3.5]"},
-        {table::Wedge, "0.5,\xC3\xA9\xC3\xA9\xC3\xA9,4", "[0.5][\xC3\xA9\xC3\xA9\xC3\xA9][4][][]"},
+        {table::Wedge, "0.50,\xC3\xA9\xC3\xA9\xC3\xA9,45", "[0.50][\xC3\xA9\xC3\xA9\xC3\xA9][45][][]"},
         {table::Wedge, "0.5,\xC3\xA9\xC3\xA9\xC3\xA9,", "[][][][][]"},  // eight characters in eleven bytes
     };
     for (const auto& each : cases) EXPECT_EQ(Joined(each.Table, each.Line), each.Fields) << each.Line;
 }
 
 TEST_F(TableFiles, ReadsRowsAndFindsOneByItsName) {
-    Write(
+    fs::remove(DataFolder() / "Liquid.txt");
+    WriteData(
         "LIQUID.TXT",
         "Name,Tp\r\nWater      ,3,18\r\n  Toluene ,1,92\r\nshort\r\n\r\nWater      ,2,19\r\nwater      ,1,1");
     const std::vector<std::string> rows = ReadTable(table::Liquid);
@@ -82,24 +65,25 @@ TEST_F(TableFiles, ReadsRowsAndFindsOneByItsName) {
 }
 
 TEST_F(TableFiles, TellsWhatCannotBeRead) {
+    fs::remove(DataFolder() / "Gas.txt");
     EXPECT_THROW(ReadTable(table::Gas), RuntimeError) << "missing";
-    fs::create_directories(Folder / "Gas.txt");
+    fs::create_directories(DataFolder() / "Gas.txt");
     EXPECT_THROW(ReadTable(table::Gas), RuntimeError) << "a folder of that name";
     for (const char* bytes : {"",
                               "\x1A"
                               "Name,\r\nAir            ,2,0.04\r\n"}) {
-        Write("Liquid.txt", bytes);
+        WriteData("Liquid.txt", bytes);
         EXPECT_THROW(ReadTable(table::Liquid), RuntimeError) << "empty";
     }
-    Suite.DefaultPaths[4] = Folder.string() + "/no such folder";
+    Suite.DefaultPaths[4] += "\\no such folder";
     EXPECT_THROW(ReadTable(table::Liquid), RuntimeError);
 }
 
 TEST_F(TableFiles, TakesHostileFilesAsTheyAre) {
-    Write("Gas.txt", "Name,Tp");
+    WriteData("Gas.txt", "Name,Tp");
     EXPECT_TRUE(ReadTable(table::Gas).empty()) << "a heading only";
 
-    Write("Gas.txt", "Name,Tp\r\nA gas of five fields           ,2,0.05,1,2\r\n");
+    WriteData("Gas.txt", "Name,Tp\r\nA gas of five fields           ,2,0.05,1,2\r\n");
     const std::vector<std::string> short5 = ReadTable(table::Gas);
     ASSERT_EQ(short5.size(), 1);
     EXPECT_EQ(Joined(table::Gas, short5[0]),
@@ -107,10 +91,10 @@ TEST_F(TableFiles, TakesHostileFilesAsTheyAre) {
 
     std::string noise = "Name\n";
     for (int i = 0; i < 4096; ++i) noise += static_cast<char>(i % 256 == 0x1A ? 0 : i % 256);
-    Write("Gas.txt", noise);
+    WriteData("Gas.txt", noise);
     for (const std::string& row : ReadTable(table::Gas)) SplitTableLine(table::Gas, row);
 
-    Write("Gas.txt", "Name\n" + std::string(1 << 20, ','));
+    WriteData("Gas.txt", "Name\n" + std::string(1 << 20, ','));
     ASSERT_EQ(ReadTable(table::Gas).size(), 1);
     EXPECT_EQ(SplitTableLine(table::Gas, ReadTable(table::Gas)[0]), TableFields{});
 }
@@ -118,7 +102,7 @@ TEST_F(TableFiles, TakesHostileFilesAsTheyAre) {
 TEST_F(TableFiles, ReadsTenThousandRows) {
     std::string text = "Name,Tp\r\n";
     for (int i = 0; i < 10000; ++i) text += "Fluid " + std::to_string(i) + "              ,1,2,3,4,5,6,7\r\n";
-    Write("Liquid.txt", text);
+    WriteData("Liquid.txt", text);
     const std::vector<std::string> rows = ReadTable(table::Liquid);
     ASSERT_EQ(rows.size(), 10000);
     EXPECT_EQ(FindTableRow(rows, "Fluid 9999"), 9999);
