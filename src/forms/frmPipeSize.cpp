@@ -38,7 +38,9 @@ frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmPipeSize::Load() { ApplyColours(*this); }
+void frmPipeSize::Load() {
+    ApplyColours(*this);
+}
 
 // Enter searches while the size is being typed, and takes the selected row afterwards.
 void frmPipeSize::ControlGotFocus(Control& control) {
@@ -58,12 +60,15 @@ void frmPipeSize::txtNomSize_Change() {
     lstPipeSize.Clear();
 }
 
-void frmPipeSize::txtNomSize_GotFocus() { txtNomSize.SelectAll(); }
+void frmPipeSize::txtNomSize_GotFocus() {
+    txtNomSize.SelectAll();
+}
 
 void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.Clear();
     std::vector<std::string> lines;
     try {
+        const BusyPointer busy;
         lines = FindPipeSizes(txtNomSize.Text());
     } catch (const RuntimeError&) {
         Tell("File " + std::string(table::Pipe.FileName), FileTitle);
@@ -81,7 +86,9 @@ void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.SetFocus();
 }
 
-void frmPipeSize::lstPipeSize_Click() { cmdOK.SetEnabled(true); }
+void frmPipeSize::lstPipeSize_Click() {
+    cmdOK.SetEnabled(true);
+}
 
 void frmPipeSize::cmdOK_Click() {
     if (lstPipeSize.Selected() < 0) {
@@ -93,6 +100,8 @@ void frmPipeSize::cmdOK_Click() {
     ReturnPipeSize();
 }
 
-void frmPipeSize::cmdCancel_Click() { CancelPipeSize(); }
+void frmPipeSize::cmdCancel_Click() {
+    CancelPipeSize();
+}
 
 }  // namespace quillmetra

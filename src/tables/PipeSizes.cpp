@@ -45,7 +45,9 @@ constexpr std::array<PipeCaller, 3> PipeCallers = {{
 }};
 
 // Factors that went through a database have seven digits.
-bool SameFactor(double a, double b) { return std::abs(a - b) <= 1e-6 * std::abs(b); }
+bool SameFactor(double a, double b) {
+    return std::abs(a - b) <= 1e-6 * std::abs(b);
+}
 
 bool IsMetric(double diameterFactor) {
     const std::array metricFactors = {InchesPerMillimetre, 0.3937, 39.37};  // mm, cm, m
@@ -53,7 +55,9 @@ bool IsMetric(double diameterFactor) {
                        [&](double factor) { return SameFactor(diameterFactor, factor); });
 }
 
-bool ListsMillimetres() { return SameFactor(Calc.UnitFactor[pipeunit::List], InchesPerMillimetre); }
+bool ListsMillimetres() {
+    return SameFactor(Calc.UnitFactor[pipeunit::List], InchesPerMillimetre);
+}
 
 void SetPipeUnits() {
     const bool metric = IsMetric(Calc.UnitFactor[pipeunit::Diameter]);
@@ -127,8 +131,7 @@ void PreparePipeUnits() {
     SetPipeUnits();
     const std::string& word = Calc.UnitName[pipeunit::Grid];
     if (ControlOf(Dialog, "lblPipeUnits").Caption() != word) UnloadForm(Dialog);
-    const bool converts =
-        !SameFactor(Calc.UnitFactor[pipeunit::List], Calc.UnitFactor[pipeunit::Diameter]);
+    const bool converts = !SameFactor(Calc.UnitFactor[pipeunit::List], Calc.UnitFactor[pipeunit::Diameter]);
     ControlOf(Dialog, "lblPipeUnits").SetCaption(word);
     ControlOf(Dialog, "lblConvertUnits").SetCaption(converts ? "Units will be Converted" : "");
     ShowForm(Dialog, Modal::Yes);

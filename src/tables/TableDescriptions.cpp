@@ -56,7 +56,8 @@ constexpr auto GasColumns = std::to_array<TableColumn>({
 
 constexpr auto LiquidColumns = std::to_array<TableColumn>({
     {"Name", {"Name of Liquid"}},
-    {"Tp", {FluidTypeNote, "1 is for Organic Compounds, 3 is for Water, 2 is Other Fluids", FluidTypeUseNote}},
+    {"Tp",
+     {FluidTypeNote, "1 is for Organic Compounds, 3 is for Water, 2 is Other Fluids", FluidTypeUseNote}},
     {"MW", {"MW is the Fluid Molecular Weight"}},
     {"Base SG", {"Base SG is the Specific Gravity at 60 degF"}},
     {"Crit Temp", {"Crit Temp is the Fluid Critical Temperature in degF"}},

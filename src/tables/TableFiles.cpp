@@ -13,9 +13,8 @@ namespace {
 
 // Characters of a UTF-8 text: bytes that do not continue one.
 int CharacterCount(std::string_view text) {
-    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-    }));
+    return static_cast<int>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 }  // namespace
@@ -34,7 +33,9 @@ TableFields SplitTableLine(const TableDescription& table, std::string_view line)
     return fields;
 }
 
-std::string_view RowName(std::string_view line) { return Trim(line.substr(0, line.find(','))); }
+std::string_view RowName(std::string_view line) {
+    return Trim(line.substr(0, line.find(',')));
+}
 
 std::vector<std::string> ReadTable(const TableDescription& table, const TableVariant& variant) {
     LineReader file(TablePath(table, variant));
@@ -49,8 +50,8 @@ std::vector<std::string> ReadTable(const TableDescription& table, const TableVar
 
 int FindTableRow(const std::vector<std::string>& rows, std::string_view name) {
     const std::string_view wanted = Trim(name);
-    const auto found =
-        std::find_if(rows.begin(), rows.end(), [&](const std::string& row) { return RowName(row) == wanted; });
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [&](const std::string& row) { return RowName(row) == wanted; });
     return found == rows.end() ? 0 : static_cast<int>(found - rows.begin());
 }
 
