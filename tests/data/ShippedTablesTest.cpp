@@ -63,9 +63,7 @@ void ExpectVaporPressureOfAFluid(const std::string& name, double boiling, double
     EXPECT_NEAR(last, criticalPressure, 1e-6 * criticalPressure) << "at the critical point";
 }
 
-double Kelvin(double degF) {
-    return (degF - 32) / 1.8 + 273.15;
-}
+double Kelvin(double degF) { return (degF - 32) / 1.8 + 273.15; }
 
 // The suite's gas viscosity, cp: a power of the absolute temperature through the two entries of a row.
 double GasViscosity(const NumberRow& gas, double temperature) {
@@ -160,7 +158,12 @@ TEST_F(ShippedTables, GasesBehaveAsGases) {
         SCOPED_TRACE(gas.Name);
         const double criticalPressure = gas[11], tc = gas[6] - AbsoluteZero;
         EXPECT_TRUE(gas[2] == 1 || gas[2] == 2 || gas[2] == 3);
-        ExpectVaporPressureOfAFluid(gas.Name, gas[4], gas[6], criticalPressure);
+        // The boiling point of synthesis gas is nitrogen's, above the pseudo-critical temperature of the
+        // mixture.
+        if (gas[4] < gas[6])
+            ExpectVaporPressureOfAFluid(gas.Name, gas[4], gas[6], criticalPressure);
+        else
+            EXPECT_EQ(gas.Name, "Synthesis Gas NH3");
         const double factor = criticalPressure * gas[3] * gas[5] / 10.7316 / tc;
         EXPECT_GT(factor, 0.1) << "critical compressibility factor";
         EXPECT_LT(factor, 0.5) << "critical compressibility factor";
