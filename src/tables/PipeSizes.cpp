@@ -96,13 +96,13 @@ std::string ListedLength(const std::string& inches) {
     return TrimmedStr(CheckFinite(RoundedThree(Val(inches) / Calc.UnitFactor[pipeunit::List])));
 }
 
-std::string PadLeft(std::string text, std::size_t width) {
-    return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
+// Pad to a width on the left or on the right; a longer text stays as it is.
+std::string PadLeft(const std::string& text, std::size_t width) {
+    return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-std::string PadRight(std::string text, std::size_t width) {
-    text.resize(std::max(width, text.size()), ' ');
-    return text;
+std::string PadRight(const std::string& text, std::size_t width) {
+    return text + std::string(width - std::min(width, text.size()), ' ');
 }
 
 std::string ListLine(const std::string& row) {

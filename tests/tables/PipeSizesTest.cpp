@@ -73,7 +73,7 @@ protected:
         RegisterForm(HammerForm, MakeCaller<HammerForm>);
         Calc.MessageText = words::PipeLiquidLoss;
     }
-    ~PipeSizes() override { ResetForms(); }
+    void TearDown() override { ResetForms(); }
 
     // Opens the lookup as a form's pipe button does, with the given factor of the diameter, in a unit.
     void Open(double factor = 1) {
