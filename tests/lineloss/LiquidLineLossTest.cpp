@@ -1,0 +1,311 @@
+// The liquid line against an independent program, and what it tells the user.
+#include "lineloss/LiquidLineLoss.h"
+
+#include <cmath>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "core/Words.h"
+#include "lineloss/FlowStatus.h"
+#include "lineloss/Friction.h"
+#include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
+#include "tests/SuiteFixture.h"
+
+namespace quillmetra {
+namespace {
+
+class LiquidLineLossTest : public SuiteTest {
+protected:
+    // Water in a 4 in schedule 40 line.
+    void TakeOrdinaryLine() {
+        Calc = CalcRecord();
+        Calc.CurrentProgram = 1;
+        Calc.MassFlow = 50000;
+        Calc.PipeId[1] = 4.026;
+        Calc.PipeLength[1] = 350;
+        Calc.Viscosity = 1;
+        Calc.FlowingSG = 1;
+        Calc.SourcePressure[1] = 114.7;
+        Calc.BaroPressure = 14.7;
+    }
+
+    void Calculate() {
+        CalcFriction();
+        CalcFinalPressure();
+    }
+};
+
+struct ReferenceLine {
+    std::map<std::string, std::string> Fields;
+    double operator[](const std::string& name) const { return Val(Fields.at(name)); }
+};
+
+std::vector<ReferenceLine> ReadReferenceLines() {
+    std::ifstream file(SourceFolder() / "tests/reference/liquid_lines.txt");
+    std::vector<std::string> names;
+    std::vector<ReferenceLine> lines;
+    std::string text;
+    std::getline(file, text);
+    std::getline(file, text);
+    std::istringstream heading(text.substr(2));
+    for (std::string name; heading >> name;) names.push_back(name);
+    while (std::getline(file, text)) {
+        std::istringstream fields(text);
+        ReferenceLine line;
+        for (const std::string& name : names) fields >> line.Fields[name];
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+const std::map<std::string, double CalcRecord::*> ReferenceInputs = {
+    {"flow", &CalcRecord::MassFlow},
+    {"viscosity", &CalcRecord::Viscosity},
+    {"sg", &CalcRecord::FlowingSG},
+    {"fouling", &CalcRecord::PipeFouling},
+    {"gate", &CalcRecord::GateValves},
+    {"globe", &CalcRecord::GlobeValves},
+    {"check", &CalcRecord::CheckValves},
+    {"ell90", &CalcRecord::Ells90},
+    {"ell45", &CalcRecord::Ells45},
+    {"thru", &CalcRecord::ThruTees},
+    {"branch", &CalcRecord::BranchTees},
+    {"barometer", &CalcRecord::BaroPressure},
+    {"factor_before", &CalcRecord::TurbulentFactor},
+};
+
+void TakeReferenceLine(const ReferenceLine& line) {
+    Calc.CurrentProgram = 1;
+    for (const auto& [name, field] : ReferenceInputs) Calc.*field = line[name];
+    Calc.PipeId[1] = line["id"];
+    Calc.PipeLength[1] = line["length"];
+    Calc.SourcePressure[1] = line["source"];
+    Calc.Elevation = {0, line["start"], line["end"]};
+    Calc.EquipLoss[1] = line["equipment"];
+    Calc.PipeMaterialNumber = static_cast<int>(line["material"]);
+    Calc.EntranceK = 1.5 * line["entrance"];
+    Calc.ExitK = 2.7 * line["exit"];
+    Calc.PressureDirection = static_cast<int>(line["direction"]);
+    Calc.PressureMode = line["gauge"] == 1 ? words::Gauge : words::Absolute;
+}
+
+// One record for all lines: what a case leaves behind must not reach the next one.
+TEST_F(LiquidLineLossTest, AgreesWithTheIndependentProgram) {
+    Suite.HideFlowStatus = words::Yes;
+    const auto lines = ReadReferenceLines();
+    ASSERT_GT(lines.size(), 200U);
+    std::map<std::string, int> seen;
+    for (const ReferenceLine& line : lines) {
+        std::string text;
+        for (const auto& [name, value] : line.Fields) text.append(name).append("=").append(value).append(" ");
+        SCOPED_TRACE(text);
+        TakeReferenceLine(line);
+        User.Boxes.clear();
+        Calculate();
+        ASSERT_NEAR(Calc.ReynoldsNumber / line["reynolds"], 1, 1e-14);
+        ASSERT_NEAR(Calc.FrictionFactor / line["friction"], 1, 1e-12);
+        ASSERT_EQ(Calc.TurbulentFactor, line["turbulent"]);
+        ASSERT_EQ(Calc.FlowZone.empty() ? "-" : Calc.FlowZone, line.Fields.at("zone"));
+        ASSERT_EQ(Calc.TransitionMark.empty() ? "-" : Calc.TransitionMark, line.Fields.at("mark"));
+        ASSERT_NEAR(Calc.LossPer100 / line["loss100"], 1, 1e-12);
+        ASSERT_NEAR(Calc.Velocity / line["velocity"], 1, 1e-14);
+        ASSERT_NEAR(Calc.EquivLength, line["equivalent"], 1e-10 * std::fabs(line["equivalent"]));
+        ASSERT_NEAR(Calc.FlowPressure, line["final"], 1e-9 * line["source"]);
+        const double percent = line["percent"];
+        const std::string expected =
+            "Zero pressure reached @" + Str(percent) + " % of equiv line length\nFlow cannot be maintained";
+        ASSERT_EQ(User.LastText(), percent < 0 ? "" : expected);
+        ++seen[Calc.FlowZone + "/" + Calc.TransitionMark];
+        ++seen[percent < 0 ? "delivers" : "runs dry"];
+    }
+    for (const char* kind : {"Lam/Trans", "Crit/Trans", "/Trans", "/", "delivers", "runs dry"}) {
+        EXPECT_GT(seen[kind], 3) << kind;
+    }
+}
+
+// The damped iteration stops within its tolerance of the root of the equation itself.
+TEST_F(LiquidLineLossTest, TheFactorSolvesTheColebrookEquation) {
+    for (const PipeMaterial& material : PipeMaterials) {
+        for (double diameter = 0.3; diameter < 100; diameter *= 1.7) {
+            for (double reynolds = 2000.1; reynolds < 1e9; reynolds *= 3) {
+                const ColebrookResult result = SolveColebrook(reynolds, diameter, &material, 0);
+                ASSERT_TRUE(result.Converged) << material.Name << diameter << " " << reynolds;
+                double low = 1e-4, high = 1;
+                for (int i = 0; i < 100; ++i) {
+                    const double f = (low + high) / 2;
+                    const double x =
+                        material.Roughness / 3.7 / diameter + material.Constant / (reynolds * std::sqrt(f));
+                    (1 / std::sqrt(f) > -0.8685999 * std::log(x) ? low : high) = f;
+                }
+                ASSERT_NEAR(result.Factor, low, 3e-6);
+            }
+        }
+    }
+}
+
+TEST_F(LiquidLineLossTest, AMaterialNumberOutsideTheListKeepsTheLastTerm) {
+    Suite.HideFlowStatus = words::Yes;
+    TakeOrdinaryLine();
+    Calculate();
+    const double term = Calc.ColebrookTerm;
+    for (const int number : {0, 8, -1, 1000000}) {
+        Calc.PipeMaterialNumber = number;
+        Calculate();
+        EXPECT_EQ(Calc.ColebrookTerm, term);
+        EXPECT_NEAR(1 / std::sqrt(Calc.FrictionFactor), -0.8685999 * std::log(term), 0.01);
+    }
+    // With no term at all there is no factor: told, and no result may be shown.
+    TakeOrdinaryLine();
+    Calc.PipeMaterialNumber = 8;
+    Calculate();
+    ASSERT_EQ(User.Boxes.size(), 1U);
+    EXPECT_EQ(User.Boxes[0].Title, "Friction Factor Calculation");
+    EXPECT_EQ(User.Boxes[0].Text, "Will not converge\nUse data with care");
+    EXPECT_EQ(User.Boxes[0].Sign, Icon::Question);
+    EXPECT_EQ(Calc.IterationCount, 101);
+    EXPECT_THROW(LiquidLineResultsOf(Calc), RuntimeError);
+    // The fault must not outlive its cause.
+    Calc.PipeMaterialNumber = 1;
+    Calculate();
+    EXPECT_NEAR(Calc.FlowPressure, 113.77187, 1e-5);
+}
+
+TEST_F(LiquidLineLossTest, TellsTheFlowZone) {
+    const struct {
+        double Flow, Diameter;
+        int Case;
+        const char *Text, *ZoneAfter, *MarkAfter;
+    } cases[] = {
+        {200, 1, 0, "Maximum flow is in the Laminar Zone \nUse data with care", "Trans", ""},
+        {1500, 50, 1, "Normal flow is in the Laminar Zone \nUse data with care", "", ""},
+        {300, 1, 1, "Normal flow is in the Critical Zone \nUse data with care", "Crit", ""},
+        {50000, 4.026, 2, "Minimum flow in is in the Transition Zone  \nUse data with care", "", "Trans"},
+        {5e6, 4.026, 7, "Minimum flow is in the Complete Turbulence Zone ", "", ""},
+        {5e6, 48, 0, "Maximum flow is in the Complete Turbulence Zone ", "", ""},
+    };
+    for (const auto& each : cases) {
+        TakeOrdinaryLine();
+        Calc.Viscosity = 0.631;
+        Calc.MassFlow = each.Flow;
+        Calc.PipeId[1] = each.Diameter;
+        Calc.CaseIndex = each.Case;
+        User.Boxes.clear();
+        CalcFriction();
+        ASSERT_EQ(User.Boxes.size(), 1U);
+        EXPECT_EQ(User.Boxes[0].Text, std::string(each.Text) + "\n\n\n(Press No to hide the message)");
+        EXPECT_EQ(User.Boxes[0].Title, "Flow Status");
+        EXPECT_EQ(User.Boxes[0].Choice, Buttons::YesNo);
+        EXPECT_EQ(User.Boxes[0].Sign, Icon::Question);
+        EXPECT_EQ(Calc.FlowZone, each.ZoneAfter);
+        EXPECT_EQ(Calc.TransitionMark, each.MarkAfter);
+    }
+    EXPECT_EQ(Suite.HideFlowStatus, "");
+}
+
+TEST_F(LiquidLineLossTest, NoHidesTheMessageForTheRun) {
+    TakeOrdinaryLine();
+    Calc.StdPressure = 14.7;
+    Calc.StdTemperature = 60;
+    User.Answers = {Answer::No};
+    CalcFriction();
+    EXPECT_EQ(Suite.HideFlowStatus, "Yes");
+    EXPECT_TRUE(std::filesystem::exists(DataFolder() / "TRSTP.TXT"));
+    const double shown = Calc.EquivLength;
+    CalcFriction();
+    EXPECT_EQ(User.Boxes.size(), 1U);
+    EXPECT_EQ(Calc.EquivLength, shown) << "hiding changes no number";
+}
+
+TEST_F(LiquidLineLossTest, ResultsInTheUnitsShown) {
+    Suite.HideFlowStatus = words::Yes;
+    TakeOrdinaryLine();
+    Calc.Elevation = {0, 10, 0};
+    Calculate();
+    const LiquidLineResults english = LiquidLineResultsOf(Calc);
+    EXPECT_DOUBLE_EQ(english.FinalPressure, 103.4);
+    EXPECT_DOUBLE_EQ(english.Velocity, 2.517);
+    EXPECT_DOUBLE_EQ(english.Reynolds, 78366);
+    EXPECT_DOUBLE_EQ(english.EquivLength, 1283) << "of a line that gains by its fall, without its sign";
+    EXPECT_DOUBLE_EQ(english.LossPer100, 0.2652);
+    // Converting the results by hand gives the same as units that were in force.
+    for (const char* mode : {words::Gauge, words::Absolute}) {
+        Calc.PressureMode = mode;
+        Calc.UnitFactor.fill(1);
+        const LiquidLineResults before = LiquidLineResultsOf(Calc);
+        Calc.UnitFactor[3] = Calc.UnitFactor[4] = 0.14504;
+        Calc.UnitFactor[20] = Calc.UnitFactor[25] = 3.281;
+        const LiquidLineResults si = LiquidLineResultsOf(Calc);
+        EXPECT_NEAR(si.FinalPressure * 0.14504 / before.FinalPressure, 1, 1e-3);
+        EXPECT_NEAR(si.LossPer100 * 0.14504 / 3.281 / before.LossPer100, 1, 1e-3);
+        EXPECT_NEAR(si.Velocity * 3.281 / before.Velocity, 1, 1e-3);
+        EXPECT_NEAR(si.EquivLength * 3.281 / before.EquivLength, 1, 1e-3);
+        EXPECT_EQ(si.Reynolds, before.Reynolds);
+    }
+}
+
+// Source pressure from the destination's, and back again.
+TEST_F(LiquidLineLossTest, TheTwoDirectionsAreInverse) {
+    Suite.HideFlowStatus = words::Yes;
+    TakeOrdinaryLine();
+    Calc.Elevation = {0, 5, 60};
+    Calc.EquipLoss[1] = 4;
+    Calc.ExitK = 2.7;
+    Calc.Ells90 = 6;
+    Calculate();
+    const double destination = Calc.FlowPressure;
+    EXPECT_LT(destination, 114.7 - 4 - 23);
+    Calc.PressureDirection = 2;
+    Calc.SourcePressure[1] = destination;
+    Calculate();
+    EXPECT_NEAR(Calc.FlowPressure, 114.7, 1e-10);
+    EXPECT_LT(Calc.EquivLength, 0);
+    EXPECT_GT(LiquidLineResultsOf(Calc).LossPer100, 0);
+    EXPECT_GT(LiquidLineResultsOf(Calc).EquivLength, 0);
+}
+
+TEST_F(LiquidLineLossTest, NumbersWithoutSenseEndInAMessageOrAnError) {
+    Suite.HideFlowStatus = words::Yes;
+    // A length of exactly nothing has no loss to spread.
+    TakeOrdinaryLine();
+    Calculate();
+    Calc.EquivLength = 0;
+    EXPECT_EQ(LiquidLineResultsOf(Calc).LossPer100, 0);
+    // No pressure and no difference: the percentage is 0, not a division of nothing by nothing.
+    Calc.LossPer100 = 1;
+    Calc.SourcePressure[1] = 0;
+    CalcFinalPressure();
+    EXPECT_EQ(User.LastText(), "Zero pressure reached @ 0 % of equiv line length\nFlow cannot be maintained");
+    EXPECT_EQ(User.Boxes.back().Sign, Icon::Stop);
+    EXPECT_EQ(User.Boxes.back().Title, "Line pressure loss calculation");
+    // Whatever is typed, no number that is none gets past the results.
+    const double huge[] = {1e-300, 1e-12, 1, 1e12, 1e300};
+    for (const double flow : huge) {
+        for (const double diameter : huge) {
+            for (const double viscosity : huge) {
+                TakeOrdinaryLine();
+                Calc.MassFlow = flow;
+                Calc.PipeId[1] = diameter;
+                Calc.Viscosity = viscosity;
+                Calc.GateValves = -3;
+                Calculate();
+                try {
+                    const LiquidLineResults results = LiquidLineResultsOf(Calc);
+                    for (const double each : {results.FinalPressure, results.LossPer100, results.Velocity,
+                                              results.Reynolds, results.EquivLength}) {
+                        ASSERT_TRUE(std::isfinite(each));
+                    }
+                } catch (const RuntimeError& error) {
+                    ASSERT_FALSE(error.Description.empty());
+                }
+                User.Boxes.clear();
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace quillmetra
