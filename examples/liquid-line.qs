@@ -17,14 +17,13 @@ click cmdPipeID
 expect-form frmPipeSize
 type txtNomSize 4
 click cmdSearch
-pick lstPipeSize "   4,40S"
+pick lstPipeSize "  4,40S"
 click cmdOK
 expect-form frmLiqLineLoss
 expect txtInletPipeID 4.026
 
 # The fluid at 60 degF and 100 psig, from the table of liquids.
 type txtTemp(0) 60
-answer Yes
 type txtPressure(0) 100
 click mnuPureLiquid1
 pick lstFluid "Water "
