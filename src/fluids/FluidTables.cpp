@@ -77,9 +77,7 @@ std::vector<std::string> ReadFluidRows(std::string_view fluidType) {
     return rows;
 }
 
-std::string_view FluidRowName(std::string_view row) {
-    return Trim(row.substr(0, row.find(',')));
-}
+std::string_view FluidRowName(std::string_view row) { return Trim(row.substr(0, row.find(','))); }
 
 int FindFluidName(const std::vector<std::string>& rows, std::string_view name) {
     const auto found = std::find_if(rows.begin(), rows.end(),

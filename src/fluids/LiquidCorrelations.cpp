@@ -44,9 +44,7 @@ double GravityFrom(float critCompressibility, double critTemperature, double cri
             lowering / critTemperature);
 }
 
-double LightBase(double gravity) {
-    return std::pow(1.407 - gravity, 7.9) / 14.5 + 0.003;
-}
+double LightBase(double gravity) { return std::pow(1.407 - gravity, 7.9) / 14.5 + 0.003; }
 
 // Between 20 and 80 degF the temperature that counts bends from one end to the other.
 double EasedTemperature(double temperature) {
@@ -118,9 +116,7 @@ double LightCompressibility(double gravity, double temperature) {
 }
 
 // 26.667 is 60 degF eased, less 20.
-double LightCompressibilityAt60(double gravity) {
-    return LightBase(gravity) * std::pow(1.11, 26.667 / 20.0);
-}
+double LightCompressibilityAt60(double gravity) { return LightBase(gravity) * std::pow(1.11, 26.667 / 20.0); }
 
 double PressureViscosityFactor(double viscosity, double pressure) {
     return std::pow(10.0, (pressure / 1000) * (0.0239 + 0.01638 * std::pow(viscosity, 0.278)));
@@ -142,8 +138,6 @@ double WaterViscosityAt(double temperature) {
     return 100 / (2.152938705 * (celsius + std::sqrt(8078.4 + celsius * celsius)) - 120);
 }
 
-double BulkModulusAt(double base, double slope, double pressure) {
-    return base * 1000 + pressure * slope;
-}
+double BulkModulusAt(double base, double slope, double pressure) { return base * 1000 + pressure * slope; }
 
 }  // namespace quillmetra

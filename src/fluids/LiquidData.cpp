@@ -28,9 +28,7 @@ int FluidClassNumber() {
     return number == Organic ? Organic : number == Water ? Water : 0;
 }
 
-bool IsMixture() {
-    return Calc.FluidOk != words::FluidPicked;
-}
+bool IsMixture() { return Calc.FluidOk != words::FluidPicked; }
 
 bool GoOnAboveCritical() {
     if (!(Calc.FlowTemperature > Calc.CritTemperature - Rankine)) return true;

@@ -38,9 +38,7 @@ frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmPipeSize::Load() {
-    ApplyColours(*this);
-}
+void frmPipeSize::Load() { ApplyColours(*this); }
 
 // Enter searches while the size is being typed, and takes the selected row afterwards.
 void frmPipeSize::ControlGotFocus(Control& control) {
@@ -60,9 +58,7 @@ void frmPipeSize::txtNomSize_Change() {
     lstPipeSize.Clear();
 }
 
-void frmPipeSize::txtNomSize_GotFocus() {
-    txtNomSize.SelectAll();
-}
+void frmPipeSize::txtNomSize_GotFocus() { txtNomSize.SelectAll(); }
 
 void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.Clear();
@@ -86,9 +82,7 @@ void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.SetFocus();
 }
 
-void frmPipeSize::lstPipeSize_Click() {
-    cmdOK.SetEnabled(true);
-}
+void frmPipeSize::lstPipeSize_Click() { cmdOK.SetEnabled(true); }
 
 void frmPipeSize::cmdOK_Click() {
     if (lstPipeSize.Selected() < 0) {
@@ -100,8 +94,6 @@ void frmPipeSize::cmdOK_Click() {
     ReturnPipeSize();
 }
 
-void frmPipeSize::cmdCancel_Click() {
-    CancelPipeSize();
-}
+void frmPipeSize::cmdCancel_Click() { CancelPipeSize(); }
 
 }  // namespace quillmetra

@@ -25,9 +25,7 @@ double PercentReached(double difference) {
     return Int(100 * source / difference);
 }
 
-double Shown(double value) {
-    return CheckFinite(RoundedFour(value));
-}
+double Shown(double value) { return CheckFinite(RoundedFour(value)); }
 
 }  // namespace
 

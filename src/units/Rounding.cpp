@@ -35,24 +35,12 @@ double Rounded(double value, double limit) {
 
 }  // namespace
 
-double RoundedThree(double value) {
-    return Rounded(value, 100);
-}
-double RoundedFour(double value) {
-    return Rounded(value, 1000);
-}
-double RoundedSix(double value) {
-    return Rounded(value, 100000);
-}
+double RoundedThree(double value) { return Rounded(value, 100); }
+double RoundedFour(double value) { return Rounded(value, 1000); }
+double RoundedSix(double value) { return Rounded(value, 100000); }
 
-void RoundThree() {
-    Calc.Scratch = RoundedThree(Calc.Scratch);
-}
-void RoundFour() {
-    Calc.Scratch = RoundedFour(Calc.Scratch);
-}
-void RoundSix() {
-    Calc.Scratch = RoundedSix(Calc.Scratch);
-}
+void RoundThree() { Calc.Scratch = RoundedThree(Calc.Scratch); }
+void RoundFour() { Calc.Scratch = RoundedFour(Calc.Scratch); }
+void RoundSix() { Calc.Scratch = RoundedSix(Calc.Scratch); }
 
 }  // namespace quillmetra

@@ -133,9 +133,7 @@ void Fill(UnitList& list, const DefaultList& defaults) {
     }
 }
 
-const char* PressureEnding() {
-    return Calc.PressureMode == words::Absolute ? "a" : "g";
-}
+const char* PressureEnding() { return Calc.PressureMode == words::Absolute ? "a" : "g"; }
 
 constexpr UnitRow::Choice None{};
 
@@ -211,12 +209,8 @@ void ResetUnits(bool english) {
 
 }  // namespace
 
-void ResetEnglishUnits() {
-    ResetUnits(true);
-}
-void ResetSIUnits() {
-    ResetUnits(false);
-}
+void ResetEnglishUnits() { ResetUnits(true); }
+void ResetSIUnits() { ResetUnits(false); }
 
 void CarryDensityUnit() {
     const bool lineDensity =
