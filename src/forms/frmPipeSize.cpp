@@ -12,7 +12,7 @@ namespace {
 constexpr const char* FileTitle = "Pipe Size file";
 }  // namespace
 
-frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
+frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
     SetCaption("Pipe sizes");
     Fixed = true;
     DefaultButton = &cmdOK;
@@ -29,7 +29,6 @@ frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
     cmdOK.SetEnabled(false);
 
     txtNomSize.Change = [this] { txtNomSize_Change(); };
-    txtNomSize.GotFocus = [this] { txtNomSize_GotFocus(); };
     txtNomSize.DoubleClick = [this] { cmdSearch_Click(); };
     cmdSearch.Click = [this] { cmdSearch_Click(); };
     lstPipeSize.Click = [this] { lstPipeSize_Click(); };
@@ -38,30 +37,17 @@ frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmPipeSize::Load() {
-    ApplyColours(*this);
-}
+void frmPipeSize::Load() { ApplyColours(*this); }
 
 // Enter searches while the size is being typed, and takes the selected row afterwards.
 void frmPipeSize::ControlGotFocus(Control& control) {
+    SuiteForm::ControlGotFocus(control);
     DefaultButton = &control == &txtNomSize ? &cmdSearch : &cmdOK;
-    if (&control == &txtNomSize) {
-        txtNomSize.SetColours(SlotColour(slot::SelectedBack), SlotColour(slot::SelectedText));
-    }
-}
-
-void frmPipeSize::ControlLostFocus(Control& control) {
-    if (&control != &txtNomSize) return;
-    txtNomSize.SetColours(SlotColour(slot::InputBack), SlotColour(slot::InputText));
 }
 
 void frmPipeSize::txtNomSize_Change() {
     cmdSearch.SetEnabled(true);
     lstPipeSize.Clear();
-}
-
-void frmPipeSize::txtNomSize_GotFocus() {
-    txtNomSize.SelectAll();
 }
 
 void frmPipeSize::cmdSearch_Click() {
@@ -86,9 +72,7 @@ void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.SetFocus();
 }
 
-void frmPipeSize::lstPipeSize_Click() {
-    cmdOK.SetEnabled(true);
-}
+void frmPipeSize::lstPipeSize_Click() { cmdOK.SetEnabled(true); }
 
 void frmPipeSize::cmdOK_Click() {
     if (lstPipeSize.Selected() < 0) {
@@ -100,8 +84,6 @@ void frmPipeSize::cmdOK_Click() {
     ReturnPipeSize();
 }
 
-void frmPipeSize::cmdCancel_Click() {
-    CancelPipeSize();
-}
+void frmPipeSize::cmdCancel_Click() { CancelPipeSize(); }
 
 }  // namespace quillmetra

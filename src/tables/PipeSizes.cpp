@@ -45,9 +45,7 @@ constexpr std::array<PipeCaller, 3> PipeCallers = {{
 }};
 
 // Factors that went through a database have seven digits.
-bool SameFactor(double a, double b) {
-    return std::abs(a - b) <= 1e-6 * std::abs(b);
-}
+bool SameFactor(double a, double b) { return std::abs(a - b) <= 1e-6 * std::abs(b); }
 
 bool IsMetric(double diameterFactor) {
     const std::array metricFactors = {InchesPerMillimetre, 0.3937, 39.37};  // mm, cm, m
@@ -55,9 +53,7 @@ bool IsMetric(double diameterFactor) {
                        [&](double factor) { return SameFactor(diameterFactor, factor); });
 }
 
-bool ListsMillimetres() {
-    return SameFactor(Calc.UnitFactor[pipeunit::List], InchesPerMillimetre);
-}
+bool ListsMillimetres() { return SameFactor(Calc.UnitFactor[pipeunit::List], InchesPerMillimetre); }
 
 void SetPipeUnits() {
     const bool metric = IsMetric(Calc.UnitFactor[pipeunit::Diameter]);

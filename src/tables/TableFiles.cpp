@@ -33,9 +33,7 @@ TableFields SplitTableLine(const TableDescription& table, std::string_view line)
     return fields;
 }
 
-std::string_view RowName(std::string_view line) {
-    return Trim(line.substr(0, line.find(',')));
-}
+std::string_view RowName(std::string_view line) { return Trim(line.substr(0, line.find(','))); }
 
 std::vector<std::string> ReadTable(const TableDescription& table, const TableVariant& variant) {
     LineReader file(TablePath(table, variant));
