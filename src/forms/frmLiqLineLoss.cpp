@@ -47,7 +47,6 @@ frmLiqLineLoss::frmLiqLineLoss()
     lstMatl.SetVisible(false);
     lstMatl.Describe(&lblMatl);
     cmdMatl.Describe(&lblMatl);
-    cmdOKUn.SetVisible(false);
     optDestination.SetChecked(true);
     // Units and mixtures are yet to come.
     cmdUnits.Each([](CommandButton& button, int) {

@@ -70,7 +70,6 @@ public:
     ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
     ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
     ControlArray<CommandButton> cmdUnits{Picture1, "cmdUnits", {1, 2, 3, 4, 6, 7, 18, 25}, ""};
-    CommandButton cmdOKUn{Picture1, "cmdOKUn", "OK"};
 
     // Results
     Label lblDropP100{Picture1, "lblDropP100", "Loss per 100 "};

@@ -12,7 +12,7 @@ namespace {
 constexpr const char* FileTitle = "Pipe Size file";
 }  // namespace
 
-frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
+frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
     SetCaption("Pipe sizes");
     Fixed = true;
     DefaultButton = &cmdOK;
@@ -29,7 +29,6 @@ frmPipeSize::frmPipeSize() : Form("frmPipeSize") {
     cmdOK.SetEnabled(false);
 
     txtNomSize.Change = [this] { txtNomSize_Change(); };
-    txtNomSize.GotFocus = [this] { txtNomSize_GotFocus(); };
     txtNomSize.DoubleClick = [this] { cmdSearch_Click(); };
     cmdSearch.Click = [this] { cmdSearch_Click(); };
     lstPipeSize.Click = [this] { lstPipeSize_Click(); };
@@ -42,15 +41,8 @@ void frmPipeSize::Load() { ApplyColours(*this); }
 
 // Enter searches while the size is being typed, and takes the selected row afterwards.
 void frmPipeSize::ControlGotFocus(Control& control) {
+    SuiteForm::ControlGotFocus(control);
     DefaultButton = &control == &txtNomSize ? &cmdSearch : &cmdOK;
-    if (&control == &txtNomSize) {
-        txtNomSize.SetColours(SlotColour(slot::SelectedBack), SlotColour(slot::SelectedText));
-    }
-}
-
-void frmPipeSize::ControlLostFocus(Control& control) {
-    if (&control != &txtNomSize) return;
-    txtNomSize.SetColours(SlotColour(slot::InputBack), SlotColour(slot::InputText));
 }
 
 void frmPipeSize::txtNomSize_Change() {
@@ -58,8 +50,11 @@ void frmPipeSize::txtNomSize_Change() {
     lstPipeSize.Clear();
 }
 
+<<<<<<< HEAD
 void frmPipeSize::txtNomSize_GotFocus() { txtNomSize.SelectAll(); }
 
+=======
+>>>>>>> tables
 void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.Clear();
     std::vector<std::string> lines;

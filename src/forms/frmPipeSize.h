@@ -2,18 +2,17 @@
 // form that opened the dialog. What it looks up and returns is in tables/PipeSizes.h.
 #pragma once
 
-#include "platform/Form.h"
+#include "forms/SuiteForm.h"
 
 namespace quillmetra {
 
-class frmPipeSize : public Form {
+class frmPipeSize : public SuiteForm {
 public:
     frmPipeSize();
 
     void Load() override;
     void CloseBox() override { cmdCancel_Click(); }
     void ControlGotFocus(Control& control) override;
-    void ControlLostFocus(Control& control) override;
 
     Label lblNomSize{*this, "lblNomSize", "Nominal size"};
     TextBox txtNomSize{*this, "txtNomSize"};
@@ -26,7 +25,6 @@ public:
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
     void txtNomSize_Change();
-    void txtNomSize_GotFocus();
     void cmdSearch_Click();
     void lstPipeSize_Click();
     void cmdOK_Click();

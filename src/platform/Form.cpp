@@ -139,6 +139,11 @@ void Form::Register(Control& control) {
     controls_.push_back(&control);
 }
 
+void Form::Alias(std::string_view name, Control& control) {
+    const bool added = byName_.emplace(NameKey{name, control.Index()}, &control).second;
+    if (!added) throw std::logic_error(name_ + ": two controls named " + std::string(name));
+}
+
 Control* Form::Find(std::string_view name, int index) const {
     const auto found = byName_.find(NameKey{name, index});
     return found == byName_.end() ? nullptr : found->second;

@@ -47,6 +47,8 @@ public:
     const std::vector<Control*>& Controls() const { return controls_; }
     // By name without regard to case; null when there is none.
     Control* Find(std::string_view name, int index = Control::NoIndex) const;
+    // A second name by which Find gives a control; the name must outlive the form (a literal).
+    void Alias(std::string_view name, Control& control);
     // The controls that Tab visits, in order: TabOrder when the form fills it, else all tab stops as made.
     std::vector<Control*> TabStops() const;
 
