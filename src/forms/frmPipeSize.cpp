@@ -50,11 +50,6 @@ void frmPipeSize::txtNomSize_Change() {
     lstPipeSize.Clear();
 }
 
-<<<<<<< HEAD
-void frmPipeSize::txtNomSize_GotFocus() { txtNomSize.SelectAll(); }
-
-=======
->>>>>>> tables
 void frmPipeSize::cmdSearch_Click() {
     lstPipeSize.Clear();
     std::vector<std::string> lines;
