@@ -89,7 +89,8 @@ double VaporPressureOf(double normalBoilingPoint, double critTemperature, double
     return atmospheres * std::exp(exponent) * Atmosphere;
 }
 
-double GeneralCompressibility(double tr) {
+double GeneralCompressibility(double reducedTemperature) {
+    const double tr = reducedTemperature;
     return 0.269 * tr - 0.5163 * (tr * tr) + 0.3521 * (tr * tr * tr) - 0.0461;
 }
 

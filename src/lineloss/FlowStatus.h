@@ -11,9 +11,9 @@ namespace quillmetra {
 // A fitting's K is its ratio of length to diameter times the factor of complete turbulence. Entrance and exit
 // give their K themselves: 1.5 and 2.7, which allow for a large change of line size.
 struct Fitting {
-    std::size_t Element;  // of EquivLengthPerFitting
-    double LengthToDiameter;
-    double CalcRecord::*Count;
+    std::size_t Element = 0;  // of EquivLengthPerFitting
+    double LengthToDiameter = 0;
+    double CalcRecord::*Count = nullptr;
     bool CountIsK = false;
 };
 
