@@ -118,7 +118,7 @@ TEST_F(LiquidDataTest, BordersOfTheRules) {
     EXPECT_LE(capped, 500 * std::exp(10.0) * (1 + 1e-12));
     EXPECT_DOUBLE_EQ(VaporPressureOf(60, 700, 5e8, 5e5), VaporPressureOf(60, 700, 5e8, 6e5));
 
-    // Gravity of exactly 1 and viscosity of exactly 1.2 stay with the general rule.
+    // A viscosity of exactly 1.2 takes no pressure factor.
     Calc.CurrentProgram = 1;
     Take("Edge,1,100,1,700,60,1.2,160,0.5,500,300,", 60, 1000);
     Calc.FluidViscosity = 1.2;
@@ -190,6 +190,14 @@ TEST_F(LiquidDataTest, AsksWhetherAGasIsMeant) {
     Take(RowOf("Propane"), 100, 100);
     EXPECT_TRUE(ProcessLiquidData());
     EXPECT_EQ(Calc.SelectedFluidName, "Propane");
+    // Both pressures are absolute, and equal ones count as a gas.
+    const double vaporPressure = Calc.VaporPressure;
+    for (const double pressure : {vaporPressure, vaporPressure * 1.000001}) {
+        User.Boxes.clear();
+        Take(RowOf("Propane"), 100, pressure);
+        EXPECT_TRUE(ProcessLiquidData());
+        EXPECT_EQ(User.Boxes.size(), pressure == vaporPressure ? 1U : 0U);
+    }
 }
 
 // A mixture has no vapor pressure of its own. Its base gravity is worked out anew from its constants.

@@ -212,7 +212,7 @@ LIQUIDS = [
 def property_cases():
     for row in LIQUIDS:
         water_row = row.split(",")[1].strip() == "3"
-        for t in (20, 36.9, 37, 60, 80, 137, 212, 300) + ((336, 437, 600, 636.9, 705.9) if water_row else (-20,)):
+        for t in (20, 36.9, 37, 60, 80, 137, 212, 300) + ((180, 336, 400, 437, 500, 600, 636.9, 705.9) if water_row else (-20,)):
             for p, barometer in ((14.7, 14.7), (800, 14.7), (2500, 12.2)):
                 yield row, t, p, barometer
 

@@ -69,6 +69,9 @@ TEST_F(UnitsTest, TheLibraryIsSound) {
         {6, "inH2O", 0.0361},
         {8, "MPaa", 145.0377},
         {9, "g/cm3", 62.42796},
+        {9, "lb/in3", 1728},
+        {9, "kg/m3", 0.06242796},
+        {7, "Pa.s", 1000},
         {14, "mm", 1 / 25.4},
         {15, "m/s", 3.28084},
         {16, "m", 3.28084},
@@ -78,6 +81,15 @@ TEST_F(UnitsTest, TheLibraryIsSound) {
     };
     for (const auto& each : known)
         EXPECT_NEAR(FactorIn(each.List, each.Name) / each.True, 1, 3e-3) << each.Name;
+    // A pressure unit has one factor, in whichever list it stands.
+    for (std::size_t line = 1; line <= 9; ++line) {
+        const UnitLine& stem = Suite.PressureStem[line];
+        for (const int list : {5, 6, 8, 10, 13, 18}) {
+            const char* ending = list == 5 ? "g" : list == 6 || list == 18 ? "" : "a";
+            const double factor = FactorIn(list, stem.Name + ending);
+            EXPECT_TRUE(factor == stem.Factor || (factor == 0 && stem.Name == "inH2O")) << list << stem.Name;
+        }
+    }
 }
 
 TEST_F(UnitsTest, EachSetOnEachFluid) {
