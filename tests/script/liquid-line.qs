@@ -19,7 +19,7 @@ expect-form frmPipeSize
 expect-state cmdSearch disabled
 type txtNomSize 4
 key txtNomSize Enter
-pick lstPipeSize "   4,40S"
+pick lstPipeSize "  4,40S"
 doubleclick lstPipeSize
 expect-form frmLiqLineLoss
 expect txtInletPipeID 4.026
