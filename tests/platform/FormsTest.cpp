@@ -113,6 +113,7 @@ TEST_F(Forms, UnloadingInAnyHandlerIsSafe) {
             form.txtName.Change = unload;
             other.txtThere.Change = [&] {
                 form.txtName.SetText("from there");
+                EXPECT_NE(TheLog.back(), "destroyed") << "the handler still refers to the form";
                 form.txtName.SetColours(1, 2);
             };
             TypeText(other.txtThere, "x");

@@ -124,8 +124,10 @@ TEST_F(TextFiles, AllBytesSurviveReadingAndWriting) {
               "\xE2\x82\xAC 20\xC2\xB0"
               "C");
     // What the code page does not have, and what is no UTF-8 at all, passes through.
-    for (const char* text :
-         {"\xCE\xA9", "\xE6\xB0\xB4", "\xF0\x9F\x98\x80", "\xC3(", "\xE2\x82", "\xFF\xFE"}) {
+    for (const char* text : {"\xCE\xA9", "\xE6\xB0\xB4", "\xF0\x9F\x98\x80", "\xC3(",
+                             "\xE2"
+                             "B\xAC",
+                             "\xE2\x82", "\xFF\xFE"}) {
         EXPECT_EQ(Code1252From(text), text);
     }
 }
