@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdio>
 #include <ostream>
+#include <utility>
 
 #include "core/Suite.h"
 #include "platform/Forms.h"
@@ -86,7 +87,7 @@ const Grid* AsGrid(const Control& control) { return As<Grid>(control, {ControlKi
 
 MessageBox TakeUnread(ScriptPlayer& player) {
     if (player.Host.Unread.empty()) throw ScriptFailure{"no message box is unread"};
-    const MessageBox box = player.Host.Unread.front();
+    MessageBox box = std::move(player.Host.Unread.front());
     player.Host.Unread.pop_front();
     return box;
 }

@@ -22,8 +22,8 @@ public:
     // The next line without its end; false after the last one.
     bool Next(std::string& line);
 
-    // Where the line read last stands: "liquid-line.qs:12".
-    std::string Place() const { return name_ + ":" + std::to_string(line_); }
+    // Where the line read last stands, "liquid-line.qs:12"; the program's name before the first line.
+    std::string Place() const { return line_ == 0 ? name_ : name_ + ":" + std::to_string(line_); }
 
 private:
     struct File {
@@ -34,7 +34,7 @@ private:
     };
 
     std::vector<File> files_;
-    std::string name_ = "script";
+    std::string name_ = "quillmetra-script";
     int line_ = 0;
 };
 
