@@ -8,33 +8,11 @@
 #include "forms/CalculationForm.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/Temperature.h"
 
 namespace quillmetra {
 
 namespace {
-
-// Absolute zero in degF, and how each unit of temperature leads to degF.
-constexpr double AbsoluteZero = -459.67;
-
-struct TemperatureRule {
-    const char* Unit;
-    double Factor;
-    double Offset;   // degF = value x factor + offset
-    double Minimum;  // absolute zero in the unit, as the message shows it
-};
-
-constexpr TemperatureRule TemperatureRules[] = {
-    {"degC", 1.8, 32, -491.67 / 1.8},
-    {"degR", 1, AbsoluteZero, 0},
-    {"degK", 1.8, AbsoluteZero, 0},
-};
-
-TemperatureRule RuleOf(const std::string& unit, double factor) {
-    for (const TemperatureRule& rule : TemperatureRules) {
-        if (unit == rule.Unit) return rule;
-    }
-    return {"", factor, 0, AbsoluteZero};
-}
 
 bool RefusePressure(Control& box) {
     if (Calc.PressureMode == words::Absolute) {
@@ -59,10 +37,11 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes) {
 
     const auto i = static_cast<std::size_t>(Calc.CaseIndex);
     if (Calc.TemperatureBlank[i] == 1 && Suite.BatchPrinting == words::Yes) return false;
-    const TemperatureRule rule = RuleOf(Calc.UnitName[2], Calc.UnitFactor[2]);
-    Calc.FlowTemperature = Calc.CaseInput[2][i] * rule.Factor + rule.Offset;
-    if (Calc.FlowTemperature <= AbsoluteZero || Calc.TemperatureBlank[i] == 1) {
-        return RefuseData("Flow Temperature must be greater than " + Str(rule.Minimum), boxes.Temperature);
+    const std::string& unit = Calc.UnitName[2];
+    Calc.FlowTemperature = ToDegF(unit, Calc.CaseInput[2][i], Calc.UnitFactor[2]);
+    if (Calc.FlowTemperature <= AbsoluteZeroF || Calc.TemperatureBlank[i] == 1) {
+        return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(unit)),
+                          boxes.Temperature);
     }
 
     Calc.EnteredPressure = Calc.CaseInput[3][i] * Calc.UnitFactor[3];

@@ -1,16 +1,13 @@
 // See LoadDefaults.h.
 #include "forms/LoadDefaults.h"
 
-#include "core/CalcRecord.h"
 #include "core/StartUp.h"
-#include "units/UnitCatalogue.h"
+#include "units/UserUnits.h"
 
 namespace quillmetra {
 
 void LoadDefaults() {
-    // Without a file of the user's own units new forms open in English units.
-    ResetEnglishUnits();
-    Calc.UnitName[0] = "lb/h";
+    ReadUserUnits();  // without the file new forms open in English units
     LoadHeadings();
     ReadStandardConditions();
 }

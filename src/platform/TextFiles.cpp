@@ -177,6 +177,14 @@ bool LineReader::Next(std::string& line) {
     return true;
 }
 
+std::string LineReader::NextWhole() {
+    const std::size_t end = text_.find_first_of("\r\n", next_);
+    if (end == std::string::npos) throw failure::InputPastEnd();
+    std::string line;
+    Next(line);
+    return std::string(Trim(line));
+}
+
 ItemReader::ItemReader(std::string_view suitePath) : text_(ReadWhole(suitePath)) {}
 
 void ItemReader::SkipBlanks() {

@@ -34,6 +34,9 @@ public:
     // The next line without its end; false at the end of the file.
     bool Next(std::string& line);
     bool AtEnd() const { return next_ >= text_.size(); }
+    // The next line without the blanks at its ends, for files that must be there to their end: throws "Input
+    // past end of file" when there is none, and when it has no end of its own, as the last one of a cut file.
+    std::string NextWhole();
 
 private:
     std::string text_;

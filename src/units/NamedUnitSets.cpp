@@ -5,8 +5,10 @@
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
+#include "units/RecordUnits.h"
 #include "units/Rounding.h"
 #include "units/UnitCatalogue.h"
+#include "units/UserUnits.h"
 
 namespace quillmetra {
 
@@ -42,6 +44,7 @@ void ShowStandardConditions(const char* system, const char* temperature, const c
 }  // namespace
 
 bool ApplyNamedUnitSet(int set) {
+    if (set == UserUnitSet) return TakeUserUnitSet();
     const auto found = std::find_if(NamedUnitSets.begin(), NamedUnitSets.end(),
                                     [set](const NamedUnitSet& each) { return each.Number == set; });
     if (found == NamedUnitSets.end()) return false;
@@ -65,6 +68,7 @@ bool ApplyNamedUnitSet(int set) {
         STPSI();
     }
     CarryDensityUnit();
+    MendUnitFactors();
     return true;
 }
 

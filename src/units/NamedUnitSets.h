@@ -24,8 +24,9 @@ struct NamedUnitSet {
 extern const std::array<NamedUnitSet, 4> NamedUnitSets;
 
 // Puts the record on a set: flow row and basis of its fluid type, all other rows, names, standard
-// conditions. The basis in force before is kept as the previous one. No value of a case is converted. False,
-// with nothing changed, for a number that names no set here; so for the user's own set.
+// conditions. The basis in force before is kept as the previous one. No value of a case is converted. Set 5
+// is the user's own, see UserUnits.h. False, with nothing changed, for a number that names no set and for an
+// empty user set.
 bool ApplyNamedUnitSet(int set);
 
 // Puts the standard conditions (rows 21 to 23) on English or SI units from StdTemperature (degF),

@@ -1,0 +1,147 @@
+// See Conversion.h.
+#include "units/Conversion.h"
+
+#include <cmath>
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "units/Rounding.h"
+#include "units/Temperature.h"
+#include "units/Viscosity.h"
+
+namespace quillmetra {
+
+namespace {
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+double Expressible(double value) { return std::isfinite(value) ? value : 0; }
+
+constexpr double MolarViscosity = 23588;  // cs per cp of a gas, times its molecular weight
+
+// From the gravity of case 0, or from the user, who is asked until the answer is above 0.
+void TakeFlowGravity(int caseIndex) {
+    constexpr const char* title = "Convert Liquid Flow";
+    const bool density = Calc.LiquidDensityMode == words::Density;
+    Calc.FlowingSG = GravityOfFirstCase();
+    while (!(Calc.FlowingSG > 0)) {
+        double& answer = Calc.CaseInput[6][At(caseIndex)];
+        answer = Val(AskText(density ? "Need flow density to convert in " + Calc.UnitName[5] + " units"
+                                     : "Need flow SG to convert",
+                             title));
+        Calc.FlowingSG = density ? RoundedFour(answer * Calc.UnitFactor[5] / WaterDensity) : answer;
+        if (Calc.FlowingSG > 0) return;
+        Tell("Density value must be greater than zero", title);
+    }
+}
+
+double ConvertedTemperature(double value) {
+    const double degF = ToDegF(Calc.ChosenUnitRowNames[1], value, Calc.UnitFactorPrevious[2]);
+    return Expressible(FromDegF(Calc.UnitName[2], degF, Calc.UnitFactor[2]));
+}
+
+void ConvertFluidTemperature(double& value) {
+    if (value != 0) value = ConvertedTemperature(value);
+}
+
+// The viscosity of a case by way of cp. A kinematic unit needs the fluid's ratio of the two viscosities,
+// which is above 0 or unknown; toCp and fromCp apply it to a value in cs and in cp.
+template <typename ToCp, typename FromCp>
+void ConvertViscosity(int caseIndex, double ratio, ToCp toCp, FromCp fromCp) {
+    const std::string& former = Calc.ChosenUnitRowNames[3];
+    const std::string& now = Calc.UnitName[7];
+    const double formerCs = CentistokesPerUnit(former);
+    const double nowCs = CentistokesPerUnit(now);
+    double& value = Calc.CaseInput[7][At(caseIndex)];
+    if (!(ratio > 0) && (formerCs > 0 || nowCs > 0)) {
+        value = 0;
+        return;
+    }
+    if (formerCs > 0) {
+        value = toCp(value) * Calc.UnitFactorPrevious[7] * formerCs;
+    } else if (former == "Pa.s") {
+        value = value * Calc.UnitFactorPrevious[7];
+    }
+    value = nowCs > 0 ? fromCp(value) / nowCs : value / Calc.UnitFactor[7];
+    value = RoundedFour(Expressible(value));
+}
+
+}  // namespace
+
+double Rescaled(double value, int unitRow) {
+    return Expressible(value * Calc.UnitFactorPrevious[At(unitRow)] / Calc.UnitFactor[At(unitRow)]);
+}
+
+double GravityOfFirstCase() {
+    const double value = Calc.CaseInput[6][0];
+    return Calc.LiquidDensityMode == words::Density ? value * Calc.UnitFactor[6] / WaterDensity : value;
+}
+
+void ConvertLineFlowGas(int caseIndex) {
+    double& flow = Calc.CaseInput[0][At(caseIndex)];
+    const double molecularWeight = Calc.CaseInput[5][At(caseIndex)];
+    Calc.Scratch = flow;
+    if (Calc.Basis != Calc.BasisPrevious) {
+        if (!(molecularWeight > 0)) {
+            flow = 0;
+            return;
+        }
+        flow = Calc.Basis == words::Mass ? flow * molecularWeight / MolarVolume
+                                         : flow / molecularWeight * MolarVolume;
+    }
+    flow = Rescaled(flow, 0);
+}
+
+void ConvertLineFlowLiquid(int caseIndex) {
+    double& flow = Calc.CaseInput[1][At(caseIndex)];
+    if (Calc.LiquidBasis != Calc.LiquidBasisPrevious) {
+        TakeFlowGravity(caseIndex);
+        flow = Calc.LiquidBasis == words::Mass ? flow * Calc.FlowingSG * WaterPoundsPerGallon
+                                               : flow / Calc.FlowingSG / WaterPoundsPerGallon;
+    }
+    flow = Rescaled(flow, 1);
+}
+
+void ConvertTemperature(int caseIndex) {
+    if (Calc.TemperatureBlank[At(caseIndex)] == 1) return;
+    double& value = Calc.CaseInput[2][At(caseIndex)];
+    Calc.FlowTemperatureF = ToDegF(Calc.ChosenUnitRowNames[1], value, Calc.UnitFactorPrevious[2]);
+    value = ConvertedTemperature(value);
+}
+
+void ConvertCritTemperature(int caseIndex) {
+    double& value = Calc.CaseInput[12][At(caseIndex)];
+    if (value == 0) return;
+    const double degR = ToDegR(Calc.ChosenUnitRowNames[2], value, Calc.UnitFactorPrevious[12]);
+    value = Expressible(FromDegR(Calc.UnitName[12], degR, Calc.UnitFactor[12]));
+}
+
+void ConvertBoilingPoint(int caseIndex) { ConvertFluidTemperature(Calc.CaseInput[4][At(caseIndex)]); }
+
+void ConvertFlashPoint(int caseIndex) { ConvertFluidTemperature(Calc.CaseInput[1][At(caseIndex)]); }
+
+void ConvertViscosityLiquid(int caseIndex) {
+    Calc.FlowingSG = GravityOfFirstCase();
+    const double gravity = Calc.FlowingSG;
+    ConvertViscosity(
+        caseIndex, gravity, [gravity](double cs) { return cs * gravity; },
+        [gravity](double cp) { return cp / gravity; });
+}
+
+void ConvertViscosityGas(int caseIndex) {
+    const double molecularWeight = Calc.CaseInput[5][At(caseIndex)];
+    const double ratio = molecularWeight > 0 ? MolarViscosity / molecularWeight : 0;
+    ConvertViscosity(
+        caseIndex, ratio, [ratio](double cs) { return cs / ratio; },
+        [ratio](double cp) { return cp * ratio; });
+}
+
+void ConvertStandardTemperature() {
+    const std::string& unit = Calc.UnitName[21];
+    if (unit != "degF" && unit != "degC") return;
+    Calc.CaseInput[21][0] = RoundedSix(FromDegF(unit, Calc.StdTemperature, 1));
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,94 @@
+// See ModeChange.h.
+#include "units/ModeChange.h"
+
+#include <cmath>
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "platform/Dialogs.h"
+#include "units/Conversion.h"
+#include "units/Rounding.h"
+#include "units/UnitCatalogue.h"
+
+namespace quillmetra {
+
+namespace {
+
+// barometer is in the unit of the pressure.
+double AbsoluteFromGauge(double pressure, double barometer) {
+    return pressure > -barometer && pressure != 0 ? RoundedFour(pressure + barometer) : pressure;
+}
+
+// std::nearbyint rounds a half to the even number.
+double GaugeFromAbsolute(double pressure, double barometer) {
+    if (pressure == 0 || std::nearbyint(pressure - barometer) == 0) return pressure;
+    return RoundedFour(pressure - barometer);
+}
+
+// The final pressures of a line have their unit in the row of its source pressure, and so have the two wave
+// pressures of a water hammer.
+template <typename Change>
+void ChangePressures(Change change) {
+    for (std::size_t i = 0; i < CaseCount; ++i) {
+        for (double* pressure : {&Calc.CaseInput[3][i], &Calc.CaseResult[1][i]})
+            *pressure = change(*pressure);
+    }
+    for (const std::size_t element : {14U, 17U}) {
+        Calc.HammerResult[element] = change(Calc.HammerResult[element]);
+    }
+}
+
+// The line forms show all cases anew, not only the one in hand.
+void MarkAllCasesConverted() {
+    if (Calc.CurrentProgram == 1 || Calc.CurrentProgram == 2) Calc.UnitsConverted = words::Yes;
+}
+
+void FillDensityUnit() {
+    if (Calc.UnitFactor[6] != 0 && !Calc.UnitName[6].empty()) return;
+    Calc.UnitFactor[6] = 1;
+    Calc.UnitName[6] = "lb/ft3";
+    Tell("Please select the correct density unit", "Temporary variable shown");
+}
+
+double DensityFromGravity(double gravity) { return RoundedFour(gravity * WaterDensity / Calc.UnitFactor[6]); }
+
+double GravityFromDensity(double density) {
+    return RoundedFour(Rescaled(density, 6) / WaterDensity * Calc.UnitFactor[6]);
+}
+
+}  // namespace
+
+// An empty mode, of a record that knows none, is gauge and gravity.
+void ChangePressureMode(const std::string& mode) {
+    const bool toAbsolute = mode == words::Absolute;
+    const bool changes = toAbsolute != (Calc.PressureMode == words::Absolute);
+    Calc.PressureMode = mode;
+    Calc.PressureModePrevious = mode;
+    std::string& unit = Calc.UnitName[3];
+    if (!changes || unit.empty() || unit.back() != (toAbsolute ? 'g' : 'a')) return;
+    if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = 14.7;
+    const double barometer = Calc.BaroPressure / Calc.UnitFactorPrevious[3];
+    ChangePressures([=](double pressure) {
+        return toAbsolute ? AbsoluteFromGauge(pressure, barometer) : GaugeFromAbsolute(pressure, barometer);
+    });
+    unit.back() = toAbsolute ? 'a' : 'g';
+    MarkAllCasesConverted();
+}
+
+void ChangeDensityMode(const std::string& mode) {
+    const bool toDensity = mode == words::Density;
+    const bool changes = toDensity != (Calc.LiquidDensityMode == words::Density);
+    Calc.LiquidDensityMode = mode;
+    Calc.LiquidDensityModePrevious = mode;
+    if (!changes) return;
+    if (toDensity) FillDensityUnit();
+    for (double& value : Calc.CaseInput[6]) {
+        if (value > 0) value = toDensity ? DensityFromGravity(value) : GravityFromDensity(value);
+    }
+    Calc.UnitFactorPrevious[6] = Calc.UnitFactor[6];
+    Calc.UnitNamePrevious[6] = Calc.UnitName[6];
+    CarryDensityUnit();
+    MarkAllCasesConverted();
+}
+
+}  // namespace quillmetra

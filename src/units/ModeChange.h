@@ -1,0 +1,23 @@
+// Gauge or absolute pressure, gravity or density: the values of the record when the mode changes. Both come
+// after the new units stand and before ConvertProgramData, and both give the mode itself its new word: the
+// caller does not set it before.
+#pragma once
+
+#include <string>
+
+namespace quillmetra {
+
+// From PressureMode to another ("Psig", "Psia"); nothing when it is the same. Adds or takes away the
+// barometric pressure, expressed in the previous unit of row 3, in row 3 of all cases, the final pressures
+// and the hammer pressures, to four figures, and changes the ending of UnitName[3]. Zero stays zero. On the
+// way to gauge a pressure that would round to a whole number of 0 stays as it is: a deliberate oddity. A
+// BaroPressure not above 0 becomes 14.7. No value changes when the unit's name has not the old ending.
+void ChangePressureMode(const std::string& mode);
+
+// From LiquidDensityMode to another ("LiqSG", "LiqDen"); nothing when it is the same. Row 6 of all cases
+// becomes density in the unit in force or gravity, to four figures; a density is first brought from the
+// previous unit to the one in force, and unit row 6 counts as converted. A missing density unit becomes
+// lb/ft3, and the user is told.
+void ChangeDensityMode(const std::string& mode);
+
+}  // namespace quillmetra

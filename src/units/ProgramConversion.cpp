@@ -1,0 +1,232 @@
+// See ProgramConversion.h.
+#include "units/ProgramConversion.h"
+
+#include <array>
+#include <span>
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "platform/Forms.h"
+#include "units/Conversion.h"
+#include "units/RecordUnits.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+// --- Rows that go by factors alone -----------------------------------------------------------------------
+
+constexpr unsigned ProgramBit(int program) { return 1U << static_cast<unsigned>(program); }
+constexpr unsigned LiquidLine = ProgramBit(1), GasLine = ProgramBit(2), Hammer = ProgramBit(3);
+constexpr unsigned LiquidData = ProgramBit(4), GasData = ProgramBit(5);
+constexpr unsigned Lines = LiquidLine | GasLine | Hammer;
+constexpr unsigned Every = Lines | LiquidData | GasData;
+
+enum class Mode { Any, Density };
+
+struct InputRow {
+    int Row;
+    int UnitRow;
+    unsigned Programs;
+    Mode Needs = Mode::Any;  // gravities have no unit
+};
+
+// Of each case, in order. Row 6 of the liquid data program, and its row 5, have the unit of its density.
+constexpr InputRow CommonInputs[] = {
+    {3, 3, Every},
+    {4, 4, Lines},
+    {11, 11, GasLine | LiquidData | GasData},
+    {6, 6, LiquidLine, Mode::Density},
+    {5, 9, LiquidData, Mode::Density},
+    {6, 9, LiquidData, Mode::Density},
+    {8, 8, LiquidLine | LiquidData | GasData},
+    {9, 9, GasLine | LiquidData | GasData},
+};
+
+bool Applies(const InputRow& row) {
+    return (row.Programs & ProgramBit(Calc.CurrentProgram)) != 0 &&
+           (row.Needs == Mode::Any || Calc.LiquidDensityMode == words::Density);
+}
+
+struct ElementRow {
+    int Element;
+    int UnitRow;
+};
+
+// Results of each case, beside the loss per 100 of length.
+constexpr ElementRow CommonResults[] = {{1, 3}, {2, 20}, {3, 20}};
+// Elements 4 and 5 of PipeData are flags.
+constexpr ElementRow PipeElements[] = {{1, 25}, {3, 25}, {2, 18}};
+constexpr ElementRow HammerElements[] = {{13, 20}, {14, 3}, {15, 0}, {17, 3}, {18, 0}};
+
+void Rescale(double& value, int unitRow) { value = Rescaled(value, unitRow); }
+
+template <typename Values>
+void RescaleElements(Values& values, std::span<const ElementRow> rows) {
+    for (const ElementRow& row : rows) Rescale(values[At(row.Element)], row.UnitRow);
+}
+
+// The length stands below the line: its factors are inverted.
+double RescaledLoss(double value) {
+    return Rescaled(value * Calc.UnitFactor[25] / Calc.UnitFactorPrevious[25], 4);
+}
+
+// --- Steps of a program ----------------------------------------------------------------------------------
+
+enum class When { Positive, NotZero };
+
+// One quantity of each case.
+struct CaseStep {
+    int Row;
+    When Condition;
+    void (*Convert)(int caseIndex);
+};
+
+template <int Row, int UnitRow>
+void RescaleInput(int caseIndex) {
+    Rescale(Calc.CaseInput[At(Row)][At(caseIndex)], UnitRow);
+}
+
+constexpr CaseStep GasLineSteps[] = {
+    {0, When::Positive, ConvertLineFlowGas},
+    {2, When::NotZero, ConvertTemperature},
+    {12, When::NotZero, ConvertCritTemperature},
+    {7, When::Positive, ConvertViscosityGas},
+};
+
+constexpr CaseStep LiquidLineSteps[] = {
+    {1, When::Positive, ConvertLineFlowLiquid},
+    {2, When::NotZero, ConvertTemperature},
+    {7, When::Positive, ConvertViscosityLiquid},
+};
+
+constexpr CaseStep LiquidDataSteps[] = {
+    {2, When::NotZero, ConvertTemperature},      {12, When::NotZero, ConvertCritTemperature},
+    {4, When::NotZero, ConvertBoilingPoint},     {1, When::NotZero, ConvertFlashPoint},
+    {7, When::Positive, ConvertViscosityLiquid}, {27, When::NotZero, RescaleInput<27, 27>},
+};
+
+// Both latent heats go by the unit of row 16.
+constexpr CaseStep GasDataSteps[] = {
+    {2, When::NotZero, ConvertTemperature},      {4, When::NotZero, ConvertBoilingPoint},
+    {12, When::NotZero, ConvertCritTemperature}, {7, When::Positive, ConvertViscosityGas},
+    {16, When::NotZero, RescaleInput<16, 16>},   {13, When::NotZero, RescaleInput<13, 16>},
+};
+
+// The water hammer has one case; some rows use a second or third column for another quantity.
+constexpr CaseStep HammerFlowSteps[] = {
+    {1, When::Positive, ConvertLineFlowLiquid},
+    {2, When::NotZero, ConvertTemperature},
+};
+
+struct InputCell {
+    int Row, Column, UnitRow;
+};
+constexpr InputCell HammerInputs[] = {{3, 0, 3},   {3, 1, 3},   {27, 0, 27}, {27, 1, 27},
+                                      {25, 0, 25}, {18, 0, 18}, {18, 2, 18}};
+
+void ConvertCase(std::span<const CaseStep> steps, int caseIndex, ZeroTemperature zero) {
+    for (const CaseStep& step : steps) {
+        const double value = Calc.CaseInput[At(step.Row)][At(caseIndex)];
+        const bool typedZero = step.Row == 2 && zero == ZeroTemperature::IsConverted;
+        if (step.Condition == When::Positive ? value > 0 : value != 0 || typedZero) step.Convert(caseIndex);
+    }
+}
+
+void ConvertCases(std::span<const CaseStep> steps, ZeroTemperature zero) {
+    for (int i = 0; i < CaseCount; ++i) ConvertCase(steps, i, zero);
+}
+
+// Rounds, and takes the units in force as those of the values.
+void FinishConversion() {
+    Calc.RoundedFlag = words::No;
+    RoundRecord();
+    Calc.BasisPrevious = Calc.Basis;
+    Calc.LiquidBasisPrevious = Calc.LiquidBasis;
+    RenewChosenUnitNames();
+    RememberUnits();
+}
+
+}  // namespace
+
+void ConvertCommonRows() {
+    UnloadForm("frmPipeSize");
+    UnloadForm("frmObxPrintCalc");
+    for (std::size_t i = 0; i < CaseCount; ++i) {
+        for (const InputRow& row : CommonInputs) {
+            if (Applies(row)) Rescale(Calc.CaseInput[At(row.Row)][i], row.UnitRow);
+        }
+        if (Calc.CurrentProgram == 1) {
+            const double value = Calc.CaseInput[6][i];
+            Calc.FlowingSG =
+                Calc.LiquidDensityMode == words::Density ? value / WaterDensity * Calc.UnitFactor[6] : value;
+        }
+        Calc.CaseResult[0][i] = RescaledLoss(Calc.CaseResult[0][i]);
+        for (const ElementRow& row : CommonResults) Rescale(Calc.CaseResult[At(row.Element)][i], row.UnitRow);
+    }
+    Rescale(Calc.CaseResult[5][0], 25);
+    Rescale(Calc.CaseInput[25][0], 25);
+    RescaleElements(Calc.PipeData, PipeElements);
+}
+
+void ConvertGasLineData(ZeroTemperature zero) {
+    ConvertCommonRows();
+    ConvertCases(GasLineSteps, zero);
+    Calc.UnitsConverted = words::Yes;
+    FinishConversion();
+}
+
+void ConvertLiquidLineData(ZeroTemperature zero) {
+    ConvertCommonRows();  // first: the gravity of a flow reads row 6 in its new unit
+    ConvertCases(LiquidLineSteps, zero);
+    Calc.UnitsConverted = words::Yes;
+    FinishConversion();
+    RoundSix();
+}
+
+void ConvertWaterHammerData(ZeroTemperature zero) {
+    if (Calc.LiquidDensityMode == words::Density) Rescale(Calc.CaseInput[6][0], 6);
+    Calc.FlowingSG = GravityOfFirstCase();
+    ConvertCase(HammerFlowSteps, 0, zero);
+    for (const InputCell& cell : HammerInputs) {
+        Rescale(Calc.CaseInput[At(cell.Row)][At(cell.Column)], cell.UnitRow);
+    }
+    SetForceUnit();
+    RescaleElements(Calc.HammerResult, HammerElements);
+    FinishConversion();
+    UnloadForm("frmPipeSize");
+}
+
+void ConvertLiquidData(ZeroTemperature zero) {
+    ConvertCommonRows();
+    ConvertCases(LiquidDataSteps, zero);
+    ConvertStandardTemperature();
+    FinishConversion();
+}
+
+void ConvertGasData(ZeroTemperature zero) {
+    ConvertCases(GasDataSteps, zero);
+    ConvertStandardTemperature();
+    ConvertCommonRows();
+    FinishConversion();
+}
+
+void ConvertProgramData(ZeroTemperature zero) {
+    constexpr std::array routines = {ConvertLiquidLineData, ConvertGasLineData, ConvertWaterHammerData,
+                                     ConvertLiquidData, ConvertGasData};
+    const int program = Calc.CurrentProgram;
+    if (program >= 1 && program <= static_cast<int>(routines.size())) routines[At(program - 1)](zero);
+}
+
+void SetForceUnit() {
+    constexpr double inch = 1, foot = 12;
+    const double pipeFactor = Calc.UnitFactor[18];
+    const bool english = pipeFactor == inch || pipeFactor == foot;
+    Calc.UnitName[0] = english ? "lb" : "kg";
+    Calc.UnitFactor[0] = english ? 1 : 2.2046;
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,31 @@
+// See RecordUnits.h.
+#include "units/RecordUnits.h"
+
+#include <cmath>
+
+#include "core/CalcRecord.h"
+
+namespace quillmetra {
+
+bool IsUsableFactor(double factor) { return factor > 0 && std::isnormal(factor); }
+
+void MendUnitFactors() {
+    for (UnitFactors* factors : {&Calc.UnitFactor, &Calc.UnitFactorPrevious}) {
+        for (double& factor : *factors) {
+            if (!IsUsableFactor(factor)) factor = 1;
+        }
+    }
+}
+
+void RememberUnits() {
+    Calc.UnitNamePrevious = Calc.UnitName;
+    Calc.UnitFactorPrevious = Calc.UnitFactor;
+}
+
+void RenewChosenUnitNames() {
+    Calc.ChosenUnitRowNames[1] = Calc.UnitName[2];
+    Calc.ChosenUnitRowNames[2] = Calc.UnitName[12];
+    Calc.ChosenUnitRowNames[3] = Calc.UnitName[7];
+}
+
+}  // namespace quillmetra

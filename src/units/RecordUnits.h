@@ -1,0 +1,26 @@
+// The record's units before and after a change. Whoever changes units does it in this order:
+//
+//   RememberUnits()          what stands becomes the previous units
+//   ...                      new names and factors, or ApplyNamedUnitSet
+//   CarryDensityUnit()       (ApplyNamedUnitSet does it)
+//   ChangePressureMode, ChangeDensityMode        when they change, see ModeChange.h
+//   ConvertProgramData()     values to the new units, see ProgramConversion.h; nothing is left to convert
+#pragma once
+
+namespace quillmetra {
+
+// A factor that values can be multiplied and divided by: above zero, finite, and not so small that its
+// reciprocal overflows.
+bool IsUsableFactor(double factor);
+
+// Replaces factors of the record that are not usable by 1, in the rows in force and the previous ones. To be
+// called after whatever brings factors in: a set, a load, a file, a closed panel.
+void MendUnitFactors();
+
+// Copies names and factors in force to the previous ones, all rows.
+void RememberUnits();
+
+// Takes the units of temperature, critical temperature and viscosity in force as those of the values.
+void RenewChosenUnitNames();
+
+}  // namespace quillmetra

@@ -1,0 +1,44 @@
+// See ProgramConversion.h.
+#include "core/CalcRecord.h"
+#include "core/StartUp.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "platform/Dialogs.h"
+#include "units/ProgramConversion.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+// The answer No has no memory; Cancel hides the question for the rest of the run.
+bool WantsRounding() {
+    if (!Suite.HideRoundReminder.empty()) return true;
+    const Answer answer =
+        ShowMessage({"Round converted data?\n  Yes or No to round\n\n(or Cancel to hide the message)",
+                     Calc.ProgramTitle, Buttons::YesNoCancel});
+    if (answer == Answer::Cancel) {
+        Suite.HideRoundReminder = words::Yes;
+        SaveStandardConditions();
+    }
+    return answer != Answer::No;
+}
+
+template <typename Values, typename Rounder>
+void RoundFirst(Values& values, std::size_t count, Rounder rounder) {
+    for (std::size_t i = 0; i < count; ++i) values[i] = rounder(values[i]);
+}
+
+}  // namespace
+
+void RoundRecord() {
+    if (!WantsRounding()) return;
+    constexpr std::size_t inputRows = 28;
+    for (std::size_t row = 0; row < inputRows; ++row) RoundFirst(Calc.CaseInput[row], CaseCount, RoundedSix);
+    for (auto& results : Calc.CaseResult) RoundFirst(results, CaseCount, RoundedSix);
+    RoundFirst(Calc.PipeData, Calc.PipeData.size(), RoundedSix);
+    RoundFirst(Calc.HammerResult, Calc.HammerResult.size(), RoundedFour);
+    Calc.RoundedFlag = words::Yes;
+}
+
+}  // namespace quillmetra

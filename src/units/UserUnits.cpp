@@ -1,0 +1,260 @@
+// See UserUnits.h.
+#include "units/UserUnits.h"
+
+#include <array>
+#include <span>
+#include <string>
+
+#include "core/CalcRecord.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
+#include "units/NamedUnitSets.h"
+#include "units/RecordUnits.h"
+#include "units/UnitCatalogue.h"
+
+namespace quillmetra {
+
+namespace {
+
+// The pairs of the file in their order. Row 5 of a liquid holds the density unit.
+constexpr std::array<std::size_t, 10> LiquidRows = {1, 2, 3, 4, 7, 20, 27, 18, 25, 5};
+constexpr std::array<std::size_t, 10> GasRows = {0, 2, 3, 4, 12, 11, 20, 13, 18, 25};
+
+constexpr const char* UserSetName = "User selected units";
+
+struct UserSet {
+    std::string Basis = words::Mass;
+    int UnitSet = 0;
+    UnitNames Names{};
+    UnitFactors Factors{};
+};
+
+struct UserFile {
+    UserSet Liquid, Gas;
+    std::string PressureMode = words::Gauge;
+    std::string DensityMode = words::Gravity;
+    double BaroPressure = 0;  // psia
+};
+
+std::string FileName() { return Suite.DefaultPaths[2] + "\\TRUNS.txt"; }
+
+// --- Reading ---------------------------------------------------------------------------------------------
+
+double NextNumber(LineReader& file) { return Val(file.NextWhole()); }
+
+// One of two words; an empty line stands for the first. Any other word shows that this is no such file.
+std::string NextWord(LineReader& file, const char* usual, const char* other) {
+    const std::string word = file.NextWhole();
+    if (word.empty()) return usual;
+    if (word != usual && word != other) throw failure::DeviceError();
+    return word;
+}
+
+int NextUnitSet(LineReader& file) {
+    const double number = NextNumber(file);
+    for (int set = 1; set <= UserUnitSet; ++set) {
+        if (number == set) return set;
+    }
+    return 0;
+}
+
+void ReadSet(LineReader& file, UserSet& set, std::span<const std::size_t> rows) {
+    set.Basis = NextWord(file, words::Mass, words::Volume);
+    set.UnitSet = NextUnitSet(file);
+    for (const std::size_t row : rows) {
+        set.Names[row] = file.NextWhole();
+        const double factor = NextNumber(file);
+        set.Factors[row] = IsUsableFactor(factor) ? factor : 0;
+    }
+}
+
+// Line by line, not item by item: a unit's name may hold a comma.
+UserFile ReadFile() {
+    LineReader file(FileName());
+    UserFile read;
+    ReadSet(file, read.Liquid, LiquidRows);
+    ReadSet(file, read.Gas, GasRows);
+    read.Gas.Names[7] = read.Gas.Names[13];
+    read.Gas.Factors[7] = read.Gas.Factors[13];
+    read.PressureMode = NextWord(file, words::Gauge, words::Absolute);
+    read.DensityMode = NextWord(file, words::Gravity, words::Density);
+    read.BaroPressure = NextNumber(file);
+    return read;
+}
+
+void KeepUserSets(const UserFile& file) {
+    Suite.UserLiquidUnitName = file.Liquid.Names;
+    Suite.UserLiquidUnitFactor = file.Liquid.Factors;
+    Suite.UserLiquidBasis = file.Liquid.Basis;
+    Suite.UserGasUnitName = file.Gas.Names;
+    Suite.UserGasUnitFactor = file.Gas.Factors;
+    Suite.UserGasBasis = file.Gas.Basis;
+}
+
+// --- Taking a set ----------------------------------------------------------------------------------------
+
+// In the fluid data programs these follow the family of the pressure unit, whatever the set holds. The
+// gauge names of row 8 stand, although vapor pressures are absolute.
+struct FamilyUnit {
+    std::size_t Row;
+    const char* English;
+    const char* SI;
+    double SIFactor;
+};
+constexpr FamilyUnit FamilyUnits[] = {
+    {8, "psig", "kPag", 0.14504}, {9, "lb/ft3", "kg/m3", 0.062428}, {11, "psia", "kPaa", 0.14504},
+    {12, "degR", "degK", 1},      {16, "btu/lb", "kJ/kg", 0.42992},
+};
+
+void TakeFamilyUnits(bool english) {
+    for (const FamilyUnit& unit : FamilyUnits) {
+        Calc.UnitName[unit.Row] = english ? unit.English : unit.SI;
+        Calc.UnitFactor[unit.Row] = english ? 1 : unit.SIFactor;
+    }
+}
+
+void TakeUnit(std::size_t row, const std::string& name, double factor) {
+    if (name.empty() || !IsUsableFactor(factor)) return;
+    Calc.UnitName[row] = name;
+    Calc.UnitFactor[row] = factor;
+}
+
+// The set may have been saved in the other pressure mode.
+void MatchPressureEnding() {
+    std::string& unit = Calc.UnitName[3];
+    if (unit.empty() || (unit.back() != 'g' && unit.back() != 'a')) return;
+    unit.back() = Calc.PressureMode == words::Absolute ? 'a' : 'g';
+}
+
+void TakeLiquidSet() {
+    Calc.LiquidUnitSet = UserUnitSet;
+    Calc.LiquidBasisPrevious = Calc.LiquidBasis;
+    Calc.LiquidBasis = Suite.UserLiquidBasis;
+    for (const std::size_t row : LiquidRows) {
+        TakeUnit(row, Suite.UserLiquidUnitName[row], Suite.UserLiquidUnitFactor[row]);
+    }
+    // A set of earlier days may have a time base there.
+    const bool density = !Calc.UnitName[5].empty() && Calc.UnitName[5].front() != '/';
+    for (const std::size_t row : {6U, 9U}) {
+        if (density) TakeUnit(row, Calc.UnitName[5], Calc.UnitFactor[5]);
+    }
+    Calc.UnitName[5].clear();
+    Calc.UnitFactor[5] = 1;
+}
+
+void TakeGasSet() {
+    Calc.GasUnitSet = UserUnitSet;
+    Calc.BasisPrevious = Calc.Basis;
+    Calc.Basis = Suite.UserGasBasis;
+    for (const std::size_t row : GasRows) {
+        TakeUnit(row, Suite.UserGasUnitName[row], Suite.UserGasUnitFactor[row]);
+    }
+    TakeUnit(7, Calc.UnitName[13], Calc.UnitFactor[13]);
+}
+
+// --- Writing ---------------------------------------------------------------------------------------------
+
+void WriteSet(TextWriter& file, const std::string& basis, int set, std::span<const std::size_t> rows,
+              const UnitNames& names, const UnitFactors& factors) {
+    file.Line(basis);
+    file.Number(set);
+    for (const std::size_t row : rows) {
+        file.Line(names[row]);
+        file.Number(factors[row]);
+    }
+}
+
+// The basis belongs to the flow unit of the set; a file without one keeps the basis in force.
+const std::string& BasisToWrite(double flowFactor, const std::string& ofSet, const std::string& inForce) {
+    return flowFactor != 0 && !ofSet.empty() ? ofSet : inForce;
+}
+
+}  // namespace
+
+bool ReadUserUnitSets() {
+    try {
+        KeepUserSets(ReadFile());
+        return true;
+    } catch (const RuntimeError&) {
+        KeepUserSets({});
+        return false;
+    }
+}
+
+bool ReadUserUnits() {
+    try {
+        const UserFile file = ReadFile();
+        KeepUserSets(file);
+        Calc.LiquidBasis = Calc.LiquidBasisPrevious = file.Liquid.Basis;
+        Calc.LiquidUnitSet = file.Liquid.UnitSet;
+        Calc.Basis = Calc.BasisPrevious = file.Gas.Basis;
+        Calc.GasUnitSet = file.Gas.UnitSet;
+        Calc.PressureMode = Calc.PressureModePrevious = file.PressureMode;
+        Calc.LiquidDensityMode = Calc.LiquidDensityModePrevious = file.DensityMode;
+        if (file.BaroPressure > 0) Calc.BaroPressure = file.BaroPressure;
+        return true;
+    } catch (const RuntimeError&) {
+        KeepUserSets({});
+        ResetEnglishUnits();
+        Calc.UnitName[0] = "lb/h";
+        Calc.UnitFactor[0] = 1;
+        return false;
+    }
+}
+
+bool WriteUserUnits() {
+    try {
+        TextWriter file(FileName());
+        const UnitFactors& liquid = Suite.UserLiquidUnitFactor;
+        const UnitFactors& gas = Suite.UserGasUnitFactor;
+        WriteSet(file, BasisToWrite(liquid[1], Suite.UserLiquidBasis, Calc.LiquidBasis), Calc.LiquidUnitSet,
+                 LiquidRows, Suite.UserLiquidUnitName, liquid);
+        WriteSet(file, BasisToWrite(gas[0], Suite.UserGasBasis, Calc.Basis), Calc.GasUnitSet, GasRows,
+                 Suite.UserGasUnitName, gas);
+        file.Line(Calc.PressureMode);
+        file.Line(Calc.LiquidDensityMode);
+        file.Number(Calc.BaroPressure);
+        file.Commit();
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+bool TakeUserUnitSet() {
+    const bool gas = Calc.FluidType == words::Gas;
+    const UnitFactors& factors = gas ? Suite.UserGasUnitFactor : Suite.UserLiquidUnitFactor;
+    if (!IsUsableFactor(factors[gas ? 0 : 1])) return false;
+    const bool english = factors[3] == 1 || !IsUsableFactor(factors[3]);
+    english ? ResetEnglishUnits() : ResetSIUnits();
+    gas ? TakeGasSet() : TakeLiquidSet();
+    MatchPressureEnding();
+    if (Calc.CurrentProgram == 4 || Calc.CurrentProgram == 5) TakeFamilyUnits(english);
+    Calc.UnitName[2] == "degF" ? STPEnglish() : STPSI();
+    Calc.UnitSetName = UserSetName;
+    CarryDensityUnit();
+    MendUnitFactors();
+    return true;
+}
+
+void StoreUserUnitSet() {
+    if (Calc.FluidType == words::Gas) {
+        Suite.UserGasUnitName = Calc.UnitName;
+        Suite.UserGasUnitFactor = Calc.UnitFactor;
+        Suite.UserGasUnitName[13] = Calc.UnitName[7];
+        Suite.UserGasUnitFactor[13] = Calc.UnitFactor[7];
+        Suite.UserGasBasis = Calc.Basis;
+        return;
+    }
+    const std::size_t density = Calc.LiquidDensityMode == words::Density && Calc.CurrentProgram != 4 ? 6 : 9;
+    Suite.UserLiquidUnitName = Calc.UnitName;
+    Suite.UserLiquidUnitFactor = Calc.UnitFactor;
+    Suite.UserLiquidUnitName[5] = Calc.UnitName[density];
+    Suite.UserLiquidUnitFactor[5] = Calc.UnitFactor[density];
+    Suite.UserLiquidBasis = Calc.LiquidBasis;
+}
+
+}  // namespace quillmetra
