@@ -66,10 +66,9 @@ CalculationForm::CalculationForm(const Names& names)
     mnuSave.Shortcut = "Ctrl+S";
     mnuPrint.Shortcut = "Ctrl+P";
     mnuHelp.Shortcut = "F1";
-    // Records, reports, the path finder and the panels of units and options are yet to come.
-    for (Control* later :
-         std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
-                                         &mnuPathUserUnitFile, &mnuPathPrintHdgs, &cmdFormLayout}) {
+    // Records, reports and the path finder are yet to come.
+    for (Control* later : std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
+                                                          &mnuPathUserUnitFile, &mnuPathPrintHdgs}) {
         later->SetEnabled(false);
     }
 
@@ -77,6 +76,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuProgram.Click = [this] { mnuProgram_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuHelp.Click = [this] { mnuHelp_Click(); };
+    cmdFormLayout.Click = [this] { OpenPanel("frmCalcOptions"); };
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
         if (key.Name != "Escape") return;
@@ -251,6 +251,27 @@ void CalculationForm::mnuProgram_Click() {
 
 void CalculationForm::mnuExit_Click() {
     if (!SaveChangesStops()) EndProcess();
+}
+
+void CalculationForm::OpenPanel(const char* panel) {
+    StoreForm();
+    if (const Program* program = FindProgram(program_)) Calc.CalcOptionCaller = program->OptionsWord;
+    SetCalculateButtons(false);
+    SetEnabled(false);
+    ShowForm(panel);
+}
+
+void CalculationForm::ReturnFromPanel() {
+    SetEnabled(true);
+    SetCalculateButtons(true);
+    Calc.FormLoading = words::No;
+    ShowForm(Name());
+}
+
+void CalculationForm::SetCalculateButtons(bool enabled) {
+    for (int i = 0; i < CaseCount; ++i) {
+        if (Control* button = CalculateButton(i)) button->SetEnabled(enabled);
+    }
 }
 
 void CalculationForm::mnuHelp_Click() {

@@ -73,6 +73,11 @@ public:
     FluidList Liquids;
     MixturePanel Mixture;
 
+    // Opens the panel of units or of options over this form, which takes no input until the panel calls
+    // ReturnFromPanel.
+    void OpenPanel(const char* panel);
+    void ReturnFromPanel();
+
     void mnuNew_Click();
     void mnuProgram_Click();
     void mnuExit_Click();
@@ -98,6 +103,7 @@ protected:
 
 private:
     void BlankResults(int caseIndex);
+    void SetCalculateButtons(bool enabled);
 
     int program_;
 };

@@ -3,10 +3,12 @@
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
+#include "forms/frmCalcOptions.h"
 #include "forms/frmLiqLineLoss.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
 #include "forms/frmTRProg.h"
+#include "forms/frmUnits.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
 
@@ -29,6 +31,8 @@ constexpr FormEntry FormTable[] = {
     {"frmObxProg", MakeForm<frmObxProg>},
     {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>},
     {"frmPipeSize", MakeForm<frmPipeSize>},
+    {"frmUnits", MakeForm<frmUnits>},
+    {"frmCalcOptions", MakeForm<frmCalcOptions>},
 };
 
 // Routines that fill a form leave FormLoading at "Yes"; the end of the user's act puts it back, so that the

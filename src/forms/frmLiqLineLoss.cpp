@@ -48,11 +48,11 @@ frmLiqLineLoss::frmLiqLineLoss()
     lstMatl.Describe(&lblMatl);
     cmdMatl.Describe(&lblMatl);
     optDestination.SetChecked(true);
-    // Units and mixtures are yet to come.
-    cmdUnits.Each([](CommandButton& button, int) {
-        button.SetEnabled(false);
-        button.SetToolTip("The unit of this row");
+    cmdUnits.Each([this](CommandButton& button, int) {
+        button.SetToolTip("The unit of this row; click to change units");
+        button.Click = [this] { OpenPanel("frmUnits"); };
     });
+    // Mixtures are yet to come.
     for (MenuItem* mixture : {&mnuMixture1, &mnuMixture2, &mnuMixture3}) mixture->SetEnabled(false);
     for (MenuItem* pure : {&mnuPureLiquid1, &mnuPureLiquid2, &mnuPureLiquid3}) pure->SetEnabled(false);
     Hook();

@@ -11,8 +11,9 @@ namespace quillmetra {
 namespace {
 const std::string Nothing;
 
-// A caption as it is read: without the "&" that marks its access key and without a colon at its end.
-std::string Spoken(const std::string& caption) {
+}  // namespace
+
+std::string SpokenCaption(const std::string& caption) {
     std::string text;
     for (std::size_t i = 0; i < caption.size(); ++i) {
         if (caption[i] == '&' && i + 1 < caption.size()) ++i;
@@ -21,7 +22,6 @@ std::string Spoken(const std::string& caption) {
     while (!text.empty() && (text.back() == ' ' || text.back() == ':')) text.pop_back();
     return text;
 }
-}  // namespace
 
 const char* Word(ControlKind kind) {
     switch (kind) {
@@ -104,9 +104,9 @@ void Control::Describe(Control* label, Control* unit, std::string column) {
 std::string Control::AccessibleName() const {
     if (kind_ != ControlKind::TextBox && kind_ != ControlKind::ListBox && kind_ != ControlKind::ComboBox &&
         label_ == nullptr) {
-        return Spoken(text_);
+        return SpokenCaption(text_);
     }
-    std::string name = label_ == nullptr ? "" : Spoken(label_->Caption());
+    std::string name = label_ == nullptr ? "" : SpokenCaption(label_->Caption());
     if (!column_.empty()) name += (name.empty() ? "" : ", ") + column_;
     return name;
 }

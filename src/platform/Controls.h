@@ -42,6 +42,9 @@ enum class ControlKind {
 };
 const char* Word(ControlKind kind);
 
+// A caption as it is read: without the "&" that marks its access key and without a colon at its end.
+std::string SpokenCaption(const std::string& caption);
+
 // A key press: one character, or the name of a key ("Enter", "Escape", "F1"), with modifiers in front
 // ("Ctrl+c"). A handler that uses the key up sets Handled.
 struct Key {
@@ -295,6 +298,14 @@ public:
         for (const int index : indices) {
             elements_.push_back(std::make_unique<T>(parent, name, more..., index));
         }
+    }
+
+    // One in each frame of an array, under the frame's index.
+    template <typename... More>
+    ControlArray(const ControlArray<Frame>& frames, const std::string& name, const More&... more) {
+        frames.Each([&](Frame& frame, int index) {
+            elements_.push_back(std::make_unique<T>(frame, name, more..., index));
+        });
     }
 
     T& operator()(int index) const {

@@ -1,51 +1,15 @@
 // The liquid line-loss form as a user meets it: from the browser to a result, its messages, its fluid.
 #include <cmath>
 
-#include "core/Words.h"
-#include "forms/frmLiqLineLoss.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmTRProg.h"
-#include "forms/RegisterForms.h"
-#include "platform/NumberText.h"
-#include "platform/UserActs.h"
 #include "reports/FormRows.h"
-#include "tests/SuiteFixture.h"
+#include "tests/forms/CalculationFormFixture.h"
 
 namespace quillmetra {
 namespace {
 
-class LiquidForm : public SuiteTest {
-protected:
-    LiquidForm() {
-        RegisterForms();
-        StartUp(SuitePath(Folder));
-        ClickControl(ControlOf("frmTRProg", "cmdOK"));
-        ClickControl(ControlOf("frmObxProg", "optProgram", 1));
-        ClickControl(ControlOf("frmObxProg", "cmdOK"));
-    }
-
-    frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
-
-    static void Type(Control& box, const std::string& text) {
-        ASSERT_TRUE(MoveFocus(box)) << box.FullName();
-        ASSERT_TRUE(TypeText(box, text)) << box.FullName();
-    }
-
-    // 1000 ft of 4 in schedule 40 steel pipe, 100,000 lb/h of a liquid of gravity 1 and 1 cp at 100 psig.
-    void FillGoodCase(int i) {
-        Suite.HideFluidReminder = words::Yes;
-        frmLiqLineLoss& form = Form();
-        Type(form.txtInletPipeLen, "1000");
-        Type(form.txtInletPipeID, "4.026");
-        Type(form.txtFlow(i), "100000");
-        Type(form.txtTemp(i), "60");
-        Type(form.txtPressure(i), "100");
-        Type(form.txtSGFlow(i), "1");
-        Type(form.txtViscosity(i), "1");
-    }
-
-    void Calculate(int i) { ASSERT_TRUE(ClickControl(Form().cmdCalculate(i))); }
-};
+using LiquidForm = LiquidFormTest;
 
 TEST_F(LiquidForm, OpensFromTheBrowserInEnglishUnits) {
     EXPECT_TRUE(User.Boxes.empty()) << User.LastText();

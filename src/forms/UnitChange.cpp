@@ -1,0 +1,60 @@
+// See UnitChange.h.
+#include "forms/UnitChange.h"
+
+#include <algorithm>
+
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/CalculationForm.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "reports/FormRefresh.h"
+#include "units/RecordUnits.h"
+#include "units/UserUnits.h"
+
+namespace quillmetra {
+
+CalculationForm* OpenCalculation() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    return program == nullptr ? nullptr : dynamic_cast<CalculationForm*>(LoadedForm(program->Form));
+}
+
+bool UnitsHaveChanged() {
+    return Calc.UnitName != Calc.UnitNamePrevious || Calc.UnitFactor != Calc.UnitFactorPrevious ||
+           Calc.Basis != Calc.BasisPrevious || Calc.LiquidBasis != Calc.LiquidBasisPrevious;
+}
+
+void ConvertToNewUnits(ZeroTemperature zero) {
+    if (Calc.NoConversion == words::Yes) {
+        Calc.FormLoading = words::No;
+        if (CalculationForm* form = OpenCalculation()) form->ClearAllCases();
+        Calc.FormLoading = words::Yes;
+        RenewChosenUnitNames();
+        Calc.BasisPrevious = Calc.Basis;
+        Calc.LiquidBasisPrevious = Calc.LiquidBasis;
+    } else if (UnitsHaveChanged()) {
+        ConvertProgramData(zero);
+        Calc.ChangedFlag = words::No;
+    }
+    MendUnitFactors();
+    RememberUnits();
+    Calc.UnitsConverted = words::Yes;  // the refresh shows all cases
+    Calc.HideResults = words::No;
+    ComposeHeading();
+}
+
+void ReturnToCalculation() {
+    if (CalculationForm* form = OpenCalculation()) form->ReturnFromPanel();
+}
+
+void SaveUserUnits(SuiteForm& form) {
+    if (WriteUserUnits()) {
+        form.SetStatus("The user units are saved");
+    } else {
+        Tell("Path for units not found", "Units default path");
+    }
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,32 @@
+// What the unit window and the options panel have in common when they close: the conversion of the record,
+// the refresh of the calculation, and the way back to it.
+#pragma once
+
+#include "units/ProgramConversion.h"
+
+namespace quillmetra {
+
+class CalculationForm;
+class SuiteForm;
+
+// UnitSetName of units picked one by one.
+inline constexpr const char* SelectedUnitsName = "User selected units";
+
+// True when a unit or a basis differs from what was in force before the change.
+bool UnitsHaveChanged();
+
+// Converts the record from the previous units to the units in force and refreshes the form; with NoConversion
+// "Yes" the numbers stay as they are and all results are blanked, since they no longer belong to the inputs.
+// Renews the previous units. Without a change of units nothing is converted or rounded.
+void ConvertToNewUnits(ZeroTemperature zero);
+
+// The calculation form takes input again, with its calculate buttons.
+void ReturnToCalculation();
+
+// The open calculation form; null when there is none.
+CalculationForm* OpenCalculation();
+
+// Writes the user's units and says so in the status line of the form, or in a box when it fails.
+void SaveUserUnits(SuiteForm& form);
+
+}  // namespace quillmetra

@@ -1,0 +1,308 @@
+// See frmCalcOptions.h.
+#include "forms/frmCalcOptions.h"
+
+#include "core/Filling.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/CalculationForm.h"
+#include "forms/ColourSchemes.h"
+#include "forms/UnitChange.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "reports/FormRefresh.h"
+#include "units/ModeChange.h"
+#include "units/NamedUnitSets.h"
+#include "units/RecordUnits.h"
+#include "units/Rounding.h"
+#include "units/UnitCatalogue.h"
+#include "units/UserUnits.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr double PsiPerKilopascal = 0.14504;
+constexpr const char* Psia = "psia";
+constexpr const char* Kilopascal = "kPaa";
+
+struct WordOption {
+    const OptionButton& Option;
+    const char* Word;
+};
+
+std::string PickedWord(std::initializer_list<WordOption> options) {
+    for (const WordOption& each : options) {
+        if (each.Option.Checked()) return each.Word;
+    }
+    return "";
+}
+
+}  // namespace
+
+frmCalcOptions::frmCalcOptions() : SuiteForm("frmCalcOptions") {
+    Fixed = true;
+    DefaultButton = &cmdOKOptions;
+    CancelButton = &cmdCancelOptions;
+    txtSTPBaro.IsNumber = true;
+    txtSTPBaro.ColourGroup = 4;
+    txtSTPBaro.Describe(&lblSTPBaro, &cmdBaroPress);
+    fraCalcInputData.SetVisible(false);
+    fraCalcOptions.SetVisible(false);
+    for (Control* control : Controls()) {
+        const ControlKind kind = control->Kind();
+        if (kind == ControlKind::Frame || kind == ControlKind::Label || kind == ControlKind::OptionButton) {
+            control->ColourGroup = 3;
+        }
+        if (kind != ControlKind::OptionButton) continue;
+        const bool ofCalculation = control->Container() == &fraCalcOptions;
+        control->DoubleClick = [this, ofCalculation] {
+            if (!ofCalculation || Calc.MixtureMarker == words::Yes) CloseCalcOpts();
+        };
+    }
+    txtSTPBaro.KeyPress = [](Key& key) {
+        const bool isText = key.Name.size() == 1;
+        const bool isNumber = isText && (key.Name[0] == '.' || (key.Name[0] >= '0' && key.Name[0] <= '9'));
+        key.Handled = isText && !isNumber;
+    };
+    cmdBaroPress.Click = [this] { cmdBaroPress_Click(); };
+    cmdReviewUnits.Click = [this] { cmdReviewUnits_Click(); };
+    cmdChangeUnits.Click = [this] { cmdChangeUnits_Click(); };
+    cmdBootUpUnits.Click = [this] { cmdBootUpUnits_Click(); };
+    cmdOKOptions.Click = [this] { CloseCalcOpts(); };
+    cmdCancelOptions.Click = [this] { cmdCancelOptions_Click(); };
+}
+
+bool frmCalcOptions::IsLiquid() const { return Calc.FluidType == words::Liquid; }
+int& frmCalcOptions::UnitSet() const { return IsLiquid() ? Calc.LiquidUnitSet : Calc.GasUnitSet; }
+
+void frmCalcOptions::Load() {
+    ApplyColours(*this);
+    Calc.OptionsLoaded = words::Loaded;
+    if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = 14.7;
+    opened_ = Calc;
+    SetCaption(Suite.VersionText + "Calculation options");
+    ShowOptions();
+}
+
+void frmCalcOptions::ShowOptions() {
+    fraUnits.SetCaption(Calc.FluidType + " - Unit options");
+    OptLeaveAsIs.SetCaption("Currently - " + Calc.UnitSetName);
+    OptionButton* const sets[] = {&OptLeaveAsIs,   &optMassEnglishUnits, &optVolEnglishUnits,
+                                  &optMassSIUnits, &optVolSIUnits,       &optUserUnits};
+    const int set = UnitSet();
+    sets[set >= 0 && set <= UserUnitSet ? set : 0]->SetChecked(true);
+    (Calc.PressureMode == words::Absolute ? optAbsolutePressure : OptGaugePress).SetChecked(true);
+    (Calc.LiquidDensityMode == words::Density ? optLiqDensity : optLiqSG).SetChecked(true);
+    fraDensity.SetVisible(Calc.CurrentProgram == 1 || Calc.CurrentProgram == 3);
+    optManInput.SetChecked(Calc.DataMode == words::ManualData);
+    optFileData.SetChecked(Calc.DataMode == words::FileData);
+    optCalcDensity.SetChecked(Calc.DataMode == words::DensityData);
+    optCalcDensity.SetEnabled(!IsLiquid());
+    optPressureDrop.SetChecked(Calc.CalcMode == words::PressureDrop);
+    OptCalcFlowrate.SetChecked(Calc.CalcMode == words::FlowRate);
+    OptCalcValveSz.SetChecked(Calc.CalcMode == words::ValveSize);
+    ShowBarometer();
+}
+
+void frmCalcOptions::ShowBarometer() {
+    const bool si = Calc.UnitSystem == words::SI;
+    cmdBaroPress.SetCaption(si ? Kilopascal : Psia);
+    barometerShown_ = Str(si ? RoundedFour(Calc.BaroPressure / PsiPerKilopascal) : Calc.BaroPressure);
+    txtSTPBaro.SetText(barometerShown_);
+}
+
+void frmCalcOptions::cmdBaroPress_Click() {
+    const bool untouched = txtSTPBaro.Text() == barometerShown_;
+    const double value = Val(txtSTPBaro.Text());
+    const bool toKilopascal = cmdBaroPress.Caption() == Psia;
+    cmdBaroPress.SetCaption(toKilopascal ? Kilopascal : Psia);
+    txtSTPBaro.SetText(Str(RoundedFour(toKilopascal ? value / PsiPerKilopascal : value * PsiPerKilopascal)));
+    if (untouched) barometerShown_ = txtSTPBaro.Text();
+}
+
+// The record's own value, unless the user typed another: the box shows a rounded number.
+double frmCalcOptions::BarometerInPsia() const {
+    const double typed = Val(txtSTPBaro.Text());
+    if (txtSTPBaro.Text() == barometerShown_ || !(typed > 0)) return Calc.BaroPressure;
+    return cmdBaroPress.Caption() == Kilopascal ? RoundedFour(typed * PsiPerKilopascal) : typed;
+}
+
+std::string frmCalcOptions::PressureChoice() const {
+    return optAbsolutePressure.Checked() ? words::Absolute : words::Gauge;
+}
+
+std::string frmCalcOptions::DensityChoice() const {
+    return optLiqDensity.Checked() ? words::Density : words::Gravity;
+}
+
+std::string frmCalcOptions::DataChoice() const {
+    return PickedWord({{optManInput, words::ManualData},
+                       {optFileData, words::FileData},
+                       {optCalcDensity, words::DensityData}});
+}
+
+std::string frmCalcOptions::CalcChoice() const {
+    return PickedWord({{optPressureDrop, words::PressureDrop},
+                       {OptCalcFlowrate, words::FlowRate},
+                       {OptCalcValveSz, words::ValveSize}});
+}
+
+int frmCalcOptions::SetChoice() const {
+    const OptionButton* const sets[] = {&optMassEnglishUnits, &optVolEnglishUnits, &optMassSIUnits,
+                                        &optVolSIUnits, &optUserUnits};
+    for (int set = 1; set <= UserUnitSet; ++set) {
+        if (sets[set - 1]->Checked()) return set;
+    }
+    return 0;
+}
+
+// --- OK ------------------------------------------------------------------------------------------------
+
+bool frmCalcOptions::ApplySet() {
+    const int set = SetChoice();
+    if (set == 0) return true;
+    if (set == UserUnitSet) ReadUserUnitSets();
+    if (!ApplyNamedUnitSet(set)) {
+        Tell("User unit file is empty, please make and save", "Units file");
+        return false;
+    }
+    UnitSet() = set;
+    return true;
+}
+
+void frmCalcOptions::ApplyModes() {
+    ChangePressureMode(PressureChoice());
+    if (IsLiquid()) ChangeDensityMode(DensityChoice());
+    Calc.PressureModePrevious = Calc.PressureMode;
+    Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
+}
+
+// Programs above 3 have a title of their own, which ComposeHeading would overwrite.
+void frmCalcOptions::RefreshTitle() {
+    if (Calc.CurrentProgram > 3) {
+        Calc.UnitsTitle = Calc.UnitSystem + " units, calculate data";
+        ShowCalculation();
+    } else {
+        ComposeHeading();
+    }
+}
+
+void frmCalcOptions::CloseCalcOpts() {
+    if (Calc.NoConversion == words::Yes &&
+        !AskYesNo("Option 'Change units no conversion' was selected\n\nOK?", "Change Units")) {
+        Calc.NoConversion.clear();
+        return;
+    }
+    Calc.FormLoading = words::Yes;
+    RememberUnits();
+    if (!ApplySet()) return;
+    ApplyModes();
+    Calc.DataMode = DataChoice();
+    Calc.CalcMode = CalcChoice();
+    Calc.HideResults = words::Yes;
+    RefreshTitle();
+    Calc.HideResults = words::No;
+    if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::Stays);
+    Calc.NoConversion.clear();
+    Calc.BaroPressure = BarometerInPsia();
+    RefreshTitle();
+    InstallOptions();
+}
+
+void frmCalcOptions::InstallOptions() {
+    Calc.FormLoading = words::No;
+    Calc.OptionsLoaded.clear();
+    UnloadForm(Name());
+    ReturnToCalculation();
+}
+
+// --- The other buttons ---------------------------------------------------------------------------------
+
+void frmCalcOptions::cmdBootUpUnits_Click() {
+    // The modes of the panel are written, but the record keeps its own until OK converts it.
+    const CalcRecord before = Calc;
+    const bool absolute = PressureChoice() == words::Absolute;
+    Calc.PressureMode = PressureChoice();
+    if (!Calc.UnitName[3].empty()) Calc.UnitName[3].back() = absolute ? 'a' : 'g';
+    std::string question = "Use the the current unit display for bootup?\n\n";
+    question += absolute ? "It uses absolute pressure instead of gauge pressure"
+                         : "It uses gauge pressure instead of absolute pressure";
+    if (IsLiquid()) {
+        Calc.LiquidDensityMode = DensityChoice();
+        question += optLiqDensity.Checked() ? "\nand liquid density instead of specific gravity"
+                                            : "\nand liquid specific gravity instead of density";
+    }
+    const bool save = AskYesNo(question + "\nSave?", "New boot up Configuration for " + Calc.FluidType);
+    if (save) {
+        Calc.BaroPressure = BarometerInPsia();
+        TakeBootUpUnits();
+        SaveUserUnits(*this);
+    }
+    const int set = UnitSet();
+    const double barometer = Calc.BaroPressure;
+    Calc = before;
+    if (save) {
+        UnitSet() = set;
+        Calc.BaroPressure = barometer;
+    }
+}
+
+// Units that belong to no named set become the user's set. A gas keeps its own set throughout, and the first
+// named set of a gas becomes the user's.
+void frmCalcOptions::TakeBootUpUnits() {
+    int& set = UnitSet();
+    if (set == (IsLiquid() ? 0 : 1)) set = UserUnitSet;
+    if (!IsLiquid() || set == UserUnitSet) StoreUserUnitSet();
+}
+
+void frmCalcOptions::cmdChangeUnits_Click() {
+    if (!AskYesNo("For one selection, this will install any other unit\noption without converting the data.",
+                  "If data is downloaded to the wrong units")) {
+        return;
+    }
+    Tell("Select required units and click 'OK' ", "Change Units");
+    Calc.FormLoading = words::Yes;
+    Calc.NoConversion = words::Yes;
+}
+
+void frmCalcOptions::cmdReviewUnits_Click() {
+    HideForm(Name());
+    ShowForm("frmUnits");
+}
+
+// Takes the record back as the panel found it; what the panel never touches stays.
+void frmCalcOptions::ResetOptionData() {
+    Calc.CaseInput = opened_.CaseInput;
+    Calc.UnitFactor = opened_.UnitFactor;
+    Calc.UnitName = opened_.UnitName;
+    Calc.PipeData = opened_.PipeData;
+    Calc.FittingCount = opened_.FittingCount;
+    Calc.HammerResult = opened_.HammerResult;
+    Calc.CaseUnitsText = opened_.CaseUnitsText;
+    Calc.CaseText = opened_.CaseText;
+    Calc.ChosenUnitRowNames = opened_.ChosenUnitRowNames;
+    Calc.NoteText = opened_.NoteText;
+    Calc.UnitNamePrevious = opened_.UnitNamePrevious;
+    Calc.HeadingText = opened_.HeadingText;
+    Calc.CaseResult = opened_.CaseResult;
+    Calc.FluidPercent = opened_.FluidPercent;
+    Calc.FluidData = opened_.FluidData;
+    Calc.PressureDirection = opened_.PressureDirection;
+    Calc.LiquidBasis = opened_.LiquidBasis;
+    Calc.Basis = opened_.Basis;
+}
+
+void frmCalcOptions::cmdCancelOptions_Click() {
+    ResetOptionData();
+    Calc.CalcMode = opened_.CalcMode;
+    Calc.DataMode = opened_.DataMode;
+    Calc.LiquidUnitSet = opened_.LiquidUnitSet;
+    Calc.GasUnitSet = opened_.GasUnitSet;
+    Calc.PressureMode = opened_.PressureMode;
+    Calc.LiquidDensityMode = opened_.LiquidDensityMode;
+    Calc.NoConversion.clear();
+    InstallOptions();
+}
+
+}  // namespace quillmetra

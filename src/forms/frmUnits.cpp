@@ -1,0 +1,446 @@
+// See frmUnits.h.
+#include "forms/frmUnits.h"
+
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/CalculationForm.h"
+#include "forms/ColourSchemes.h"
+#include "forms/UnitChange.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "units/RecordUnits.h"
+#include "units/UnitCatalogue.h"
+#include "units/UnitLibraryFile.h"
+#include "units/UserUnits.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr std::size_t LongestName = 8;
+constexpr int DensityRow = 9;
+constexpr int LiquidDensityRow = 6;
+constexpr int LiquidViscosityRow = 7;
+constexpr int GasViscosityRow = 13;
+constexpr int SkippedPosition = 6;
+constexpr int DensityPosition = 11;
+
+constexpr const char* ChooseText =
+    "To select, double click the required unit.   To add a unit, click an empty line. Type in the name and "
+    "the "
+    "multiplier to convert to the first line unit";
+constexpr const char* BasisText =
+    "Either mass or volumetric units are available.  The current selection is shown";
+constexpr const char* SelectionsText =
+    "The current selections are shown.  Click unit for reselection and editing";
+constexpr const char* LibraryTitle = "Library Unit Files";
+
+std::size_t At(int row) { return static_cast<std::size_t>(row); }
+
+}  // namespace
+
+frmUnits::frmUnits() : SuiteForm("frmUnits") {
+    Alias("cmdOKUn", cmdOK);
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdCancelUn;
+    fraSelect.SetVisible(false);
+    cboUnit.Describe(&lblUnit);
+    cboFactor.Describe(&lblMultiplier);
+    for (Control* control : Controls()) {
+        const ControlKind kind = control->Kind();
+        if (kind == ControlKind::ComboBox) control->ColourGroup = 4;
+        if (kind == ControlKind::Frame || kind == ControlKind::Label || kind == ControlKind::OptionButton) {
+            control->ColourGroup = 1;
+        }
+    }
+    cmdUnit.Each([this](CommandButton& button, int row) { button.Click = [this, row] { Row_Click(row); }; });
+    lblFactor.Each([this](Label& label, int row) { label.Click = [this, row] { Row_Click(row); }; });
+    cmdBasis.Click = [this] { cmdBasis_Click(); };
+    cmdCanBasis.Click = [this] { cmdCancel_Click(); };
+    cboUnit.Click = [this] { cboLine_Click(cboUnit, cboFactor); };
+    cboFactor.Click = [this] { cboLine_Click(cboFactor, cboUnit); };
+    cboUnit.Change = cboFactor.Change = [this] { cboText_Change(); };
+    cboUnit.DoubleClick = cboFactor.DoubleClick = [this] { cmdSelect_Click(); };
+    cmdReplace.Click = [this] { cmdReplace_Click(); };
+    cmdSelect.Click = [this] { cmdSelect_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdSaveUser.Click = [this] { cmdSaveUser_Click(); };
+    cmdCancelUn.Click = [this] { cmdCancelUn_Click(); };
+    mnuSaveUnLibrary.Click = [this] { mnuSaveUnLibrary_Click(); };
+    mnuRecallSavedUnLibrary.Click = [this] { mnuRecallSavedUnLibrary_Click(); };
+    mnuDefaultUnLibrary.Click = [this] { mnuDefaultUnLibrary_Click(); };
+    mnuDeleteLib.Click = [this] { mnuDeleteLib_Click(); };
+}
+
+bool frmUnits::IsGas() const { return Calc.CurrentProgram == 2 || Calc.CurrentProgram == 5; }
+
+void frmUnits::Load() {
+    ApplyColours(*this);
+    if (Suite.UnitLibraryName.empty()) ReadUnitLibrary();
+    ApplyPressureSuffix();
+    Calc.UnitFactorPrevious = factorsBefore_ = Calc.UnitFactor;
+    Calc.UnitNamePrevious = namesBefore_ = Calc.UnitName;
+    basisBefore_ = Calc.Basis;
+    liquidBasisBefore_ = Calc.LiquidBasis;
+    basisPreviousBefore_ = Calc.BasisPrevious;
+    liquidBasisPreviousBefore_ = Calc.LiquidBasisPrevious;
+    // The window shows a liquid's density in row 9, whatever row the program keeps it in.
+    const bool density = Calc.LiquidDensityMode == words::Density;
+    if (!IsGas() && density) {
+        Calc.UnitName[DensityRow] = Calc.UnitName[LiquidDensityRow];
+        Calc.UnitFactor[DensityRow] = Calc.UnitFactor[LiquidDensityRow];
+    }
+    RowCount = !IsGas() && !density ? UnitPositions - 1 : UnitPositions;
+    ShowTitle();
+    ShowUnits();
+    lblInstruct.SetCaption(SelectionsText);
+}
+
+void frmUnits::ShowTitle() {
+    std::string title = Calc.FluidType + ". Units - " + Suite.UnitLibraryName;
+    if (Suite.UnitLibraryName != DefaultLibraryName) title += " " + Suite.DefaultPaths[4] + "\\KSLib.TXT";
+    SetCaption(title);
+}
+
+// A row is shown when its position counts; a liquid with gravity leaves its density row out.
+bool frmUnits::Shows(int row) const {
+    const auto order = UnitDisplayOrder(IsGas());
+    for (int position = 1; position <= UnitPositions; ++position) {
+        if (RowCount < UnitPositions && position == DensityPosition) continue;
+        if (order[At(position)] == row) return true;
+    }
+    return false;
+}
+
+void frmUnits::ShowUnits() {
+    cmdUnit.Each([this](CommandButton& button, int row) {
+        button.SetCaption(UnitRowCaption(row));
+        fraRow(row).SetVisible(Shows(row));
+        ActiveList[At(row)] = UnitListOf(row);
+        lblFactor(row).SetCaption(Calc.UnitName[At(row)]);
+        lblFactor(row).Describe(&button);
+        SelectedFactor[At(row)] = {Calc.UnitFactor[At(row)], false};
+    });
+    const std::pair<int, int> flows[] = {{0, 19}, {1, 5}};
+    for (const auto& [row, base] : flows) {
+        const auto [quantity, time] = SplitFlowUnit(Calc.UnitName[At(row)]);
+        lblFactor(row).SetCaption(quantity);
+        lblFactor(base).SetCaption(time);
+        SelectedFactor[At(row)] = {FindUnitFactor(UnitListOf(row), quantity), false};
+        SelectedFactor[At(base)] = {FindUnitFactor(UnitListOf(base), time), false};
+    }
+}
+
+// --- The panel -----------------------------------------------------------------------------------------
+
+std::string& frmUnits::BasisOfRow() const { return UnitRow == 0 ? Calc.Basis : Calc.LiquidBasis; }
+
+void frmUnits::Row_Click(int row) {
+    if (row == 2) Calc.ChosenUnitRowNames[1] = Calc.UnitName[2];
+    OpenPanel(row);
+}
+
+void frmUnits::OpenPanel(int row) {
+    UnitRow = row;
+    fraSelect.SetCaption(SpokenCaption(cmdUnit(row).Caption()));
+    fraSelect.SetVisible(true);
+    fraRows.SetEnabled(false);
+    cmdOK.SetEnabled(false);
+    cmdSaveUser.SetEnabled(false);
+    DefaultButton = &cmdSelect;
+    CancelButton = &cmdCancel;
+    const bool isFlow = row <= 1;
+    if (isFlow) basisBeforePanel_ = BasisOfRow();
+    OfferBasis(isFlow);
+    if (!isFlow) ListUnits();
+}
+
+// A flow is first asked for its basis; the list of units follows.
+void frmUnits::OfferBasis(bool offer) {
+    for (Control* control : std::initializer_list<Control*>{&optMass, &optVol, &cmdBasis, &cmdCanBasis}) {
+        control->SetVisible(offer);
+    }
+    for (Control* control : std::initializer_list<Control*>{&lblUnit, &cboUnit, &lblMultiplier, &cboFactor,
+                                                            &cmdReplace, &cmdSelect, &cmdCancel}) {
+        control->SetVisible(!offer);
+    }
+    if (!offer) return;
+    lblInstruct.SetCaption(BasisText);
+    (BasisOfRow() == words::Volume ? optVol : optMass).SetChecked(true);
+    DefaultButton = &cmdBasis;
+    CancelButton = &cmdCanBasis;
+    cmdBasis.SetFocus();
+}
+
+void frmUnits::cmdBasis_Click() {
+    BasisOfRow() = optVol.Checked() ? words::Volume : words::Mass;
+    (UnitRow == 0 ? Calc.BasisPrevious : Calc.LiquidBasisPrevious) =
+        UnitRow == 0 ? basisBefore_ : liquidBasisBefore_;
+    OfferBasis(false);
+    DefaultButton = &cmdSelect;
+    CancelButton = &cmdCancel;
+    ListUnits();
+}
+
+void frmUnits::ListUnits() {
+    lblInstruct.SetCaption(ChooseText);
+    const int list = UnitListOf(UnitRow);
+    ActiveList[At(UnitRow)] = list;
+    ProtectedCount = ProtectedLinesOf(UnitRow);
+    const UnitList& lines = Suite.UnitLibrary.at(At(list));
+    std::vector<std::string> names, factors;
+    int current = -1;
+    for (std::size_t line = 1; line < lines.size(); ++line) {
+        names.push_back(lines[line].Name);
+        factors.push_back(lines[line].Name.empty() ? "" : TrimmedStr(lines[line].Factor));
+        const bool inForce = !lines[line].Name.empty() && lines[line].Name == lblFactor(UnitRow).Caption();
+        if (inForce && current < 0) current = static_cast<int>(line) - 1;
+    }
+    cboUnit.SetRows(std::move(names));
+    cboFactor.SetRows(std::move(factors));
+    cboUnit.Preselect(current);
+    cboFactor.Preselect(current);
+    cmdReplace.SetEnabled(false);
+    cboUnit.SetFocus();
+}
+
+// The two lists go together: a click on a line of one selects it in the other.
+void frmUnits::cboLine_Click(ComboBox& chosen, ComboBox& other) {
+    other.Preselect(chosen.Selected());
+    cmdReplace.SetEnabled(false);
+}
+
+void frmUnits::cboText_Change() {
+    const int line = cboUnit.Selected();
+    if (line >= ProtectedCount) {
+        cmdReplace.SetEnabled(true);
+        return;
+    }
+    cmdReplace.SetEnabled(false);
+    if (line < 0 || (cboUnit.Text().empty() && cboFactor.Text().empty())) return;
+    Tell("This item is a base unit and cannot be changed", "Unit Edit");
+    cboUnit.SetText("");
+    cboFactor.SetText("");
+}
+
+void frmUnits::cmdReplace_Click() {
+    const int line = cboUnit.Selected();
+    if (line < ProtectedCount) return;
+    const std::string name(Trim(cboUnit.Text()));
+    if (name.size() > LongestName) {
+        Tell("Maximum of 8 characters", "New Unit Name", Icon::Stop);
+        cboUnit.SetFocus();
+        return;
+    }
+    ReplaceUnitLine(UnitListOf(UnitRow), line + 1, name, Val(cboFactor.Text()));
+    const std::string factor(Trim(cboFactor.Text()));
+    ListUnits();
+    cboUnit.Preselect(line);
+    cboFactor.Preselect(line);
+    cboFactor.SetText(factor);
+    cmdReplace.SetEnabled(false);
+}
+
+void frmUnits::cmdSelect_Click() {
+    const std::string name(Trim(cboUnit.Text()));
+    const double factor = Val(cboFactor.Text());
+    if (name.empty()) {
+        Tell("Unit must have a name", "Unit ");
+        cboUnit.SetFocus();
+        return;
+    }
+    if (name.size() > LongestName) {
+        Tell("Maximum of 8 characters", "New Unit Name", Icon::Stop);
+        cboUnit.SetFocus();
+        return;
+    }
+    if (!IsUsableFactor(factor)) {
+        Tell("Multiplier must be greater than zero", "Unit " + name);
+        cboFactor.SetFocus();
+        return;
+    }
+    lblFactor(UnitRow).SetCaption(name);
+    SelectedFactor[At(UnitRow)] = {factor, true};
+    ClosePanel();
+}
+
+void frmUnits::cmdCancel_Click() {
+    if (UnitRow <= 1) BasisOfRow() = basisBeforePanel_;
+    ClosePanel();
+}
+
+void frmUnits::ClosePanel() {
+    cboUnit.SetRows({});
+    cboFactor.SetRows({});
+    cboUnit.SetText("");
+    cboFactor.SetText("");
+    fraSelect.SetVisible(false);
+    fraRows.SetEnabled(true);
+    cmdOK.SetEnabled(true);
+    cmdSaveUser.SetEnabled(true);
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdCancelUn;
+    lblInstruct.SetCaption(SelectionsText);
+    cmdUnit(UnitRow).SetFocus();
+}
+
+// --- OK, save, cancel ----------------------------------------------------------------------------------
+
+bool frmUnits::AskUpdate() const {
+    return AskYesNo("Update calculation for changes?\n\nOK?", "Unit Display");
+}
+
+// A unit that was not touched keeps the record's factor, which may have more digits than the library's.
+bool frmUnits::TakeUnit(int row) {
+    const Choice& chosen = SelectedFactor[At(row)];
+    if (!chosen.Touched) return true;
+    if (!IsUsableFactor(chosen.Factor)) {
+        Tell("Multiplier must be greater than zero", "Unit " + lblFactor(row).Caption());
+        return false;
+    }
+    Calc.UnitName[At(row)] = lblFactor(row).Caption();
+    Calc.UnitFactor[At(row)] = chosen.Factor;
+    return true;
+}
+
+bool frmUnits::TakeFlowUnit(int row, int baseRow) {
+    const Choice& quantity = SelectedFactor[At(row)];
+    const Choice& time = SelectedFactor[At(baseRow)];
+    if (!quantity.Touched && !time.Touched) return true;
+    const double factor = quantity.Factor * time.Factor;
+    if (!IsUsableFactor(factor)) {
+        const int missing = !IsUsableFactor(quantity.Factor) ? row : baseRow;
+        Tell("Multiplier must be greater than zero", "Unit " + lblFactor(missing).Caption());
+        return false;
+    }
+    Calc.UnitFactor[At(row)] = factor;
+    Calc.UnitName[At(row)] = lblFactor(row).Caption() + lblFactor(baseRow).Caption();
+    return true;
+}
+
+bool frmUnits::TakeUnits() {
+    Calc.UnitFactorPrevious = factorsBefore_;
+    Calc.UnitNamePrevious = namesBefore_;
+    if (!TakeFlowUnit(0, 19) || !TakeFlowUnit(1, 5)) return false;
+    const auto order = UnitDisplayOrder(IsGas());
+    for (int position = 2; position <= UnitPositions; ++position) {
+        // Position 6 is passed over: a liquid's viscosity is taken at position 12, and a gas keeps the unit
+        // of its critical temperature.
+        if (position == SkippedPosition) continue;
+        if (RowCount < UnitPositions && position == DensityPosition) continue;
+        if (!TakeUnit(order[At(position)])) return false;
+    }
+    const bool density = Calc.LiquidDensityMode == words::Density;
+    if (!IsGas() && density) {
+        Calc.UnitName[LiquidDensityRow] = Calc.UnitName[DensityRow];
+        Calc.UnitFactor[LiquidDensityRow] = Calc.UnitFactor[DensityRow];
+    }
+    if (IsGas()) {
+        Calc.UnitName[LiquidViscosityRow] = Calc.UnitName[GasViscosityRow];
+        Calc.UnitFactor[LiquidViscosityRow] = Calc.UnitFactor[GasViscosityRow];
+    }
+    CarryDensityUnit();
+    return true;
+}
+
+void frmUnits::RestoreRecord() {
+    Calc.UnitName = namesBefore_;
+    Calc.UnitFactor = factorsBefore_;
+    Calc.UnitFactorPrevious = factorsBefore_;
+    Calc.UnitNamePrevious = namesBefore_;
+    Calc.Basis = basisBefore_;
+    Calc.LiquidBasis = liquidBasisBefore_;
+    Calc.BasisPrevious = basisPreviousBefore_;
+    Calc.LiquidBasisPrevious = liquidBasisPreviousBefore_;
+}
+
+void frmUnits::cmdOK_Click() {
+    if (!AskUpdate()) return;
+    Calc.FormLoading = words::Yes;
+    const UnitNames names = Calc.UnitName;
+    const UnitFactors factors = Calc.UnitFactor;
+    if (!TakeUnits()) {
+        Calc.UnitName = names;
+        Calc.UnitFactor = factors;
+        return;
+    }
+    if (UnitsHaveChanged()) {
+        // Units picked one by one belong to no named set.
+        (IsGas() ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
+        Calc.UnitSetName = SelectedUnitsName;
+    }
+    ConvertToNewUnits(ZeroTemperature::IsConverted);
+    UnloadForm(Name());
+    UnloadForm("frmCalcOptions");
+    ReturnToCalculation();
+}
+
+void frmUnits::cmdSaveUser_Click() {
+    if (!AskUpdate()) {
+        cmdOK_Click();
+        return;
+    }
+    const UnitNames names = Calc.UnitName;
+    const UnitFactors factors = Calc.UnitFactor;
+    if (TakeUnits()) {
+        StoreUserUnitSet();
+        SaveUserUnits(*this);
+    }
+    Calc.UnitName = names;
+    Calc.UnitFactor = factors;
+}
+
+void frmUnits::cmdCancelUn_Click() {
+    RestoreRecord();
+    UnloadForm(Name());
+    if (Calc.OptionsLoaded == words::Loaded) {
+        ShowForm("frmCalcOptions");
+    } else {
+        ReturnToCalculation();
+    }
+}
+
+void frmUnits::CloseBox() { cmdCancelUn_Click(); }
+
+// --- The library ---------------------------------------------------------------------------------------
+
+bool frmUnits::ConfirmLibrary(const std::string& question, Answer preset) const {
+    return AskYesNo(question + "\n\nOK?", "Confirm Deletion", Icon::None, preset);
+}
+
+void frmUnits::mnuSaveUnLibrary_Click() {
+    if (!ConfirmLibrary("Save created units in a User Library File?", Answer::Yes)) return;
+    if (!WriteUnitLibrary()) Tell("Path for units not found", "Units default path");
+    ShowTitle();
+}
+
+void frmUnits::mnuRecallSavedUnLibrary_Click() {
+    if (!ConfirmLibrary("Load the User Library File?", Answer::Yes)) return;
+    ReadUnitLibrary();
+    if (Suite.UnitLibraryName == DefaultLibraryName)
+        Tell("A User library has not been created", LibraryTitle);
+    ApplyPressureSuffix();
+    ShowTitle();
+}
+
+void frmUnits::mnuDefaultUnLibrary_Click() {
+    if (!ConfirmLibrary("Load the default Library File?", Answer::Yes)) return;
+    if (Suite.UnitLibraryName == DefaultLibraryName) {
+        Tell("The default library is already loaded", LibraryTitle);
+        return;
+    }
+    UseDefaultLibrary();
+    ApplyPressureSuffix();
+    ShowTitle();
+}
+
+void frmUnits::mnuDeleteLib_Click() {
+    if (!ConfirmLibrary("Delete the User Library File?", Answer::No)) return;
+    if (!DeleteUnitLibraryFile()) Tell("Path for units not found", "Units default path");
+    ApplyPressureSuffix();
+    ShowTitle();
+}
+
+}  // namespace quillmetra

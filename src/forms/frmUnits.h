@@ -1,0 +1,106 @@
+// The unit window: shows the unit of each row that the program uses, lets the user choose others and add
+// units of their own, and keeps them in a library and in the user's named set.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/CalcRecord.h"
+#include "forms/SuiteForm.h"
+#include "units/UnitSelection.h"
+
+namespace quillmetra {
+
+class frmUnits : public SuiteForm {
+public:
+    frmUnits();
+
+    void Load() override;
+    void CloseBox() override;
+
+    MenuItem mnuLibrary{*this, "mnuLibrary", "&Library"};
+    MenuItem mnuSaveUnLibrary{mnuLibrary, "mnuSaveUnLibrary", "Save user library"};
+    MenuItem mnuRecallSavedUnLibrary{mnuLibrary, "mnuRecallSavedUnLibrary", "Load user library"};
+    MenuItem mnuDefaultUnLibrary{mnuLibrary, "mnuDefaultUnLibrary", "Load default library"};
+    MenuItem mnuDeleteLib{mnuLibrary, "mnuDeleteLib", "Delete user library"};
+
+    Label lblInstruct{*this, "lblInstruct"};
+
+    // One frame a row: the button that opens the panel, and the unit in force.
+    Frame fraRows{*this, "fraRows", "Units"};
+    ControlArray<Frame> fraRow{
+        fraRows, "fraRow", {0, 1, 2, 3, 4, 5, 7, 9, 11, 12, 13, 18, 19, 20, 25, 27}, ""};
+    ControlArray<CommandButton> cmdUnit{fraRow, "cmdUnit", ""};
+    ControlArray<Label> lblFactor{fraRow, "lblFactor", ""};
+
+    // The panel for choosing one.
+    Frame fraSelect{*this, "fraSelect"};
+    OptionButton optMass{fraSelect, "optMass", "&Mass"};
+    OptionButton optVol{fraSelect, "optVol", "&Volume"};
+    CommandButton cmdBasis{fraSelect, "cmdBasis", "OK"};
+    CommandButton cmdCanBasis{fraSelect, "cmdCanBasis", "Cancel"};
+    Label lblUnit{fraSelect, "lblUnit", "Unit"};
+    ComboBox cboUnit{fraSelect, "cboUnit"};
+    Label lblMultiplier{fraSelect, "lblMultiplier", "Multiplier"};
+    ComboBox cboFactor{fraSelect, "cboFactor"};
+    CommandButton cmdReplace{fraSelect, "cmdReplace", "&Replace"};
+    CommandButton cmdSelect{fraSelect, "cmdSelect", "&Select"};
+    CommandButton cmdCancel{fraSelect, "cmdCancel", "Cancel"};
+
+    CommandButton cmdOK{*this, "cmdOK", "OK"};
+    CommandButton cmdSaveUser{*this, "cmdSaveUser", "Save &user units"};
+    CommandButton cmdCancelUn{*this, "cmdCancelUn", "Cancel"};
+
+    void Row_Click(int row);
+    void cmdBasis_Click();
+    void cmdCanBasis_Click();
+    void cboLine_Click(ComboBox& chosen, ComboBox& other);
+    void cboText_Change();
+    void cmdReplace_Click();
+    void cmdSelect_Click();
+    void cmdCancel_Click();
+    void cmdOK_Click();
+    void cmdSaveUser_Click();
+    void cmdCancelUn_Click();
+    void mnuSaveUnLibrary_Click();
+    void mnuRecallSavedUnLibrary_Click();
+    void mnuDefaultUnLibrary_Click();
+    void mnuDeleteLib_Click();
+
+private:
+    // What the window has chosen for a row. A factor of 0 is a unit that the library does not have.
+    struct Choice {
+        double Factor = 0;
+        bool Touched = false;
+    };
+
+    bool IsGas() const;
+    bool Shows(int row) const;
+    void ShowTitle();
+    void ShowUnits();
+    void OpenPanel(int row);
+    void ClosePanel();
+    void OfferBasis(bool offer);
+    void ListUnits();
+    std::string& BasisOfRow() const;
+    bool AskUpdate() const;
+    // Steps of OK: the chosen units go into the record; false, with a message, when one has no multiplier.
+    bool TakeUnits();
+    bool TakeFlowUnit(int row, int baseRow);
+    bool TakeUnit(int row);
+    void RestoreRecord();
+    bool ConfirmLibrary(const std::string& question, Answer preset) const;
+
+    int UnitRow = 0;  // the row in hand
+    int ProtectedCount = 0;
+    int RowCount = UnitPositions;
+    std::array<int, 36> ActiveList{};
+    std::array<Choice, 36> SelectedFactor{};
+    std::string basisBeforePanel_;
+    // Units and bases as they were when the window opened, for its Cancel.
+    UnitNames namesBefore_;
+    UnitFactors factorsBefore_;
+    std::string basisBefore_, liquidBasisBefore_, basisPreviousBefore_, liquidBasisPreviousBefore_;
+};
+
+}  // namespace quillmetra

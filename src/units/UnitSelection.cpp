@@ -1,0 +1,54 @@
+// See UnitSelection.h.
+#include "units/UnitSelection.h"
+
+#include <array>
+
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "units/UnitCatalogue.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr int OperatingPressures = 5;
+
+constexpr std::array<int, UnitPositions + 1> LiquidOrder = {0, 1, 5, 2, 3, 4, 7, 20, 27, 18, 25, 9, 7};
+constexpr std::array<int, UnitPositions + 1> GasOrder = {0, 0, 19, 2, 3, 4, 12, 11, 20, 13, 18, 25, 9};
+
+const UnitRow::Choice& ChoiceOf(int row) {
+    const UnitRow& unitRow = UnitRows.at(static_cast<std::size_t>(row));
+    const std::string& basis = row == 0 ? Calc.Basis : Calc.LiquidBasis;
+    return row <= 1 && basis == words::Volume ? unitRow.OnVolume : unitRow.OnMass;
+}
+
+}  // namespace
+
+std::span<const int, UnitPositions + 1> UnitDisplayOrder(bool gas) { return gas ? GasOrder : LiquidOrder; }
+
+std::pair<std::string, std::string> SplitFlowUnit(const std::string& unit) {
+    const std::size_t slash = unit.find('/');
+    if (slash == std::string::npos) return {unit, ""};
+    return {unit.substr(0, slash), unit.substr(slash)};
+}
+
+int UnitListOf(int row) { return ChoiceOf(row).List; }
+int ProtectedLinesOf(int row) { return ChoiceOf(row).ProtectedLines; }
+
+double FindUnitFactor(int list, const std::string& name) {
+    if (list < 0 || name.empty()) return 0;
+    const UnitList& lines = Suite.UnitLibrary.at(static_cast<std::size_t>(list));
+    for (std::size_t line = 1; line < lines.size(); ++line) {
+        if (lines[line].Name == name) return lines[line].Factor;
+    }
+    return 0;
+}
+
+void ReplaceUnitLine(int list, int line, const std::string& name, double factor) {
+    Suite.UnitLibrary.at(static_cast<std::size_t>(list)).at(static_cast<std::size_t>(line)) = {name, factor};
+    if (list != OperatingPressures) return;
+    UnitLine& stem = Suite.PressureStem.at(static_cast<std::size_t>(line));
+    stem = {name.empty() ? "" : name.substr(0, name.size() - 1), factor};
+}
+
+}  // namespace quillmetra
