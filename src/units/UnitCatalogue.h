@@ -29,13 +29,13 @@ struct UnitRow {
         int ProtectedLines = 0;
     };
 
-    int Row;
-    const char* Quantity;
-    const char* Caption;      // of the unit button; empty where the row has none
+    int Row = 0;
+    const char* Quantity = "";
+    const char* Caption = "";  // of the unit button; empty where the row has none
     Choice OnMass, OnVolume;  // rows 0 and 1 change their list with the flow basis, the others do not
-    const char* EnglishName;
-    const char* SIName;
-    double SIFactor;  // the English factor is 1 throughout
+    const char* EnglishName = "";
+    const char* SIName = "";
+    double SIFactor = 1;  // the English factor is 1 throughout
 };
 
 constexpr int UnitRowCount = 28;
