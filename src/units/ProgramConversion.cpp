@@ -28,9 +28,9 @@ constexpr unsigned Every = Lines | LiquidData | GasData;
 enum class Mode { Any, Density };
 
 struct InputRow {
-    int Row;
-    int UnitRow;
-    unsigned Programs;
+    int Row = 0;
+    int UnitRow = 0;
+    unsigned Programs = 0;
     Mode Needs = Mode::Any;  // gravities have no unit
 };
 

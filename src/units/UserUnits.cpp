@@ -47,7 +47,7 @@ double NextNumber(LineReader& file) { return Val(file.NextWhole()); }
 
 // One of two words; an empty line stands for the first. Any other word shows that this is no such file.
 std::string NextWord(LineReader& file, const char* usual, const char* other) {
-    const std::string word = file.NextWhole();
+    std::string word = file.NextWhole();
     if (word.empty()) return usual;
     if (word != usual && word != other) throw failure::DeviceError();
     return word;
