@@ -1,0 +1,90 @@
+// See Painting.h.
+#include "desktop/Painting.h"
+
+#include <algorithm>
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPalette>
+
+namespace quillmetra {
+
+namespace {
+constexpr int Margin = 8;
+constexpr int Corner = 3;
+
+QColor Between(const QColor& a, const QColor& b, double part) {
+    const auto mix = [part](int x, int y) { return static_cast<int>(x + (y - x) * part); };
+    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+}  // namespace
+
+QColor ToQt(Colour colour) {
+    return {static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
+            static_cast<int>((colour >> 16U) & 0xFFU)};
+}
+
+void Paint(QWidget& widget, Colour back, Colour fore) {
+    const QColor under = ToQt(back);
+    const QColor text = ToQt(fore);
+    QPalette palette = widget.palette();
+    for (const auto role : {QPalette::Window, QPalette::Base}) palette.setColor(role, under);
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, Between(text, under, 0.5));
+    }
+    if (palette != widget.palette()) widget.setPalette(palette);
+}
+
+int DigitsWide(const QWidget& widget, int digits) {
+    return QFontMetrics(widget.font()).horizontalAdvance(QLatin1Char('0')) * digits;
+}
+
+Panel::Panel(QWidget* parent, const QString& heading) : QWidget(parent), heading_(heading) { Measure(); }
+
+void Panel::SetHeading(const QString& heading) {
+    heading_ = heading;
+    Measure();
+    update();
+}
+
+void Panel::SetRaised(bool raised) {
+    raised_ = raised;
+    update();
+}
+
+QFont Panel::HeadingFont() const {
+    QFont bold = font();
+    bold.setBold(true);
+    return bold;
+}
+
+int Panel::HeadingHeight() const { return heading_.isEmpty() ? 0 : QFontMetrics(HeadingFont()).height() + 4; }
+
+void Panel::Measure() {
+    setContentsMargins(Margin, Margin - 2 + HeadingHeight(), Margin, Margin);
+    if (heading_.isEmpty()) return;
+    setMinimumWidth(QFontMetrics(HeadingFont()).horizontalAdvance(heading_) + 2 * Margin);
+}
+
+void Panel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) Measure();
+    QWidget::changeEvent(event);
+}
+
+void Panel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor under = palette().color(QPalette::Window);
+    painter.setBrush(under);
+    painter.setPen(QPen(under.darker(raised_ ? 220 : 130), 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
+    if (heading_.isEmpty()) return;
+    painter.setFont(HeadingFont());
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(QRect(Margin, Margin - 3, width() - 2 * Margin, HeadingHeight()),
+                     static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter), heading_);
+}
+
+}  // namespace quillmetra
