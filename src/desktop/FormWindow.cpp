@@ -10,8 +10,8 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QStatusBar>
+#include <QStyle>
 
 #include "desktop/KeyNames.h"
 #include "desktop/Menus.h"

@@ -34,7 +34,7 @@ std::string NameOfKey(const QKeyEvent& event) {
     if (const char* plain = PlainName(event.key())) {
         name = plain;
     } else if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12) {
-        name = "F" + std::to_string(event.key() - Qt::Key_F1 + 1);
+        name = std::string(1, 'F').append(std::to_string(event.key() - Qt::Key_F1 + 1));
     } else if (held.testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
         if (event.key() < Qt::Key_Space || event.key() > Qt::Key_AsciiTilde) return {};
         name = QString(QChar(event.key())).toLower().toStdString();
@@ -47,7 +47,7 @@ std::string NameOfKey(const QKeyEvent& event) {
     if (held.testFlag(Qt::ControlModifier)) with += "Ctrl+";
     if (held.testFlag(Qt::AltModifier)) with += "Alt+";
     if (!isCharacter && held.testFlag(Qt::ShiftModifier)) with += "Shift+";
-    return with + name;
+    return with.append(name);
 }
 
 }  // namespace quillmetra

@@ -56,6 +56,11 @@ Node Node::Centred() && {
 }
 
 Node Item(std::string control) { return {std::move(control)}; }
+Node Item(const std::string& array, int index) {
+    std::string name = array;
+    return {name.append("(").append(std::to_string(index)).append(")")};
+}
+
 Node Words(std::string words) { return {Node::Kind::Words, std::move(words)}; }
 Node Column(std::vector<Node> parts) { return {Node::Kind::Column, {}, std::move(parts)}; }
 Node Row(std::vector<Node> parts) { return {Node::Kind::Row, {}, std::move(parts)}; }
@@ -79,7 +84,7 @@ Node Over(Node base, std::vector<Node> parts) {
 
 std::vector<Node> Cases(const std::string& label, const std::string& boxes, const std::string& unit) {
     std::vector<Node> cells{label};
-    for (const char* index : {"(0)", "(1)", "(2)"}) cells.push_back(Item(boxes + index).Wide(12).Grow());
+    for (int i = 0; i < 3; ++i) cells.push_back(Item(boxes, i).Wide(12).Grow());
     cells.emplace_back(unit);
     return cells;
 }

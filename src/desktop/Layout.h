@@ -54,6 +54,7 @@ struct Node {
 };
 
 Node Item(std::string control);
+Node Item(const std::string& array, int index);
 Node Words(std::string words);
 Node Column(std::vector<Node> parts);
 Node Row(std::vector<Node> parts);

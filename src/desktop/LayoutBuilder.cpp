@@ -9,7 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "desktop/Painting.h"

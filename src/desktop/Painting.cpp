@@ -3,10 +3,13 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
 
 namespace quillmetra {
 
@@ -23,6 +26,11 @@ QColor Between(const QColor& a, const QColor& b, double part) {
 QColor ToQt(Colour colour) {
     return {static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
             static_cast<int>((colour >> 16U) & 0xFFU)};
+}
+
+void UseSuiteStyle() {
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(QApplication::style()->standardPalette());
 }
 
 void Paint(QWidget& widget, Colour back, Colour fore) {

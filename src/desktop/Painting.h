@@ -1,17 +1,24 @@
 // Colours of the model on widgets of the toolkit, and the panel that groups of controls stand on.
 #pragma once
 
+#include <string>
+
 #include <QColor>
 #include <QString>
 #include <QWidget>
-#include <string>
 
 #include "platform/Controls.h"
 
 namespace quillmetra {
 
-inline QString ToQt(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+inline QString ToQt(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 QColor ToQt(Colour colour);
+
+// The style of the whole program, the same on every machine: the slots of the suite are chosen for a light
+// one.
+void UseSuiteStyle();
 
 // Paints a widget and those in it that have no colours of their own.
 void Paint(QWidget& widget, Colour back, Colour fore);

@@ -1,15 +1,12 @@
 // The desktop program.
-#include <cstdio>
-#include <memory>
-
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
-#include <QStyleFactory>
 
 #include "core/StartUp.h"
 #include "core/Version.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/Painting.h"
 #include "desktop/StartTime.h"
 #include "forms/RegisterForms.h"
 #include "platform/Forms.h"
