@@ -51,6 +51,7 @@ FormWindow::FormWindow(Form& form)
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidget(pane_);
     setCentralWidget(scroll_);
+    pane_->setObjectName("pane");
     pane_->setAutoFillBackground(true);
     pane_->installEventFilter(this);
 
@@ -120,7 +121,13 @@ void FormWindow::SetTabOrder() {
 // As large as its contents, or as the screen allows; then it scrolls.
 void FormWindow::TakeFirstSize() {
     ensurePolished();
-    pane_->layout()->activate();
+    // Inner layouts first: an outer one asks for the sizes that they had when they were last active.
+    QList<QWidget*> areas = pane_->findChildren<QWidget*>();
+    std::reverse(areas.begin(), areas.end());
+    areas.append(pane_);
+    for (const QWidget* area : areas) {
+        if (area->layout() != nullptr) area->layout()->activate();
+    }
     QSize size = pane_->sizeHint();
     if (menuWidget() != nullptr) {
         size.setWidth(std::max(size.width(), menuBar()->sizeHint().width()));

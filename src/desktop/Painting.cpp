@@ -71,10 +71,16 @@ QFont Panel::HeadingFont() const {
 int Panel::HeadingHeight() const { return heading_.isEmpty() ? 0 : QFontMetrics(HeadingFont()).height() + 4; }
 
 void Panel::Measure() {
-    setContentsMargins(Margin, Margin - 2 + HeadingHeight(), Margin, Margin);
-    if (heading_.isEmpty()) return;
-    setMinimumWidth(QFontMetrics(HeadingFont()).horizontalAdvance(heading_) + 2 * Margin);
+    setContentsMargins(Margin, (heading_.isEmpty() ? Margin : Margin - 2) + HeadingHeight(), Margin, Margin);
 }
+
+QSize Panel::WithHeading(const QSize& content) const {
+    if (heading_.isEmpty()) return content;
+    return content.expandedTo({QFontMetrics(HeadingFont()).horizontalAdvance(heading_) + 2 * Margin, HeadingHeight()});
+}
+
+QSize Panel::sizeHint() const { return WithHeading(QWidget::sizeHint()); }
+QSize Panel::minimumSizeHint() const { return WithHeading(QWidget::minimumSizeHint()); }
 
 void Panel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) Measure();

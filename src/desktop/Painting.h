@@ -36,12 +36,16 @@ public:
     // One that stands over others: its colour covers them and its border is strong.
     void SetRaised(bool raised);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent*) override;
     void changeEvent(QEvent* event) override;
 
 private:
     int HeadingHeight() const;
+    QSize WithHeading(const QSize& content) const;
     QFont HeadingFont() const;
     void Measure();
 

@@ -12,15 +12,15 @@ Node Database() {
 
 Node Record() {
     const auto box = [](const char* name) { return Item(name).Wide(22).Grow(); };
-    return Frame("fraRecord", Column({Table({
+    return Frame("fraRecord", Column({Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord",
+                                           "lblNumRecords"}),
+                                      Row({"cmdBrowse", "cmdFind", "cmdSearchDate", "cmdDelete", Stretch(),
+                                           "cmdDisplayCalc"}),
+                                      Table({
                                           {"lblTagNum", box("txtTagNum"), "lblTRCalc", box("txtTRCalc")},
                                           {"lblFluidType", box("txtFluidType"), "lblCalcBy", box("txtCalcBy")},
                                           {"lblCalcDate", box("txtCalcDate"), "lblDataDate", box("txtDataDate")},
-                                      }),
-                                      Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord",
-                                           "lblNumRecords"}),
-                                      Row({"cmdBrowse", "cmdFind", "cmdSearchDate", "cmdDelete", Stretch(),
-                                           "cmdDisplayCalc"})}));
+                                      })}));
 }
 
 Node Tags() {
