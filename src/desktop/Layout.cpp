@@ -84,7 +84,7 @@ Node Over(Node base, std::vector<Node> parts) {
 
 std::vector<Node> Cases(const std::string& label, const std::string& boxes, const std::string& unit) {
     std::vector<Node> cells{label};
-    for (int i = 0; i < 3; ++i) cells.push_back(Item(boxes, i).Wide(12).Grow());
+    for (int i = 0; i < 3; ++i) cells.push_back(Item(boxes, i).Wide(10).Grow());
     cells.emplace_back(unit);
     return cells;
 }

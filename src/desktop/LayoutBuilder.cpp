@@ -19,6 +19,7 @@ namespace quillmetra {
 namespace {
 
 constexpr int Gap = 6;
+constexpr int UsualDigits = 10;
 
 bool IsListKind(ControlKind kind) {
     return kind == ControlKind::ListBox || kind == ControlKind::ComboBox || kind == ControlKind::Grid;
@@ -203,9 +204,10 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
     if (kind == ControlKind::Frame) return;
 
     QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(node.Anchor.empty() && kind != ControlKind::ListBox);
+    // A field that comes and goes keeps its place, so that the others do not jump.
+    policy.setRetainSizeWhenHidden(kind == ControlKind::TextBox || kind == ControlKind::Label);
     if (kind == ControlKind::TextBox) {
-        const int width = DigitsWide(*widget, node.Digits > 0 ? node.Digits : 12) + 14;
+        const int width = DigitsWide(*widget, node.Digits > 0 ? node.Digits : UsualDigits) + 14;
         widget->setMinimumWidth(width);
         if (!node.Grows) widget->setMaximumWidth(width);
     } else if (node.Digits > 0) {

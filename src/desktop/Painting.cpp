@@ -8,8 +8,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 namespace quillmetra {
 
@@ -21,6 +20,17 @@ QColor Between(const QColor& a, const QColor& b, double part) {
     const auto mix = [part](int x, int y) { return static_cast<int>(x + (y - x) * part); };
     return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
+
+class SuiteStyle : public QProxyStyle {
+public:
+    SuiteStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 }  // namespace
 
 QColor ToQt(Colour colour) {
@@ -29,8 +39,13 @@ QColor ToQt(Colour colour) {
 }
 
 void UseSuiteStyle() {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
-    QApplication::setPalette(QApplication::style()->standardPalette());
+    QApplication::setStyle(new SuiteStyle);
+    QPalette palette = QApplication::style()->standardPalette();
+    const QColor faint(105, 105, 105);  // what is off, as a unit, is still read
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    QApplication::setPalette(palette);
 }
 
 void Paint(QWidget& widget, Colour back, Colour fore) {

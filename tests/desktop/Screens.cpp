@@ -94,7 +94,7 @@ int main(int argc, char** argv) {
     if (argc != 2) return 2;
     Folder = argv[1];
     UseSuiteStyle();
-    QApplication::setFont(QFont("DejaVu Sans", 9));
+    QApplication::setFont(QFont("DejaVu Sans", 10));
     QApplication::setQuitOnLastWindowClosed(false);
     QTimer boxes;
     QObject::connect(&boxes, &QTimer::timeout, AnswerBoxes);

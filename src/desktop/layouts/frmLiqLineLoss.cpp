@@ -11,24 +11,21 @@ Node Identification() {
 }
 
 Node Line() {
-    return Panel("Line", Table({
-                             {"lblInletPipeLen", "txtInletPipeLen", "cmdUnits(25)", "", "lblInletPipeElev",
-                              "txtInletPipeElev", "unInletPipeElev", Stretch()},
-                             {"lblInletPipeID", "txtInletPipeID", "cmdUnits(18)", "cmdPipeID", "lblOutletPipeElev",
-                              "txtOutletPipeElev", "unOutletPipeElev"},
-                             {"lblMatl", "cmdMatl", "", "", "lblPipeCond", "txtPipeCond"},
-                         }));
-}
-
-Node Fitting(const std::string& name) {
-    return Column({Item("lbl" + name).Centred(), Item("txt" + name).Wide(7)});
+    return Panel("Line", Table({{"lblInletPipeLen", "txtInletPipeLen", "cmdUnits(25)", "", Stretch(),
+                                 "lblInletPipeElev", "txtInletPipeElev", "unInletPipeElev"},
+                                {"lblInletPipeID", "txtInletPipeID", "cmdUnits(18)", "cmdPipeID", "",
+                                 "lblOutletPipeElev", "txtOutletPipeElev", "unOutletPipeElev"},
+                                {"lblMatl", "cmdMatl", "", "", "", "lblPipeCond", "txtPipeCond", Words("%")}}));
 }
 
 Node Fittings() {
-    return Panel("Valves and fittings",
-                 Row({Fitting("InletGate"), Fitting("InletGlobe"), Fitting("InletCheck"), Fitting("Inlet90Deg"),
-                      Fitting("Inlet45Deg"), Fitting("InletThru"), Fitting("InletBranch"), Stretch(),
-                      Column({"chkEntrance", "chkExit"})}));
+    std::vector<Node> names, counts;
+    for (const char* fitting : {"Gate", "Globe", "Check", "90Deg", "45Deg", "Thru", "Branch"}) {
+        names.push_back(Item(std::string("lblInlet").append(fitting)).Centred());
+        counts.push_back(Item(std::string("txtInlet").append(fitting)).Wide(7));
+    }
+    for (Node part : {Stretch(), Item("chkEntrance"), Item("chkExit")}) counts.push_back(std::move(part));
+    return Panel("Valves and fittings", Table({std::move(names), std::move(counts)}));
 }
 
 Node Direction() { return Panel("Direction", Column({"optDestination", "optSource", Stretch()})); }
@@ -49,7 +46,7 @@ Node CasesAndResults() {
                              Cases("lblDestPress", "txtDestPress", "unDestPress"),
                              Cases("lblVelocity", "txtVelocity", "unVelocity"),
                              Cases("lblReynoldsNum", "txtReynoldsNum", ""),
-                             {"lblEquivLen", Item("txtEquivLen").Wide(12).Grow(), "unEquivLen"},
+                             {"lblEquivLen", Item("txtEquivLen").Wide(10).Grow(), "unEquivLen"},
                          }),
                          Stretch()}));
 }
@@ -77,7 +74,7 @@ Node Components() {
 }
 
 Node Liquids() {
-    return Frame("fraLiquidData", Column({Item("lstFluid").Wide(84).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}));
+    return Frame("fraLiquidData", Column({Item("lstFluid").Wide(105).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}));
 }
 
 }  // namespace
@@ -85,7 +82,7 @@ Node Liquids() {
 Node frmLiqLineLoss() {
     return Over(Frame("Picture1", Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
                                           Row({CasesAndResults().Grow(), Column({Signatures().Grow(), Basis()})}).Grow(),
-                                          Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl"), "cmdOKUn"})),
+                                          Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")})),
                 {Liquids(), Components()});
 }
 
