@@ -48,6 +48,12 @@ void RegisterForms() {
     SetAfterAct(AfterAct);
 }
 
+std::vector<std::string_view> FormNames() {
+    std::vector<std::string_view> names;
+    for (const FormEntry& entry : FormTable) names.emplace_back(entry.Name);
+    return names;
+}
+
 bool IsFormKnown(std::string_view name) {
     for (const FormEntry& entry : FormTable) {
         if (SameName(entry.Name, name)) return true;

@@ -225,12 +225,17 @@ bool PickCell(Grid& grid, int row, int column) {
     return true;
 }
 
-bool PressKey(Control& control, const std::string& key) {
-    if (!CanAct(control)) return false;
+bool OfferKey(Control& control, const std::string& key) {
+    if (!control.KeyPress || !CanAct(control)) return false;
     const FormHold hold(control.Owner());
     Key press{.Name = key};
-    if (control.KeyPress) control.Owner().Dispatch([&] { control.KeyPress(press); });
-    if (press.Handled) return true;
+    control.Owner().Dispatch([&] { control.KeyPress(press); });
+    return press.Handled;
+}
+
+bool PressKey(Control& control, const std::string& key) {
+    const FormHold hold(control.Owner());
+    if (OfferKey(control, key)) return true;
     if (!CanAct(control)) return false;
     return PressShortcut(control.Owner(), key) || PressPlainKey(control, key);
 }

@@ -29,6 +29,8 @@ bool PickRow(ListBox& list, int row);
 bool UnpickRow(ListBox& list, int row);
 bool PickCell(Grid& grid, int row, int column);
 
+// The control's own KeyPress alone, for a host whose widgets edit by themselves. True when used up.
+bool OfferKey(Control& control, const std::string& key);
 // One key: the control's KeyPress first, then Enter and Escape by the form's rules. True when used up.
 bool PressKey(Control& control, const std::string& key);
 

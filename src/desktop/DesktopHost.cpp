@@ -1,0 +1,154 @@
+// See DesktopHost.h. The questions to the user are in Questions.cpp.
+#include "desktop/DesktopHost.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QWindow>
+
+#include "desktop/FormWindow.h"
+#include "platform/Forms.h"
+
+namespace quillmetra {
+
+DesktopHost::DesktopHost() { InstallHost(this); }
+
+DesktopHost::~DesktopHost() {
+    if (CurrentHost() == this) InstallHost(nullptr);
+    for (const auto& [form, window] : windows_) {
+        window->Forget();
+        delete window;
+    }
+}
+
+FormWindow* DesktopHost::WindowOf(const Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second;
+}
+
+FormWindow& DesktopHost::Window(Form& form) {
+    FormWindow*& window = windows_[&form];
+    if (window == nullptr) window = new FormWindow(form);
+    return *window;
+}
+
+void DesktopHost::FormShown(Form& form) {
+    FormWindow& window = Window(form);
+    if (!window.isVisible()) PutInPlace(window);
+    window.show();
+    window.raise();
+    window.activateWindow();
+    window.FollowFocus();
+}
+
+void DesktopHost::RunModal(Form& form) {
+    if (ProcessHasEnded()) return;
+    FormWindow& window = Window(form);
+    QWidget* const under = QApplication::activeWindow();
+    window.setWindowModality(Qt::ApplicationModal);
+    window.winId();  // makes the native window, which knows the one that it stands over
+    if (under != nullptr) window.windowHandle()->setTransientParent(under->windowHandle());
+    FormShown(form);
+
+    QEventLoop loop;
+    loops_[&form] = &loop;
+    loop.exec();
+    loops_.erase(&form);
+    if (FormWindow* left = WindowOf(form)) left->setWindowModality(Qt::NonModal);
+}
+
+// A window opens where the one that led to it stands or stood, and gives its place back the same way.
+void DesktopHost::PutInPlace(FormWindow& window) {
+    const QWidget* const under = QApplication::activeWindow();
+    const QRect room = window.screen()->availableGeometry();
+    QPoint centre = room.center();
+    if (under != nullptr && under->isVisible()) {
+        centre = under->frameGeometry().center();
+    } else if (lastCentre_) {
+        centre = *lastCentre_;
+    }
+    QRect place(QPoint(), window.size());
+    place.moveCenter(centre);
+    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
+    window.move(place.topLeft());
+}
+
+void DesktopHost::FormHidden(Form& form) {
+    if (FormWindow* window = WindowOf(form)) {
+        lastCentre_ = window->frameGeometry().center();
+        window->hide();
+    }
+    const auto loop = loops_.find(&form);
+    if (loop != loops_.end()) loop->second->quit();
+}
+
+void DesktopHost::FormGone(Form& form) {
+    const auto found = windows_.find(&form);
+    if (found == windows_.end()) return;
+    FormWindow* const window = found->second;
+    windows_.erase(found);
+    window->Forget();
+    window->deleteLater();
+}
+
+void DesktopHost::FormChanged(Form& form) {
+    if (FormWindow* window = WindowOf(form)) window->RenewForm();
+}
+
+void DesktopHost::ControlChanged(Control& control, Aspect aspect) {
+    if (FormWindow* window = WindowOf(control.Owner())) window->Renew(control, aspect);
+}
+
+void DesktopHost::FocusMoved(Form& form) {
+    if (FormWindow* window = WindowOf(form)) window->FollowFocus();
+}
+
+void DesktopHost::ProcessEnded() {
+    for (const auto& [form, window] : windows_) window->hide();
+    for (const auto& [form, loop] : loops_) loop->quit();
+    QCoreApplication::quit();
+}
+
+void DesktopHost::SetBusyPointer(bool busy) {
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+bool DesktopHost::Yield() {
+    const QScopedValueRollback now(yielding_, true);
+    escaped_ = false;
+    qApp->installEventFilter(this);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(this);
+    return escaped_;
+}
+
+bool DesktopHost::eventFilter(QObject*, QEvent* event) {
+    if (!yielding_) return false;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+            if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) escaped_ = true;
+            return true;
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+            return true;
+        case QEvent::Close: event->ignore(); return true;
+        default: return false;
+    }
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,63 @@
+// The host on the screen: windows for forms, and the toolkit's own dialogs for questions.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include <QObject>
+#include <QPoint>
+
+#include "platform/Host.h"
+
+class QEventLoop;
+
+namespace quillmetra {
+
+class FormWindow;
+
+class DesktopHost : public QObject, public Host {
+public:
+    DesktopHost();
+    ~DesktopHost() override;
+
+    Answer ShowMessageBox(const MessageBox& box) override;
+    std::optional<std::string> InputBox(const std::string& prompt, const std::string& title) override;
+    std::optional<std::string> FileDialog(const FileQuestion& question) override;
+    std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) override;
+    std::optional<FontChoice> FontDialog(const FontChoice& preset) override;
+    std::optional<unsigned> ColourDialog(unsigned preset) override;
+    void ShowHelp(int topic) override;
+    void SetBusyPointer(bool busy) override;
+    bool Yield() override;
+
+    void FormShown(Form& form) override;
+    void RunModal(Form& form) override;
+    void FormHidden(Form& form) override;
+    void FormGone(Form& form) override;
+    void FormChanged(Form& form) override;
+    void ControlChanged(Control& control, Aspect aspect) override;
+    void FocusMoved(Form& form) override;
+    void ProcessEnded() override;
+
+    // Null for a form that was not shown yet.
+    FormWindow* WindowOf(const Form& form) const;
+
+protected:
+    // While a calculation breathes, the user can press Escape and nothing else.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    FormWindow& Window(Form& form);
+    void PutInPlace(FormWindow& window);
+
+    std::unordered_map<const Form*, FormWindow*> windows_;
+    std::unordered_map<const Form*, QEventLoop*> loops_;  // of the modal forms
+    std::optional<QPoint> lastCentre_;                    // of the window that was hidden last
+    bool yielding_ = false;
+    bool escaped_ = false;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,307 @@
+// See FormWindow.h.
+#include "desktop/FormWindow.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QStyle>
+
+#include "desktop/KeyNames.h"
+#include "desktop/Menus.h"
+#include "desktop/Painting.h"
+#include "platform/Forms.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra {
+
+namespace {
+
+bool HasMenus(const Form& form) {
+    return std::any_of(form.Controls().begin(), form.Controls().end(),
+                       [](const Control* control) { return control->Kind() == ControlKind::MenuItem; });
+}
+
+bool IsIn(const Control& control, const Control& container) {
+    for (const Control* outer = control.Container(); outer != nullptr; outer = outer->Container()) {
+        if (outer == &container) return true;
+    }
+    return false;
+}
+
+// The keys that go by the form's rules; all others are the widget's own.
+bool FormRules(const std::string& key) {
+    return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab";
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form)
+    : form_(&form), pane_(new QWidget), scroll_(new QScrollArea), status_(new QLabel) {
+    setObjectName(ToQt(form.Name()));
+    if (form.Fixed) setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(pane_);
+    setCentralWidget(scroll_);
+    pane_->setObjectName("pane");
+    pane_->setAutoFillBackground(true);
+    pane_->installEventFilter(this);
+
+    MakeViews();
+    if (!form.Fixed) {
+        status_->setTextFormat(Qt::PlainText);
+        statusBar()->addWidget(status_, 1);
+    }
+    for (ControlView* view : views_) view->RenewAll();
+    PaintAreas();
+    RenewForm();
+    SetTabOrder();
+    TakeFirstSize();
+}
+
+void FormWindow::MakeViews() {
+    for (Control* control : form_->Controls()) {
+        if (control->Kind() != ControlKind::MenuItem) views_.push_back(MakeView(*control, pane_));
+    }
+    LayoutBuilder builder(*pane_, [this](const std::string& name) -> ControlView* {
+        const auto found = std::find_if(views_.begin(), views_.end(), [&](const ControlView* view) {
+            return SameName(view->Model()->FullName(), name);
+        });
+        return found == views_.end() ? nullptr : *found;
+    });
+    builder.Build(layout::LayoutOf(form_->Name()), views_);
+    areas_ = builder.PaintedAreas();
+
+    if (HasMenus(*form_)) {
+        const std::vector<ControlView*> menus = MakeMenus(*form_, *menuBar());
+        views_.insert(views_.end(), menus.begin(), menus.end());
+    }
+    for (ControlView* view : views_) Connect(*view);
+}
+
+void FormWindow::Connect(ControlView& view) {
+    byControl_[view.Model()] = &view;
+    if (view.Widget() == nullptr) return;
+    for (QWidget* target : {view.Widget(), view.KeyTarget(), view.MouseTarget()}) {
+        if (byTarget_.emplace(target, &view).second) target->installEventFilter(this);
+    }
+    NameForReaders(view);
+    auto* const label = view.Model()->LabelControl() == nullptr
+                            ? nullptr
+                            : qobject_cast<QLabel*>(ViewOf(*view.Model()->LabelControl()) == nullptr
+                                                        ? nullptr
+                                                        : ViewOf(*view.Model()->LabelControl())->Widget());
+    if (label != nullptr && label->buddy() == nullptr) label->setBuddy(view.KeyTarget());
+}
+
+void FormWindow::NameForReaders(ControlView& view) {
+    if (view.Widget() == nullptr) return;
+    view.KeyTarget()->setAccessibleName(ToQt(view.Model()->AccessibleName()));
+}
+
+// The toolkit's own order serves screen readers; Tab itself goes by the model.
+void FormWindow::SetTabOrder() {
+    QWidget* former = nullptr;
+    for (Control* stop : form_->TabStops()) {
+        ControlView* const view = ViewOf(*stop);
+        if (view == nullptr || view->Widget() == nullptr) continue;
+        if (former != nullptr) QWidget::setTabOrder(former, view->KeyTarget());
+        former = view->KeyTarget();
+    }
+}
+
+// As large as its contents, or as the screen allows; then it scrolls.
+void FormWindow::TakeFirstSize() {
+    ensurePolished();
+    // Inner layouts first: an outer one asks for the sizes that they had when they were last active.
+    QList<QWidget*> areas = pane_->findChildren<QWidget*>();
+    std::reverse(areas.begin(), areas.end());
+    areas.append(pane_);
+    for (const QWidget* area : areas) {
+        if (area->layout() != nullptr) area->layout()->activate();
+    }
+    QSize size = pane_->sizeHint();
+    if (menuWidget() != nullptr) {
+        size.setWidth(std::max(size.width(), menuBar()->sizeHint().width()));
+        size.rheight() += menuBar()->sizeHint().height();
+    }
+    if (!form_->Fixed) size.rheight() += statusBar()->sizeHint().height();
+    constexpr int frame = 40;  // title bar and borders of the window manager
+    const QSize most = screen()->availableSize() - QSize(8, frame);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    if (size.height() > most.height()) size.rwidth() += bar;
+    if (size.width() > most.width()) size.rheight() += bar;
+    size = size.boundedTo(most);
+    if (form_->Fixed) {
+        setFixedSize(size);
+    } else {
+        resize(size);
+    }
+}
+
+void FormWindow::Forget() {
+    form_ = nullptr;
+    for (ControlView* view : views_) view->Forget();
+    byControl_.clear();
+    areas_.clear();
+    hide();
+    deleteLater();
+}
+
+ControlView* FormWindow::ViewOf(const Control& control) const {
+    const auto found = byControl_.find(&control);
+    return found == byControl_.end() ? nullptr : found->second;
+}
+
+void FormWindow::Renew(const Control& control, Aspect aspect) {
+    ControlView* const view = ViewOf(control);
+    if (view == nullptr) return;
+    view->Renew(aspect);
+    switch (aspect) {
+        case Aspect::Text:
+            if (control.Kind() == ControlKind::TextBox) break;
+            for (ControlView* each : views_) {
+                if (each == view || each->Model()->LabelControl() == &control) NameForReaders(*each);
+            }
+            break;
+        case Aspect::Colours: PaintAreas(); break;
+        case Aspect::Enabled:
+        case Aspect::Visible:
+            if (control.Kind() == ControlKind::Frame) {
+                for (ControlView* each : views_) {
+                    if (IsIn(*each->Model(), control)) each->Renew(Aspect::Visible);
+                }
+            }
+            FollowFocusSoon();
+            break;
+        default: break;
+    }
+}
+
+void FormWindow::RenewForm() {
+    setWindowTitle(ToQt(form_->Caption()));
+    status_->setText(ToQt(form_->Status()));
+    QPalette palette = pane_->palette();
+    palette.setColor(QPalette::Window, ToQt(form_->BackColour()));
+    pane_->setPalette(palette);
+    pane_->setEnabled(form_->Enabled());
+    if (menuWidget() != nullptr) menuBar()->setEnabled(form_->Enabled());
+    FollowFocusSoon();
+}
+
+void FormWindow::PaintAreas() {
+    for (const LayoutBuilder::PaintedArea& area : areas_) {
+        if (area.As != nullptr) Paint(*area.Area, area.As->BackColour(), area.As->ForeColour());
+    }
+}
+
+void FormWindow::FollowFocus() {
+    if (form_ == nullptr || pressed_ != nullptr) return;
+    const Control* const current = form_->Focus.Current();
+    ControlView* const view = current == nullptr ? nullptr : ViewOf(*current);
+    QWidget* target = pane_;
+    if (view != nullptr && view->Widget() != nullptr && view->Widget()->isEnabled() && current->Seen()) {
+        target = view->KeyTarget();
+    }
+    if (focusWidget() != target) target->setFocus(Qt::OtherFocusReason);
+    if (target != pane_) scroll_->ensureWidgetVisible(target, 8, 8);
+}
+
+void FormWindow::FollowFocusSoon() {
+    if (followSoon_) return;
+    followSoon_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            followSoon_ = false;
+            FollowFocus();
+        },
+        Qt::QueuedConnection);
+}
+
+void FormWindow::UserReached(Control& control) {
+    MoveFocus(control);
+    FollowFocus();  // the model may have stayed, or gone elsewhere
+}
+
+bool FormWindow::focusNextPrevChild(bool) { return true; }
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (form_ != nullptr) CloseWindow(*form_);
+        },
+        Qt::QueuedConnection);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (form_ == nullptr) return false;
+    const auto found = byTarget_.find(watched);
+    ControlView* const view = found == byTarget_.end() ? nullptr : found->second;
+    if (event->type() == QEvent::KeyPress) return KeyPressed(view, *static_cast<QKeyEvent*>(event));
+    if (view == nullptr) return false;
+    Control& control = *view->Model();
+    switch (event->type()) {
+        case QEvent::FocusIn: {
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            if (form_->Focus.Current() == &control) break;
+            if (reason == Qt::MouseFocusReason) pressed_ = view;
+            if (reason == Qt::ShortcutFocusReason) {
+                QMetaObject::invokeMethod(view, [this, view] {
+                    if (view->Model() != nullptr) UserReached(*view->Model());
+                }, Qt::QueuedConnection);
+            }
+            if (reason == Qt::OtherFocusReason || reason == Qt::TabFocusReason) FollowFocusSoon();
+            break;
+        }
+        case QEvent::MouseButtonRelease:
+            if (pressed_ != nullptr) MouseTookFocus(*pressed_);
+            if (control.Kind() == ControlKind::Label && control.Click) ClickControl(control);
+            break;
+        case QEvent::MouseButtonDblClick:
+            if (!control.DoubleClick) break;
+            QMetaObject::invokeMethod(view, [view] {
+                if (view->Model() != nullptr) DoubleClickControl(*view->Model());
+            }, Qt::QueuedConnection);
+            break;
+        default: break;
+    }
+    return false;
+}
+
+// The release first goes on to the widget; then the focus moves, as its handlers may put up boxes.
+void FormWindow::MouseTookFocus(ControlView& view) {
+    QMetaObject::invokeMethod(&view, [this, &view] {
+        if (pressed_ == &view) pressed_ = nullptr;
+        if (view.Model() != nullptr) UserReached(*view.Model());
+    }, Qt::QueuedConnection);
+}
+
+bool FormWindow::KeyPressed(ControlView* view, const QKeyEvent& event) {
+    const std::string key = NameOfKey(event);
+    if (key.empty()) return false;
+    if (view == nullptr) {  // no control has the keyboard
+        if (key == "Tab" || key == "Shift+Tab") MoveAlong(*form_, key != "Tab");
+        return false;
+    }
+    Control& control = *view->Model();
+    if (form_->Focus.Current() != &control) {  // typed with the mouse still down
+        pressed_ = nullptr;
+        UserReached(control);
+        if (form_ == nullptr || form_->Focus.Current() != &control) return true;
+    }
+    if (FormRules(key)) return PressKey(control, key);
+    return OfferKey(control, key);
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,99 @@
+// See Layout.h.
+#include "desktop/Layout.h"
+
+#include "desktop/layouts/Layouts.h"
+#include "platform/TextCase.h"
+
+namespace quillmetra::layout {
+
+namespace {
+struct Entry {
+    const char* Form;
+    Node (*Tree)();
+};
+
+constexpr Entry Layouts[] = {
+    {"frmTRProg", frmTRProg},
+    {"frmObxProg", frmObxProg},
+    {"frmLiqLineLoss", frmLiqLineLoss},
+    {"frmPipeSize", frmPipeSize},
+};
+}  // namespace
+
+Node Node::Wide(int digits) && {
+    Digits = digits;
+    return std::move(*this);
+}
+
+Node Node::Tall(int rows) && {
+    Rows = rows;
+    return std::move(*this);
+}
+
+Node Node::Grow() && {
+    Grows = true;
+    return std::move(*this);
+}
+
+Node Node::Typed() && {
+    IsTyped = true;
+    return std::move(*this);
+}
+
+Node Node::Under(std::string control) && {
+    Anchor = std::move(control);
+    return std::move(*this);
+}
+
+Node Node::Wrapped() && {
+    Wraps = true;
+    return std::move(*this);
+}
+
+Node Node::Centred() && {
+    IsCentred = true;
+    return std::move(*this);
+}
+
+Node Item(std::string control) { return {std::move(control)}; }
+Node Item(const std::string& array, int index) {
+    std::string name = array;
+    return {name.append("(").append(std::to_string(index)).append(")")};
+}
+
+Node Words(std::string words) { return {Node::Kind::Words, std::move(words)}; }
+Node Column(std::vector<Node> parts) { return {Node::Kind::Column, {}, std::move(parts)}; }
+Node Row(std::vector<Node> parts) { return {Node::Kind::Row, {}, std::move(parts)}; }
+Node Buttons(std::vector<Node> parts) { return {Node::Kind::Buttons, {}, std::move(parts)}; }
+Node Panel(std::string heading, Node content) { return {Node::Kind::Panel, std::move(heading), {std::move(content)}}; }
+Node Frame(std::string control, Node content) { return {Node::Kind::Frame, std::move(control), {std::move(content)}}; }
+Node Stretch() { return {Node::Kind::Stretch, {}}; }
+
+Node Table(std::vector<std::vector<Node>> rows) {
+    Node table{Node::Kind::Table, {}};
+    for (auto& row : rows) table.Parts.push_back(Row(std::move(row)));
+    return table;
+}
+
+Node Over(Node base, std::vector<Node> parts) {
+    Node over{Node::Kind::Over, {}};
+    over.Parts.push_back(std::move(base));
+    over.Parts.push_back(Row(std::move(parts)));
+    return over;
+}
+
+std::vector<Node> Cases(const std::string& label, const std::string& boxes, const std::string& unit) {
+    std::vector<Node> cells{label};
+    for (int i = 0; i < 3; ++i) cells.push_back(Item(boxes, i).Wide(10).Grow());
+    cells.emplace_back(unit);
+    return cells;
+}
+
+Node LayoutOf(std::string_view form) {
+    for (const Entry& each : Layouts) {
+        if (SameName(each.Form, form)) return each.Tree();
+    }
+    return Column({});
+}
+
+}  // namespace quillmetra::layout

@@ -1,0 +1,302 @@
+// Views of lists, combos and grids. The rows are read from the model as they are drawn, so that a list of
+// 100,000 rows costs no more than the few that show.
+#include <algorithm>
+
+#include <QAbstractListModel>
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListView>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "desktop/ControlView.h"
+#include "desktop/Painting.h"
+
+namespace quillmetra {
+
+namespace {
+
+class RowsModel : public QAbstractListModel {
+public:
+    RowsModel(const ListBox& list, QWidget* view) : QAbstractListModel(view), list_(list), view_(view) {}
+
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role == Qt::DisplayRole) return ToQt(list_.Row(index.row()));
+        if (role == Qt::SizeHintRole) return size_;
+        return {};
+    }
+
+    void Renew() {
+        beginResetModel();
+        rows_ = list_.RowCount();
+        const auto& rows = list_.Rows();
+        const auto longest = std::max_element(rows.begin(), rows.end(), [](const auto& a, const auto& b) {
+            return a.size() < b.size();
+        });
+        const QFontMetrics metrics(view_->font());
+        const int width = longest == rows.end() ? 0 : metrics.horizontalAdvance(ToQt(*longest));
+        size_ = QSize(width + 8, metrics.height() + 2);
+        endResetModel();
+    }
+
+    void Empty() {
+        beginResetModel();
+        rows_ = 0;
+        endResetModel();
+    }
+
+private:
+    const ListBox& list_;
+    QWidget* view_;
+    int rows_ = 0;
+    QSize size_;
+};
+
+// Keeps a list widget and the selection of its model alike. While the mouse is down the user is still
+// choosing; the model hears of it at the release.
+class ListBoxView : public ControlView {
+public:
+    ListBoxView(ListBox& list, QWidget* widget, QListView* view)
+        : ControlView(list, widget), list_(list), view_(view), rows_(new RowsModel(list, view)) {
+        view_->setUniformItemSizes(true);
+        view_->setTextElideMode(Qt::ElideNone);
+        view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        view_->setSelectionMode(list.Multiple ? QAbstractItemView::MultiSelection
+                                              : QAbstractItemView::SingleSelection);
+        view_->setModel(rows_);
+        view_->viewport()->installEventFilter(this);
+        connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            if (!mouseDown_ && !renewing_) Chosen(false);
+        });
+    }
+
+    QWidget* KeyTarget() const override { return view_; }
+    QWidget* MouseTarget() const override { return view_->viewport(); }
+    bool FocusesOnPress() const override { return true; }
+
+    void Forget() override {
+        const QScopedValueRollback quiet(renewing_, true);
+        rows_->Empty();
+        ControlView::Forget();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress) mouseDown_ = true;
+        if (event->type() == QEvent::MouseButtonRelease && mouseDown_) {
+            mouseDown_ = false;
+            QMetaObject::invokeMethod(this, [this] { Chosen(true); }, Qt::QueuedConnection);
+        }
+        return ControlView::eventFilter(watched, event);
+    }
+
+protected:
+    void RenewRows() override {
+        const QScopedValueRollback quiet(renewing_, true);
+        rows_->Renew();
+    }
+
+    void RenewSelection() override {
+        const QScopedValueRollback quiet(renewing_, true);
+        QItemSelectionModel* const selection = view_->selectionModel();
+        const QModelIndex row = rows_->index(list_.Selected());
+        if (!list_.Multiple) {
+            selection->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect);
+        } else {
+            QItemSelection picked;
+            for (int i = 0; i < list_.RowCount(); ++i) {
+                if (list_.IsPicked(i)) picked.select(rows_->index(i), rows_->index(i));
+            }
+            selection->select(picked, QItemSelectionModel::ClearAndSelect);
+            selection->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+        }
+        if (row.isValid()) view_->scrollTo(row);
+    }
+
+    void RenewColours() override {
+        if (Model()->ColourGroup != 0) Paint(*view_, Model()->BackColour(), Model()->ForeColour());
+    }
+
+private:
+    void Chosen(bool byMouse) {
+        if (Model() == nullptr) return;
+        if (list_.Multiple) {
+            PassPicks();
+        } else {
+            const QModelIndexList chosen = view_->selectionModel()->selectedIndexes();
+            if (!chosen.isEmpty() && (byMouse || chosen.first().row() != list_.Selected())) {
+                PickRow(list_, chosen.first().row());
+            }
+        }
+        if (Model() != nullptr) RenewSelection();
+    }
+
+    // The differences are gathered first: each pick that is passed on shows the model's selection again.
+    void PassPicks() {
+        std::vector<int> changed;
+        for (int row = 0; row < list_.RowCount(); ++row) {
+            if (view_->selectionModel()->isSelected(rows_->index(row)) != list_.IsPicked(row)) changed.push_back(row);
+        }
+        for (const int row : changed) {
+            if (Model() == nullptr) return;
+            if (list_.IsPicked(row)) {
+                UnpickRow(list_, row);
+            } else {
+                PickRow(list_, row);
+            }
+        }
+    }
+
+protected:
+    ListBox& list_;
+    QListView* view_;
+
+private:
+    RowsModel* rows_;
+    bool mouseDown_ = false;
+    bool renewing_ = false;
+};
+
+// A box over a list that is always open.
+class ComboView : public ListBoxView {
+public:
+    ComboView(ComboBox& combo, QWidget* widget, QLineEdit* edit, QListView* view)
+        : ListBoxView(combo, widget, view), edit_(edit) {
+        auto* const column = new QVBoxLayout(widget);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(2);
+        column->addWidget(edit);
+        column->addWidget(view);
+        widget->setFocusProxy(edit);
+        connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+            if (Model() == nullptr) return;
+            TypeText(*Model(), text.toStdString());
+            if (Model() != nullptr) RenewText();
+        });
+    }
+
+    QWidget* KeyTarget() const override { return edit_; }
+
+protected:
+    void RenewText() override {
+        const QString text = ToQt(list_.Text());
+        if (edit_->text() != text) edit_->setText(text);
+    }
+
+    void RenewSelection() override {
+        ListBoxView::RenewSelection();
+        RenewText();
+    }
+
+    void RenewColours() override {
+        ListBoxView::RenewColours();
+        if (Model()->ColourGroup != 0) Paint(*edit_, Model()->BackColour(), Model()->ForeColour());
+    }
+
+    void SelectAll() override { edit_->selectAll(); }
+
+private:
+    QLineEdit* edit_;
+};
+
+// The first of the fixed rows and columns are the headers of the table.
+class CellsModel : public QAbstractTableModel {
+public:
+    CellsModel(const Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {}
+
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
+    int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : columns_; }
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole) return {};
+        return ToQt(grid_.Cell(index.row() + grid_.FixedRows, index.column() + grid_.FixedColumns));
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        if (role != Qt::DisplayRole) return {};
+        if (orientation == Qt::Horizontal) {
+            return grid_.FixedRows == 0 ? QVariant() : ToQt(grid_.Cell(0, section + grid_.FixedColumns));
+        }
+        return grid_.FixedColumns == 0 ? QVariant() : ToQt(grid_.Cell(section + grid_.FixedRows, 0));
+    }
+
+    void Renew() {
+        SetSize(std::max(0, grid_.RowCount() - grid_.FixedRows),
+                std::max(0, grid_.ColumnCount() - grid_.FixedColumns));
+    }
+
+    void Empty() { SetSize(0, 0); }
+
+private:
+    void SetSize(int rows, int columns) {
+        beginResetModel();
+        rows_ = rows;
+        columns_ = columns;
+        endResetModel();
+    }
+
+    const Grid& grid_;
+    int rows_ = 0;
+    int columns_ = 0;
+};
+
+class GridView : public ControlView {
+public:
+    GridView(Grid& grid, QTableView* table)
+        : ControlView(grid, table), grid_(grid), table_(table), cells_(new CellsModel(grid, table)) {
+        table_->setModel(cells_);
+        table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        table_->setSelectionMode(QAbstractItemView::SingleSelection);
+        table_->setTabKeyNavigation(false);
+        table_->horizontalHeader()->setVisible(grid.FixedRows > 0);
+        table_->verticalHeader()->setVisible(grid.FixedColumns > 0);
+        connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) { Chosen(cell); });
+    }
+
+    QWidget* MouseTarget() const override { return table_->viewport(); }
+    bool FocusesOnPress() const override { return true; }
+
+    void Forget() override {
+        cells_->Empty();
+        ControlView::Forget();
+    }
+
+protected:
+    void RenewRows() override {
+        cells_->Renew();
+        RenewSelection();
+    }
+
+    void RenewSelection() override {
+        table_->setCurrentIndex(
+            cells_->index(grid_.Selected() - grid_.FixedRows, grid_.SelectedColumn() - grid_.FixedColumns));
+    }
+
+private:
+    void Chosen(const QModelIndex& cell) {
+        if (Model() == nullptr) return;
+        PickCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
+    }
+
+    Grid& grid_;
+    QTableView* table_;
+    CellsModel* cells_;
+};
+
+}  // namespace
+
+ControlView* MakeListView(Control& control, QWidget* parent) {
+    if (control.Kind() == ControlKind::Grid) return new GridView(static_cast<Grid&>(control), new QTableView(parent));
+    if (control.Kind() == ControlKind::ListBox) {
+        auto* const view = new QListView(parent);
+        return new ListBoxView(static_cast<ListBox&>(control), view, view);
+    }
+    auto* const whole = new QWidget(parent);
+    return new ComboView(static_cast<ComboBox&>(control), whole, new QLineEdit(whole), new QListView(whole));
+}
+
+}  // namespace quillmetra

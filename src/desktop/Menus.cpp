@@ -1,0 +1,113 @@
+// See Menus.h.
+#include "desktop/Menus.h"
+
+#include <unordered_map>
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+
+#include "desktop/Painting.h"
+#include "platform/Form.h"
+
+namespace quillmetra {
+
+namespace {
+
+// A menu whose head is asked before it shows; one that is refused stays shut.
+class HeadMenu : public QMenu {
+public:
+    using QMenu::QMenu;
+    bool Refused = false;
+
+    void setVisible(bool visible) override {
+        if (visible && Refused) return;
+        QMenu::setVisible(visible);
+    }
+};
+
+class MenuView : public ControlView {
+public:
+    MenuView(MenuItem& item, QAction* action, QObject* parent) : ControlView(item, nullptr), action_(action) {
+        setParent(parent);
+        action_->setObjectName(ToQt(item.FullName()));
+        if (!item.Shortcut.empty()) action_->setShortcut(QKeySequence(ToQt(item.Shortcut)));
+    }
+
+protected:
+    MenuItem& Entry() const { return static_cast<MenuItem&>(*Model()); }
+
+    void RenewText() override { action_->setText(ToQt(Entry().Caption())); }
+    void RenewEnabled() override { action_->setEnabled(Entry().Enabled()); }
+    void RenewVisible() override { action_->setVisible(Entry().Visible()); }
+    void RenewColours() override {}
+    void RenewToolTip() override { action_->setToolTip(ToQt(Entry().ToolTip())); }
+
+    void RenewChecked() override {
+        if (Entry().Checked()) action_->setCheckable(true);
+        action_->setChecked(Entry().Checked());
+    }
+
+    QAction* action_;
+};
+
+class EntryView : public MenuView {
+public:
+    EntryView(MenuItem& item, QAction* action, QObject* parent) : MenuView(item, action, parent) {
+        connect(action_, &QAction::triggered, this, [this] {
+            if (Model() == nullptr) return;
+            ClickControl(*Model());
+            if (Model() != nullptr) RenewChecked();  // an action that can be ticked ticks itself
+        });
+    }
+};
+
+class HeadView : public MenuView {
+public:
+    HeadView(MenuItem& item, HeadMenu* menu, QMenuBar* bar)
+        : MenuView(item, menu->menuAction(), bar), menu_(menu), bar_(bar) {
+        connect(menu_, &QMenu::aboutToShow, this, [this] { Open(); });
+    }
+
+private:
+    void Open() {
+        menu_->Refused = Model() == nullptr || !OpenMenu(Entry());
+        if (menu_->Refused) QTimer::singleShot(0, bar_, [bar = bar_] { bar->setActiveAction(nullptr); });
+    }
+
+    HeadMenu* menu_;
+    QMenuBar* bar_;
+};
+
+}  // namespace
+
+std::vector<ControlView*> MakeMenus(const Form& form, QMenuBar& bar) {
+    std::vector<ControlView*> views;
+    std::unordered_map<const Control*, HeadMenu*> heads;
+    for (const Control* control : form.Controls()) {
+        if (control->Kind() == ControlKind::MenuItem && control->Container() != nullptr) {
+            heads[control->Container()] = nullptr;
+        }
+    }
+    for (Control* control : form.Controls()) {
+        if (control->Kind() != ControlKind::MenuItem) continue;
+        auto& item = static_cast<MenuItem&>(*control);
+        HeadMenu* const under = control->Container() == nullptr ? nullptr : heads[control->Container()];
+        QWidget* const place = under == nullptr ? static_cast<QWidget*>(&bar) : under;
+        if (item.SeparatorBefore && under != nullptr) under->addSeparator();
+        const auto head = heads.find(control);
+        if (head == heads.end()) {
+            auto* const action = new QAction(place);
+            place->addAction(action);
+            views.push_back(new EntryView(item, action, &bar));
+        } else {
+            head->second = new HeadMenu(place);
+            place->addAction(head->second->menuAction());
+            views.push_back(new HeadView(item, head->second, &bar));
+        }
+    }
+    return views;
+}
+
+}  // namespace quillmetra

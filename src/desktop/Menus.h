@@ -1,0 +1,18 @@
+// The menu bar of a window, made from the tree of the form's menu entries.
+#pragma once
+
+#include <vector>
+
+#include "desktop/ControlView.h"
+
+class QMenuBar;
+
+namespace quillmetra {
+
+class Form;
+
+// Fills the bar and returns the views of the entries. An entry of the form with others under it is a menu,
+// one without is an action on the bar itself.
+std::vector<ControlView*> MakeMenus(const Form& form, QMenuBar& bar);
+
+}  // namespace quillmetra

@@ -1,0 +1,56 @@
+// Colours of the model on widgets of the toolkit, and the panel that groups of controls stand on.
+#pragma once
+
+#include <string>
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+#include "platform/Controls.h"
+
+namespace quillmetra {
+
+inline QString ToQt(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+QColor ToQt(Colour colour);
+
+// The style of the whole program, the same on every machine: the slots of the suite are chosen for a light
+// one.
+void UseSuiteStyle();
+
+// Paints a widget and those in it that have no colours of their own.
+void Paint(QWidget& widget, Colour back, Colour fore);
+
+// The width of so many digits in the font of a widget, for fields sized by what they hold.
+int DigitsWide(const QWidget& widget, int digits);
+
+// A flat area with a thin border and, where it has one, a heading in bold at its top.
+class Panel : public QWidget {
+public:
+    explicit Panel(QWidget* parent, const QString& heading = {});
+
+    const QString& Heading() const { return heading_; }
+    void SetHeading(const QString& heading);
+    // One that stands over others: its colour covers them and its border is strong.
+    void SetRaised(bool raised);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    int HeadingHeight() const;
+    QSize WithHeading(const QSize& content) const;
+    QFont HeadingFont() const;
+    void Measure();
+
+    QString heading_;
+    bool raised_ = false;
+};
+
+}  // namespace quillmetra

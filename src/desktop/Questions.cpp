@@ -1,0 +1,196 @@
+// The part of DesktopHost that asks the user: message boxes and the toolkit's own dialogs.
+#include <array>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QUrl>
+
+#include "core/Suite.h"
+#include "desktop/DesktopHost.h"
+#include "desktop/Painting.h"
+#include "platform/TextFiles.h"
+
+namespace quillmetra {
+
+namespace {
+
+// A question that wants Yes or No has no way round it: Escape and the close box do nothing.
+class Question : public QMessageBox {
+public:
+    explicit Question(bool mustAnswer) : QMessageBox(QApplication::activeWindow()), mustAnswer_(mustAnswer) {
+        if (mustAnswer_) setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (mustAnswer_ && event->matches(QKeySequence::Cancel)) return;
+        QMessageBox::keyPressEvent(event);
+    }
+
+    void closeEvent(QCloseEvent* event) override {
+        if (mustAnswer_) {
+            event->ignore();
+        } else {
+            QMessageBox::closeEvent(event);
+        }
+    }
+
+private:
+    bool mustAnswer_;
+};
+
+struct AnswerButton {
+    Answer Means;
+    QMessageBox::StandardButton Button;
+};
+
+constexpr std::array AnswerButtons = {
+    AnswerButton{Answer::Ok, QMessageBox::Ok},
+    AnswerButton{Answer::Yes, QMessageBox::Yes},
+    AnswerButton{Answer::No, QMessageBox::No},
+    AnswerButton{Answer::Cancel, QMessageBox::Cancel},
+};
+
+bool Offers(Buttons choice, Answer answer) {
+    switch (answer) {
+        case Answer::Ok: return choice == Buttons::Ok;
+        case Answer::Cancel: return choice == Buttons::YesNoCancel;
+        default: return choice != Buttons::Ok;
+    }
+}
+
+QMessageBox::Icon SignOf(Icon icon) {
+    switch (icon) {
+        case Icon::Stop: return QMessageBox::Critical;
+        case Icon::Question: return QMessageBox::Question;
+        case Icon::Exclamation: return QMessageBox::Warning;
+        case Icon::Information: return QMessageBox::Information;
+        default: return QMessageBox::NoIcon;
+    }
+}
+
+// An open menu would keep the mouse from a box, and a busy pointer would say that nobody waits for the user.
+class ReadyForUser {
+public:
+    ReadyForUser() {
+        while (QWidget* popup = QApplication::activePopupWidget()) {
+            if (!popup->close()) break;
+        }
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~ReadyForUser() { QApplication::restoreOverrideCursor(); }
+    ReadyForUser(const ReadyForUser&) = delete;
+    ReadyForUser& operator=(const ReadyForUser&) = delete;
+};
+
+// "Access DB Files(TRDB.MDB)|TRDB.MDB" as the toolkit writes it: words, then patterns in brackets.
+QString FilterOf(const std::string& filter) {
+    const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString words = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+        filters << words + QStringLiteral(" (") + QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')) +
+                       QLatin1Char(')');
+    }
+    return filters.join(QStringLiteral(";;"));
+}
+
+}  // namespace
+
+Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
+    const ReadyForUser ready;
+    Question question(box.Choice == Buttons::YesNo);
+    question.setWindowTitle(ToQt(box.Title));
+    question.setTextFormat(Qt::PlainText);
+    question.setText(ToQt(box.Text));
+    question.setIcon(SignOf(box.Sign));
+    for (const AnswerButton& each : AnswerButtons) {
+        if (!Offers(box.Choice, each.Means)) continue;
+        QPushButton* const button = question.addButton(each.Button);
+        if (each.Means == DefaultAnswer(box)) question.setDefaultButton(button);
+    }
+    const int pressed = question.exec();
+    for (const AnswerButton& each : AnswerButtons) {
+        if (each.Button == pressed) return each.Means;
+    }
+    return box.Choice == Buttons::YesNoCancel ? Answer::Cancel : DefaultAnswer(box);
+}
+
+std::optional<std::string> DesktopHost::InputBox(const std::string& prompt, const std::string& title) {
+    const ReadyForUser ready;
+    bool accepted = false;
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(prompt),
+                                               QLineEdit::Normal, {}, &accepted);
+    if (!accepted) return std::nullopt;
+    return text.toStdString();
+}
+
+std::optional<std::string> DesktopHost::FileDialog(const FileQuestion& question) {
+    const ReadyForUser ready;
+    const QString folder = QString::fromStdU16String(MachinePath(question.Folder).u16string());
+    QWidget* const over = QApplication::activeWindow();
+    const QString title = ToQt(question.Title);
+    const QString filter = FilterOf(question.Filter);
+    const QString name = question.ForSaving ? QFileDialog::getSaveFileName(over, title, folder, filter)
+                                            : QFileDialog::getOpenFileName(over, title, folder, filter);
+    if (name.isEmpty()) return std::nullopt;
+    return SuitePath(name.toStdU16String());
+}
+
+std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& preset) {
+    const ReadyForUser ready;
+    QPrinter printer;
+    printer.setCopyCount(preset.Copies);
+    printer.setFromTo(preset.FromPage, preset.ToPage);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    PrinterChoice choice = preset;
+    choice.Copies = printer.copyCount();
+    if (printer.printRange() == QPrinter::PageRange) {
+        choice.FromPage = printer.fromPage();
+        choice.ToPage = printer.toPage();
+    }
+    return choice;
+}
+
+std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {
+    const ReadyForUser ready;
+    QFont font(ToQt(preset.Name));
+    font.setPointSizeF(preset.Size);
+    font.setBold(preset.Bold);
+    font.setItalic(preset.Italic);
+    font.setUnderline(preset.Underline);
+    bool accepted = false;
+    font = QFontDialog::getFont(&accepted, font, QApplication::activeWindow());
+    if (!accepted) return std::nullopt;
+    return FontChoice{font.family().toStdString(), font.pointSizeF(), font.bold(), font.italic(), font.underline()};
+}
+
+std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset) {
+    const ReadyForUser ready;
+    const QColor colour = QColorDialog::getColor(ToQt(Colour{preset}), QApplication::activeWindow());
+    if (!colour.isValid()) return std::nullopt;
+    return static_cast<unsigned>(colour.red()) | static_cast<unsigned>(colour.green()) << 8U |
+           static_cast<unsigned>(colour.blue()) << 16U;
+}
+
+void DesktopHost::ShowHelp(int) {
+    if (FileExists(Suite.HelpFile)) {
+        const QString file = QString::fromStdU16String(MachinePath(Suite.HelpFile).u16string());
+        QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+        return;
+    }
+    ShowMessageBox({.Text = "Help file VOTR.HLP was not found", .Title = "Help", .Sign = Icon::Information});
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,83 @@
+// Views of boxes, labels and frames.
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "desktop/ControlView.h"
+#include "desktop/Painting.h"
+
+namespace quillmetra {
+
+namespace {
+
+class BoxView : public ControlView {
+public:
+    BoxView(TextBox& box, QLineEdit* edit) : ControlView(box, edit), box_(box), edit_(edit) {
+        edit_->setReadOnly(box.Locked);
+        if (box.IsNumber) edit_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { Typed(text); });
+    }
+
+    bool FocusesOnPress() const override { return true; }
+
+protected:
+    // Written only when it differs, so that the caret of the box being edited stays.
+    void RenewText() override {
+        const QString text = ToQt(box_.Text());
+        if (edit_->text() == text) return;
+        edit_->setText(text);
+        // The end of a long result matters less than its beginning.
+        if (box_.Locked) edit_->setCursorPosition(0);
+    }
+
+    // What the user marked with the mouse stays marked.
+    void SelectAll() override {
+        if (!edit_->hasSelectedText() || !edit_->hasFocus()) edit_->selectAll();
+    }
+
+private:
+    void Typed(const QString& text) {
+        if (Model() == nullptr) return;
+        TypeText(box_, text.toStdString());
+        if (Model() != nullptr) RenewText();  // the model may have taken less
+    }
+
+    TextBox& box_;
+    QLineEdit* edit_;
+};
+
+class LabelView : public ControlView {
+public:
+    LabelView(Label& label, QLabel* widget) : ControlView(label, widget), widget_(widget) {
+        widget_->setTextFormat(Qt::PlainText);
+    }
+
+protected:
+    void RenewText() override { widget_->setText(ToQt(Model()->Caption())); }
+
+private:
+    QLabel* widget_;
+};
+
+class FrameView : public ControlView {
+public:
+    FrameView(Frame& frame, Panel* panel) : ControlView(frame, panel), panel_(panel) {}
+
+protected:
+    void RenewText() override { panel_->SetHeading(ToQt(Model()->Caption()).remove(QLatin1Char('&'))); }
+
+private:
+    Panel* panel_;
+};
+
+}  // namespace
+
+ControlView* MakeTextView(Control& control, QWidget* parent) {
+    switch (control.Kind()) {
+        case ControlKind::TextBox: return new BoxView(static_cast<TextBox&>(control), new QLineEdit(parent));
+        case ControlKind::Frame: return new FrameView(static_cast<Frame&>(control), new Panel(parent));
+        default: return new LabelView(static_cast<Label&>(control), new QLabel(parent));
+    }
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,13 @@
+// One function a form, each in the file of its name.
+#pragma once
+
+#include "desktop/Layout.h"
+
+namespace quillmetra::layout {
+
+Node frmLiqLineLoss();
+Node frmObxProg();
+Node frmPipeSize();
+Node frmTRProg();
+
+}  // namespace quillmetra::layout

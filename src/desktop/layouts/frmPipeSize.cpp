@@ -1,0 +1,14 @@
+// Where the controls of the pipe size dialog stand.
+#include "desktop/layouts/Layouts.h"
+
+namespace quillmetra::layout {
+
+Node frmPipeSize() {
+    return Column({Panel("", Column({Row({"lblNomSize", Item("txtNomSize").Wide(10), "lblPipeUnits", Stretch(), "cmdSearch"}),
+                                     "lblPipeSize", Item("lstPipeSize").Wide(40).Tall(14).Typed().Grow(),
+                                     "lblConvertUnits"}))
+                       .Grow(),
+                   Buttons({"cmdOK", "cmdCancel"})});
+}
+
+}  // namespace quillmetra::layout

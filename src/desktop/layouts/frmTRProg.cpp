@@ -1,0 +1,38 @@
+// Where the controls of the record browser stand.
+#include "desktop/layouts/Layouts.h"
+
+namespace quillmetra::layout {
+
+namespace {
+
+Node Database() {
+    return Frame("fraDatabase", Column({Row({"optDefaultDB", "optBrouseDB", Stretch(), "cmdDBOpen", "cmdDBClose"}),
+                                        Item("lblPath(0)").Wrapped()}));
+}
+
+Node Record() {
+    const auto box = [](const char* name) { return Item(name).Wide(22).Grow(); };
+    return Frame("fraRecord", Column({Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord",
+                                           "lblNumRecords"}),
+                                      Row({"cmdBrowse", "cmdFind", "cmdSearchDate", "cmdDelete", Stretch(),
+                                           "cmdDisplayCalc"}),
+                                      Table({
+                                          {"lblTagNum", box("txtTagNum"), "lblTRCalc", box("txtTRCalc")},
+                                          {"lblFluidType", box("txtFluidType"), "lblCalcBy", box("txtCalcBy")},
+                                          {"lblCalcDate", box("txtCalcDate"), "lblDataDate", box("txtDataDate")},
+                                      })}));
+}
+
+Node Tags() {
+    return Frame("fraTags", Column({Item("lstTags").Wide(34).Tall(12), Buttons({"cmdSelect", "cmdCancel"})}));
+}
+
+}  // namespace
+
+Node frmTRProg() {
+    return Over(Column({Frame("fraPrograms", Row({Words("Choose one of the calculation programs"), Stretch(), "cmdOK"})),
+                        Database(), Record(), Stretch()}),
+                {Tags()});
+}
+
+}  // namespace quillmetra::layout

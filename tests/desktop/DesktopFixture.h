@@ -1,0 +1,74 @@
+// The fixture of the window tests: the suite's fixture with the desktop host on an invisible screen.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "core/Programs.h"
+#include "desktop/DesktopHost.h"
+#include "desktop/FormWindow.h"
+#include "desktop/Painting.h"
+#include "forms/RegisterForms.h"
+#include "platform/TextCase.h"
+#include "platform/UserActs.h"
+#include "tests/SuiteFixture.h"
+
+namespace quillmetra {
+
+inline void Settle() {
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+class DesktopTest : public SuiteTest {
+protected:
+    DesktopTest() { RegisterForms(); }
+    ~DesktopTest() override {
+        ResetForms();
+        Settle();
+    }
+
+    // Shows a form as its program would and returns it with its window.
+    Form& Show(std::string_view name) {
+        for (const Program& program : Programs) {
+            if (SameName(program.Form, name)) Calc.CurrentProgram = program.Number;
+        }
+        ShowForm(name);
+        Form& form = LoadForm(name);
+        QTest::qWaitForWindowActive(Screen.WindowOf(form));
+        Settle();
+        return form;
+    }
+
+    FormWindow& WindowOf(const Form& form) { return *Screen.WindowOf(form); }
+    ControlView& ViewOf(const Control& control) { return *WindowOf(control.Owner()).ViewOf(control); }
+    QWidget& WidgetOf(const Control& control) { return *ViewOf(control).Widget(); }
+
+    void Click(const Control& control) {
+        QTest::mouseClick(&WidgetOf(control), Qt::LeftButton);
+        Settle();
+    }
+
+    DesktopHost Screen;
+};
+
+// Runs once a message box or another dialog has opened, from within its loop.
+inline void WhenDialogOpens(const std::function<void(QWidget&)>& act) {
+    QTimer::singleShot(0, qApp, [act] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr) {
+            WhenDialogOpens(act);
+        } else {
+            act(*dialog);
+        }
+    });
+}
+
+}  // namespace quillmetra

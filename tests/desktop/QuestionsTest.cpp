@@ -1,0 +1,89 @@
+// Message boxes: what they say, which buttons they have, and that a question wants an answer.
+#include "tests/desktop/DesktopFixture.h"
+
+namespace quillmetra {
+
+namespace {
+
+class QuestionsTest : public DesktopTest {};
+
+struct BoxCase {
+    MessageBox Box;
+    std::vector<QMessageBox::StandardButton> Buttons;
+    QMessageBox::Icon Sign;
+    Answer ByEnter;
+};
+
+TEST_F(QuestionsTest, BoxesShowWhatTheyAreGiven) {
+    const BoxCase cases[] = {
+        {{.Text = "Length must be > zero ", .Title = "Data checking", .Sign = Icon::Stop},
+         {QMessageBox::Ok},
+         QMessageBox::Critical,
+         Answer::Ok},
+        {{.Text = "<b>Save</b>\n\nchanges?", .Title = " Two  blanks", .Choice = Buttons::YesNo, .Sign = Icon::Question},
+         {QMessageBox::Yes, QMessageBox::No},
+         QMessageBox::Question,
+         Answer::Yes},
+        {{.Text = "Are you sure?",
+          .Title = "Confirm",
+          .Choice = Buttons::YesNo,
+          .Sign = Icon::Exclamation,
+          .Default = Answer::No},
+         {QMessageBox::Yes, QMessageBox::No},
+         QMessageBox::Warning,
+         Answer::No},
+        {{.Text = "Save?", .Title = "Save", .Choice = Buttons::YesNoCancel, .Sign = Icon::Information},
+         {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel},
+         QMessageBox::Information,
+         Answer::Yes},
+    };
+    for (const BoxCase& each : cases) {
+        SCOPED_TRACE(each.Box.Text);
+        WhenDialogOpens([&](QWidget& widget) {
+            auto& box = static_cast<QMessageBox&>(widget);
+            EXPECT_EQ(box.text(), ToQt(each.Box.Text));
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.windowTitle(), ToQt(each.Box.Title));
+            EXPECT_EQ(box.icon(), each.Sign);
+            EXPECT_EQ(static_cast<std::size_t>(box.buttons().size()), each.Buttons.size());
+            for (const auto button : each.Buttons) EXPECT_NE(box.button(button), nullptr);
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        EXPECT_EQ(ShowMessage(each.Box), each.ByEnter);
+    }
+}
+
+TEST_F(QuestionsTest, YesOrNoHasNoWayRound) {
+    WhenDialogOpens([](QWidget& box) {
+        QTest::keyClick(&box, Qt::Key_Escape);
+        box.close();
+        Settle();
+        ASSERT_TRUE(box.isVisible());
+        static_cast<QMessageBox&>(box).button(QMessageBox::No)->click();
+    });
+    EXPECT_FALSE(AskYesNo("Save changes?", "Line Loss"));
+
+    WhenDialogOpens([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(ShowMessage({.Text = "Save?", .Title = "Save", .Choice = Buttons::YesNoCancel}), Answer::Cancel);
+}
+
+TEST_F(QuestionsTest, AnInputBoxTellsCancelFromEmpty) {
+    WhenDialogOpens([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(Screen.InputBox("Gravity", "Flow"), "");
+    WhenDialogOpens([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(Screen.InputBox("Gravity", "Flow"), std::nullopt);
+}
+
+TEST_F(QuestionsTest, ABoxOverABusyPointerShowsTheArrow) {
+    const BusyPointer busy;
+    WhenDialogOpens([](QWidget& box) {
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    Tell("Done", "Done");
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+}
+
+}  // namespace
+
+}  // namespace quillmetra

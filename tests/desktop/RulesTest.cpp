@@ -1,0 +1,160 @@
+// Rules over all controls of all forms. They run once for each scale of the screen, in a process of its own.
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QStyle>
+
+#include "tests/desktop/DesktopFixture.h"
+
+namespace quillmetra {
+
+namespace {
+
+class Rules : public DesktopTest, public testing::WithParamInterface<std::string_view> {
+protected:
+    Rules() : Shown(Show(GetParam())) {
+        // The screen of the tests is small; the rules are about a window in its own size.
+        QWidget* const pane = PaneOf(WindowOf(Shown));
+        WindowOf(Shown).setMaximumSize(4000, 4000);
+        WindowOf(Shown).resize(pane->sizeHint() + QSize(0, 60));
+        Settle();
+    }
+
+    static QWidget* PaneOf(FormWindow& window) { return window.centralWidget()->findChild<QWidget*>("pane"); }
+
+    bool IsInput(const Control& control) const {
+        switch (control.Kind()) {
+            case ControlKind::Label:
+            case ControlKind::Frame:
+            case ControlKind::MenuItem: return false;
+            default: return true;
+        }
+    }
+
+    // Opens all that the form shows at times, so that it is seen by the rules too.
+    void OpenAll() {
+        for (Control* control : Shown.Controls()) control->SetVisible(true);
+        Settle();
+    }
+
+    QRect PlaceOf(const Control& control) {
+        QWidget& widget = WidgetOf(control);
+        return {widget.mapTo(&WindowOf(Shown), QPoint()), widget.size()};
+    }
+
+    Form& Shown;
+};
+
+TEST_P(Rules, EveryControlHasItsWidget) {
+    OpenAll();
+    FormWindow& window = WindowOf(Shown);
+    for (const Control* control : Shown.Controls()) {
+        SCOPED_TRACE(control->FullName());
+        const QString name = ToQt(control->FullName());
+        ASSERT_NE(window.ViewOf(*control), nullptr);
+        if (control->Kind() == ControlKind::MenuItem) {
+            const auto* action = window.findChild<QAction*>(name);
+            ASSERT_NE(action, nullptr);
+            EXPECT_EQ(action->text(), ToQt(control->Caption()));
+        } else {
+            ASSERT_EQ(window.findChild<QWidget*>(name), &WidgetOf(*control));
+            EXPECT_TRUE(WidgetOf(*control).isVisible());
+        }
+    }
+}
+
+TEST_P(Rules, WhatIsTypedReachesTheModelAndBack) {
+    for (Control* control : Shown.Controls()) {
+        if (control->Kind() != ControlKind::TextBox || static_cast<TextBox*>(control)->Locked) continue;
+        if (!CanAct(*control)) continue;
+        SCOPED_TRACE(control->FullName());
+        auto& box = *static_cast<TextBox*>(control);
+        auto& edit = static_cast<QLineEdit&>(WidgetOf(box));
+        MoveFocus(box);
+        edit.selectAll();
+        QTest::keyClicks(&edit, "7.5");
+        EXPECT_EQ(box.Text(), "7.5");
+        box.SetText("");
+        EXPECT_EQ(edit.text(), "");
+    }
+}
+
+TEST_P(Rules, EveryInputHasAnAccessibleName) {
+    for (const Control* control : Shown.Controls()) {
+        if (!IsInput(*control) || (control->Kind() == ControlKind::CommandButton && control->Caption().empty())) {
+            continue;
+        }
+        EXPECT_FALSE(ViewOf(*control).KeyTarget()->accessibleName().trimmed().isEmpty()) << control->FullName();
+    }
+}
+
+TEST_P(Rules, NoTextIsCutOff) {
+    OpenAll();
+    for (const Control* control : Shown.Controls()) {
+        if (control->Kind() == ControlKind::MenuItem || control->Caption().empty()) continue;
+        SCOPED_TRACE(control->FullName());
+        const QWidget& widget = WidgetOf(*control);
+        const auto* label = qobject_cast<const QLabel*>(&widget);
+        const bool button = qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+        if (label == nullptr && !button) continue;
+        if (label != nullptr && label->wordWrap()) {
+            EXPECT_GE(widget.height(), label->heightForWidth(widget.width()));
+        } else {
+            EXPECT_GE(widget.width(), widget.minimumSizeHint().width());
+            EXPECT_GE(widget.height(), widget.minimumSizeHint().height());
+        }
+    }
+}
+
+TEST_P(Rules, NothingStandsOutsideOfItsAreaOrOverAnother) {
+    std::vector<const Control*> seen;
+    for (const Control* control : Shown.Controls()) {
+        const bool stands = control->Kind() != ControlKind::MenuItem && control->Kind() != ControlKind::Frame;
+        if (stands && control->Seen()) seen.push_back(control);
+    }
+    for (std::size_t i = 0; i < seen.size(); ++i) {
+        const QWidget& widget = WidgetOf(*seen[i]);
+        EXPECT_TRUE(widget.parentWidget()->rect().contains(widget.geometry())) << seen[i]->FullName();
+        for (std::size_t j = i + 1; j < seen.size(); ++j) {
+            EXPECT_FALSE(PlaceOf(*seen[i]).intersects(PlaceOf(*seen[j])))
+                << seen[i]->FullName() << " and " << seen[j]->FullName();
+        }
+    }
+}
+
+// Within an area, going on never leads back up but to the top of a column further right. Unit buttons come
+// after all else, and so begin again.
+TEST_P(Rules, TabFollowsTheReadingOrder) {
+    const Control* former = nullptr;
+    for (const Control* stop : Shown.TabStops()) {
+        if (!stop->Seen() || SameName(stop->Name(), "cmdUnits") || stop->Kind() == ControlKind::MenuItem) continue;
+        const Control* const before = std::exchange(former, stop);
+        if (before == nullptr || WidgetOf(*before).parentWidget() != WidgetOf(*stop).parentWidget()) continue;
+        const QRect last = PlaceOf(*before);
+        const QRect next = PlaceOf(*stop);
+        const bool down = next.top() >= last.bottom();
+        const bool right = next.left() >= last.right();
+        EXPECT_TRUE(down || right) << before->FullName() << " then " << stop->FullName();
+    }
+}
+
+TEST_P(Rules, EveryNumberHasItsUnitBesideIt) {
+    for (const Control* control : Shown.Controls()) {
+        if (control->Kind() != ControlKind::TextBox || !control->Seen() || control->UnitControl() == nullptr) continue;
+        if (!control->UnitControl()->Seen()) continue;  // a ratio for now
+        SCOPED_TRACE(control->FullName());
+        const QRect box = PlaceOf(*control);
+        const QRect unit = PlaceOf(*control->UnitControl());
+        EXPECT_GE(unit.left(), box.right());
+        EXPECT_LT(std::abs(unit.center().y() - box.center().y()), box.height() / 2);
+    }
+}
+
+std::string NameOf(const testing::TestParamInfo<std::string_view>& info) { return std::string(info.param); }
+
+INSTANTIATE_TEST_SUITE_P(AllForms, Rules, testing::ValuesIn(FormNames()), NameOf);
+
+}  // namespace
+
+}  // namespace quillmetra

@@ -1,0 +1,136 @@
+// Writes a picture of each window of the suite to a folder, for the guide and for whoever changes a layout:
+// quillmetra-screens FOLDER
+#include <cstdio>
+#include <filesystem>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTimer>
+
+#include "core/StartUp.h"
+#include "desktop/DesktopHost.h"
+#include "desktop/FormWindow.h"
+#include "desktop/Painting.h"
+#include "forms/RegisterForms.h"
+#include "platform/Forms.h"
+#include "platform/TextFiles.h"
+#include "platform/UserActs.h"
+
+using namespace quillmetra;
+
+namespace {
+
+QString Folder;
+
+void Settle() {
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+}
+
+void Shoot(const char* name) {
+    Settle();
+    QWidget* top = QApplication::activeModalWidget();
+    if (top == nullptr) top = QApplication::activeWindow();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (top == nullptr && window->isVisible()) top = window;
+    }
+    if (top == nullptr) return;
+    top->grab().save(Folder + "/" + name + ".png");
+    std::printf("%s %d x %d\n", name, top->width(), top->height());
+}
+
+void Type(const char* name, int index, const char* text) {
+    Control& box = ControlOf("frmLiqLineLoss", name, index);
+    MoveFocus(box);
+    TypeText(box, text);
+}
+
+void Click(const char* form, const char* name, int index = Control::NoIndex) {
+    ClickControl(ControlOf(form, name, index));
+    Settle();
+}
+
+// The first message box is worth a picture; all are answered as Enter answers them.
+void AnswerBoxes() {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    static bool pictured = false;
+    if (!pictured) box->grab().save(Folder + "/message.png");
+    pictured = true;
+    std::printf("box: %s | %s\n", qPrintable(box->windowTitle()), qPrintable(box->text().simplified()));
+    box->defaultButton()->click();
+}
+
+// A dialog runs its own loop: its picture is taken from within.
+void Within(const std::function<void()>& act) {
+    QMetaObject::invokeMethod(qApp, act, Qt::QueuedConnection);
+}
+
+void FillLine() {
+    const struct {
+        const char* Box;
+        const char* Text;
+    } line[] = {{"txtTagNum", "P-101 discharge"}, {"txtInletPipeLen", "1250"}, {"txtInletPipeID", "6.065"},
+                {"txtInletPipeElev", "12"},       {"txtOutletPipeElev", "85"}, {"txtPipeCond", "5"},
+                {"txtInletGate", "2"},            {"txtInlet90Deg", "6"},      {"txtInletThru", "1"}};
+    for (const auto& each : line) Type(each.Box, Control::NoIndex, each.Text);
+    const char* const flows[] = {"420000", "350000", "120000"};
+    for (int i = 0; i < 3; ++i) {
+        Type("txtFlow", i, flows[i]);
+        Type("txtTemp", i, "68");
+        Type("txtPressure", i, "150");
+        Type("txtSGFlow", i, "0.998");
+        Type("txtViscosity", i, "1.002");
+        Type("txtEquip", i, "3");
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc != 2) return 2;
+    Folder = argv[1];
+    UseSuiteStyle();
+    QApplication::setFont(QFont("DejaVu Sans", 10));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QTimer boxes;
+    QObject::connect(&boxes, &QTimer::timeout, AnswerBoxes);
+    boxes.start(20);
+    DesktopHost host;
+    RegisterForms();
+    const std::string home = SuitePath(std::filesystem::temp_directory_path() / "quillmetra-screens");
+    SeedShippedData(home);
+    StartUp(home);
+    Shoot("browser");
+    Click("frmTRProg", "cmdOK");
+    Shoot("selector");
+    Click("frmObxProg", "cmdOK");
+    Shoot("line-empty");
+    FillLine();
+    Within([] {
+        TypeText(ControlOf("frmPipeSize", "txtNomSize"), "6");
+        Click("frmPipeSize", "cmdSearch");
+        Shoot("pipe-size");
+        Click("frmPipeSize", "cmdCancel");
+    });
+    Click("frmLiqLineLoss", "cmdPipeID");
+    Click("frmLiqLineLoss", "cmdMatl");
+    Shoot("line-material");
+    PressKey(ControlOf("frmLiqLineLoss", "lstMatl"), "Escape");
+    Click("frmLiqLineLoss", "mnuPureLiquid1");
+    Shoot("line-liquids");
+    Click("frmLiqLineLoss", "cmdCancel");
+    for (int i = 0; i < 3; ++i) Click("frmLiqLineLoss", "cmdCalculate", i);
+    Type("txtInletPipeLen", Control::NoIndex, "1300");
+    MoveFocus(ControlOf("frmLiqLineLoss", "txtInletPipeID"));
+    Shoot("line-changed");
+    for (int i = 0; i < 3; ++i) Click("frmLiqLineLoss", "cmdCalculate", i);
+    Shoot("line-results");
+    ControlOf("frmLiqLineLoss", "fraComponent").SetVisible(true);
+    Shoot("line-mixture");
+    ResetForms();
+    return 0;
+}

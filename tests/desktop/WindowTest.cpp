@@ -1,0 +1,275 @@
+// A window and its form say the same, whoever changes it, and the focus goes the model's way.
+#include <QAction>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTableView>
+
+#include "tests/desktop/DesktopFixture.h"
+#include "tests/desktop/SampleForm.h"
+
+namespace quillmetra {
+
+namespace {
+
+using Events = std::vector<std::string>;
+
+class WindowTest : public DesktopTest {
+protected:
+    WindowTest() {
+        RegisterForm("frmSample", [] { return std::unique_ptr<Form>(new SampleForm); });
+        Sample = static_cast<SampleForm*>(&Show("frmSample"));
+        Sample->TakeEvents();
+    }
+
+    QLineEdit& Edit(const TextBox& box) { return static_cast<QLineEdit&>(WidgetOf(box)); }
+    QListView& Rows(const ListBox& list) { return static_cast<QListView&>(WidgetOf(list)); }
+
+    void ClickRow(const ListBox& list, int row) {
+        QListView& view = Rows(list);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, PlaceOf(list, row));
+        Settle();
+    }
+
+    QPoint PlaceOf(const ListBox& list, int row) {
+        QListView& view = Rows(list);
+        return view.visualRect(view.model()->index(row, 0)).center();
+    }
+
+    bool HasKeyboard(const Control& control) { return QApplication::focusWidget() == ViewOf(control).KeyTarget(); }
+
+    SampleForm* Sample;
+};
+
+TEST_F(WindowTest, TypedTextReachesTheModelAndBack) {
+    QTest::keyClicks(&Edit(Sample->txtOne), "12,5");
+    EXPECT_EQ(Sample->txtOne.Text(), "12,5");
+    Sample->txtOne.SetText("other");
+    EXPECT_EQ(Edit(Sample->txtOne).text(), "other");
+    QTest::keyClicks(&Edit(Sample->txtShort), "\u00b5bcd");
+    EXPECT_EQ(Sample->txtShort.Text(), "\u00b5bc");
+    EXPECT_EQ(Edit(Sample->txtShort).text(), QString::fromUtf8("\u00b5bc"));
+    QTest::keyClicks(&Edit(Sample->txtResult), "x");
+    EXPECT_EQ(Sample->txtResult.Text(), "");
+    QTest::keyClicks(&Edit(Sample->txtTwo), "5r");
+    EXPECT_EQ(Edit(Sample->txtTwo).text(), "remainder") << "a key that the control uses is not typed";
+}
+
+TEST_F(WindowTest, WritingTheSameTextLeavesTheCaret) {
+    Sample->txtOne.SetText("1250");
+    Edit(Sample->txtOne).setCursorPosition(2);
+    Sample->txtOne.SetText("1250");
+    QTest::keyClicks(&Edit(Sample->txtOne), "7");
+    EXPECT_EQ(Sample->txtOne.Text(), "12750");
+}
+
+TEST_F(WindowTest, AButtonTakesTheFocusAtTheReleaseOfTheMouse) {
+    QWidget& button = WidgetOf(Sample->cmdGo);
+    QTest::mousePress(&button, Qt::LeftButton);
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), Events());
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), (Events{"one lost", "go got", "go click"}));
+    EXPECT_TRUE(HasKeyboard(Sample->cmdGo));
+}
+
+TEST_F(WindowTest, ABoxTakesTheFocusAtTheReleaseOfTheMouse) {
+    QTest::mousePress(&Edit(Sample->txtTwo), Qt::LeftButton);
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), Events());
+    QTest::mouseRelease(&Edit(Sample->txtTwo), Qt::LeftButton);
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), (Events{"one lost", "two got"}));
+    EXPECT_TRUE(HasKeyboard(Sample->txtTwo));
+}
+
+TEST_F(WindowTest, KeysMoveTheFocusByTheRulesOfTheForm) {
+    QTest::keyClick(&Edit(Sample->txtOne), Qt::Key_Tab);
+    EXPECT_TRUE(HasKeyboard(Sample->txtTwo));
+    QTest::keyClick(&Edit(Sample->txtTwo), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(HasKeyboard(Sample->txtOne));
+    QTest::keyClick(&Edit(Sample->txtOne), Qt::Key_Return);
+    EXPECT_TRUE(HasKeyboard(Sample->txtTwo));
+    EXPECT_EQ(Sample->TakeEvents(), (Events{"one lost", "two got", "two lost", "one got", "one lost", "two got"}));
+    QTest::keyClick(&WidgetOf(Sample->cmdGo), Qt::Key_Return);
+    EXPECT_EQ(Sample->TakeEvents(), (Events{"two lost", "go got", "go click"}));
+}
+
+TEST_F(WindowTest, AHandlerMovesTheFocusBack) {
+    Sample->txtOne.LostFocus = [this] { Sample->txtOne.SetFocus(); };
+    Click(Sample->cmdGo);
+    EXPECT_TRUE(HasKeyboard(Sample->txtOne));
+    EXPECT_EQ(Sample->Focus.Current(), &Sample->txtOne);
+}
+
+TEST_F(WindowTest, MenusBoxesAndOtherWindowsAreNoLossOfFocus) {
+    auto* const menu = WindowOf(*Sample).findChild<QMenu*>();
+    menu->popup(QPoint(10, 10));
+    Settle();
+    menu->actions().front()->trigger();
+    menu->close();
+    WhenDialogOpens([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    Tell("Text", "Title");
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTest::qWaitForWindowActive(&other);
+    other.hide();
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), Events{"entry"});
+    EXPECT_EQ(Sample->Focus.Current(), &Sample->txtOne);
+}
+
+TEST_F(WindowTest, AHeadThatPutsUpABoxKeepsItsEntriesShut) {
+    const QList<QMenu*> menus = WindowOf(*Sample).findChildren<QMenu*>();
+    ASSERT_EQ(menus.size(), 2);
+    bool boxShown = false;
+    WhenDialogOpens([&](QWidget& box) {
+        boxShown = true;
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    menus.at(1)->popup(QPoint(10, 10));
+    Settle();
+    EXPECT_TRUE(boxShown);
+    EXPECT_FALSE(menus.at(1)->isVisible());
+    menus.at(0)->popup(QPoint(10, 10));
+    EXPECT_TRUE(menus.at(0)->isVisible());
+    menus.at(0)->close();
+}
+
+TEST_F(WindowTest, AWidgetSwitchedOffWithTheFocusIsNotLeft) {
+    Sample->txtOne.SetEnabled(false);
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), Events());
+    EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString().substr(0, 3) == "txt", false);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(HasKeyboard(Sample->txtTwo));
+    Sample->txtOne.SetEnabled(true);
+    Settle();
+    EXPECT_TRUE(HasKeyboard(Sample->txtTwo));
+}
+
+TEST_F(WindowTest, OptionsExcludeOneAnotherAndAFrameSwitchesItsContentsOff) {
+    const auto ticked = [this](const Control& control) {
+        return static_cast<QAbstractButton&>(WidgetOf(control)).isChecked();
+    };
+    Click(Sample->optA);
+    Click(Sample->optA);
+    EXPECT_TRUE(ticked(Sample->optA) && Sample->optA.Checked());
+    Click(Sample->optB);
+    EXPECT_TRUE(!ticked(Sample->optA) && ticked(Sample->optB) && Sample->optB.Checked());
+    Click(Sample->chkOn);
+    EXPECT_TRUE(ticked(Sample->chkOn) && Sample->chkOn.Checked());
+    Sample->fraOptions.SetEnabled(false);
+    EXPECT_FALSE(WidgetOf(Sample->chkOn).isEnabled());
+    Sample->fraOptions.SetEnabled(true);
+    EXPECT_TRUE(WidgetOf(Sample->chkOn).isEnabled());
+}
+
+TEST_F(WindowTest, AListOfAHundredThousandRowsShowsAtOnce) {
+    std::vector<std::string> rows(100000);
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = "row " + std::to_string(i);
+    QElapsedTimer clock;
+    clock.start();
+    Sample->lstRows.SetRows(std::move(rows));
+    Sample->lstRows.Preselect(99999);
+    Rows(Sample->lstRows).grab();
+    EXPECT_LT(clock.elapsed(), 500);
+    EXPECT_EQ(Rows(Sample->lstRows).currentIndex().row(), 99999);
+}
+
+TEST_F(WindowTest, RowsArePickedByMouseAndKeys) {
+    ListBox& list = Sample->lstRows;
+    list.SetRows({"a", "b", "c"});
+    ClickRow(list, 1);
+    EXPECT_EQ(list.Selected(), 1);
+    EXPECT_EQ(Sample->TakeEvents(), (Events{"one lost", "rows got", "rows click"}));
+    QTest::keyClick(&Rows(list), Qt::Key_Down);
+    EXPECT_EQ(list.Selected(), 2);
+    list.Select(0);
+    EXPECT_EQ(Rows(list).currentIndex().row(), 0);
+    Sample->TakeEvents();
+    QTest::mouseDClick(Rows(list).viewport(), Qt::LeftButton, {}, PlaceOf(list, 0));
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents().back(), "rows double");
+
+    Sample->lstMany.SetRows({"a", "b", "c"});
+    ClickRow(Sample->lstMany, 0);
+    ClickRow(Sample->lstMany, 2);
+    EXPECT_TRUE(Sample->lstMany.IsPicked(0) && !Sample->lstMany.IsPicked(1) && Sample->lstMany.IsPicked(2));
+    ClickRow(Sample->lstMany, 0);
+    EXPECT_FALSE(Sample->lstMany.IsPicked(0));
+}
+
+// A list that gets the keyboard by Tab must not choose a row that nobody chose.
+TEST_F(WindowTest, ReachingAListPicksNothing) {
+    Sample->lstRows.SetRows({"a", "b"});
+    MoveFocus(Sample->lstRows);
+    Settle();
+    EXPECT_EQ(Sample->lstRows.Selected(), -1);
+}
+
+TEST_F(WindowTest, CombosAndGrids) {
+    Sample->cboChoice.SetRows({"alpha", "beta"});
+    auto* const edit = WidgetOf(Sample->cboChoice).findChild<QLineEdit*>();
+    QTest::keyClicks(edit, "be");
+    EXPECT_EQ(Sample->cboChoice.Text(), "be");
+    Sample->cboChoice.Select(1);
+    EXPECT_EQ(edit->text(), "beta");
+
+    auto& table = static_cast<QTableView&>(WidgetOf(Sample->grdCells));
+    EXPECT_EQ(table.model()->index(1, 1).data().toString(), "b");
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(table.model()->index(0, 0)).center());
+    EXPECT_EQ(Sample->grdCells.Selected(), 1);
+    EXPECT_EQ(Sample->grdCells.Text(), "a");
+    Sample->grdCells.SetSize(1, 1);
+    EXPECT_EQ(table.model()->rowCount(), 0);
+}
+
+TEST_F(WindowTest, TheCloseBoxAsksTheForm) {
+    WindowOf(*Sample).close();
+    Settle();
+    EXPECT_EQ(Sample->TakeEvents(), Events{"close"});
+    EXPECT_TRUE(WindowOf(*Sample).isVisible());
+}
+
+TEST_F(WindowTest, AFormMayUnloadItselfInItsOwnClick) {
+    Sample->cmdGo.Click = [] { UnloadForm("frmSample"); };
+    FormWindow* const window = &WindowOf(*Sample);
+    QPointer<FormWindow> alive(window);
+    Click(Sample->cmdGo);
+    EXPECT_TRUE(alive.isNull());
+    EXPECT_FALSE(IsFormLoaded("frmSample"));
+}
+
+TEST_F(WindowTest, AModalFormHoldsTheOthersUntilItGoes) {
+    bool held = false;
+    WhenDialogOpens([&](QWidget& dialog) {
+        held = !TakesInput(*Sample) && dialog.objectName() == "frmPipeSize";
+        HideForm("frmPipeSize");
+    });
+    ShowForm("frmPipeSize", Modal::Yes);
+    EXPECT_TRUE(held);
+    EXPECT_TRUE(TakesInput(*Sample));
+}
+
+TEST_F(WindowTest, TheEndOfTheProcessEndsAModalForm) {
+    WhenDialogOpens([](QWidget&) { EndProcess(); });
+    ShowForm("frmPipeSize", Modal::Yes);
+    EXPECT_FALSE(WindowOf(*Sample).isVisible());
+}
+
+TEST_F(WindowTest, EscapeIsHeardWithinALongCalculationAndNothingElse) {
+    EXPECT_FALSE(Screen.Yield());
+    QCoreApplication::postEvent(&Edit(Sample->txtOne), new QKeyEvent(QEvent::KeyPress, Qt::Key_X, {}, "x"));
+    QCoreApplication::postEvent(&Edit(Sample->txtOne), new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
+    EXPECT_TRUE(Screen.Yield());
+    EXPECT_EQ(Sample->txtOne.Text(), "");
+}
+
+}  // namespace
+
+}  // namespace quillmetra
