@@ -70,7 +70,6 @@ public:
     ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
     ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
     ControlArray<CommandButton> cmdUnits{Picture1, "cmdUnits", {1, 2, 3, 4, 6, 7, 18, 25}, ""};
-    CommandButton cmdOKUn{Picture1, "cmdOKUn", "OK"};
 
     // Results
     Label lblDropP100{Picture1, "lblDropP100", "Loss per 100 "};
@@ -120,8 +119,12 @@ private:
     void FillCase();
     void NoteEntered(int caseIndex);
     bool HasTempAndPressure(int caseIndex) const;
+    void EnterState(TextBox& box);
     // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
     void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
+
+    const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
+    std::string textBefore_;
 };
 
 }  // namespace quillmetra

@@ -1,51 +1,12 @@
 // The liquid line-loss form as a user meets it: from the browser to a result, its messages, its fluid.
 #include <cmath>
 
-#include "core/Words.h"
-#include "forms/frmLiqLineLoss.h"
-#include "forms/frmObxProg.h"
-#include "forms/frmTRProg.h"
-#include "forms/RegisterForms.h"
 #include "platform/NumberText.h"
-#include "platform/UserActs.h"
 #include "reports/FormRows.h"
-#include "tests/SuiteFixture.h"
+#include "tests/forms/LiquidFormFixture.h"
 
 namespace quillmetra {
 namespace {
-
-class LiquidForm : public SuiteTest {
-protected:
-    LiquidForm() {
-        RegisterForms();
-        StartUp(SuitePath(Folder));
-        ClickControl(ControlOf("frmTRProg", "cmdOK"));
-        ClickControl(ControlOf("frmObxProg", "optProgram", 1));
-        ClickControl(ControlOf("frmObxProg", "cmdOK"));
-    }
-
-    frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
-
-    static void Type(Control& box, const std::string& text) {
-        ASSERT_TRUE(MoveFocus(box)) << box.FullName();
-        ASSERT_TRUE(TypeText(box, text)) << box.FullName();
-    }
-
-    // 1000 ft of 4 in schedule 40 steel pipe, 100,000 lb/h of a liquid of gravity 1 and 1 cp at 100 psig.
-    void FillGoodCase(int i) {
-        Suite.HideFluidReminder = words::Yes;
-        frmLiqLineLoss& form = Form();
-        Type(form.txtInletPipeLen, "1000");
-        Type(form.txtInletPipeID, "4.026");
-        Type(form.txtFlow(i), "100000");
-        Type(form.txtTemp(i), "60");
-        Type(form.txtPressure(i), "100");
-        Type(form.txtSGFlow(i), "1");
-        Type(form.txtViscosity(i), "1");
-    }
-
-    void Calculate(int i) { ASSERT_TRUE(ClickControl(Form().cmdCalculate(i))); }
-};
 
 TEST_F(LiquidForm, OpensFromTheBrowserInEnglishUnits) {
     EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
@@ -184,7 +145,14 @@ TEST_F(LiquidForm, ChangedValuesAreShownInTheChangedColour) {
     EXPECT_EQ(form.txtFlow(0).ForeColour(), Suite.Colours[4]) << "the same number in other words";
     Type(form.txtFlow(0), "12,5");
     MoveFocus(form.txtTemp(0));
+    EXPECT_EQ(form.Status(), "12,5 is read as 12");
+    MoveFocus(form.txtPressure(0));
     EXPECT_EQ(form.Status(), "") << "the next box takes the note away";
+
+    ClickControl(form.chkExit);
+    EXPECT_EQ(form.chkExit.ForeColour(), Suite.Colours[10]);
+    ClickControl(form.chkExit);
+    EXPECT_EQ(form.chkExit.ForeColour(), Suite.Colours[2]);
 }
 
 TEST_F(LiquidForm, PicksALiquidOnceTemperatureAndPressureAreIn) {
