@@ -23,6 +23,7 @@ void ResetRecord() {
 void ResetForNew() {
     const CalcRecord old = Calc;
     ResetRecord();
+    Calc.FormLoading = old.FormLoading;  // the form that is being emptied goes on filling itself
     Calc.UnitName = old.UnitName;
     Calc.UnitFactor = old.UnitFactor;
     Calc.UnitNameShown = old.UnitNameShown;

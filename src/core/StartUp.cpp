@@ -69,7 +69,13 @@ void SeedShippedData(const std::string& programFolder) {
         const fs::path target = MachinePath(programFolder + "\\TRData\\" + name);
         if (fs::exists(target, ignored)) continue;
         fs::create_directories(target.parent_path(), ignored);
-        fs::copy_file(source / name, target, fs::copy_options::skip_existing, ignored);
+        // Beside its place and renamed: a copy that breaks off must not pass for the user's own file.
+        fs::path beside = target;
+        beside += ".quillmetra-new";
+        std::error_code failed;
+        fs::copy_file(source / name, beside, fs::copy_options::overwrite_existing, failed);
+        if (!failed) fs::rename(beside, target, failed);
+        if (failed) fs::remove(beside, ignored);
     }
 }
 
@@ -116,12 +122,15 @@ void LoadHeadings() {
 }
 
 void ReadStandardConditions() {
+    bool opened = false;
     try {
         ItemReader file(Suite.DefaultPaths[2] + "\\TRSTP.TXT");
+        opened = true;
         Calc.StdFileValues.fill(0);
-        for (std::size_t i = 1; i <= 3 && !file.AtEnd(); ++i) Calc.StdFileValues[i] = file.NextNumber();
+        for (std::size_t i = 1; i <= 3; ++i) Calc.StdFileValues[i] = file.NextNumber();
     } catch (const RuntimeError&) {
-        return;
+        if (!opened) return;
+        // short: what is missing counts 0
     }
     for (std::size_t i = 1; i <= 3; ++i) Calc.CaseInput[20 + i][0] = Calc.StdFileValues[i];
     Calc.StdTemperature = Calc.StdFileValues[1];

@@ -72,7 +72,7 @@ std::vector<std::string> ReadFluidRows(std::string_view fluidType) {
     LineReader file(TablePath(fluidType));
     std::vector<std::string> rows;
     std::string line;
-    file.Next(line);
+    if (!file.Next(line)) throw failure::InputPastEnd();
     while (file.Next(line)) rows.push_back(line);
     return rows;
 }
@@ -89,7 +89,7 @@ void FindFluidRow() {
     try {
         LineReader file(TablePath(Calc.FluidType));
         std::string line;
-        file.Next(line);
+        if (!file.Next(line)) throw failure::InputPastEnd();
         while (file.Next(line)) {
             if (FluidRowName(line) != Calc.FluidName) continue;
             Calc.FluidRow = line;

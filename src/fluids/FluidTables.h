@@ -8,7 +8,7 @@
 namespace quillmetra {
 
 // The lines of the fluid table after its heading, whole, for "Liquid" or "Gas". Throws the RuntimeError of a
-// file that cannot be read; a table that is empty or has a heading alone gives no rows.
+// file that cannot be read or has not even a heading; a heading alone gives no rows.
 std::vector<std::string> ReadFluidRows(std::string_view fluidType);
 
 // The fluid name of a row: its text before the first comma, trimmed.

@@ -55,14 +55,6 @@ bool ResultsAreFinite() {
            std::isfinite(Calc.FluidViscosity) && std::isfinite(Calc.SGAtStandard);
 }
 
-bool TellNotCalculated() {
-    Calc.VaporPressure = 0;
-    Calc.FlowingSG = 0;
-    Calc.FluidViscosity = 0;
-    Tell("Fluid properties cannot be calculated", Title);
-    return false;
-}
-
 void CalcGravityAndViscosity() {
     if (FluidClassNumber() == Water) {
         CalcWaterProperties();
@@ -92,6 +84,14 @@ double PressureOffset() {
 }
 
 }  // namespace
+
+bool TellNotCalculated() {
+    Calc.VaporPressure = 0;
+    Calc.FlowingSG = 0;
+    Calc.FluidViscosity = 0;
+    Tell("Fluid properties cannot be calculated", Title);
+    return false;
+}
 
 void CalcVaporPressure() {
     Calc.ReducedBoilingTemperature = ReducedTemperatureOf(Calc.NormalBoilingPoint, Calc.CritTemperature);

@@ -17,4 +17,8 @@ void CalcWaterProperties();             // FlowingSG, FluidViscosity
 // answered No, or a property cannot be calculated, which it says, with the three results left at 0.
 bool ProcessLiquidData();
 
+// Says that a property cannot be calculated, for one that is not finite in the unit shown either; sets the
+// three results to 0 and returns false for the caller to return.
+bool TellNotCalculated();
+
 }  // namespace quillmetra

@@ -83,6 +83,13 @@ CalculationForm::CalculationForm(const Names& names)
         cmdDate.SetCaption(Calc.CaseText[10].empty() ? DatePrompt : Calc.CaseText[10]);
         key.Handled = true;
     };
+    // A prompt gives way to the name that is typed over it.
+    txtBy.GotFocus = [this] {
+        if (txtBy.Text() == words::ByPrompt) txtBy.SelectAll();
+    };
+    txtApprov.GotFocus = [this] {
+        if (txtApprov.Text() == words::ApprovedPrompt) txtApprov.SelectAll();
+    };
     txtTagNum.Change = [] {
         if (Calc.FormLoading != words::Yes) Calc.ChangedFlag = words::No;
     };
@@ -206,7 +213,7 @@ int CalculationForm::InputSlot(const Control& box) const {
     return ValueSlot(value, ShownValue(*row, caseIndex));
 }
 
-bool CalculationForm::SaveChangesStops() {
+void CalculationForm::SaveChanges() {
     StoreForm();
     DetectChanges();
     Calc.SaveAnswer.clear();
@@ -214,7 +221,11 @@ bool CalculationForm::SaveChangesStops() {
         Calc.SavePrompt = "Save changes?";
         Calc.SaveAnswer = AskYesNo(Calc.SavePrompt, Calc.ProgramTitle) ? words::Yes : words::No;
     }
-    return Calc.SaveAnswer == words::ExitSub || Calc.SaveAnswer == words::Yes;
+}
+
+bool CalculationForm::MayLeaveRecord() {
+    SaveChanges();
+    return Calc.SaveAnswer != words::ExitSub && Calc.SaveAnswer != words::Yes;
 }
 
 void CalculationForm::EmptyForm() {
@@ -224,7 +235,7 @@ void CalculationForm::EmptyForm() {
 }
 
 void CalculationForm::mnuNew_Click() {
-    if (SaveChangesStops()) return;
+    if (!MayLeaveRecord()) return;
     const Filling filling;
     Liquids.Close();
     EmptyForm();
@@ -242,7 +253,7 @@ void CalculationForm::mnuNew_Click() {
 }
 
 void CalculationForm::mnuProgram_Click() {
-    if (SaveChangesStops()) return;
+    if (!MayLeaveRecord()) return;
     Calc.ProgramTitle.clear();  // the next program brings its own
     ShowForm("frmTRProg");
     for (const char* form : {"frmUnits", "frmObxPrintCalc", "frmCalcOptions"}) UnloadForm(form);
@@ -250,7 +261,7 @@ void CalculationForm::mnuProgram_Click() {
 }
 
 void CalculationForm::mnuExit_Click() {
-    if (!SaveChangesStops()) EndProcess();
+    if (MayLeaveRecord()) EndProcess();
 }
 
 void CalculationForm::OpenPanel(const char* panel) {

@@ -95,8 +95,10 @@ protected:
     virtual Control* CalculateButton(int) { return nullptr; }
     int InputSlot(const Control& box) const override;
 
-    // Runs the prompt to save. True when the caller must stop.
-    bool SaveChangesStops();
+    // Asks whether to save what has changed, and sets SaveAnswer.
+    void SaveChanges();
+    // The same for an act that gives the record up; false when it must stop.
+    bool MayLeaveRecord();
     // Names, colours and tab order of the boxes of the program's table of rows.
     void DescribeRows();
     void EmptyForm();

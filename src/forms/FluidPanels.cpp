@@ -35,11 +35,12 @@ void FluidList::Open(const std::string& fluidType) {
     }
     const int known = FindFluidName(rows, Calc.FluidName);
     const int current = rows.empty() ? -1 : std::max(known, 0);
-    cameFrom_ = form_.Focus.Current();
+    if (!IsOpen()) cameFrom_ = form_.Focus.Current();
     lstFluid.SetRows(std::move(rows));
     lstFluid.Preselect(current);
     cmdSelect.SetEnabled(current >= 0);
     form_.Picture1.SetEnabled(false);
+    form_.mnuFluiProp.SetEnabled(false);  // the list is for the case that opened it
     Panel.SetVisible(true);
     form_.DefaultButton = &cmdSelect;
     form_.CancelButton = &cmdCancel;
@@ -51,6 +52,7 @@ void FluidList::Close() {
     Panel.SetVisible(false);
     lstFluid.Clear();
     form_.Picture1.SetEnabled(true);
+    form_.mnuFluiProp.SetEnabled(true);
     form_.DefaultButton = nullptr;
     form_.CancelButton = nullptr;
     if (cameFrom_ != nullptr) cameFrom_->SetFocus();

@@ -20,7 +20,6 @@ std::string SuiteForm::ProblemTitle() const {
 int SuiteForm::InputSlot(const Control&) const { return slot::InputText; }
 
 void SuiteForm::ControlGotFocus(Control& control) {
-    SetStatus("");
     if (!IsInput(control)) return;
     auto& box = static_cast<TextBox&>(control);
     box.SetColours(SlotColour(slot::SelectedBack), SlotColour(slot::SelectedText));
@@ -31,9 +30,8 @@ void SuiteForm::ControlLostFocus(Control& control) {
     if (!IsInput(control)) return;
     auto& box = static_cast<TextBox&>(control);
     box.SetColours(SlotColour(slot::InputBack), SlotColour(InputSlot(box)));
-    if (box.IsNumber && !ValReadsAll(box.Text())) {
-        SetStatus(std::string(Trim(box.Text())) + " is read as " + TrimmedStr(Val(box.Text())));
-    }
+    const bool readWhole = !box.IsNumber || ValReadsAll(box.Text());
+    SetStatus(readWhole ? "" : std::string(Trim(box.Text())) + " is read as " + TrimmedStr(Val(box.Text())));
 }
 
 }  // namespace quillmetra

@@ -15,7 +15,7 @@ public:
     void ControlGotFocus(Control& control) override;
     // The box that loses it goes back to the input colours, in the changed colour when its value differs
     // from what was last calculated or loaded. A number that is not read to its end is told in the status
-    // line.
+    // line, until the next box is left.
     void ControlLostFocus(Control& control) override;
 
 protected:

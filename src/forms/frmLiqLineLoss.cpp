@@ -11,6 +11,7 @@
 #include "forms/DataCheck.h"
 #include "lineloss/Friction.h"
 #include "lineloss/LiquidLineLoss.h"
+#include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
@@ -96,7 +97,12 @@ void frmLiqLineLoss::Hook() {
         if (key.Name == "Enter") lstMatl_DoubleClick();
         if (key.Name == "Escape") cmdMatl_Click();
     };
-    chkEntrance.Click = chkExit.Click = [this] { ClearAllCases(); };
+    for (CheckBox* tick : {&chkEntrance, &chkExit}) {
+        tick->Click = [this, tick] {
+            PaintTick(*tick, Calc.PipeDataShown[tick == &chkEntrance ? 4 : 5]);
+            ClearAllCases();
+        };
+    }
     optDestination.Click = [this] { optDestination_Click(); };
     optSource.Click = [this] { optSource_Click(); };
     mnuFluiProp.Click = [this] { mnuFluiProp_Click(); };
@@ -109,9 +115,14 @@ void frmLiqLineLoss::Hook() {
     txtTemp.Each([this](TextBox& box, int i) { box.LostFocus = [this, i] { txtTemp_LostFocus(i); }; });
     txtPressure.Each(
         [this](TextBox& box, int i) { box.LostFocus = [this, i] { txtPressure_LostFocus(i); }; });
+    for (const auto* states : {&txtTemp, &txtPressure}) {
+        states->Each([this](TextBox& box, int) { box.GotFocus = [this, &box] { EnterState(box); }; });
+    }
 }
 
 void frmLiqLineLoss::ShowChoices() {
+    edited_ = nullptr;
+    lstMatl.SetVisible(false);
     const bool mixture = Calc.MixtureFlag == words::Yes;
     for (MenuItem* entry : {&mnuMixture1, &mnuMixture2, &mnuMixture3}) entry->SetChecked(mixture);
     for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
@@ -314,7 +325,7 @@ void frmLiqLineLoss::NoteEntered(int caseIndex) {
 }
 
 void frmLiqLineLoss::mnuFluiProp_Click() {
-    StoreForm();
+    for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
     if (HasTempAndPressure(0) || HasTempAndPressure(1) || HasTempAndPressure(2)) return;
     Tell("Need Pressure and Temperature to continue", "Fluid Properties");
 }
@@ -344,11 +355,15 @@ bool frmLiqLineLoss::CheckForNewFluid() {
 
 void frmLiqLineLoss::cmdSelect_Click() {
     if (Liquids.lstFluid.Selected() < 0) return;
-    Calc.FluidRow = Liquids.lstFluid.Row(Liquids.lstFluid.Selected());
     const std::string oldName = Calc.FluidName;
+    const std::string oldRow =
+        std::exchange(Calc.FluidRow, Liquids.lstFluid.Row(Liquids.lstFluid.Selected()));
     const bool taken = TakeLiquid();
     Liquids.Close();
-    if (!taken) return;
+    if (!taken) {
+        Calc.FluidRow = oldRow;  // the fluid in hand is still the former one, and may be renewed from its row
+        return;
+    }
     Calc.FluidName = Calc.SelectedFluidName;
     Calc.FluidDataSource = words::Loaded;
     {
@@ -359,6 +374,10 @@ void frmLiqLineLoss::cmdSelect_Click() {
     if (Calc.FluidName == oldName) {
         ClearCase(Calc.CaseIndex);
     } else {
+        // Nor does the former fluid's vapour pressure hold for the other cases.
+        for (std::size_t i = 0; i < CaseCount; ++i) {
+            if (i != ThisCase()) Calc.CaseInput[8][i] = 0;
+        }
         ClearAllCases();
     }
     cmdCalculate.Each([](CommandButton& button, int) { button.SetEnabled(true); });
@@ -368,30 +387,38 @@ void frmLiqLineLoss::cmdSelect_Click() {
 bool frmLiqLineLoss::TakeLiquid() {
     ParseLiquidRow();
     if (!ProcessLiquidData()) return false;
-    FillCase();
+    try {
+        FillCase();
+    } catch (const RuntimeError&) {
+        return TellNotCalculated();
+    }
     return true;
 }
 
-// Rounds the liquid's properties into the case in hand, in the units shown.
+// Rounds the liquid's properties into the case in hand, in the units shown. Nothing is stored when one of
+// them is not finite in its unit.
 void frmLiqLineLoss::FillCase() {
     const Filling filling;
     const std::size_t i = ThisCase();
     const int caseIndex = Calc.CaseIndex;
-    Calc.CaseInput[8][i] = 0;
+    double vaporPressure = 0;
     if (Calc.VaporPressure > 0) {
         Calc.VaporPressure = RoundedFour(Calc.VaporPressure);
-        Calc.CaseInput[8][i] = RoundedFour(Calc.VaporPressure / Calc.UnitFactor[8]);
+        vaporPressure = CheckFinite(RoundedFour(Calc.VaporPressure / Calc.UnitFactor[8]));
     }
     Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
-    Calc.CaseInput[6][i] = Calc.LiquidDensityMode == words::Density
-                               ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[5] * 62.366)
-                               : Calc.FlowingSG;
+    const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
+                                           ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[5] * 62.366)
+                                           : Calc.FlowingSG);
     double viscosity = Calc.FluidViscosity / Calc.UnitFactor[7];
     if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
         viscosity = viscosity / Calc.FlowingSG / kinematic;
     }
-    Calc.CaseInput[7][i] = RoundedFour(viscosity);
+    Calc.CaseInput[7][i] = CheckFinite(RoundedFour(viscosity));
+    Calc.CaseInput[8][i] = vaporPressure;
+    Calc.CaseInput[6][i] = gravity;
     Calc.Viscosity = Calc.FluidViscosity;
+    if (edited_ != nullptr && edited_->Index() == caseIndex) edited_ = nullptr;
     ShowNumber(txtSGFlow(caseIndex), Calc.CaseInput[6][i]);
     ShowNumber(txtViscosity(caseIndex), Calc.CaseInput[7][i]);
 }
@@ -402,14 +429,22 @@ void frmLiqLineLoss::UpdateFluidProperties() {
     if (TakeLiquid()) ClearCase(Calc.CaseIndex);
 }
 
+// The question is about what the user changed, so the text that the box had when it was entered counts: an
+// act in between may have stored the new one already. A focus that code takes away and gives back is no new
+// entry.
+void frmLiqLineLoss::EnterState(TextBox& box) {
+    if (std::exchange(edited_, &box) != &box) textBefore_ = box.Text();
+}
+
 void frmLiqLineLoss::LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered,
                                 const char* title) {
-    double& stored = Calc.CaseInput[row][static_cast<std::size_t>(caseIndex)];
+    const bool wasEdited = std::exchange(edited_, nullptr) == &box;
     const double typed = Val(box.Text());
-    const bool isNew = typed != Val(Str(stored)) && !Trim(box.Text()).empty();
+    const bool isNew =
+        wasEdited && !Trim(box.Text()).empty() && (Trim(textBefore_).empty() || typed != Val(textBefore_));
     NoteEntered(caseIndex);
     if (!isNew) return;
-    stored = typed;
+    Calc.CaseInput[row][static_cast<std::size_t>(caseIndex)] = typed;
     if (!otherEntered) return;
     Calc.CaseIndex = caseIndex;
     if (Calc.FluidDataSource == words::Loaded) {

@@ -119,8 +119,12 @@ private:
     void FillCase();
     void NoteEntered(int caseIndex);
     bool HasTempAndPressure(int caseIndex) const;
+    void EnterState(TextBox& box);
     // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
     void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
+
+    const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
+    std::string textBefore_;
 };
 
 }  // namespace quillmetra

@@ -2,6 +2,7 @@
 #include "forms/frmTRProg.h"
 
 #include "core/CalcRecord.h"
+#include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
@@ -14,6 +15,11 @@ namespace quillmetra {
 namespace {
 constexpr int BrowserHelpTopic = 400;
 constexpr const char* SuiteName = "Quillmetra";
+
+bool PromptsAreHidden() {
+    return Suite.HideFluidReminder == words::Yes && Suite.HideRoundReminder == words::Yes &&
+           Suite.HideFlowStatus == words::Yes;
+}
 }  // namespace
 
 frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
@@ -47,13 +53,16 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
         if (isEntry || isDatabase) control->SetEnabled(false);
     }
     optBrouseDB.SetEnabled(false);
-    for (Control* control : std::initializer_list<Control*>{&cmdOK, &mnuExit, &mnuHelp, &mnuAbout}) {
+    for (Control* control :
+         std::initializer_list<Control*>{&cmdOK, &mnuExit, &mnuDoNotShow, &mnuHelp, &mnuAbout}) {
         control->SetEnabled(true);
     }
     cmdOK.Click = [this] { cmdOK_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuHelp.Click = [] { ShowHelpTopic(BrowserHelpTopic); };
     mnuAbout.Click = [this] { mnuAbout_Click(); };
+    mnuOptions.Click = [this] { mnuDoNotShow.SetChecked(PromptsAreHidden()); };
+    mnuDoNotShow.Click = [this] { mnuDoNotShow_Click(); };
 }
 
 void frmTRProg::Load() {
@@ -83,6 +92,13 @@ void frmTRProg::cmdOK_Click() {
     UnloadForm("frmObxProg");  // so that its load starts the new calculation
     ShowForm("frmObxProg");
     HideForm(Name());
+}
+
+void frmTRProg::mnuDoNotShow_Click() {
+    const char* const word = PromptsAreHidden() ? "" : words::Yes;
+    Suite.HideFluidReminder = Suite.HideRoundReminder = Suite.HideFlowStatus = word;
+    mnuDoNotShow.SetChecked(PromptsAreHidden());
+    SaveStandardConditions();
 }
 
 void frmTRProg::mnuAbout_Click() {

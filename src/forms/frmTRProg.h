@@ -87,6 +87,7 @@ public:
     CommandButton cmdOK{fraPrograms, "cmdOK", "&Go to Menu"};
 
     void cmdOK_Click();
+    void mnuDoNotShow_Click();
     void mnuAbout_Click();
     void mnuExit_Click();
 

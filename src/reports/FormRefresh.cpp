@@ -78,6 +78,12 @@ void ShowRow(Form& form, const FormRow& row, int caseIndex) {
     PaintValue(control, ValueSlot(value, ShownValue(row, caseIndex)));
 }
 
+void ShowTick(Form& form, const char* name, std::size_t flag) {
+    auto& box = static_cast<CheckBox&>(Named(form, name));
+    box.SetChecked(Calc.PipeData[flag] > 1.1);
+    PaintTick(box, Calc.PipeDataShown[flag]);
+}
+
 // The cases that the line-loss forms refresh: all three after a conversion, else the one in hand.
 std::pair<int, int> CasesToShow() {
     if (Calc.UnitsConverted == words::Yes) return {0, CaseCount - 1};
@@ -153,6 +159,12 @@ bool ResultsStand(int caseIndex) {
     return Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)] != words::No;
 }
 
+void PaintTick(CheckBox& box, double shown) {
+    constexpr int frameText = 2;  // a tick stands on the frame, not in an input box
+    const int slot = ValueSlot(box.Checked() ? 2 : 1, shown);
+    PaintValue(box, slot == 4 ? frameText : slot);
+}
+
 void ShowNumber(Control& control, double value) { SetText(control, Str(CheckFinite(value))); }
 
 void ShowLiquidLoss() {
@@ -163,8 +175,8 @@ void ShowLiquidLoss() {
     ShowDirection(form);
     ShowDensityMode(form, "Specific gravity @ FTPy");
     Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
-    static_cast<CheckBox&>(Named(form, "chkEntrance")).SetChecked(Calc.PipeData[4] > 1.1);
-    static_cast<CheckBox&>(Named(form, "chkExit")).SetChecked(Calc.PipeData[5] > 1.1);
+    ShowTick(form, "chkEntrance", 4);
+    ShowTick(form, "chkExit", 5);
     ShowRows(form, 1);
     ShowSignatures(form);
 }

@@ -20,6 +20,9 @@ void ShowLiquidLoss();
 // then leaves them blank.
 bool ResultsStand(int caseIndex);
 
+// Paints a tick box in the changed colour when it differs from the flag that was last calculated or loaded.
+void PaintTick(CheckBox& box, double shown);
+
 // Writes a number to a control. Throws when it is not finite, with the control left as it was.
 void ShowNumber(Control& control, double value);
 

@@ -53,19 +53,19 @@ bool IsMetric(double diameterFactor) {
                        [&](double factor) { return SameFactor(diameterFactor, factor); });
 }
 
-bool ListsMillimetres() { return SameFactor(Calc.UnitFactor[pipeunit::List], InchesPerMillimetre); }
+bool ListsMillimetres() { return SameFactor(Calc.UnitFactor[pipeunit::PipeSizeFactor], InchesPerMillimetre); }
 
 void SetPipeUnits() {
     const bool metric = IsMetric(Calc.UnitFactor[pipeunit::Diameter]);
-    Calc.UnitFactor[pipeunit::Grid] = metric ? MillimetreGrid : 1;
-    Calc.UnitFactor[pipeunit::List] = metric ? InchesPerMillimetre : 1;
-    Calc.UnitFactor[pipeunit::Offset] = metric ? ListedSizeOffset : 0;
-    Calc.UnitName[pipeunit::Grid] = metric ? "mm" : "in";
+    Calc.UnitFactor[pipeunit::PipeSizeRound] = metric ? MillimetreGrid : 1;
+    Calc.UnitFactor[pipeunit::PipeSizeFactor] = metric ? InchesPerMillimetre : 1;
+    Calc.UnitFactor[pipeunit::PipeSizeOffset] = metric ? ListedSizeOffset : 0;
+    Calc.UnitName[pipeunit::PipeSizeRound] = metric ? "mm" : "in";
 }
 
 // The size on the table's inch grid up to which rows count.
 double TargetSize(std::string_view typed) {
-    const double target = Val(typed) * Calc.UnitFactor[pipeunit::List];
+    const double target = Val(typed) * Calc.UnitFactor[pipeunit::PipeSizeFactor];
     if (!ListsMillimetres()) return target;
     return (target / InchesPerMillimetre + TypedSizeOffset) * MillimetreGrid;
 }
@@ -85,11 +85,12 @@ std::vector<std::string> RowsOfSize(double target) {
 }
 
 std::string ListedSize(const std::string& size) {
-    return TrimmedStr(Int(Val(size) / Calc.UnitFactor[pipeunit::Grid] + Calc.UnitFactor[pipeunit::Offset]));
+    return TrimmedStr(Int(Val(size) / Calc.UnitFactor[pipeunit::PipeSizeRound] +
+                          Calc.UnitFactor[pipeunit::PipeSizeOffset]));
 }
 
 std::string ListedLength(const std::string& inches) {
-    return TrimmedStr(CheckFinite(RoundedThree(Val(inches) / Calc.UnitFactor[pipeunit::List])));
+    return TrimmedStr(CheckFinite(RoundedThree(Val(inches) / Calc.UnitFactor[pipeunit::PipeSizeFactor])));
 }
 
 // Pad to a width on the left or on the right; a longer text stays as it is.
@@ -114,7 +115,8 @@ std::string ListLine(const std::string& row) {
 
 // A length of the list in the form's unit of the diameter.
 double InFormUnit(double length) {
-    return CheckFinite(length / Calc.UnitFactor[pipeunit::Diameter] * Calc.UnitFactor[pipeunit::List]);
+    return CheckFinite(length / Calc.UnitFactor[pipeunit::Diameter] *
+                       Calc.UnitFactor[pipeunit::PipeSizeFactor]);
 }
 
 void WriteBox(const char* form, const char* box, double value) {
@@ -125,9 +127,10 @@ void WriteBox(const char* form, const char* box, double value) {
 
 void PreparePipeUnits() {
     SetPipeUnits();
-    const std::string& word = Calc.UnitName[pipeunit::Grid];
+    const std::string& word = Calc.UnitName[pipeunit::PipeSizeRound];
     if (ControlOf(Dialog, "lblPipeUnits").Caption() != word) UnloadForm(Dialog);
-    const bool converts = !SameFactor(Calc.UnitFactor[pipeunit::List], Calc.UnitFactor[pipeunit::Diameter]);
+    const bool converts =
+        !SameFactor(Calc.UnitFactor[pipeunit::PipeSizeFactor], Calc.UnitFactor[pipeunit::Diameter]);
     ControlOf(Dialog, "lblPipeUnits").SetCaption(word);
     ControlOf(Dialog, "lblConvertUnits").SetCaption(converts ? "Units will be Converted" : "");
     ShowForm(Dialog, Modal::Yes);

@@ -12,10 +12,14 @@ namespace quillmetra {
 
 // Unit rows that the lookup works with.
 namespace pipeunit {
-inline constexpr std::size_t Diameter = 18;  // the form's unit of the diameter, in per unit
-inline constexpr std::size_t Grid = 31;    // inches of nominal size in a listed one; its name is "in" or "mm"
-inline constexpr std::size_t List = 32;    // inches in the list's unit of diameter and wall
-inline constexpr std::size_t Offset = 33;  // added before a listed size is cut to a whole number; may be 0
+// The form's unit of the diameter, in per unit.
+inline constexpr std::size_t Diameter = 18;
+// Inches of nominal size in a listed one; its name is "in" or "mm".
+inline constexpr std::size_t PipeSizeRound = 31;
+// Inches in the list's unit of diameter and wall.
+inline constexpr std::size_t PipeSizeFactor = 32;
+// Added before a listed size is cut to a whole number; may be 0.
+inline constexpr std::size_t PipeSizeOffset = 33;
 }  // namespace pipeunit
 
 // Sets the lookup's unit rows from the unit of the diameter and shows the dialog; returns when it is closed.

@@ -42,7 +42,7 @@ protected:
         }
         ShowForm(name);
         Form& form = LoadForm(name);
-        QTest::qWaitForWindowActive(Screen.WindowOf(form));
+        (void)QTest::qWaitForWindowActive(Screen.WindowOf(form));
         Settle();
         return form;
     }

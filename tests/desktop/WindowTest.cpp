@@ -116,7 +116,7 @@ TEST_F(WindowTest, MenusBoxesAndOtherWindowsAreNoLossOfFocus) {
     QWidget other;
     other.show();
     other.activateWindow();
-    QTest::qWaitForWindowActive(&other);
+    (void)QTest::qWaitForWindowActive(&other);
     other.hide();
     Settle();
     EXPECT_EQ(Sample->TakeEvents(), Events{"entry"});

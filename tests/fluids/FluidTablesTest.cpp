@@ -58,7 +58,6 @@ TEST_F(FluidTablesTest, ReadsWhateverTheFileHolds) {
         const char* Content;
         std::size_t Rows;
     } cases[] = {
-        {"", 0},
         {"Name,Tp", 0},
         {"Name,Tp\r\n", 0},
         {"Name,Tp\nWater,3\n", 1},
@@ -71,6 +70,9 @@ TEST_F(FluidTablesTest, ReadsWhateverTheFileHolds) {
         EXPECT_EQ(rows.size(), each.Rows) << each.Content;
         for (const std::string& row : rows) Parse(row);
     }
+    WriteData("Liquid.txt", "");
+    EXPECT_THROW(ReadFluidRows(words::Liquid), RuntimeError) << "not even a heading";
+    WriteData("Liquid.txt", "Name\nWater,3\n");
     // Another spelling of the file's name is the same file.
     std::filesystem::rename(DataFolder() / "Liquid.txt", DataFolder() / "LIQUID.TXT");
     EXPECT_EQ(ReadFluidRows(words::Liquid).size(), 1U);

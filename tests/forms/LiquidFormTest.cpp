@@ -1,15 +1,12 @@
 // The liquid line-loss form as a user meets it: from the browser to a result, its messages, its fluid.
 #include <cmath>
 
-#include "forms/frmObxProg.h"
-#include "forms/frmTRProg.h"
+#include "platform/NumberText.h"
 #include "reports/FormRows.h"
-#include "tests/forms/CalculationFormFixture.h"
+#include "tests/forms/LiquidFormFixture.h"
 
 namespace quillmetra {
 namespace {
-
-using LiquidForm = LiquidFormTest;
 
 TEST_F(LiquidForm, OpensFromTheBrowserInEnglishUnits) {
     EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
@@ -148,7 +145,14 @@ TEST_F(LiquidForm, ChangedValuesAreShownInTheChangedColour) {
     EXPECT_EQ(form.txtFlow(0).ForeColour(), Suite.Colours[4]) << "the same number in other words";
     Type(form.txtFlow(0), "12,5");
     MoveFocus(form.txtTemp(0));
+    EXPECT_EQ(form.Status(), "12,5 is read as 12");
+    MoveFocus(form.txtPressure(0));
     EXPECT_EQ(form.Status(), "") << "the next box takes the note away";
+
+    ClickControl(form.chkExit);
+    EXPECT_EQ(form.chkExit.ForeColour(), Suite.Colours[10]);
+    ClickControl(form.chkExit);
+    EXPECT_EQ(form.chkExit.ForeColour(), Suite.Colours[2]);
 }
 
 TEST_F(LiquidForm, PicksALiquidOnceTemperatureAndPressureAreIn) {

@@ -2,12 +2,13 @@
 // in every number, and Cancel leaves no trace.
 #include "forms/frmCalcOptions.h"
 #include "forms/frmUnits.h"
-#include "tests/forms/CalculationFormFixture.h"
+#include "platform/NumberText.h"
+#include "tests/forms/LiquidFormFixture.h"
 
 namespace quillmetra {
 namespace {
 
-class UnitForms : public LiquidFormTest {
+class UnitForms : public LiquidForm {
 protected:
     UnitForms() {
         FillGoodCase(0);
@@ -21,8 +22,8 @@ protected:
 
     static double Number(const Control& control) { return Val(control.Text()); }
 
-    static void OpenOptions() { ASSERT_TRUE(ClickControl(Form().cmdFormLayout)); }
-    static void OpenUnits() { ASSERT_TRUE(ClickControl(Form().cmdUnits(2))); }
+    void OpenOptions() { ASSERT_TRUE(ClickControl(Form().cmdFormLayout)); }
+    void OpenUnits() { ASSERT_TRUE(ClickControl(Form().cmdUnits(2))); }
 
     // Chooses the unit of a row by its name in the list.
     static void Choose(int row, const std::string& name) {

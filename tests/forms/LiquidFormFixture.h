@@ -1,32 +1,32 @@
-// A calculation form opened as a user opens it: by the browser, the selector and OK.
+// The liquid line-loss form as a user has it who came from the browser by the selector.
 #pragma once
-
-#include <string>
 
 #include "core/Words.h"
 #include "forms/frmLiqLineLoss.h"
+#include "forms/frmObxProg.h"
+#include "forms/frmTRProg.h"
 #include "forms/RegisterForms.h"
-#include "platform/NumberText.h"
 #include "platform/UserActs.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {
 
-class LiquidFormTest : public SuiteTest {
+class LiquidForm : public SuiteTest {
 protected:
-    LiquidFormTest() {
+    LiquidForm() {
         RegisterForms();
         StartUp(SuitePath(Folder));
         OpenLiquid();
     }
 
+    // From the browser.
     static void OpenLiquid() {
         ClickControl(ControlOf("frmTRProg", "cmdOK"));
         ClickControl(ControlOf("frmObxProg", "optProgram", 1));
         ClickControl(ControlOf("frmObxProg", "cmdOK"));
     }
 
-    static frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
+    frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
 
     static void Type(Control& box, const std::string& text) {
         ASSERT_TRUE(MoveFocus(box)) << box.FullName();
@@ -34,7 +34,7 @@ protected:
     }
 
     // 1000 ft of 4 in schedule 40 steel pipe, 100,000 lb/h of a liquid of gravity 1 and 1 cp at 100 psig.
-    static void FillGoodCase(int i) {
+    void FillGoodCase(int i) {
         Suite.HideFluidReminder = words::Yes;
         frmLiqLineLoss& form = Form();
         Type(form.txtInletPipeLen, "1000");
@@ -46,7 +46,19 @@ protected:
         Type(form.txtViscosity(i), "1");
     }
 
-    static void Calculate(int i) { ASSERT_TRUE(ClickControl(Form().cmdCalculate(i))); }
+    // Opens the list of liquids for a case and takes the first row that starts with the text.
+    void PickLiquid(int i, const std::string& name) {
+        MenuItem* const menus[] = {&Form().mnuPureLiquid1, &Form().mnuPureLiquid2, &Form().mnuPureLiquid3};
+        ASSERT_TRUE(ClickControl(*menus[i]));
+        ListBox& list = Form().Liquids.lstFluid;
+        const auto& rows = list.Rows();
+        const auto row = std::find_if(rows.begin(), rows.end(),
+                                      [&](const std::string& each) { return each.starts_with(name); });
+        ASSERT_TRUE(PickRow(list, static_cast<int>(row - rows.begin()))) << name;
+        ASSERT_TRUE(ClickControl(Form().Liquids.cmdSelect));
+    }
+
+    void Calculate(int i) { ASSERT_TRUE(ClickControl(Form().cmdCalculate(i))); }
 };
 
 }  // namespace quillmetra
