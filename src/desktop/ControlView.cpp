@@ -26,8 +26,8 @@ void ControlView::Renew(Aspect aspect) {
 }
 
 void ControlView::RenewAll() {
-    for (const Aspect aspect : {Aspect::Rows, Aspect::Text, Aspect::Checked, Aspect::Selection, Aspect::Colours,
-                                Aspect::ToolTip, Aspect::Enabled, Aspect::Visible}) {
+    for (const Aspect aspect : {Aspect::Rows, Aspect::Text, Aspect::Checked, Aspect::Selection,
+                                Aspect::Colours, Aspect::ToolTip, Aspect::Enabled, Aspect::Visible}) {
         Renew(aspect);
     }
 }

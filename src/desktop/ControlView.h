@@ -24,7 +24,8 @@ public:
     virtual QWidget* KeyTarget() const { return widget_; }
     // The part of it that a mouse press meets, where that is another one than the widget itself.
     virtual QWidget* MouseTarget() const { return KeyTarget(); }
-    // True when the widget takes the keyboard at the press of the mouse; the model hears of it at the release.
+    // True when the widget takes the keyboard at the press of the mouse; the model hears of it at the
+    // release.
     virtual bool FocusesOnPress() const { return false; }
 
     // Shows an aspect of the model as it now stands.

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
@@ -48,7 +49,7 @@ void DesktopHost::FormShown(Form& form) {
 void DesktopHost::RunModal(Form& form) {
     if (ProcessHasEnded()) return;
     FormWindow& window = Window(form);
-    QWidget* const under = QApplication::activeWindow();
+    const QPointer<QWidget> under = QApplication::activeWindow();
     window.setWindowModality(Qt::ApplicationModal);
     window.winId();  // makes the native window, which knows the one that it stands over
     if (under != nullptr) window.windowHandle()->setTransientParent(under->windowHandle());
@@ -59,6 +60,7 @@ void DesktopHost::RunModal(Form& form) {
     loop.exec();
     loops_.erase(&form);
     if (FormWindow* left = WindowOf(form)) left->setWindowModality(Qt::NonModal);
+    if (under != nullptr && under->isVisible()) under->activateWindow();
 }
 
 // A window opens where the one that led to it stands or stood, and gives its place back the same way.
@@ -73,17 +75,18 @@ void DesktopHost::PutInPlace(FormWindow& window) {
     }
     QRect place(QPoint(), window.size());
     place.moveCenter(centre);
-    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
+    place.moveLeft(
+        std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
     place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
     window.move(place.topLeft());
 }
 
 void DesktopHost::FormHidden(Form& form) {
+    const auto loop = loops_.find(&form);
     if (FormWindow* window = WindowOf(form)) {
-        lastCentre_ = window->frameGeometry().center();
+        if (loop == loops_.end()) lastCentre_ = window->frameGeometry().center();
         window->hide();
     }
-    const auto loop = loops_.find(&form);
     if (loop != loops_.end()) loop->second->quit();
 }
 
@@ -144,8 +147,7 @@ bool DesktopHost::eventFilter(QObject*, QEvent* event) {
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
         case QEvent::Wheel:
-        case QEvent::ContextMenu:
-            return true;
+        case QEvent::ContextMenu: return true;
         case QEvent::Close: event->ignore(); return true;
         default: return false;
     }

@@ -45,7 +45,9 @@ bool FormRules(const std::string& key) {
 FormWindow::FormWindow(Form& form)
     : form_(&form), pane_(new QWidget), scroll_(new QScrollArea), status_(new QLabel) {
     setObjectName(ToQt(form.Name()));
-    if (form.Fixed) setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    if (form.Fixed)
+        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                       Qt::WindowCloseButtonHint);
     scroll_->setWidgetResizable(true);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setFocusPolicy(Qt::NoFocus);
@@ -257,9 +259,12 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             if (form_->Focus.Current() == &control) break;
             if (reason == Qt::MouseFocusReason) pressed_ = view;
             if (reason == Qt::ShortcutFocusReason) {
-                QMetaObject::invokeMethod(view, [this, view] {
-                    if (view->Model() != nullptr) UserReached(*view->Model());
-                }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(
+                    view,
+                    [this, view] {
+                        if (view->Model() != nullptr) UserReached(*view->Model());
+                    },
+                    Qt::QueuedConnection);
             }
             if (reason == Qt::OtherFocusReason || reason == Qt::TabFocusReason) FollowFocusSoon();
             break;
@@ -270,9 +275,12 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             break;
         case QEvent::MouseButtonDblClick:
             if (!control.DoubleClick) break;
-            QMetaObject::invokeMethod(view, [view] {
-                if (view->Model() != nullptr) DoubleClickControl(*view->Model());
-            }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                view,
+                [view] {
+                    if (view->Model() != nullptr) DoubleClickControl(*view->Model());
+                },
+                Qt::QueuedConnection);
             break;
         default: break;
     }
@@ -281,10 +289,13 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 
 // The release first goes on to the widget; then the focus moves, as its handlers may put up boxes.
 void FormWindow::MouseTookFocus(ControlView& view) {
-    QMetaObject::invokeMethod(&view, [this, &view] {
-        if (pressed_ == &view) pressed_ = nullptr;
-        if (view.Model() != nullptr) UserReached(*view.Model());
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &view,
+        [this, &view] {
+            if (pressed_ == &view) pressed_ = nullptr;
+            if (view.Model() != nullptr) UserReached(*view.Model());
+        },
+        Qt::QueuedConnection);
 }
 
 bool FormWindow::KeyPressed(ControlView* view, const QKeyEvent& event) {

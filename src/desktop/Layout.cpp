@@ -65,8 +65,12 @@ Node Words(std::string words) { return {Node::Kind::Words, std::move(words)}; }
 Node Column(std::vector<Node> parts) { return {Node::Kind::Column, {}, std::move(parts)}; }
 Node Row(std::vector<Node> parts) { return {Node::Kind::Row, {}, std::move(parts)}; }
 Node Buttons(std::vector<Node> parts) { return {Node::Kind::Buttons, {}, std::move(parts)}; }
-Node Panel(std::string heading, Node content) { return {Node::Kind::Panel, std::move(heading), {std::move(content)}}; }
-Node Frame(std::string control, Node content) { return {Node::Kind::Frame, std::move(control), {std::move(content)}}; }
+Node Panel(std::string heading, Node content) {
+    return {Node::Kind::Panel, std::move(heading), {std::move(content)}};
+}
+Node Frame(std::string control, Node content) {
+    return {Node::Kind::Frame, std::move(control), {std::move(content)}};
+}
 Node Stretch() { return {Node::Kind::Stretch, {}}; }
 
 Node Table(std::vector<std::vector<Node>> rows) {

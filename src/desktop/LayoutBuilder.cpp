@@ -38,7 +38,8 @@ public:
             const QPoint below = anchor_->mapTo(pane, QPoint(0, anchor_->height() + 1));
             const QSize size = list_->minimumSize();
             const QPoint most(pane->width() - size.width(), pane->height() - size.height());
-            list_->setGeometry(QRect(QPoint(std::min(below.x(), most.x()), std::min(below.y(), most.y())), size));
+            list_->setGeometry(
+                QRect(QPoint(std::min(below.x(), most.x()), std::min(below.y(), most.y())), size));
             list_->raise();
         }
         return QObject::eventFilter(watched, event);
@@ -59,7 +60,8 @@ void LayoutBuilder::Build(const Node& tree, const std::vector<ControlView*>& vie
 
     QHBoxLayout* row = nullptr;
     for (ControlView* view : views) {
-        if (view->Widget() == nullptr || std::find(placed_.begin(), placed_.end(), view->Widget()) != placed_.end()) {
+        if (view->Widget() == nullptr ||
+            std::find(placed_.begin(), placed_.end(), view->Widget()) != placed_.end()) {
             continue;
         }
         constexpr int across = 6;
@@ -78,8 +80,8 @@ void LayoutBuilder::AddTo(QBoxLayout& box, const Node& node) {
     if (node.What == Node::Kind::Stretch) {
         box.addStretch(share);
     } else if (QWidget* widget = MakeWidget(node)) {
-        const bool hugs = node.What == Node::Kind::Item && box.direction() == QBoxLayout::TopToBottom && !node.Grows &&
-                          node.Digits > 0;
+        const bool hugs = node.What == Node::Kind::Item && box.direction() == QBoxLayout::TopToBottom &&
+                          !node.Grows && node.Digits > 0;
         box.addWidget(widget, share, hugs ? Qt::AlignLeft : Qt::Alignment());
     } else if (QLayout* inner = MakeLayout(node)) {
         box.addLayout(inner, share);
@@ -218,7 +220,8 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
         const int rows = node.Rows > 0 ? node.Rows : 8;
         widget->setMinimumHeight(rows * (QFontMetrics(widget->font()).height() + 2) + 6);
         if (node.Digits > 0) {
-            widget->setMinimumWidth(DigitsWide(*widget, node.Digits) + 16 + widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+            widget->setMinimumWidth(DigitsWide(*widget, node.Digits) + 16 +
+                                    widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
         }
         if (!node.Grows && node.Rows > 0) widget->setMaximumHeight(widget->minimumHeight());
     }
@@ -227,8 +230,8 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
 
 void LayoutBuilder::TakeColours(const Control& control) {
     const ControlKind kind = control.Kind();
-    if (control.ColourGroup == 0 || (kind != ControlKind::Label && kind != ControlKind::OptionButton &&
-                                     kind != ControlKind::CheckBox)) {
+    if (control.ColourGroup == 0 ||
+        (kind != ControlKind::Label && kind != ControlKind::OptionButton && kind != ControlKind::CheckBox)) {
         return;
     }
     for (const std::size_t area : open_) {

@@ -35,9 +35,8 @@ public:
         beginResetModel();
         rows_ = list_.RowCount();
         const auto& rows = list_.Rows();
-        const auto longest = std::max_element(rows.begin(), rows.end(), [](const auto& a, const auto& b) {
-            return a.size() < b.size();
-        });
+        const auto longest = std::max_element(
+            rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.size() < b.size(); });
         const QFontMetrics metrics(view_->font());
         const int width = longest == rows.end() ? 0 : metrics.horizontalAdvance(ToQt(*longest));
         size_ = QSize(width + 8, metrics.height() + 2);
@@ -89,7 +88,8 @@ public:
         if (event->type() == QEvent::MouseButtonPress) mouseDown_ = true;
         if (event->type() == QEvent::MouseButtonRelease && mouseDown_) {
             mouseDown_ = false;
-            QMetaObject::invokeMethod(this, [this] { Chosen(true); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { Chosen(true); }, Qt::QueuedConnection);
         }
         return ControlView::eventFilter(watched, event);
     }
@@ -139,7 +139,8 @@ private:
     void PassPicks() {
         std::vector<int> changed;
         for (int row = 0; row < list_.RowCount(); ++row) {
-            if (view_->selectionModel()->isSelected(rows_->index(row)) != list_.IsPicked(row)) changed.push_back(row);
+            if (view_->selectionModel()->isSelected(rows_->index(row)) != list_.IsPicked(row))
+                changed.push_back(row);
         }
         for (const int row : changed) {
             if (Model() == nullptr) return;
@@ -290,7 +291,8 @@ private:
 }  // namespace
 
 ControlView* MakeListView(Control& control, QWidget* parent) {
-    if (control.Kind() == ControlKind::Grid) return new GridView(static_cast<Grid&>(control), new QTableView(parent));
+    if (control.Kind() == ControlKind::Grid)
+        return new GridView(static_cast<Grid&>(control), new QTableView(parent));
     if (control.Kind() == ControlKind::ListBox) {
         auto* const view = new QListView(parent);
         return new ListBoxView(static_cast<ListBox&>(control), view, view);

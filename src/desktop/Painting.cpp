@@ -91,7 +91,8 @@ void Panel::Measure() {
 
 QSize Panel::WithHeading(const QSize& content) const {
     if (heading_.isEmpty()) return content;
-    return content.expandedTo({QFontMetrics(HeadingFont()).horizontalAdvance(heading_) + 2 * Margin, HeadingHeight()});
+    return content.expandedTo(
+        {QFontMetrics(HeadingFont()).horizontalAdvance(heading_) + 2 * Margin, HeadingHeight()});
 }
 
 QSize Panel::sizeHint() const { return WithHeading(QWidget::sizeHint()); }

@@ -99,8 +99,8 @@ QString FilterOf(const std::string& filter) {
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         const QString words = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
-        filters << words + QStringLiteral(" (") + QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')) +
-                       QLatin1Char(')');
+        filters << words + QStringLiteral(" (") +
+                       QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')) + QLatin1Char(')');
     }
     return filters.join(QStringLiteral(";;"));
 }
@@ -173,7 +173,8 @@ std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {
     bool accepted = false;
     font = QFontDialog::getFont(&accepted, font, QApplication::activeWindow());
     if (!accepted) return std::nullopt;
-    return FontChoice{font.family().toStdString(), font.pointSizeF(), font.bold(), font.italic(), font.underline()};
+    return FontChoice{font.family().toStdString(), font.pointSizeF(), font.bold(), font.italic(),
+                      font.underline()};
 }
 
 std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset) {

@@ -29,7 +29,11 @@ inline void Settle() {
 
 class DesktopTest : public SuiteTest {
 protected:
-    DesktopTest() { RegisterForms(); }
+    DesktopTest() {
+        RegisterForms();
+        QObject::connect(&watch_, &QTimer::timeout, CloseForgottenDialog);
+        watch_.start(3000);
+    }
     ~DesktopTest() override {
         ResetForms();
         Settle();
@@ -42,7 +46,7 @@ protected:
         }
         ShowForm(name);
         Form& form = LoadForm(name);
-        (void)QTest::qWaitForWindowActive(Screen.WindowOf(form));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Screen.WindowOf(form)));
         Settle();
         return form;
     }
@@ -57,13 +61,30 @@ protected:
     }
 
     DesktopHost Screen;
+
+private:
+    // A dialog that no test expects would wait for ever.
+    static void CloseForgottenDialog() {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr) return;
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        ADD_FAILURE() << "nobody answered " << dialog->windowTitle().toStdString() << ": "
+                      << (box == nullptr ? "" : box->text().toStdString());
+        if (box != nullptr) {
+            box->buttons().back()->click();
+        } else {
+            HideForm(dialog->objectName().toStdString());
+        }
+    }
+
+    QTimer watch_;
 };
 
 // Runs once a message box or another dialog has opened, from within its loop.
 inline void WhenDialogOpens(const std::function<void(QWidget&)>& act) {
     QTimer::singleShot(0, qApp, [act] {
         QWidget* const dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) {
+        if (dialog == nullptr || !dialog->isActiveWindow()) {
             WhenDialogOpens(act);
         } else {
             act(*dialog);

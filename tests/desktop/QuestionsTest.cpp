@@ -20,7 +20,10 @@ TEST_F(QuestionsTest, BoxesShowWhatTheyAreGiven) {
          {QMessageBox::Ok},
          QMessageBox::Critical,
          Answer::Ok},
-        {{.Text = "<b>Save</b>\n\nchanges?", .Title = " Two  blanks", .Choice = Buttons::YesNo, .Sign = Icon::Question},
+        {{.Text = "<b>Save</b>\n\nchanges?",
+          .Title = " Two  blanks",
+          .Choice = Buttons::YesNo,
+          .Sign = Icon::Question},
          {QMessageBox::Yes, QMessageBox::No},
          QMessageBox::Question,
          Answer::Yes},
@@ -64,7 +67,8 @@ TEST_F(QuestionsTest, YesOrNoHasNoWayRound) {
     EXPECT_FALSE(AskYesNo("Save changes?", "Line Loss"));
 
     WhenDialogOpens([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(ShowMessage({.Text = "Save?", .Title = "Save", .Choice = Buttons::YesNoCancel}), Answer::Cancel);
+    EXPECT_EQ(ShowMessage({.Text = "Save?", .Title = "Save", .Choice = Buttons::YesNoCancel}),
+              Answer::Cancel);
 }
 
 TEST_F(QuestionsTest, AnInputBoxTellsCancelFromEmpty) {

@@ -64,17 +64,21 @@ void AnswerBoxes() {
 }
 
 // A dialog runs its own loop: its picture is taken from within.
-void Within(const std::function<void()>& act) {
-    QMetaObject::invokeMethod(qApp, act, Qt::QueuedConnection);
-}
+void Within(const std::function<void()>& act) { QMetaObject::invokeMethod(qApp, act, Qt::QueuedConnection); }
 
 void FillLine() {
     const struct {
         const char* Box;
         const char* Text;
-    } line[] = {{"txtTagNum", "P-101 discharge"}, {"txtInletPipeLen", "1250"}, {"txtInletPipeID", "6.065"},
-                {"txtInletPipeElev", "12"},       {"txtOutletPipeElev", "85"}, {"txtPipeCond", "5"},
-                {"txtInletGate", "2"},            {"txtInlet90Deg", "6"},      {"txtInletThru", "1"}};
+    } line[] = {{"txtTagNum", "P-101 discharge"},
+                {"txtInletPipeLen", "1250"},
+                {"txtInletPipeID", "6.065"},
+                {"txtInletPipeElev", "12"},
+                {"txtOutletPipeElev", "85"},
+                {"txtPipeCond", "5"},
+                {"txtInletGate", "2"},
+                {"txtInlet90Deg", "6"},
+                {"txtInletThru", "1"}};
     for (const auto& each : line) Type(each.Box, Control::NoIndex, each.Text);
     const char* const flows[] = {"420000", "350000", "120000"};
     for (int i = 0; i < 3; ++i) {

@@ -6,8 +6,8 @@ namespace quillmetra::layout {
 namespace {
 
 Node Identification() {
-    return Panel("", Table({{"lblTagNum", Item("txtTagNum").Wide(22), "lblFluid", Item("txtFluid").Wide(30).Grow(),
-                             Item("cmdFormLayout").Wide(14)}}));
+    return Panel("", Table({{"lblTagNum", Item("txtTagNum").Wide(22), "lblFluid",
+                             Item("txtFluid").Wide(30).Grow(), Item("cmdFormLayout").Wide(14)}}));
 }
 
 Node Line() {
@@ -15,7 +15,7 @@ Node Line() {
                                  "lblInletPipeElev", "txtInletPipeElev", "unInletPipeElev"},
                                 {"lblInletPipeID", "txtInletPipeID", "cmdUnits(18)", "cmdPipeID", "",
                                  "lblOutletPipeElev", "txtOutletPipeElev", "unOutletPipeElev"},
-                                {"lblMatl", "cmdMatl", "", "", "", "lblPipeCond", "txtPipeCond", Words("%")}}));
+                                {"lblPipeCond", "txtPipeCond", Words("%"), "", "", "lblMatl", "cmdMatl"}}));
 }
 
 Node Fittings() {
@@ -52,12 +52,11 @@ Node CasesAndResults() {
 }
 
 Node Signatures() {
-    return Panel("Prepared",
-                 Column({Table({{"lblBy", Item("txtBy").Wide(16).Grow()},
-                                {"lblApprov", Item("txtApprov").Wide(16).Grow()},
-                                {Words("Date"), "cmdDate"}}),
-                         "lblComments", Item("txtComments(0)").Wide(24).Grow(), Item("txtComments(1)").Wide(24).Grow(),
-                         Stretch()}));
+    return Panel("Prepared", Column({Table({{"lblBy", Item("txtBy").Wide(16).Grow()},
+                                            {"lblApprov", Item("txtApprov").Wide(16).Grow()},
+                                            {Words("Date"), "cmdDate"}}),
+                                     "lblComments", Item("txtComments(0)").Wide(24).Grow(),
+                                     Item("txtComments(1)").Wide(24).Grow(), Stretch()}));
 }
 
 Node Basis() {
@@ -69,20 +68,23 @@ Node Components() {
     for (int i = 0; i < 16; ++i) {
         rows.push_back({Item("lblComponent", i).Wide(20), Item("txtPercent", i).Wide(8)});
     }
-    return Frame("fraComponent", Column({Table(std::move(rows)), Row({"lblRemainingCaption", "lblRemaining", Stretch()}),
-                                         Buttons({"cmdCalcPseudo", "cmdClear"})}));
+    return Frame("fraComponent",
+                 Column({Table(std::move(rows)), Row({"lblRemainingCaption", "lblRemaining", Stretch()}),
+                         Buttons({"cmdCalcPseudo", "cmdClear"})}));
 }
 
 Node Liquids() {
-    return Frame("fraLiquidData", Column({Item("lstFluid").Wide(105).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}));
+    return Frame("fraLiquidData",
+                 Column({Item("lstFluid").Wide(105).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}));
 }
 
 }  // namespace
 
 Node frmLiqLineLoss() {
-    return Over(Frame("Picture1", Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
-                                          Row({CasesAndResults().Grow(), Column({Signatures().Grow(), Basis()})}).Grow(),
-                                          Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")})),
+    return Over(Frame("Picture1",
+                      Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
+                              Row({CasesAndResults().Grow(), Column({Signatures().Grow(), Basis()})}).Grow(),
+                              Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")})),
                 {Liquids(), Components()});
 }
 

@@ -6,21 +6,23 @@ namespace quillmetra::layout {
 namespace {
 
 Node Database() {
-    return Frame("fraDatabase", Column({Row({"optDefaultDB", "optBrouseDB", Stretch(), "cmdDBOpen", "cmdDBClose"}),
-                                        Item("lblPath(0)").Wrapped()}));
+    return Frame("fraDatabase",
+                 Column({Row({"optDefaultDB", "optBrouseDB", Stretch(), "cmdDBOpen", "cmdDBClose"}),
+                         Item("lblPath(0)").Wrapped()}));
 }
 
 Node Record() {
     const auto box = [](const char* name) { return Item(name).Wide(22).Grow(); };
-    return Frame("fraRecord", Column({Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord",
-                                           "lblNumRecords"}),
-                                      Row({"cmdBrowse", "cmdFind", "cmdSearchDate", "cmdDelete", Stretch(),
-                                           "cmdDisplayCalc"}),
-                                      Table({
-                                          {"lblTagNum", box("txtTagNum"), "lblTRCalc", box("txtTRCalc")},
-                                          {"lblFluidType", box("txtFluidType"), "lblCalcBy", box("txtCalcBy")},
-                                          {"lblCalcDate", box("txtCalcDate"), "lblDataDate", box("txtDataDate")},
-                                      })}));
+    return Frame(
+        "fraRecord",
+        Column({Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord",
+                     "lblNumRecords"}),
+                Row({"cmdBrowse", "cmdFind", "cmdSearchDate", "cmdDelete", Stretch(), "cmdDisplayCalc"}),
+                Table({
+                    {"lblTagNum", box("txtTagNum"), "lblTRCalc", box("txtTRCalc")},
+                    {"lblFluidType", box("txtFluidType"), "lblCalcBy", box("txtCalcBy")},
+                    {"lblCalcDate", box("txtCalcDate"), "lblDataDate", box("txtDataDate")},
+                })}));
 }
 
 Node Tags() {
@@ -30,7 +32,8 @@ Node Tags() {
 }  // namespace
 
 Node frmTRProg() {
-    return Over(Column({Frame("fraPrograms", Row({Words("Choose one of the calculation programs"), Stretch(), "cmdOK"})),
+    return Over(Column({Frame("fraPrograms",
+                              Row({Words("Choose one of the calculation programs"), Stretch(), "cmdOK"})),
                         Database(), Record(), Stretch()}),
                 {Tags()});
 }
