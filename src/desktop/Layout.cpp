@@ -17,6 +17,8 @@ constexpr Entry Layouts[] = {
     {"frmObxProg", frmObxProg},
     {"frmLiqLineLoss", frmLiqLineLoss},
     {"frmPipeSize", frmPipeSize},
+    {"frmUnits", frmUnits},
+    {"frmCalcOptions", frmCalcOptions},
 };
 }  // namespace
 

@@ -133,6 +133,18 @@ int main(int argc, char** argv) {
     Shoot("line-changed");
     for (int i = 0; i < 3; ++i) Click("frmLiqLineLoss", "cmdCalculate", i);
     Shoot("line-results");
+    Click("frmLiqLineLoss", "cmdFormLayout");
+    Shoot("options");
+    Click("frmCalcOptions", "cmdCancelOptions");
+    Click("frmLiqLineLoss", "cmdUnits", 1);
+    Shoot("units");
+    Click("frmUnits", "cmdUnit", 3);
+    Shoot("units-choose");
+    Click("frmUnits", "cmdCancel");
+    Click("frmUnits", "cmdUnit", 1);
+    Shoot("units-basis");
+    Click("frmUnits", "cmdCanBasis");
+    Click("frmUnits", "cmdCancelUn");
     ControlOf("frmLiqLineLoss", "fraComponent").SetVisible(true);
     Shoot("line-mixture");
     ResetForms();

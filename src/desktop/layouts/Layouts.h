@@ -5,9 +5,11 @@
 
 namespace quillmetra::layout {
 
+Node frmCalcOptions();
 Node frmLiqLineLoss();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmTRProg();
+Node frmUnits();
 
 }  // namespace quillmetra::layout
