@@ -26,8 +26,8 @@ struct SuiteState {
     Row<std::uint32_t, 13> Colours{};                                  // 1 to 12, 0x00BBGGRR
     std::string HideFluidReminder, HideRoundReminder, HideFlowStatus;  // "Yes" or empty, never read back
     Row<std::string, 36> UserLiquidUnitName{}, UserGasUnitName{};
-    UnitFactors UserLiquidUnitFactor{}, UserGasUnitFactor{};           // 0 where there is no unit
-    std::string UserLiquidBasis, UserGasBasis;                         // of the two flow units
+    UnitFactors UserLiquidUnitFactor{}, UserGasUnitFactor{};  // 0 where there is no unit
+    std::string UserLiquidBasis, UserGasBasis;                // of the two flow units
     Row<UnitList, 21> UnitLibrary{};  // the unit lists 0 to 20, see units/UnitCatalogue.h
     UnitList PressureStem{};          // pressure units without the ending "g" or "a"
     std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded

@@ -201,7 +201,7 @@ TEST_F(ConversionTest, LiquidViscosity) {
 
         TakeViscosity(each);
         Calc.FlowingSG = 0.8;
-        Calc.CaseInput[6] = {0, 9, 9};
+        Calc.CaseInput[6] = {-0.8, 9, 9};
         ConvertViscosityLiquid(1);
         const bool kinematic = std::string(each.From).find("s") == 1 || std::string(each.To) == "cs" ||
                                std::string(each.From) == "m2/s" || std::string(each.To) == "m2/s";

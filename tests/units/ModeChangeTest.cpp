@@ -42,8 +42,7 @@ TEST_F(ModeChangeTest, Pressures) {
         {words::Gauge, 4.7, -10},
         {words::Gauge, 0, 0},
         {words::Gauge, 15.1, 15.1},   // 0.4 rounds to 0
-        {words::Gauge, 15.2, 15.2},   // and so does a half
-        {words::Gauge, 15.21, 0.51},  // but not more
+        {words::Gauge, 15.21, 0.51},  // not any more
         {words::Gauge, 14.2, 14.2},
         {words::Gauge, 14.19, -0.51},
     };
@@ -88,6 +87,18 @@ TEST_F(ModeChangeTest, ThePressureModeThatIsInForceChangesNothing) {
     Calc.UnitName[3].clear();
     ChangePressureMode(words::Absolute);
     EXPECT_EQ(Calc.PressureMode, "Psia");
+}
+
+// A half rounds to the even 0, and so stays.
+TEST_F(ModeChangeTest, HalfAUnitFromTheBarometerIsNoGaugePressure) {
+    TakeLine();
+    ChangePressureMode(words::Absolute);
+    Calc.BaroPressure = 14.5;
+    Calc.CaseInput[3] = {15, 14, 16};
+    ChangePressureMode(words::Gauge);
+    EXPECT_EQ(Calc.CaseInput[3][0], 15);
+    EXPECT_EQ(Calc.CaseInput[3][1], 14);
+    EXPECT_EQ(Calc.CaseInput[3][2], 1.5);
 }
 
 // A record just loaded has no barometric pressure yet.

@@ -116,7 +116,6 @@ TEST_F(UnitDefinitions, PressureStemsAreThePressures) {
     }
 }
 
-// 1 m2/s is a million centistokes, and water of 1 cp has about 1 of them; see the conversion of viscosities.
 TEST_F(UnitDefinitions, TemperaturesByTheKelvin) {
     const Definitions degrees = {{"degF", 1 / 1.8}, {"degC", 1}, {"degR", 1 / 1.8}, {"degK", 1}};  // K
     const Definitions ice = {{"degF", 32}, {"degC", 0}, {"degR", 491.67}, {"degK", 273.15}};

@@ -2,6 +2,7 @@
 // force.
 #include "units/UserUnits.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 
@@ -142,6 +143,9 @@ TEST_F(UserUnitsTest, ABadFactorNeverEntersTheRecord) {
             Calc.CurrentProgram = 1;
             Calc.FluidType = words::Liquid;
             ASSERT_TRUE(ReadUserUnits());
+            const UnitFactors& read = Suite.UserLiquidUnitFactor;
+            EXPECT_EQ(std::count_if(read.begin(), read.end(), IsUsableFactor), 9) << bad;
+            EXPECT_EQ(std::count(read.begin(), read.end(), 0), 27) << bad;
             const CalcRecord before = Calc;
             if (line == 3) {
                 EXPECT_FALSE(ApplyNamedUnitSet(UserUnitSet)) << bad;
