@@ -58,10 +58,9 @@ FormWindow::FormWindow(Form& form)
     pane_->installEventFilter(this);
 
     MakeViews();
-    if (!form.Fixed) {
-        status_->setTextFormat(Qt::PlainText);
-        statusBar()->addWidget(status_, 1);
-    }
+    status_->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(status_, 1);
+    statusBar()->setSizeGripEnabled(!form.Fixed);
     for (ControlView* view : views_) view->RenewAll();
     PaintAreas();
     RenewForm();
@@ -135,7 +134,7 @@ void FormWindow::TakeFirstSize() {
         size.setWidth(std::max(size.width(), menuBar()->sizeHint().width()));
         size.rheight() += menuBar()->sizeHint().height();
     }
-    if (!form_->Fixed) size.rheight() += statusBar()->sizeHint().height();
+    size.rheight() += statusBar()->sizeHint().height();
     constexpr int frame = 40;  // title bar and borders of the window manager
     const QSize most = screen()->availableSize() - QSize(8, frame);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);

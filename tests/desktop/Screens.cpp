@@ -98,7 +98,7 @@ int main(int argc, char** argv) {
     if (argc != 2) return 2;
     Folder = argv[1];
     UseSuiteStyle();
-    QApplication::setFont(QFont("DejaVu Sans", 10));
+    QApplication::setFont(QFont("DejaVu Sans", 9));
     QApplication::setQuitOnLastWindowClosed(false);
     QTimer boxes;
     QObject::connect(&boxes, &QTimer::timeout, AnswerBoxes);
