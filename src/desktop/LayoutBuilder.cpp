@@ -193,6 +193,8 @@ QWidget* LayoutBuilder::MakeOver(const Node& node) {
         if (area == nullptr) continue;
         if (auto* const panel = dynamic_cast<Panel*>(area)) panel->SetRaised(true);
         row->addWidget(area, 0, Qt::AlignVCenter);
+        // Room for it from the start, so that the window need not scroll when it shows.
+        base->setMinimumSize(base->minimumSize().expandedTo(area->sizeHint()));
     }
     grid->addWidget(top, 0, 0, Qt::AlignCenter);
     return both;
@@ -202,7 +204,10 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
     QWidget* const widget = view.Widget();
     const ControlKind kind = view.Model()->Kind();
     if (node.IsTyped) widget->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    if (auto* const label = qobject_cast<QLabel*>(widget)) label->setWordWrap(node.Wraps);
+    if (auto* const label = qobject_cast<QLabel*>(widget)) {
+        label->setWordWrap(node.Wraps);
+        if (node.Rows > 0) label->setMinimumHeight(node.Rows * label->fontMetrics().lineSpacing());
+    }
     if (kind == ControlKind::Frame) return;
 
     QSizePolicy policy = widget->sizePolicy();

@@ -20,15 +20,15 @@ Node UnitRows(std::initializer_list<int> rows) {
 Node Choosing() {
     return Frame("fraSelect",
                  Column({Row({"optMass", "optVol", Stretch()}), Buttons({"cmdBasis", "cmdCanBasis"}),
-                         Row({Column({"lblUnit", Item("cboUnit").Wide(14).Tall(10)}),
-                              Column({"lblMultiplier", Item("cboFactor").Wide(18).Tall(10)})}),
+                         Row({Column({"lblUnit", Item("cboUnit").Wide(10).Tall(11)}),
+                              Column({"lblMultiplier", Item("cboFactor").Wide(14).Tall(11)})}),
                          Buttons({"cmdReplace", "cmdSelect", "cmdCancel"})}));
 }
 
 }  // namespace
 
 Node frmUnits() {
-    return Over(Column({Panel("", Item("lblInstruct").Wrapped().Wide(60)),
+    return Over(Column({Panel("", Item("lblInstruct").Wrapped().Tall(3)),
                         Frame("fraRows", Row({UnitRows({0, 19, 1, 5, 2, 3, 4, 7, 12}),
                                               UnitRows({11, 20, 27, 13, 18, 25, 9})}))
                             .Grow(),
