@@ -1,0 +1,201 @@
+// Starting with whatever files a folder holds: paths, colours, standard conditions, headings, shipped tables.
+#include "core/StartUp.h"
+
+#include <fstream>
+#include <sstream>
+
+#include "core/Words.h"
+#include "forms/LoadDefaults.h"
+#include "forms/RegisterForms.h"
+#include "platform/ProgramPlaces.h"
+#include "platform/UserActs.h"
+#include "tests/SuiteFixture.h"
+
+namespace quillmetra {
+namespace {
+
+namespace fs = std::filesystem;
+
+class StartUpTest : public SuiteTest {
+protected:
+    StartUpTest() { RegisterForms(); }
+
+    void Write(const fs::path& path, std::string_view bytes) {
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+    static std::string Read(const fs::path& path) {
+        std::stringstream text;
+        text << std::ifstream(path, std::ios::binary).rdbuf();
+        return text.str();
+    }
+    void Start() {
+        ResetForms();
+        RegisterForms();
+        Calc = CalcRecord();
+        Suite = SuiteState();
+        StartUp(SuitePath(Folder));
+    }
+};
+
+TEST_F(StartUpTest, AnEmptyFolderShowsTheBrowserWithoutAWord) {
+    fs::remove_all(DataFolder());
+    Start();
+    EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
+    EXPECT_TRUE(LoadedForm("frmTRProg")->Visible());
+    EXPECT_EQ(Suite.VersionText.substr(0, 4), "Ver.");
+    EXPECT_EQ(Suite.VersionText.substr(Suite.VersionText.size() - 3), ".  ");
+    for (std::size_t i = 1; i <= 4; ++i) EXPECT_EQ(Suite.DefaultPaths[i], SuitePath(Folder) + "\\TRData");
+    EXPECT_EQ(Suite.HelpFile, SuitePath(Folder) + "\\VOTR.HLP");
+    for (std::size_t slot = 1; slot <= 12; ++slot) EXPECT_EQ(Suite.Colours[slot], DefaultColours[slot - 1]);
+    EXPECT_FALSE(fs::exists(DataFolder())) << "nothing is written before there is something to keep";
+}
+
+TEST_F(StartUpTest, PathsComeFromAWholeFileOnly) {
+    const struct {
+        const char* Content;
+        bool Whole;
+    } cases[] = {
+        {"\"d:\\db\"\r\n\"d:\\units\"\r\n\"d:\\heads\"\r\n\"d:\\data, all\"\r\n", true},
+        {"\"d:\\db\"\n\"d:\\units\"\n\"d:\\heads\"\n\"d:\\data, all\"", true},
+        {"\"d:\\db\"\r\n\"d:\\units\"\r\n\"d:\\heads\"\r\n", false},
+        {"\"d:\\db\",\"d:\\units\"\x1A,\"d:\\heads\",\"d:\\data, all\"", false},
+        {"", false},
+    };
+    for (const auto& each : cases) {
+        Write(Folder / "trdrv.TXT", each.Content);
+        Start();
+        EXPECT_EQ(Suite.DefaultPaths[1], each.Whole ? "d:\\db" : SuitePath(Folder) + "\\TRData")
+            << each.Content;
+        EXPECT_EQ(Suite.DefaultPaths[4], each.Whole ? "d:\\data, all" : SuitePath(Folder) + "\\TRData");
+        EXPECT_EQ(Suite.DefaultPaths[5], SuitePath(Folder));
+    }
+    // A folder under the file's name is no file, and stops nobody.
+    fs::remove(Folder / "trdrv.TXT");
+    fs::create_directory(Folder / "TRDRV.txt");
+    Start();
+    EXPECT_EQ(Suite.DefaultPaths[4], SuitePath(Folder) + "\\TRData");
+    EXPECT_TRUE(User.Boxes.empty());
+}
+
+TEST_F(StartUpTest, ColoursComeFromTwelveLinesOnly) {
+    const std::string eleven = " 1\r\n 2\r\n 3\r\n 4\r\n 5\r\n 6\r\n 7\r\n 8\r\n 9\r\n 10\r\n 11\r\n";
+    WriteData("TRcolr.txt", eleven);
+    Start();
+    EXPECT_EQ(Suite.Colours[1], DefaultColours[0]) << "a half-read file leaves nothing behind";
+    WriteData("TRcolr.txt", eleven + " 12\r\n");
+    Start();
+    EXPECT_EQ(Suite.Colours[1], 1U);
+    EXPECT_EQ(Suite.Colours[12], 12U);
+    WriteData("TRcolr.txt", "-1\n1e300\n16777216\n" + eleven);
+    Start();
+    for (std::size_t slot = 1; slot <= 3; ++slot) {
+        EXPECT_EQ(Suite.Colours[slot], DefaultColours[slot - 1]) << "no colour, slot " << slot;
+    }
+    EXPECT_EQ(Suite.Colours[4], 1U);
+}
+
+TEST_F(StartUpTest, StandardConditionsAreReadAsFarAsTheyGo) {
+    const struct {
+        const char* Content;
+        double Temperature, Pressure, Barometer;
+    } cases[] = {
+        {" 60\r\n 14.696\r\n 14.2\r\nYes\r\nYes\r\nYes\r\n", 60, 14.696, 14.2},
+        {"0\n0\n0\n", 60, 14.7, 14.7},
+        {"-10\n-1\n-1\n", -10, 14.7, 14.7},
+        {"59", 59, 14.7, 14.7},
+        {"59\r\n14.5\r\n  ", 59, 14.5, 14.7},
+        {"59\n\n\n\n", 59, 14.7, 14.7},
+        {"sixty,1e999,nan", 60, 14.7, 14.7},
+        {"", 60, 14.7, 14.7},
+    };
+    for (const auto& each : cases) {
+        WriteData("TRSTP.TXT", each.Content);
+        Calc = CalcRecord();
+        LoadDefaults();
+        EXPECT_EQ(Calc.StdTemperature, each.Temperature) << each.Content;
+        EXPECT_EQ(Calc.StdPressure, each.Pressure) << each.Content;
+        EXPECT_EQ(Calc.BaroPressure, each.Barometer) << each.Content;
+        EXPECT_EQ(Calc.CaseInput[21][0], each.Temperature);
+        EXPECT_EQ(Calc.CaseInput[22][0], each.Pressure);
+        EXPECT_EQ(Calc.CaseInput[23][0], each.Barometer);
+        EXPECT_TRUE(Suite.HideFlowStatus.empty()) << "the words last as long as the process";
+    }
+    fs::remove(DataFolder() / "TRSTP.TXT");
+    Calc = CalcRecord();
+    LoadDefaults();
+    EXPECT_EQ(Calc.BaroPressure, 0) << "without a file nothing changes";
+    RestoreStandardConditions();
+    EXPECT_EQ(Calc.BaroPressure, 14.7);
+    EXPECT_EQ(Calc.UnitName[23], "psia");
+}
+
+TEST_F(StartUpTest, StandardConditionsAreWrittenPressureFirst) {
+    fs::create_directory(Folder / "units");
+    Suite.DefaultPaths[2] = SuitePath(Folder / "units");  // read from here
+    Calc.StdTemperature = 60;
+    Calc.StdPressure = 14.7;
+    Calc.BaroPressure = 14.2;
+    Suite.HideFlowStatus = words::Yes;
+    SaveStandardConditions();
+    EXPECT_EQ(Read(DataFolder() / "TRSTP.TXT"), " 14.7\r\n 60\r\n 14.2\r\n\r\n\r\nYes\r\n");
+    EXPECT_FALSE(fs::exists(Folder / "units" / "TRSTP.TXT"));
+    // Where nothing can be written, the words still hold and nobody is told.
+    Suite.DefaultPaths[4] = SuitePath(DataFolder() / "Liquid.txt");
+    SaveStandardConditions();
+    EXPECT_TRUE(User.Boxes.empty());
+}
+
+TEST_F(StartUpTest, HeadingsAreSevenLinesAtMost) {
+    WriteData("TRHDG.txt", "Works, north\r\n\"Unit 3\"\r\n\r\nD\r\nE\r\nF\r\nG\r\nH\r\n");
+    LoadHeadings();
+    EXPECT_EQ(Calc.HeadingText[1], "Works, north");
+    EXPECT_EQ(Calc.HeadingText[2], "\"Unit 3\"") << "lines are read whole";
+    EXPECT_EQ(Calc.HeadingText[3], "");
+    EXPECT_EQ(Calc.HeadingTextSaved[7], "G");
+    EXPECT_EQ(Calc.HeadingText[8], "");
+    WriteData("TRHDG.txt", "New");
+    LoadHeadings();
+    EXPECT_EQ(Calc.HeadingText[1], "New");
+    EXPECT_EQ(Calc.HeadingText[4], "D") << "a short file ends the reading, it clears nothing";
+}
+
+TEST_F(StartUpTest, ShippedTablesFillGapsOnly) {
+    fs::remove(DataFolder() / "Liquid.txt");
+    fs::remove(DataFolder() / "Gas.txt");
+    WriteData("LIQUID.TXT", "mine");
+    WriteData("W-PIPE.TXT", "");
+    SeedShippedData(SuitePath(Folder));
+    EXPECT_EQ(Read(DataFolder() / "LIQUID.TXT"), "mine");
+    EXPECT_FALSE(fs::exists(DataFolder() / "Liquid.txt")) << "the name counts without its case";
+    EXPECT_EQ(Read(DataFolder() / "W-PIPE.TXT"), "") << "an empty file is the user's too";
+    EXPECT_EQ(Read(DataFolder() / "Gas.txt"), Read(ShippedDataFolder() / "Gas.txt"));
+    EXPECT_FALSE(Read(DataFolder() / "Gas.txt").empty());
+    for (const auto& entry : fs::directory_iterator(DataFolder())) {
+        EXPECT_EQ(entry.path().string().find("-new"), std::string::npos) << entry.path();
+    }
+    // A folder that cannot be made: silence, and the suite starts all the same.
+    Write(Folder / "file", "");
+    SeedShippedData(SuitePath(Folder / "file"));
+    EXPECT_TRUE(User.Boxes.empty());
+}
+
+TEST_F(StartUpTest, TheBrowserHidesAndBringsBackThePrompts) {
+    Start();
+    auto& entry = dynamic_cast<MenuItem&>(ControlOf("frmTRProg", "mnuDoNotShow"));
+    ClickControl(entry);
+    EXPECT_TRUE(entry.Checked());
+    for (const std::string* word :
+         {&Suite.HideFluidReminder, &Suite.HideRoundReminder, &Suite.HideFlowStatus}) {
+        EXPECT_EQ(*word, words::Yes);
+    }
+    Suite.HideFlowStatus.clear();
+    OpenMenu(dynamic_cast<MenuItem&>(ControlOf("frmTRProg", "mnuOptions")));
+    EXPECT_FALSE(entry.Checked()) << "one of them is shown again";
+    ClickControl(entry);
+    ClickControl(entry);
+    EXPECT_TRUE(Suite.HideFluidReminder.empty());
+    EXPECT_NE(Read(DataFolder() / "TRSTP.TXT").find("\r\n\r\n\r\n\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quillmetra
