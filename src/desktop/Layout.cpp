@@ -13,12 +13,8 @@ struct Entry {
 };
 
 constexpr Entry Layouts[] = {
-    {"frmTRProg", frmTRProg},
-    {"frmObxProg", frmObxProg},
-    {"frmLiqLineLoss", frmLiqLineLoss},
-    {"frmPipeSize", frmPipeSize},
-    {"frmUnits", frmUnits},
-    {"frmCalcOptions", frmCalcOptions},
+    {"frmTRProg", frmTRProg},     {"frmObxProg", frmObxProg}, {"frmLiqLineLoss", frmLiqLineLoss},
+    {"frmPipeSize", frmPipeSize}, {"frmUnits", frmUnits},     {"frmCalcOptions", frmCalcOptions},
 };
 }  // namespace
 
