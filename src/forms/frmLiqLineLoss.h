@@ -1,11 +1,11 @@
 // Program 1: the pressure at the far end of a liquid line, for three cases.
 #pragma once
 
-#include "forms/CalculationForm.h"
+#include "forms/LineLossForm.h"
 
 namespace quillmetra {
 
-class frmLiqLineLoss : public CalculationForm {
+class frmLiqLineLoss : public LineLossForm {
 public:
     frmLiqLineLoss();
 
@@ -16,115 +16,21 @@ public:
     MenuItem mnuMixture2{mnuCase(1), "mnuMixture2", "&Mixture"};
     MenuItem mnuMixture3{mnuCase(2), "mnuMixture3", "&Mixture"};
 
-    // The line
-    Label lblInletPipeLen{Picture1, "lblInletPipeLen", "Length"};
-    TextBox txtInletPipeLen{Picture1, "txtInletPipeLen"};
-    Label lblInletPipeID{Picture1, "lblInletPipeID", "Inside diameter"};
-    TextBox txtInletPipeID{Picture1, "txtInletPipeID"};
-    CommandButton cmdPipeID{Picture1, "cmdPipeID", "&Pipe size"};
-    Label lblInletPipeElev{Picture1, "lblInletPipeElev", "Start elevation"};
-    TextBox txtInletPipeElev{Picture1, "txtInletPipeElev"};
-    Label unInletPipeElev{Picture1, "unInletPipeElev"};
-    Label lblOutletPipeElev{Picture1, "lblOutletPipeElev", "End elevation"};
-    TextBox txtOutletPipeElev{Picture1, "txtOutletPipeElev"};
-    Label unOutletPipeElev{Picture1, "unOutletPipeElev"};
-    Label lblPipeCond{Picture1, "lblPipeCond", "Pipe % fouling. New=0"};
-    TextBox txtPipeCond{Picture1, "txtPipeCond"};
-    Label lblMatl{Picture1, "lblMatl", "Pipe material"};
-    CommandButton cmdMatl{Picture1, "cmdMatl", "Steel"};
-    ListBox lstMatl{Picture1, "lstMatl"};
-
-    // Valves and fittings
-    Label lblInletGate{Picture1, "lblInletGate", "Gate"};
-    TextBox txtInletGate{Picture1, "txtInletGate"};
-    Label lblInletGlobe{Picture1, "lblInletGlobe", "Globe"};
-    TextBox txtInletGlobe{Picture1, "txtInletGlobe"};
-    Label lblInletCheck{Picture1, "lblInletCheck", "Check"};
-    TextBox txtInletCheck{Picture1, "txtInletCheck"};
-    Label lblInlet90Deg{Picture1, "lblInlet90Deg", "90 deg ell"};
-    TextBox txtInlet90Deg{Picture1, "txtInlet90Deg"};
-    Label lblInlet45Deg{Picture1, "lblInlet45Deg", "45 deg ell"};
-    TextBox txtInlet45Deg{Picture1, "txtInlet45Deg"};
-    Label lblInletThru{Picture1, "lblInletThru", "Thru tee"};
-    TextBox txtInletThru{Picture1, "txtInletThru"};
-    Label lblInletBranch{Picture1, "lblInletBranch", "Branch tee"};
-    TextBox txtInletBranch{Picture1, "txtInletBranch"};
-    CheckBox chkEntrance{Picture1, "chkEntrance", "Entrance"};
-    CheckBox chkExit{Picture1, "chkExit", "Exit"};
-    OptionButton optDestination{Picture1, "optDestination", "Calculate destination pressure"};
-    OptionButton optSource{Picture1, "optSource", "Calculate source pressure"};
-
-    // The three cases
-    ControlArray<Label> lblCase{Picture1, "lblCase", {0, 1, 2}, ""};
-    Label lblFlow{Picture1, "lblFlow", "Flow"};
-    ControlArray<TextBox> txtFlow{Picture1, "txtFlow", {0, 1, 2}};
-    Label lblTemp{Picture1, "lblTemp", "Temperature"};
-    ControlArray<TextBox> txtTemp{Picture1, "txtTemp", {0, 1, 2}};
-    Label lblPressure{Picture1, "lblPressure", "Source pressure"};
-    ControlArray<TextBox> txtPressure{Picture1, "txtPressure", {0, 1, 2}};
     Label lblSGFlow{Picture1, "lblSGFlow", "Specific gravity @ FTP"};
     ControlArray<TextBox> txtSGFlow{Picture1, "txtSGFlow", {0, 1, 2}};
-    Label lblViscosity{Picture1, "lblViscosity", "Viscosity"};
-    ControlArray<TextBox> txtViscosity{Picture1, "txtViscosity", {0, 1, 2}};
-    Label lblEquip{Picture1, "lblEquip", "Equipment loss"};
-    ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
-    ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
-    ControlArray<CommandButton> cmdUnits{Picture1, "cmdUnits", {1, 2, 3, 4, 6, 7, 18, 25}, ""};
-
-    // Results
-    Label lblDropP100{Picture1, "lblDropP100", "Loss per 100 "};
-    ControlArray<TextBox> txtDropP100{Picture1, "txtDropP100", {0, 1, 2}};
-    Label unDropP100{Picture1, "unDropP100"};
-    Label lblDestPress{Picture1, "lblDestPress", "Destination pressure"};
-    ControlArray<TextBox> txtDestPress{Picture1, "txtDestPress", {0, 1, 2}};
-    Label unDestPress{Picture1, "unDestPress"};
-    Label lblVelocity{Picture1, "lblVelocity", "Velocity"};
-    ControlArray<TextBox> txtVelocity{Picture1, "txtVelocity", {0, 1, 2}};
-    Label unVelocity{Picture1, "unVelocity"};
     Label lblReynoldsNum{Picture1, "lblReynoldsNum", "Reynolds number"};
     ControlArray<TextBox> txtReynoldsNum{Picture1, "txtReynoldsNum", {0, 1, 2}};
-    Label lblEquivLen{Picture1, "lblEquivLen", "Equivalent length"};
-    TextBox txtEquivLen{Picture1, "txtEquivLen"};
-    Label unEquivLen{Picture1, "unEquivLen"};
-
-    void cmdCalculate_Click(int index);
-    void cmdPipeID_Click();
-    void cmdMatl_Click();
-    void lstMatl_DoubleClick();
-    void optDestination_Click();
-    void optSource_Click();
-    void mnuFluiProp_Click();
-    void mnuCase_Click(int index);
-    void mnuPureLiquid_Click(int index);
-    void cmdSelect_Click();
-    void txtTemp_LostFocus(int index);
-    void txtPressure_LostFocus(int index);
 
 protected:
-    void StoreOwn() override;
-    void ShowChoices() override;
-    Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
+    std::vector<CaseBoxes> BoxesOfACase() const override;
+    bool CheckFluid() override;
+    bool CheckSourcePressure() override;
+    bool CalculateCase() override;
+    bool TakeFluid() override;
 
 private:
-    void OrderTabs();
-    void Hook();
-    bool CheckData();
-    bool CheckTempPressureOfCase();
-    // The check before a fluid is picked or renewed: the vapour pressure of the old fluid does not count.
-    bool CheckForNewFluid();
     void ShowResults();
-    void UpdateFluidProperties();
-    // Parses FluidRow and fills the case in hand with the liquid's properties; false when it was given up.
-    bool TakeLiquid();
     void FillCase();
-    void NoteEntered(int caseIndex);
-    bool HasTempAndPressure(int caseIndex) const;
-    void EnterState(TextBox& box);
-    // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
-    void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
-
-    const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
-    std::string textBefore_;
 };
 
 }  // namespace quillmetra

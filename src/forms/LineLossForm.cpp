@@ -1,0 +1,225 @@
+// See LineLossForm.h: the line, the cases and the calculation. The fluid is in LineLossFluid.cpp.
+#include "forms/LineLossForm.h"
+
+#include "core/Words.h"
+#include "forms/DataCheck.h"
+#include "reports/FormRefresh.h"
+#include "tables/PipeSizes.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr const char* CaseWords[CaseCount] = {"Maximum", "Normal", "Minimum"};
+}  // namespace
+
+LineLossForm::LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows)
+    : CalculationForm(names), cmdUnits(Picture1, "cmdUnits", rows, ""), pipeWord_(pipeWord) {
+    for (int i = 0; i < CaseCount; ++i) {
+        lblCase(i).SetCaption(CaseWords[i]);
+        cmdCalculate(i).SetCaption(CaseWords[i]);
+        cmdCalculate(i).SetToolTip(std::string("Calculates the ") + CaseWords[i] + " case");
+    }
+    chkEntrance.SetToolTip("Allows for a large reduction in line size");
+    chkExit.SetToolTip("Allows for a large increase in line size");
+    lstMatl.SetVisible(false);
+    lstMatl.Describe(&lblMatl);
+    cmdMatl.Describe(&lblMatl);
+    optDestination.SetChecked(true);
+    cmdUnits.Each([this](CommandButton& button, int) {
+        button.SetToolTip("The unit of this row; click to change units");
+        button.Click = [this] { OpenPanel("frmUnits"); };
+    });
+}
+
+void LineLossForm::Assemble() {
+    // Mixtures are yet to come.
+    for (MenuItem* entry : MixtureEntries) entry->SetEnabled(false);
+    for (MenuItem* entry : PureEntries) entry->SetEnabled(false);
+    HookLine();
+    HookFluid();
+    DescribeRows();
+    OrderTabs();
+}
+
+// Tab follows the reading order of the data: what names the calculation, the line, then case by case
+// downwards, each with its calculate button, and the signatures; unit buttons come last.
+void LineLossForm::OrderTabs() {
+    TabOrder = {&txtTagNum,        &txtFluid,          &txtInletPipeLen, &txtInletPipeID, &cmdPipeID,
+                &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,     &cmdMatl,        &lstMatl,
+                &txtInletGate,     &txtInletGlobe,     &txtInletCheck,   &txtInlet90Deg,  &txtInlet45Deg,
+                &txtInletThru,     &txtInletBranch,    &chkEntrance,     &chkExit,        &optDestination,
+                &optSource};
+    for (int i = 0; i < CaseCount; ++i) {
+        for (const CaseBoxes boxes : BoxesOfACase()) {
+            TabOrder.push_back(&(*boxes)(i));
+        }
+        TabOrder.push_back(&cmdCalculate(i));
+    }
+    for (Control* control : std::initializer_list<Control*>{&txtBy, &txtApprov, &cmdDate, &txtComments(0),
+                                                            &txtComments(1), &cmdFormLayout}) {
+        TabOrder.push_back(control);
+    }
+    cmdUnits.Each([this](CommandButton& button, int) { TabOrder.push_back(&button); });
+    for (Control* control :
+         std::initializer_list<Control*>{&Liquids.lstFluid, &Liquids.cmdSelect, &Liquids.cmdCancel}) {
+        TabOrder.push_back(control);
+    }
+}
+
+void LineLossForm::HookLine() {
+    cmdCalculate.Each(
+        [this](CommandButton& button, int i) { button.Click = [this, i] { cmdCalculate_Click(i); }; });
+    cmdPipeID.Click = [this] { cmdPipeID_Click(); };
+    cmdMatl.Click = [this] { cmdMatl_Click(); };
+    lstMatl.DoubleClick = [this] { lstMatl_DoubleClick(); };
+    lstMatl.KeyPress = [this](Key& key) {
+        key.Handled = key.Name == "Enter" || key.Name == "Escape";
+        if (key.Name == "Enter") lstMatl_DoubleClick();
+        if (key.Name == "Escape") cmdMatl_Click();
+    };
+    for (CheckBox* tick : {&chkEntrance, &chkExit}) {
+        tick->Click = [this, tick] {
+            PaintTick(*tick, Calc.PipeDataShown[tick == &chkEntrance ? 4 : 5]);
+            ClearAllCases();
+        };
+    }
+    optDestination.Click = [this] { optDestination_Click(); };
+    optSource.Click = [this] { optSource_Click(); };
+}
+
+void LineLossForm::ShowChoices() {
+    edited_ = nullptr;
+    lstMatl.SetVisible(false);
+    const bool mixture = Calc.MixtureFlag == words::Yes;
+    for (MenuItem* entry : MixtureEntries) entry->SetChecked(mixture);
+    for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
+    if (Calc.PressureDirection == 2) {
+        optSource.SetChecked(true);
+        lblDestPress.SetCaption("Source pressure");
+    } else {
+        Calc.PressureDirection = 1;
+        optDestination.SetChecked(true);
+        lblDestPress.SetCaption("Destination pressure");
+    }
+}
+
+void LineLossForm::StoreOwn() {
+    Calc.PipeData[4] = chkEntrance.Checked() ? 2 : 1;
+    Calc.EntranceK = chkEntrance.Checked() ? 1.5 : 0;
+    Calc.PipeData[5] = chkExit.Checked() ? 2 : 1;
+    Calc.ExitK = chkExit.Checked() ? 2.7 : 0;
+    for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
+    cmdUnits.Each([](const CommandButton& button, int row) {
+        // Row 6 keeps its unit while it is hidden; a caption is empty before the first refresh.
+        if (row != 6 && !button.Caption().empty())
+            Calc.UnitName[static_cast<std::size_t>(row)] = button.Caption();
+    });
+    if (!unVelocity.Caption().empty()) Calc.UnitName[20] = unVelocity.Caption();
+    Calc.PipeMaterial = cmdMatl.Caption();
+    Calc.CaseText[5] = Calc.CaseUnitsText[5] = Calc.PipeMaterial;
+}
+
+// --- Calculation ---------------------------------------------------------------------------------------
+
+bool LineLossForm::CheckTempPressureOfCase() {
+    return CheckTempPressure(*this, {txtTemp(Calc.CaseIndex), txtPressure(Calc.CaseIndex)});
+}
+
+// Takes the line into the working layer, test by test in the order of the form.
+bool LineLossForm::CheckLine() {
+    constexpr double longestLine = 10000000;  // ft
+    const UnitFactors& factor = Calc.UnitFactor;
+    Calc.PipeLength[1] = Calc.PipeData[1] * factor[25];
+    if (!(Calc.PipeLength[1] > 0)) return RefuseData("Length must be > zero ", txtInletPipeLen);
+    if (Calc.PipeLength[1] >= longestLine) return RefuseData("Length must be < 10000000 ft", txtInletPipeLen);
+    Calc.PipeId[1] = Calc.PipeData[2] * factor[18];
+    if (!(Calc.PipeId[1] > 0)) return RefuseData("Pipe inside diameter must be > zero ", txtInletPipeID);
+
+    Calc.Elevation[1] = Calc.PipeData[3] * factor[25];
+    Calc.Elevation[2] = Calc.CaseInput[25][0] * factor[25];
+    Calc.GateValves = Calc.FittingCount[1];
+    Calc.GlobeValves = Calc.FittingCount[2];
+    Calc.CheckValves = Calc.FittingCount[3];
+    Calc.Ells90 = Calc.FittingCount[4];
+    Calc.Ells45 = Calc.FittingCount[5];
+    Calc.ThruTees = Calc.FittingCount[6];
+    Calc.BranchTees = Calc.FittingCount[7];
+    if (Calc.PipeFouling > 100 || Calc.PipeFouling < 0) {
+        return RefuseData("Condition must be between 0 and 100", txtPipeCond);
+    }
+    return true;
+}
+
+// Takes the working layer from the display layer, test by test in the order of the form.
+bool LineLossForm::CheckData() {
+    const std::size_t i = ThisCase();
+    Calc.DataOk = words::No;
+    if (!CheckTempPressureOfCase() || !CheckLine()) return false;
+    Calc.SourcePressure[1] = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
+    if (Calc.PressureMode != words::Absolute) Calc.SourcePressure[1] += Calc.BaroPressure;
+    if (!CheckSourcePressure()) return false;
+    Calc.EquipLoss[1] = Calc.CaseInput[4][i] * Calc.UnitFactor[4];
+    if (!CheckFluid()) return false;
+    ShowCalculation();
+    Calc.DataOk = words::Yes;
+    return true;
+}
+
+void LineLossForm::cmdCalculate_Click(int index) {
+    Calc.CaseIndex = index;
+    StoreForm();
+    if (!CheckData()) return;
+    Calc.PipeIndex = 1;
+    if (!CalculateCase()) return;
+    MarkCalculated();
+    ShowCalculation();
+    txtBy.SetFocus();
+    Calc.CalculatedFlag = words::Yes;
+}
+
+// --- The line ------------------------------------------------------------------------------------------
+
+void LineLossForm::cmdPipeID_Click() {
+    StoreForm();
+    Calc.MessageText = pipeWord_;
+    PreparePipeUnits();
+}
+
+void LineLossForm::cmdMatl_Click() {
+    if (lstMatl.Visible()) {
+        lstMatl.SetVisible(false);
+        cmdMatl.SetFocus();
+        return;
+    }
+    lstMatl.SetRows({Calc.PipeMaterialName.begin() + 1, Calc.PipeMaterialName.end()});
+    lstMatl.Preselect(Calc.PipeMaterialNumber - 1);
+    lstMatl.SetVisible(true);
+    lstMatl.SetFocus();
+}
+
+void LineLossForm::lstMatl_DoubleClick() {
+    const int row = lstMatl.Selected();
+    if (row < 0) return;
+    Calc.PipeMaterialNumber = row + 1;
+    Calc.PipeMaterial = lstMatl.Row(row);
+    cmdMatl.SetCaption(Calc.PipeMaterial);
+    lstMatl.SetVisible(false);
+    cmdMatl.SetFocus();
+    ClearAllCases();
+}
+
+void LineLossForm::optDestination_Click() {
+    Calc.PressureDirection = 1;
+    lblPressure.SetCaption("Source pressure");
+    lblDestPress.SetCaption("Destination pressure");
+    ClearAllCases();
+}
+
+void LineLossForm::optSource_Click() {
+    Calc.PressureDirection = 2;
+    lblPressure.SetCaption("Destination pressure");
+    lblDestPress.SetCaption("Source pressure");
+    ClearAllCases();
+}
+
+}  // namespace quillmetra

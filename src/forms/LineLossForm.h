@@ -1,0 +1,147 @@
+// What the line-loss programs of liquid and gas share: the line and its fittings, the direction, three cases
+// of flow, temperature and pressure, and the way from a press of a calculate button to the results.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "core/CalcRecord.h"
+#include "forms/CalculationForm.h"
+
+namespace quillmetra {
+
+class LineLossForm : public CalculationForm {
+public:
+    // rows: the unit rows that have a button.
+    LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows);
+
+    // The line
+    Label lblInletPipeLen{Picture1, "lblInletPipeLen", "Length"};
+    TextBox txtInletPipeLen{Picture1, "txtInletPipeLen"};
+    Label lblInletPipeID{Picture1, "lblInletPipeID", "Inside diameter"};
+    TextBox txtInletPipeID{Picture1, "txtInletPipeID"};
+    CommandButton cmdPipeID{Picture1, "cmdPipeID", "&Pipe size"};
+    Label lblInletPipeElev{Picture1, "lblInletPipeElev", "Start elevation"};
+    TextBox txtInletPipeElev{Picture1, "txtInletPipeElev"};
+    Label unInletPipeElev{Picture1, "unInletPipeElev"};
+    Label lblOutletPipeElev{Picture1, "lblOutletPipeElev", "End elevation"};
+    TextBox txtOutletPipeElev{Picture1, "txtOutletPipeElev"};
+    Label unOutletPipeElev{Picture1, "unOutletPipeElev"};
+    Label lblPipeCond{Picture1, "lblPipeCond", "Pipe % fouling. New=0"};
+    TextBox txtPipeCond{Picture1, "txtPipeCond"};
+    Label lblMatl{Picture1, "lblMatl", "Pipe material"};
+    CommandButton cmdMatl{Picture1, "cmdMatl", "Steel"};
+    ListBox lstMatl{Picture1, "lstMatl"};
+
+    // Valves and fittings
+    Label lblInletGate{Picture1, "lblInletGate", "Gate"};
+    TextBox txtInletGate{Picture1, "txtInletGate"};
+    Label lblInletGlobe{Picture1, "lblInletGlobe", "Globe"};
+    TextBox txtInletGlobe{Picture1, "txtInletGlobe"};
+    Label lblInletCheck{Picture1, "lblInletCheck", "Check"};
+    TextBox txtInletCheck{Picture1, "txtInletCheck"};
+    Label lblInlet90Deg{Picture1, "lblInlet90Deg", "90 deg ell"};
+    TextBox txtInlet90Deg{Picture1, "txtInlet90Deg"};
+    Label lblInlet45Deg{Picture1, "lblInlet45Deg", "45 deg ell"};
+    TextBox txtInlet45Deg{Picture1, "txtInlet45Deg"};
+    Label lblInletThru{Picture1, "lblInletThru", "Thru tee"};
+    TextBox txtInletThru{Picture1, "txtInletThru"};
+    Label lblInletBranch{Picture1, "lblInletBranch", "Branch tee"};
+    TextBox txtInletBranch{Picture1, "txtInletBranch"};
+    CheckBox chkEntrance{Picture1, "chkEntrance", "Entrance"};
+    CheckBox chkExit{Picture1, "chkExit", "Exit"};
+    OptionButton optDestination{Picture1, "optDestination", "Calculate destination pressure"};
+    OptionButton optSource{Picture1, "optSource", "Calculate source pressure"};
+
+    // The three cases
+    ControlArray<Label> lblCase{Picture1, "lblCase", {0, 1, 2}, ""};
+    Label lblFlow{Picture1, "lblFlow", "Flow"};
+    ControlArray<TextBox> txtFlow{Picture1, "txtFlow", {0, 1, 2}};
+    Label lblTemp{Picture1, "lblTemp", "Temperature"};
+    ControlArray<TextBox> txtTemp{Picture1, "txtTemp", {0, 1, 2}};
+    Label lblPressure{Picture1, "lblPressure", "Source pressure"};
+    ControlArray<TextBox> txtPressure{Picture1, "txtPressure", {0, 1, 2}};
+    Label lblViscosity{Picture1, "lblViscosity", "Viscosity"};
+    ControlArray<TextBox> txtViscosity{Picture1, "txtViscosity", {0, 1, 2}};
+    Label lblEquip{Picture1, "lblEquip", "Equipment loss"};
+    ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
+    ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
+    ControlArray<CommandButton> cmdUnits;
+
+    // Results
+    Label lblDropP100{Picture1, "lblDropP100", "Loss per 100 "};
+    ControlArray<TextBox> txtDropP100{Picture1, "txtDropP100", {0, 1, 2}};
+    Label unDropP100{Picture1, "unDropP100"};
+    Label lblDestPress{Picture1, "lblDestPress", "Destination pressure"};
+    ControlArray<TextBox> txtDestPress{Picture1, "txtDestPress", {0, 1, 2}};
+    Label unDestPress{Picture1, "unDestPress"};
+    Label lblVelocity{Picture1, "lblVelocity", "Velocity"};
+    ControlArray<TextBox> txtVelocity{Picture1, "txtVelocity", {0, 1, 2}};
+    Label unVelocity{Picture1, "unVelocity"};
+    Label lblEquivLen{Picture1, "lblEquivLen", "Equivalent length"};
+    TextBox txtEquivLen{Picture1, "txtEquivLen"};
+    Label unEquivLen{Picture1, "unEquivLen"};
+
+    void cmdCalculate_Click(int index);
+    void cmdPipeID_Click();
+    void cmdMatl_Click();
+    void lstMatl_DoubleClick();
+    void optDestination_Click();
+    void optSource_Click();
+    void mnuFluiProp_Click();
+    void mnuCase_Click(int index);
+    void cmdSelect_Click();
+    void txtTemp_LostFocus(int index);
+    void txtPressure_LostFocus(int index);
+
+protected:
+    using CaseBoxes = const ControlArray<TextBox>*;
+
+    // The boxes of a case from the top, in the order of Tab.
+    virtual std::vector<CaseBoxes> BoxesOfACase() const = 0;
+    // The check after that of the line and of temperature and pressure, in the order of the form.
+    virtual bool CheckFluid() = 0;
+    virtual bool CheckSourcePressure() = 0;
+    // Runs the calculation of the checked case and shows its results; false when there are none.
+    virtual bool CalculateCase() = 0;
+    // Parses FluidRow and fills the case in hand with the fluid's properties; false when it was given up.
+    virtual bool TakeFluid() = 0;
+
+    void StoreOwn() override;
+    void ShowChoices() override;
+    Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
+
+    // To be called by the form when its own controls stand.
+    void Assemble();
+    // A pure fluid of the table is wanted for a case: opens the list when temperature and pressure are right.
+    void OpenFluids(int caseIndex);
+    // The check before a fluid is picked or renewed: the vapour pressure of the old fluid does not count.
+    bool CheckForNewFluid();
+    void NoteEntered(int caseIndex);
+    bool HasTempAndPressure(int caseIndex) const;
+    // The case's properties were renewed: what was typed into its state before is dealt with.
+    void StateIsDealtWith(int caseIndex);
+    static std::size_t ThisCase() { return static_cast<std::size_t>(Calc.CaseIndex); }
+
+    // The menu entries that pick a fluid: those of a pure one, and of a mixture, by case.
+    std::array<MenuItem*, CaseCount> PureEntries{};
+    std::array<MenuItem*, CaseCount> MixtureEntries{};
+
+private:
+    void OrderTabs();
+    void HookLine();
+    void HookFluid();
+    bool CheckData();
+    bool CheckLine();
+    bool CheckTempPressureOfCase();
+    void UpdateFluidProperties();
+    void EnterState(TextBox& box);
+    // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
+    void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
+
+    const char* pipeWord_;
+    const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
+    std::string textBefore_;
+};
+
+}  // namespace quillmetra
