@@ -42,7 +42,7 @@ void ControlView::RenewVisible() {
 }
 
 void ControlView::RenewColours() {
-    if (control_->ColourGroup != 0) Paint(*widget_, control_->BackColour(), control_->ForeColour());
+    if (control_->ColourGroup != 0) PaintArea(*widget_, control_->BackColour(), control_->ForeColour());
 }
 
 void ControlView::RenewToolTip() { widget_->setToolTip(ToQt(control_->ToolTip())); }

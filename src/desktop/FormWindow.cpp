@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -200,7 +201,7 @@ void FormWindow::RenewForm() {
 
 void FormWindow::PaintAreas() {
     for (const LayoutBuilder::PaintedArea& area : areas_) {
-        if (area.As != nullptr) Paint(*area.Area, area.As->BackColour(), area.As->ForeColour());
+        if (area.As != nullptr) PaintArea(*area.Area, area.As->BackColour(), area.As->ForeColour());
     }
 }
 
@@ -212,7 +213,11 @@ void FormWindow::FollowFocus() {
     if (view != nullptr && view->Widget() != nullptr && view->Widget()->isEnabled() && current->Seen()) {
         target = view->KeyTarget();
     }
-    if (focusWidget() != target) target->setFocus(Qt::OtherFocusReason);
+    if (focusWidget() != target) {
+        // The toolkit does this in the active window only.
+        if (auto* const left = qobject_cast<QLineEdit*>(focusWidget())) left->deselect();
+        target->setFocus(Qt::OtherFocusReason);
+    }
     if (target != pane_) scroll_->ensureWidgetVisible(target, 8, 8);
 }
 

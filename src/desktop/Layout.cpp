@@ -53,6 +53,11 @@ Node Node::Centred() && {
     return std::move(*this);
 }
 
+Node Node::Bare() && {
+    IsBare = true;
+    return std::move(*this);
+}
+
 Node Item(std::string control) { return {std::move(control)}; }
 Node Item(const std::string& array, int index) {
     std::string name = array;

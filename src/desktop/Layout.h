@@ -28,7 +28,7 @@ struct Node {
     Node(Kind what, std::string name, std::vector<Node> parts = {})
         : What(what), Name(std::move(name)), Parts(std::move(parts)) {}
 
-    // At least so many digits wide, and so many rows high for a list.
+    // At least so many digits wide, and so many rows of a list or lines of words high.
     Node Wide(int digits) &&;
     Node Tall(int rows) &&;
     // Takes its share of the room that is left, in a row its width and in a column its height.
@@ -40,6 +40,8 @@ struct Node {
     // Several lines where the words are longer than the room.
     Node Wrapped() &&;
     Node Centred() &&;
+    // An area without border and margins, that only holds things together.
+    Node Bare() &&;
 
     Kind What = Kind::Item;
     std::string Name;
@@ -50,6 +52,7 @@ struct Node {
     bool IsTyped = false;
     bool Wraps = false;
     bool IsCentred = false;
+    bool IsBare = false;
     std::string Anchor;
 };
 

@@ -81,7 +81,7 @@ void LayoutBuilder::AddTo(QBoxLayout& box, const Node& node) {
         box.addStretch(share);
     } else if (QWidget* widget = MakeWidget(node)) {
         const bool hugs = node.What == Node::Kind::Item && box.direction() == QBoxLayout::TopToBottom &&
-                          !node.Grows && node.Digits > 0;
+                          !node.Grows && node.Digits > 0 && node.Rows == 0;
         box.addWidget(widget, share, hugs ? Qt::AlignLeft : Qt::Alignment());
     } else if (QLayout* inner = MakeLayout(node)) {
         box.addLayout(inner, share);
@@ -166,6 +166,7 @@ QWidget* LayoutBuilder::MakeArea(const Node& node) {
         area = new Panel(&pane_, ToQt(node.Name));
         painted_.push_back({area, nullptr});
     }
+    if (node.IsBare) static_cast<Panel*>(area)->SetBare();
     open_.push_back(painted_.size() - 1);
     auto* const column = new QVBoxLayout(area);
     column->setContentsMargins(0, 0, 0, 0);
@@ -185,18 +186,23 @@ QWidget* LayoutBuilder::MakeOver(const Node& node) {
     AddTo(*column, node.Parts.front());
     grid->addWidget(base, 0, 0);
 
+    // The parts share the width when one of them grows, else they stand in the middle.
     auto* const top = new QWidget(both);
     auto* const row = new QHBoxLayout(top);
     row->setContentsMargins(0, 0, 0, 0);
-    for (const Node& part : node.Parts.back().Parts) {
+    const std::vector<Node>& parts = node.Parts.back().Parts;
+    const bool grows = std::any_of(parts.begin(), parts.end(), [](const Node& part) { return part.Grows; });
+    floating_ = true;
+    for (const Node& part : parts) {
         QWidget* const area = MakeWidget(part);
         if (area == nullptr) continue;
         if (auto* const panel = dynamic_cast<Panel*>(area)) panel->SetRaised(true);
-        row->addWidget(area, 0, Qt::AlignVCenter);
-        // Room for it from the start, so that the window need not scroll when it shows.
-        base->setMinimumSize(base->minimumSize().expandedTo(area->sizeHint()));
+        row->addWidget(area, part.Grows ? 1 : 0, part.Grows ? Qt::AlignVCenter : Qt::AlignCenter);
     }
-    grid->addWidget(top, 0, 0, Qt::AlignCenter);
+    floating_ = false;
+    grid->addWidget(top, 0, 0, grows ? Qt::AlignVCenter : Qt::AlignCenter);
+    const int line = QFontMetrics(both->font()).height();
+    both->setMinimumSize(DigitsWide(*both, node.Digits), line * node.Rows);
     return both;
 }
 
@@ -212,7 +218,8 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
 
     QSizePolicy policy = widget->sizePolicy();
     // A field that comes and goes keeps its place, so that the others do not jump.
-    policy.setRetainSizeWhenHidden(kind == ControlKind::TextBox || kind == ControlKind::Label);
+    const bool isField = kind == ControlKind::TextBox || kind == ControlKind::Label;
+    policy.setRetainSizeWhenHidden(isField && !floating_);
     if (kind == ControlKind::TextBox) {
         const int width = DigitsWide(*widget, node.Digits > 0 ? node.Digits : UsualDigits) + 14;
         widget->setMinimumWidth(width);
@@ -221,6 +228,9 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
         widget->setMinimumWidth(DigitsWide(*widget, node.Digits) + 14);
     }
     if (kind == ControlKind::Label && node.Digits > 0) policy.setHorizontalPolicy(QSizePolicy::Minimum);
+    if (kind == ControlKind::Label && node.Rows > 0) {
+        widget->setMinimumHeight(node.Rows * QFontMetrics(widget->font()).height());
+    }
     if (IsListKind(kind)) {
         const int rows = node.Rows > 0 ? node.Rows : 8;
         widget->setMinimumHeight(rows * (QFontMetrics(widget->font()).height() + 2) + 6);

@@ -47,6 +47,7 @@ private:
     QWidget& pane_;
     Finder find_;
     std::vector<QWidget*> placed_;
+    bool floating_ = false;  // within a part that shows over others
     std::vector<PaintedArea> painted_;
     std::vector<std::size_t> open_;  // the areas being filled, by their place in painted_
 };

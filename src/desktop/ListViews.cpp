@@ -4,7 +4,9 @@
 
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
@@ -76,7 +78,6 @@ public:
 
     QWidget* KeyTarget() const override { return view_; }
     QWidget* MouseTarget() const override { return view_->viewport(); }
-    bool FocusesOnPress() const override { return true; }
 
     void Forget() override {
         const QScopedValueRollback quiet(renewing_, true);
@@ -85,6 +86,7 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != view_->viewport()) return ControlView::eventFilter(watched, event);
         if (event->type() == QEvent::MouseButtonPress) mouseDown_ = true;
         if (event->type() == QEvent::MouseButtonRelease && mouseDown_) {
             mouseDown_ = false;
@@ -118,7 +120,7 @@ protected:
     }
 
     void RenewColours() override {
-        if (Model()->ColourGroup != 0) Paint(*view_, Model()->BackColour(), Model()->ForeColour());
+        if (Model()->ColourGroup != 0) PaintField(*view_, Model()->BackColour(), Model()->ForeColour());
     }
 
 private:
@@ -173,6 +175,8 @@ public:
         column->addWidget(edit);
         column->addWidget(view);
         widget->setFocusProxy(edit);
+        view->setFocusPolicy(Qt::NoFocus);  // the box has the keyboard for both
+        edit->installEventFilter(this);
         connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
             if (Model() == nullptr) return;
             TypeText(*Model(), text.toStdString());
@@ -181,6 +185,20 @@ public:
     }
 
     QWidget* KeyTarget() const override { return edit_; }
+
+    // Up and down go through the rows from within the box.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == edit_ && event->type() == QEvent::KeyPress) {
+            switch (static_cast<QKeyEvent*>(event)->key()) {
+                case Qt::Key_Up:
+                case Qt::Key_Down:
+                case Qt::Key_PageUp:
+                case Qt::Key_PageDown: return QApplication::sendEvent(view_, event);
+                default: break;
+            }
+        }
+        return ListBoxView::eventFilter(watched, event);
+    }
 
 protected:
     void RenewText() override {
@@ -195,7 +213,7 @@ protected:
 
     void RenewColours() override {
         ListBoxView::RenewColours();
-        if (Model()->ColourGroup != 0) Paint(*edit_, Model()->BackColour(), Model()->ForeColour());
+        if (Model()->ColourGroup != 0) PaintField(*edit_, Model()->BackColour(), Model()->ForeColour());
     }
 
     void SelectAll() override { edit_->selectAll(); }
@@ -259,7 +277,6 @@ public:
     }
 
     QWidget* MouseTarget() const override { return table_->viewport(); }
-    bool FocusesOnPress() const override { return true; }
 
     void Forget() override {
         cells_->Empty();
@@ -267,6 +284,10 @@ public:
     }
 
 protected:
+    void RenewColours() override {
+        if (Model()->ColourGroup != 0) PaintField(*table_, Model()->BackColour(), Model()->ForeColour());
+    }
+
     void RenewRows() override {
         cells_->Renew();
         RenewSelection();

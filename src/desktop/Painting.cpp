@@ -21,6 +21,15 @@ QColor Between(const QColor& a, const QColor& b, double part) {
     return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
 
+void PaintRoles(QWidget& widget, Colour back, QPalette::ColorRole under, Colour fore,
+                QPalette::ColorRole text) {
+    QPalette palette = widget.palette();
+    palette.setColor(under, ToQt(back));
+    palette.setColor(text, ToQt(fore));
+    palette.setColor(QPalette::Disabled, text, Between(ToQt(fore), ToQt(back), 0.5));
+    if (palette != widget.palette()) widget.setPalette(palette);
+}
+
 class SuiteStyle : public QProxyStyle {
 public:
     SuiteStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -48,16 +57,12 @@ void UseSuiteStyle() {
     QApplication::setPalette(palette);
 }
 
-void Paint(QWidget& widget, Colour back, Colour fore) {
-    const QColor under = ToQt(back);
-    const QColor text = ToQt(fore);
-    QPalette palette = widget.palette();
-    for (const auto role : {QPalette::Window, QPalette::Base}) palette.setColor(role, under);
-    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, Between(text, under, 0.5));
-    }
-    if (palette != widget.palette()) widget.setPalette(palette);
+void PaintArea(QWidget& widget, Colour back, Colour fore) {
+    PaintRoles(widget, back, QPalette::Window, fore, QPalette::WindowText);
+}
+
+void PaintField(QWidget& widget, Colour back, Colour fore) {
+    PaintRoles(widget, back, QPalette::Base, fore, QPalette::Text);
 }
 
 int DigitsWide(const QWidget& widget, int digits) {
@@ -77,6 +82,11 @@ void Panel::SetRaised(bool raised) {
     update();
 }
 
+void Panel::SetBare() {
+    bare_ = true;
+    Measure();
+}
+
 QFont Panel::HeadingFont() const {
     QFont bold = font();
     bold.setBold(true);
@@ -86,6 +96,7 @@ QFont Panel::HeadingFont() const {
 int Panel::HeadingHeight() const { return heading_.isEmpty() ? 0 : QFontMetrics(HeadingFont()).height() + 4; }
 
 void Panel::Measure() {
+    if (bare_) return setContentsMargins(0, 0, 0, 0);
     setContentsMargins(Margin, (heading_.isEmpty() ? Margin : Margin - 2) + HeadingHeight(), Margin, Margin);
 }
 
@@ -104,6 +115,7 @@ void Panel::changeEvent(QEvent* event) {
 }
 
 void Panel::paintEvent(QPaintEvent*) {
+    if (bare_) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor under = palette().color(QPalette::Window);

@@ -20,8 +20,9 @@ QColor ToQt(Colour colour);
 // one.
 void UseSuiteStyle();
 
-// Paints a widget and those in it that have no colours of their own.
-void Paint(QWidget& widget, Colour back, Colour fore);
+// Paints an area with what stands on it and has no colours of its own, or a field with what is typed in it.
+void PaintArea(QWidget& widget, Colour back, Colour fore);
+void PaintField(QWidget& widget, Colour back, Colour fore);
 
 // The width of so many digits in the font of a widget, for fields sized by what they hold.
 int DigitsWide(const QWidget& widget, int digits);
@@ -35,6 +36,8 @@ public:
     void SetHeading(const QString& heading);
     // One that stands over others: its colour covers them and its border is strong.
     void SetRaised(bool raised);
+    // One that only holds things together shows nothing of its own.
+    void SetBare();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -51,6 +54,7 @@ private:
 
     QString heading_;
     bool raised_ = false;
+    bool bare_ = false;
 };
 
 }  // namespace quillmetra

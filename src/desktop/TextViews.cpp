@@ -18,9 +18,11 @@ public:
         connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { Typed(text); });
     }
 
-    bool FocusesOnPress() const override { return true; }
-
 protected:
+    void RenewColours() override {
+        if (box_.ColourGroup != 0) PaintField(*edit_, box_.BackColour(), box_.ForeColour());
+    }
+
     // Written only when it differs, so that the caret of the box being edited stays.
     void RenewText() override {
         const QString text = ToQt(box_.Text());

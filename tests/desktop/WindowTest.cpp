@@ -228,6 +228,15 @@ TEST_F(WindowTest, CombosAndGrids) {
     EXPECT_EQ(Sample->cboChoice.Text(), "be");
     Sample->cboChoice.Select(1);
     EXPECT_EQ(edit->text(), "beta");
+    QTest::keyClick(edit, Qt::Key_Up);
+    EXPECT_EQ(Sample->cboChoice.Selected(), 0);
+    EXPECT_EQ(edit->text(), "alpha");
+    auto* const rows = WidgetOf(Sample->cboChoice).findChild<QListView*>();
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {},
+                      rows->visualRect(rows->model()->index(1, 0)).center());
+    Settle();
+    EXPECT_EQ(Sample->cboChoice.Selected(), 1);
+    EXPECT_EQ(QApplication::focusWidget(), edit);
 
     auto& table = static_cast<QTableView&>(WidgetOf(Sample->grdCells));
     EXPECT_EQ(table.model()->index(1, 1).data().toString(), "b");

@@ -6,10 +6,12 @@
 namespace quillmetra::layout {
 
 Node frmCalcOptions();
+Node frmCalcOptions();
 Node frmLiqLineLoss();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmTRProg();
+Node frmUnits();
 Node frmUnits();
 
 }  // namespace quillmetra::layout

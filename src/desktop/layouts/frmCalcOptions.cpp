@@ -1,4 +1,4 @@
-// Where the controls of the options panel stand.
+// Where the controls of the panel of calculation options stand.
 #include "desktop/layouts/Layouts.h"
 
 namespace quillmetra::layout {
@@ -8,15 +8,13 @@ Node frmCalcOptions() {
         {Row({Frame("fraUnits", Column({"OptLeaveAsIs", "optMassEnglishUnits", "optVolEnglishUnits",
                                         "optMassSIUnits", "optVolSIUnits", "optUserUnits", Stretch()}))
                   .Grow(),
-              Column(
-                  {Frame("fraPressure",
-                         Column({"OptGaugePress", "optAbsolutePressure", "lblSTPBaro",
-                                 Row({Item("txtSTPBaro").Wide(10), "cmdBaroPress", Stretch()})})),
-                   Frame("fraDensity", Column({"optLiqSG", "optLiqDensity"})),
-                   Frame("fraCalcInputData", Column({"optManInput", "optFileData", "optCalcDensity"})),
-                   Frame("fraCalcOptions", Column({"optPressureDrop", "OptCalcFlowrate", "OptCalcValveSz"})),
-                   Stretch()})}),
-         Panel("", Row({"cmdReviewUnits", "cmdChangeUnits", "cmdBootUpUnits", Stretch()})),
+              Column({Frame("fraPressure", Column({"OptGaugePress", "optAbsolutePressure", Stretch(),
+                                                   Row({"lblSTPBaro", "txtSTPBaro", "cmdBaroPress"})})),
+                      Frame("fraDensity", Row({"optLiqSG", "optLiqDensity", Stretch()})), Stretch()})})
+             .Grow(),
+         Row({Frame("fraCalcInputData", Column({"optManInput", "optFileData", "optCalcDensity"})),
+              Frame("fraCalcOptions", Column({"optPressureDrop", "OptCalcFlowrate", "OptCalcValveSz"}))}),
+         Row({"cmdReviewUnits", "cmdChangeUnits", "cmdBootUpUnits", Stretch()}),
          Buttons({"cmdOKOptions", "cmdCancelOptions"})});
 }
 

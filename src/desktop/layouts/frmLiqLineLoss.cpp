@@ -64,8 +64,10 @@ Node Basis() {
 }
 
 Node Components() {
+    constexpr int most = 16;
     std::vector<std::vector<Node>> rows;
-    for (int i = 0; i < 16; ++i) {
+    rows.reserve(most);
+    for (int i = 0; i < most; ++i) {
         rows.push_back({Item("lblComponent", i).Wide(20), Item("txtPercent", i).Wide(8)});
     }
     return Frame("fraComponent",
@@ -75,7 +77,8 @@ Node Components() {
 
 Node Liquids() {
     return Frame("fraLiquidData",
-                 Column({Item("lstFluid").Wide(105).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}));
+                 Column({Item("lstFluid").Wide(40).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}))
+        .Grow();
 }
 
 }  // namespace

@@ -5,35 +5,38 @@ namespace quillmetra::layout {
 
 namespace {
 
-// The rows of units one below the other; those that a program does not use take no room.
-Node UnitRows(std::initializer_list<int> rows) {
-    std::vector<Node> frames;
-    for (const int row : rows) {
-        const auto element = [row](const char* array) { return Item(array, row); };
-        frames.push_back(Frame("fraRow(" + std::to_string(row) + ")",
-                               Row({element("cmdUnit").Wide(17), element("lblFactor").Wide(9), Stretch()})));
-    }
-    frames.push_back(Stretch());
-    return Column(std::move(frames));
+// A quantity as a button, with its unit beside it.
+Node Quantity(int row) {
+    Node frame = Item("fraRow", row);
+    return Frame(frame.Name, Row({Item("cmdUnit", row).Wide(20), Item("lblFactor", row).Wide(9)})).Bare();
 }
 
-Node Choosing() {
+Node Quantities() {
+    const auto column = [](std::initializer_list<int> rows) {
+        std::vector<Node> parts;
+        parts.reserve(rows.size() + 1);
+        for (const int row : rows) parts.push_back(Quantity(row));
+        parts.push_back(Stretch());
+        return Column(std::move(parts));
+    };
+    return Frame("fraRows", Row({column({0, 19, 1, 5, 2, 3, 4, 7}), column({9, 11, 12, 13, 18, 20, 25, 27}),
+                                 Stretch()}));
+}
+
+Node Choice() {
     return Frame("fraSelect",
                  Column({Row({"optMass", "optVol", Stretch()}), Buttons({"cmdBasis", "cmdCanBasis"}),
-                         Row({Column({"lblUnit", Item("cboUnit").Wide(10).Tall(11)}),
-                              Column({"lblMultiplier", Item("cboFactor").Wide(14).Tall(11)})}),
+                         Table({{"lblUnit", "lblMultiplier"},
+                                {Item("cboUnit").Wide(12).Tall(9), Item("cboFactor").Wide(18).Tall(9)}}),
                          Buttons({"cmdReplace", "cmdSelect", "cmdCancel"})}));
 }
 
 }  // namespace
 
 Node frmUnits() {
-    return Over(Column({Panel("", Item("lblInstruct").Wrapped().Tall(3)),
-                        Frame("fraRows", Row({UnitRows({0, 19, 1, 5, 2, 3, 4, 7, 12}),
-                                              UnitRows({11, 20, 27, 13, 18, 25, 9})}))
-                            .Grow(),
-                        Buttons({"cmdOK", "cmdSaveUser", "cmdCancelUn"})}),
-                {Choosing()});
+    return Column({Panel("", Item("lblInstruct").Wrapped().Tall(2)),
+                   Over(Quantities(), {Choice()}).Wide(72).Tall(20).Grow(),
+                   Buttons({"cmdOK", "cmdSaveUser", "cmdCancelUn"})});
 }
 
 }  // namespace quillmetra::layout
