@@ -150,11 +150,19 @@ struct CalcRecord {
     double BulkModulusBase = 0;                                      // psi/1000
     double BulkModulusSlope = 0;                                     // psi per psia
     double LiquidLatentHeat = 0;                                     // Btu/lb
-    // Working values of the liquid correlations.
+    double CritVolume = 0;                                           // ft3/lb
+    double GasCp1 = 0, GasCp2 = 0, GasSpecificHeat = 0;              // Btu/lb degF
+    double LatentHeatBP = 0;                                         // Btu/lb, at the normal boiling point
+    double LatentHeatRefTemp = 0;                                    // degF, of the known latent heat
+    double LatentHeatRefValue = 0;                                   // Btu/lb, the known latent heat
+    double LatentHeatAtFlow = 0;      // Btu/lb, at FlowTemperature; 0 above the critical temperature
+    double LatentHeatAtPressure = 0;  // Btu/lb, of a mixture, boiling at EnteredPressure
+    // Working values of the correlations.
     double ReducedBoilingTemperature = 0, ReducedTemperature = 0;
     float ReducedTemperature60 = 0;  // single precision: later formulas read the rounded value
     float CritCompressFactor = 0;    // single precision, as above
     double CompressibilityAt60 = 0, LiquidCompressibility = 0, PressureCorrection = 0;
+    double ReducedPressure = 0;  // of a gas
 
     // --- Identity and options -------------------------------------------------------------------------
     std::string Tag, TagSaved, TagChanged;

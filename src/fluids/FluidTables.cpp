@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 #include "core/CalcRecord.h"
 #include "core/Suite.h"
@@ -47,7 +48,6 @@ struct Column {
 
 constexpr std::size_t LiquidColumns = 17;
 
-// Columns 1 and 2 are texts.
 constexpr std::array<Column, 15> LiquidNumbers = {{
     {3, &CalcRecord::MolecularWeight},
     {4, &CalcRecord::SGAtStandard},
@@ -65,6 +65,37 @@ constexpr std::array<Column, 15> LiquidNumbers = {{
     {16, &CalcRecord::BulkModulusSlope},
     {17, &CalcRecord::LiquidLatentHeat},
 }};
+
+// A fifteenth column stands in the file; the suite has no use for it.
+constexpr std::size_t GasColumns = 14;
+
+constexpr std::array<Column, 12> GasNumbers = {{
+    {3, &CalcRecord::CritVolume},
+    {4, &CalcRecord::NormalBoilingPoint},
+    {5, &CalcRecord::MolecularWeight},
+    {6, &CalcRecord::CritTemperature},
+    {7, &CalcRecord::ViscosityTemp1},
+    {8, &CalcRecord::Viscosity1},
+    {9, &CalcRecord::ViscosityTemp2},
+    {10, &CalcRecord::Viscosity2},
+    {11, &CalcRecord::CritPressure},
+    {12, &CalcRecord::GasCp1},
+    {13, &CalcRecord::GasCp2},
+    {14, &CalcRecord::LatentHeatBP},
+}};
+
+// To degrees Rankine by 460.0, though every other temperature uses 459.67: settled, and limits depend on it.
+constexpr double CritRankine = 460.0;
+
+// Columns 1 and 2 are texts in both tables.
+void TakeColumns(std::span<const Column> numbers, std::size_t columns, double critRankine) {
+    const Fields fields = SplitRow(Calc.FluidRow, columns);
+    Calc.SelectedFluidName = Trim(fields[1]);
+    Calc.FluidClass = fields[2];
+    for (const Column& column : numbers) Calc.*column.Field = Val(fields[column.Number]);
+    Calc.CritTemperature += critRankine;
+    Calc.MessageText = Rejoined(fields, columns);
+}
 
 }  // namespace
 
@@ -101,15 +132,7 @@ void FindFluidRow() {
 }
 
 void ParseLiquidRow() {
-    const Fields fields = SplitRow(Calc.FluidRow, LiquidColumns);
-    Calc.SelectedFluidName = Trim(fields[1]);
-    Calc.FluidClass = fields[2];
-    for (const Column& column : LiquidNumbers) Calc.*column.Field = Val(fields[column.Number]);
-    // To degrees Rankine by 460.0, though every other temperature uses 459.67: settled, and limits depend on
-    // it.
-    Calc.CritTemperature += 460.0;
-    Calc.MessageText = Rejoined(fields, LiquidColumns);
-
+    TakeColumns(LiquidNumbers, LiquidColumns, CritRankine);
     const ViscosityLine line =
         ViscosityLineOf(Calc.ViscosityTemp1, Calc.Viscosity1, Calc.ViscosityTemp2, Calc.Viscosity2);
     Calc.ViscosityA = line.A;
@@ -117,5 +140,9 @@ void ParseLiquidRow() {
     Calc.FluidViscosity = ViscosityAt(line, Calc.FlowTemperature);
     Calc.LiquidSpecificHeat = LiquidSpecificHeatAt(Calc.LiquidCp60, Calc.LiquidCp300, Calc.FlowTemperature);
 }
+
+void ParseGasRow() { TakeColumns(GasNumbers, GasColumns, CritRankine); }
+
+void ParseGasRowForMixture() { TakeColumns(GasNumbers, GasColumns, 459.67); }
 
 }  // namespace quillmetra

@@ -26,4 +26,12 @@ void FindFluidRow();
 // no numbers, which ProcessLiquidData tells of. MessageText becomes the row with its fields trimmed.
 void ParseLiquidRow();
 
+// Splits FluidRow into the gas fields of the record, and MessageText likewise. Nothing is derived: see
+// GasData.h.
+void ParseGasRow();
+
+// The same for the components of the gas data program's mixtures, which take their critical temperature to
+// degR by 459.67 where every other row takes 460: it comes out 0.33 degR lower than that of the gas alone.
+void ParseGasRowForMixture();
+
 }  // namespace quillmetra

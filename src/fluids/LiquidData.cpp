@@ -2,14 +2,13 @@
 #include "fluids/LiquidData.h"
 
 #include <cmath>
-#include <string>
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
+#include "fluids/FluidMessages.h"
 #include "fluids/LiquidCorrelations.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
-#include "units/Rounding.h"
 
 namespace quillmetra {
 
@@ -33,21 +32,6 @@ bool IsMixture() { return Calc.FluidOk != words::FluidPicked; }
 bool GoOnAboveCritical() {
     if (!(Calc.FlowTemperature > Calc.CritTemperature - Rankine)) return true;
     return AskYesNo("Flow temperature is greater then Critical temperature\nContinue ?", Title);
-}
-
-// The vapor pressure is told in the unit of the pressure row, gauge or absolute as the pressure itself.
-bool GoOnBelowVaporPressure() {
-    if (!(Calc.VaporPressure >= Calc.FlowPressure)) return true;
-    const double pressure =
-        Calc.PressureMode == words::Gauge ? Calc.VaporPressure - Calc.BaroPressure : Calc.VaporPressure;
-    const std::string shown = TrimmedStr(RoundedFour(pressure / Calc.UnitFactor[3]));
-    if (AskYesNo("At the pressure and temperature entered\n The Vapor Pressure is " + shown + " " +
-                     Calc.UnitName[3] + "\nThis indicates that the fluid is a gas!\nContinue ?",
-                 Title)) {
-        return true;
-    }
-    Calc.SelectedFluidName.clear();
-    return false;
 }
 
 bool ResultsAreFinite() {
@@ -89,7 +73,7 @@ bool TellNotCalculated() {
     Calc.VaporPressure = 0;
     Calc.FlowingSG = 0;
     Calc.FluidViscosity = 0;
-    Tell("Fluid properties cannot be calculated", Title);
+    TellNotCalculable(Title);
     return false;
 }
 
@@ -133,7 +117,7 @@ bool ProcessLiquidData() {
     } else {
         CalcVaporPressure();
         if (!std::isfinite(Calc.VaporPressure)) return TellNotCalculated();
-        if (!GoOnBelowVaporPressure()) return false;
+        if (Calc.VaporPressure >= Calc.FlowPressure && !GoOnInOtherPhase("gas", Title)) return false;
     }
     CalcLiquidCompressibility();
     CalcGravityAndViscosity();

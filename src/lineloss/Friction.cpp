@@ -14,8 +14,7 @@ namespace {
 
 constexpr int MostRounds = 100;
 constexpr double SmallestStep = 1e-06;
-constexpr double LargestLoss = 50000.0;  // psi per 100 ft
-constexpr std::size_t Line = 1;          // a calculation has one line
+constexpr std::size_t Line = 1;  // a calculation has one line
 
 // 62.36 lb/ft3 here, where data checking turns an entered density into a gravity by 62.366: a density entered
 // as such comes back a little changed.
@@ -67,16 +66,6 @@ ColebrookResult SolveColebrook(double reynolds, double pipeId, const PipeMateria
         f -= step;
     }
     return {f, x, MostRounds + 1, false};
-}
-
-double LossPer100Feet(double frictionFactor, double massFlow, double pipeId, double density) {
-    const double fifthPower = pipeId * pipeId * pipeId * pipeId * pipeId;
-    const double loss = 0.000336 * frictionFactor * (massFlow * massFlow) / fifthPower / density;
-    return loss > LargestLoss ? LargestLoss : loss;
-}
-
-double LineVelocity(double massFlow, double density, double pipeId) {
-    return massFlow / 19.65 / density / (pipeId * pipeId);
 }
 
 void CalcFrictionFactor() {

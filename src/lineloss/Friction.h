@@ -25,11 +25,21 @@ struct ColebrookResult {
 // roughness. Without a material the Colebrook term stays at lastTerm.
 ColebrookResult SolveColebrook(double reynolds, double pipeId, const PipeMaterial* material, double lastTerm);
 
-// Darcy's formula: psi per 100 ft, at most 50000. Flow lb/h, inside diameter in, density lb/ft3.
-double LossPer100Feet(double frictionFactor, double massFlow, double pipeId, double density);
+constexpr double LargestLoss = 50000.0;  // psi per 100 ft
+
+// The next two stand here because a gas line calls them foot by foot.
+
+// Darcy's formula: psi per 100 ft, at most LargestLoss. Flow lb/h, inside diameter in, density lb/ft3.
+inline double LossPer100Feet(double frictionFactor, double massFlow, double pipeId, double density) {
+    const double fifthPower = pipeId * pipeId * pipeId * pipeId * pipeId;
+    const double loss = 0.000336 * frictionFactor * (massFlow * massFlow) / fifthPower / density;
+    return loss > LargestLoss ? LargestLoss : loss;
+}
 
 // ft/s from flow (lb/h), density (lb/ft3) and inside diameter (in).
-double LineVelocity(double massFlow, double density, double pipeId);
+inline double LineVelocity(double massFlow, double density, double pipeId) {
+    return massFlow / 19.65 / density / (pipeId * pipeId);
+}
 
 // Sets FrictionFactor, LaminarFactor, FlowZone, IterationCount and, for laminar flow, TurbulentFactor from
 // ReynoldsNumber and the pipe; fouling is in it. Warns when the iteration does not converge, and goes on.

@@ -49,6 +49,8 @@ std::string AskText(const std::string& prompt, const std::string& title) {
 
 void ShowHelpTopic(int topic) { RequiredHost().ShowHelp(topic); }
 
+bool UserWantsToStop() { return InstalledHost != nullptr && InstalledHost->Yield(); }
+
 int BoxesShown() { return ShownBoxes; }
 
 const char* Word(Buttons buttons) {

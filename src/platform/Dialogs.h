@@ -38,6 +38,9 @@ std::string AskText(const std::string& prompt, const std::string& title);
 // Shows a topic of the help by its number.
 void ShowHelpTopic(int topic);
 
+// Lets the host breathe within a long calculation; true when the user pressed Escape to end it.
+bool UserWantsToStop();
+
 // How many boxes were shown since the start: a menu head that put one up keeps its entries shut.
 int BoxesShown();
 

@@ -114,6 +114,32 @@ TEST_F(FluidTablesTest, AShortRowReadsZeroForWhatItLacks) {
     EXPECT_EQ(Calc.MessageText, "Five,1,101,0.8,700,,,,,,,,,,,,,");
 }
 
+TEST_F(FluidTablesTest, ParsesTheColumnsOfAGas) {
+    Calc.FluidRow = " My gas ,2, 0.05 ,-100,30.5,90,60,0.009,300,0.006,700,0.41,0.6,210,ignored,";
+    ParseGasRow();
+    EXPECT_EQ(Calc.SelectedFluidName, "My gas");
+    EXPECT_EQ(Val(Calc.FluidClass), 2);
+    EXPECT_EQ(Calc.CritVolume, 0.05);
+    EXPECT_EQ(Calc.NormalBoilingPoint, -100);
+    EXPECT_EQ(Calc.MolecularWeight, 30.5);
+    EXPECT_EQ(Calc.CritTemperature, 550) << "by 460";
+    EXPECT_EQ(Calc.Viscosity2, 0.006);
+    EXPECT_EQ(Calc.CritPressure, 700);
+    EXPECT_EQ(Calc.GasCp1, 0.41);
+    EXPECT_EQ(Calc.GasCp2, 0.6);
+    EXPECT_EQ(Calc.LatentHeatBP, 210);
+    EXPECT_EQ(Calc.MessageText, "My gas,2,0.05,-100,30.5,90,60,0.009,300,0.006,700,0.41,0.6,210,");
+    ParseGasRowForMixture();
+    EXPECT_DOUBLE_EQ(Calc.CritTemperature, 549.67);
+    const std::string whole = Calc.FluidRow;
+    for (std::size_t length = whole.size(); length-- > 0;) {
+        Calc.FluidRow = whole.substr(0, length);
+        ParseGasRow();
+    }
+    EXPECT_EQ(Calc.CritTemperature, 460) << "fields of the row before must not stay";
+    EXPECT_EQ(Calc.LatentHeatBP, 0);
+}
+
 // A user's own row may hold anything: the pick is refused with a message, and no number that is none stays.
 TEST_F(FluidTablesTest, ARowWithoutSenseIsRefused) {
     const struct {

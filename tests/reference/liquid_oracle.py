@@ -230,4 +230,5 @@ def main():
             print(row, t, p, barometer, *liquid(row, t, p, barometer), sep=";", file=out)
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,29 @@
+// See FluidMessages.h.
+#include "fluids/FluidMessages.h"
+
+#include <string>
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+bool GoOnInOtherPhase(const char* phase, const char* title) {
+    const double pressure =
+        Calc.PressureMode == words::Gauge ? Calc.VaporPressure - Calc.BaroPressure : Calc.VaporPressure;
+    const std::string shown = TrimmedStr(RoundedFour(pressure / Calc.UnitFactor[3]));
+    if (AskYesNo("At the pressure and temperature entered\n The Vapor Pressure is " + shown + " " +
+                     Calc.UnitName[3] + "\nThis indicates that the fluid is a " + phase + "!\nContinue ?",
+                 title)) {
+        return true;
+    }
+    Calc.SelectedFluidName.clear();
+    return false;
+}
+
+void TellNotCalculable(const char* title) { Tell("Fluid properties cannot be calculated", title); }
+
+}  // namespace quillmetra

@@ -1,0 +1,370 @@
+// The gas line against an independent program, and where and how its march stops.
+#include "lineloss/GasLineLoss.h"
+
+#include <cmath>
+#include <fstream>
+#include <limits>
+#include <map>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "core/Words.h"
+#include "lineloss/Friction.h"
+#include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
+#include "tests/SuiteFixture.h"
+
+namespace quillmetra {
+namespace {
+
+constexpr const char* LimitText = "Increase line size, or\nIncrease pressure, or\nDecrease flow rate";
+constexpr const char* Title = "Line pressure loss calculation";
+
+class GasLineLossTest : public SuiteTest {
+protected:
+    GasLineLossTest() { Suite.HideFlowStatus = words::Yes; }
+
+    // Methane in a 4 in schedule 40 line.
+    void TakeOrdinaryLine() {
+        Calc = CalcRecord();
+        User.Boxes.clear();
+        Calc.CurrentProgram = 2;
+        Calc.MassFlow = 5000;
+        Calc.CaseInput[0][0] = 5000;
+        Calc.PipeId[1] = 4.026;
+        Calc.PipeLength[1] = 300;
+        Calc.Viscosity = 0.0111;
+        Calc.MolecularWeight = 16.04;
+        Calc.RatioSpecificHeats = 1.3;
+        Calc.CritPressure = 667.1;
+        Calc.CritTemperature = 343.3;
+        Calc.FlowTemperature = 80;
+        Calc.SourcePressure[1] = 114.7;
+        Calc.BaroPressure = 14.7;
+        Calc.UnitName[0] = "lb/h";
+    }
+
+    bool Calculate(const GasLineObserver& observer = {}) {
+        CalcGasFriction();
+        return CalcGasProfile(observer);
+    }
+};
+
+struct ReferenceLine {
+    std::map<std::string, std::string> Fields;
+    double operator[](const std::string& name) const { return Val(Fields.at(name)); }
+};
+
+std::vector<ReferenceLine> ReadReferenceLines() {
+    std::ifstream file(SourceFolder() / "tests/reference/gas_lines.txt");
+    std::vector<std::string> names;
+    std::vector<ReferenceLine> lines;
+    std::string text;
+    std::getline(file, text);
+    std::getline(file, text);
+    std::istringstream heading(text.substr(2));
+    for (std::string name; heading >> name;) names.push_back(name);
+    while (std::getline(file, text)) {
+        std::istringstream fields(text);
+        ReferenceLine line;
+        for (const std::string& name : names) fields >> line.Fields[name];
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+const std::map<std::string, double CalcRecord::*> ReferenceInputs = {
+    {"flow", &CalcRecord::MassFlow},
+    {"viscosity", &CalcRecord::Viscosity},
+    {"mw", &CalcRecord::MolecularWeight},
+    {"ratio", &CalcRecord::RatioSpecificHeats},
+    {"pc", &CalcRecord::CritPressure},
+    {"tc", &CalcRecord::CritTemperature},
+    {"temperature", &CalcRecord::FlowTemperature},
+    {"fouling", &CalcRecord::PipeFouling},
+    {"gate", &CalcRecord::GateValves},
+    {"globe", &CalcRecord::GlobeValves},
+    {"check", &CalcRecord::CheckValves},
+    {"ell90", &CalcRecord::Ells90},
+    {"ell45", &CalcRecord::Ells45},
+    {"thru", &CalcRecord::ThruTees},
+    {"branch", &CalcRecord::BranchTees},
+};
+
+void TakeReferenceLine(const ReferenceLine& line) {
+    Calc.CurrentProgram = 2;
+    for (const auto& [name, field] : ReferenceInputs) Calc.*field = line[name];
+    Calc.PipeId[1] = line["id"];
+    Calc.PipeLength[1] = line["length"];
+    Calc.SourcePressure[1] = line["source"];
+    Calc.Elevation = {0, line["start"], line["end"]};
+    Calc.EquipLoss[1] = line["equipment"];
+    Calc.PipeMaterialNumber = static_cast<int>(line["material"]);
+    Calc.EntranceK = 1.5 * line["entrance"];
+    Calc.ExitK = 2.7 * line["exit"];
+    Calc.PressureDirection = static_cast<int>(line["direction"]);
+    Calc.CaseIndex = 2;
+    Calc.CaseInput[0][2] = line["flow_shown"];
+    Calc.UnitName[0] = "kg/s";
+}
+
+std::string ExpectedMessage(const std::string& stop, double told) {
+    if (stop == "inlet") {
+        return "Sonic velocity exists, flow is limited to\n" + Str(told) + " kg/s\n" + LimitText;
+    }
+    const std::string percent = Str(told) + " % of equiv line length\n";
+    if (stop == "zero") return "Zero pressure reached @" + percent + "Flow cannot be maintained" + LimitText;
+    if (stop == "sonic") return "Sonic velocity reached @" + percent;
+    return "";
+}
+
+// One record for all lines: what a case leaves behind must not reach the next one.
+TEST_F(GasLineLossTest, AgreesWithTheIndependentProgram) {
+    const auto lines = ReadReferenceLines();
+    ASSERT_GT(lines.size(), 150U);
+    std::map<std::string, int> seen;
+    for (const ReferenceLine& line : lines) {
+        std::string text;
+        for (const auto& [name, value] : line.Fields) text.append(name).append("=").append(value).append(" ");
+        SCOPED_TRACE(text);
+        TakeReferenceLine(line);
+        User.Boxes.clear();
+        ASSERT_TRUE(Calculate());
+        ASSERT_NEAR(Calc.ReynoldsNumber / line["reynolds"], 1, 1e-14)
+            << "by the liquid's constant in the end";
+        ASSERT_NEAR(Calc.FrictionFactor / line["friction"], 1, 1e-12);
+        ASSERT_NEAR(Calc.FittingsEquivLength / line["fittings"], 1, 1e-12);
+        ASSERT_NEAR(Calc.LossPer100 / line["loss100"], 1, 1e-8);
+        ASSERT_NEAR(Calc.EquivLength, line["equivalent"], 1e-8 * std::fabs(line["equivalent"]));
+        ASSERT_NEAR(Calc.FlowPressure, line["final"], 1e-8 * line["source"]);
+        ASSERT_NEAR(Calc.Velocity / line["velocity"], 1, 1e-8);
+        ASSERT_NEAR(Calc.SonicVelocity / line["sonic"], 1, 1e-8);
+        ASSERT_NEAR(Calc.Density / line["density"], 1, 1e-8);
+        const std::string& stop = line.Fields.at("stop");
+        ASSERT_EQ(User.LastText(), ExpectedMessage(stop, line["told"]));
+        ASSERT_EQ(User.Boxes.size(), stop == "none" ? 0U : 1U);
+        if (stop != "none") {
+            EXPECT_EQ(User.Boxes[0].Title, Title);
+            EXPECT_EQ(User.Boxes[0].Sign, Icon::Stop);
+        }
+        EXPECT_EQ(Calc.InCalculation, "No");
+        EXPECT_EQ(GasLineResultsOf(Calc).IsSonic, stop == "inlet" || stop == "sonic");
+        ++seen[stop];
+    }
+    for (const char* stop : {"inlet", "zero", "sonic"}) EXPECT_GE(seen[stop], 3) << stop;
+}
+
+// A short isothermal line agrees with what textbooks give for it: P1^2 - P2^2 = f L/D (W/A)^2 P1 / (g rho1).
+TEST_F(GasLineLossTest, MeetsTheIsothermalFormula) {
+    TakeOrdinaryLine();
+    Calc.PipeLength[1] = 2000;
+    Calc.MassFlow = 8000;
+    Calc.CritPressure = 1e9;  // an ideal gas
+    ASSERT_TRUE(Calculate());
+    const double density = 114.7 / 539.67 * 16.04 / 10.7316;
+    const double feet = 4.026 / 12, area = feet * feet * 3.14159265 / 4;
+    const double flux = 8000 / 3600.0 / area;
+    const double loss = Calc.FrictionFactor * 2000 / feet * flux * flux / 32.174 / density / 144;
+    EXPECT_NEAR(Calc.FlowPressure, std::sqrt(114.7 * 114.7 - 114.7 * loss), 0.02);
+    EXPECT_LT(Calc.FlowPressure, 95);
+    // Methane's speed of sound at 80 degF, some 1480 ft/s.
+    EXPECT_NEAR(Calc.SonicVelocity, 1475, 25);
+}
+
+TEST_F(GasLineLossTest, AnObserverSeesTheLineAndChangesNothing) {
+    const struct {
+        double Length;
+        std::size_t Steps;
+    } cases[] = {{0.01, 20}, {20, 20}, {20.5, 20}, {20.99, 20}, {21, 21}, {300.7, 300}};
+    for (const auto& each : cases) {
+        TakeOrdinaryLine();
+        Calc.PipeLength[1] = each.Length;
+        ASSERT_TRUE(Calculate());
+        const CalcRecord alone = Calc;
+        std::vector<GasStation> stations;
+        ASSERT_TRUE(Calculate([&stations](const GasStation& station) {
+            EXPECT_EQ(Calc.InCalculation, station.Part == 0 ? "No" : "Yes");
+            stations.push_back(station);
+        }));
+        ASSERT_EQ(stations.size(), each.Steps + 1) << each.Length;
+        EXPECT_EQ(stations.front().Part, 0);
+        EXPECT_EQ(stations.front().Pressure, 114.7);
+        EXPECT_EQ(stations.back().Part, 1);
+        EXPECT_EQ(stations.back().Pressure, Calc.FlowPressure);
+        EXPECT_EQ(stations.back().SonicVelocity, Calc.SonicVelocity);
+        for (std::size_t i = 1; i < stations.size(); ++i) {
+            EXPECT_LT(stations[i].Pressure, stations[i - 1].Pressure);
+            EXPECT_GE(stations[i].Velocity, stations[i - 1].Velocity);
+        }
+        EXPECT_EQ(Calc.FlowPressure, alone.FlowPressure);
+        EXPECT_EQ(Calc.Velocity, alone.Velocity);
+    }
+    // The station at which the gas gets no further is shown too, faster than sound.
+    GasStation last{};
+    TakeOrdinaryLine();
+    Calc.MassFlow = 40000;
+    ASSERT_TRUE(Calculate([&last](const GasStation& station) { last = station; }));
+    EXPECT_EQ(User.LastText().substr(0, 24), "Sonic velocity reached @");
+    EXPECT_LT(last.Part, 1);
+    EXPECT_GT(last.Velocity, last.SonicVelocity);
+    EXPECT_EQ(Calc.Velocity, Calc.SonicVelocity);
+}
+
+TEST_F(GasLineLossTest, TheZoneGoesByTheGasConstant) {
+    Suite.HideFlowStatus.clear();
+    TakeOrdinaryLine();
+    // 2000.8 by the gas constant, 1999.1 by the liquid's.
+    Calc.MassFlow = 14.158;
+    ASSERT_LT(6.31 * Calc.MassFlow / Calc.PipeId[1] / Calc.Viscosity, 2000);
+    ASSERT_GT(6.31533 * Calc.MassFlow / Calc.PipeId[1] / Calc.Viscosity, 2000);
+    ASSERT_TRUE(Calculate());
+    ASSERT_EQ(User.Boxes.size(), 1U) << "the flow status, once a calculation";
+    EXPECT_EQ(User.Boxes[0].Title, "Flow Status");
+    EXPECT_EQ(User.Boxes[0].Text.substr(0, 37), "Maximum flow is in the Critical Zone ");
+    EXPECT_EQ(Calc.LaminarFactor, 0);
+    EXPECT_LT(Calc.ReynoldsNumber, 2000);
+}
+
+// Thousands of steps between the two phases of a gas: one box, whether it begins at the inlet or later.
+TEST_F(GasLineLossTest, WarnsOnceOfWhatDoesNotConverge) {
+    for (const double source : {0.38 * 500, 0.39 * 500}) {
+        TakeOrdinaryLine();
+        Calc.CritTemperature = 700;
+        Calc.CritPressure = 500;
+        Calc.MolecularWeight = 60;
+        Calc.FlowTemperature = 0.75 * 700 - 459.67;
+        Calc.SourcePressure[1] = source;
+        Calc.PipeLength[1] = 5000;
+        ASSERT_TRUE(Calculate());
+        ASSERT_EQ(User.Boxes.size(), 1U) << source;
+        EXPECT_EQ(User.Boxes[0].Title, "Compressibility Factor Calculation");
+    }
+}
+
+TEST_F(GasLineLossTest, ResultsInTheUnitsShown) {
+    TakeOrdinaryLine();
+    ASSERT_TRUE(Calculate());
+    for (const char* mode : {words::Gauge, words::Absolute}) {
+        Calc.PressureMode = mode;
+        Calc.UnitFactor.fill(1);
+        const GasLineResults english = GasLineResultsOf(Calc);
+        const double gauge = mode == std::string(words::Gauge) ? 14.7 : 0;
+        EXPECT_NEAR(english.FinalPressure, Calc.FlowPressure - gauge, 0.05);
+        EXPECT_NEAR(english.LossPer100 * 3, 114.7 - Calc.FlowPressure, 0.01);
+        EXPECT_NEAR(english.EquivLength, 300, 1e-9);
+        Calc.UnitFactor[3] = Calc.UnitFactor[4] = 0.14504;
+        Calc.UnitFactor[20] = Calc.UnitFactor[25] = 3.281;
+        const GasLineResults si = GasLineResultsOf(Calc);
+        EXPECT_NEAR(si.FinalPressure * 0.14504 / english.FinalPressure, 1, 1e-3);
+        EXPECT_NEAR(si.LossPer100 * 0.14504 / 3.281 / english.LossPer100, 1, 1e-3);
+        EXPECT_NEAR(si.Velocity * 3.281 / english.Velocity, 1, 1e-3);
+        EXPECT_NEAR(si.SonicVelocity * 3.281 / english.SonicVelocity, 1, 1e-3);
+        EXPECT_NEAR(si.EquivLength * 3.281 / english.EquivLength, 1, 1e-3);
+    }
+    // After a stop: at zero pressure there are results, at sonic velocity no pressures, and a line that is
+    // sonic at its inlet has no equivalent length, not that of the case before.
+    Calc.UnitFactor.fill(1);
+    Calc.PressureMode = words::Gauge;
+    Calc.EquipLoss[1] = 200;
+    Calc.MassFlow = 100;
+    ASSERT_TRUE(Calculate());
+    EXPECT_EQ(GasLineResultsOf(Calc).FinalPressure, -14.7);
+    EXPECT_GT(GasLineResultsOf(Calc).LossPer100, 0);
+    EXPECT_GT(GasLineResultsOf(Calc).EquivLength, 0);
+    Calc.EquipLoss[1] = 0;
+    Calc.MassFlow = 1e6;
+    ASSERT_TRUE(Calculate());
+    const GasLineResults sonic = GasLineResultsOf(Calc);
+    EXPECT_TRUE(sonic.IsSonic);
+    EXPECT_EQ(sonic.FinalPressure, 0);
+    EXPECT_EQ(sonic.LossPer100, 0);
+    EXPECT_EQ(sonic.EquivLength, 0);
+    EXPECT_GT(sonic.Velocity, 1000);
+    EXPECT_EQ(sonic.Velocity, sonic.SonicVelocity);
+}
+
+// A long march lets the user end it, a common one never asks.
+TEST_F(GasLineLossTest, EscapeEndsALongMarchAlone) {
+    const auto steps = [this](double length) {
+        TakeOrdinaryLine();
+        Calc.PipeLength[1] = length;
+        Calc.MassFlow = 1;
+        User.EscapePressed = true;
+        int count = -1;
+        const bool ended = Calculate([&count](const GasStation&) { ++count; });
+        EXPECT_EQ(Calc.InCalculation, "No");
+        return std::pair(ended, count);
+    };
+    EXPECT_EQ(steps(1000000), std::pair(true, 1000000));
+    EXPECT_EQ(steps(1000001), std::pair(false, 100000));
+    // Far beyond what a form lets through, and beyond a 32-bit and a 64-bit counter.
+    for (const double length : {5e9, 1e19}) EXPECT_FALSE(steps(length).first) << length;
+    EXPECT_TRUE(User.Boxes.empty());
+    for (const double length : {1e300, std::numeric_limits<double>::infinity()}) {
+        EXPECT_EQ(steps(length), std::pair(true, 1)) << "no pressure is left after the first step";
+    }
+    User.EscapePressed = false;
+    TakeOrdinaryLine();
+    Calc.PipeLength[1] = 1200000;
+    Calc.MassFlow = 1;
+    EXPECT_TRUE(Calculate());
+}
+
+// Without pressure there is no density, an endless loss and a sonic velocity that is no number, which must
+// not stop the line as sonic does.
+TEST_F(GasLineLossTest, AZeroSourcePressureEndsAsZeroPressure) {
+    TakeOrdinaryLine();
+    Calc.SourcePressure[1] = 0;
+    ASSERT_TRUE(Calculate());
+    ASSERT_EQ(User.Boxes.size(), 1U);
+    EXPECT_EQ(User.LastText(),
+              std::string("Zero pressure reached @ 0 % of equiv line length\nFlow cannot be maintained") +
+                  LimitText);
+    EXPECT_EQ(Calc.FlowPressure, 0);
+    EXPECT_FALSE(Calc.Velocity == Calc.SonicVelocity);
+    EXPECT_THROW(GasLineResultsOf(Calc), RuntimeError);
+}
+
+TEST_F(GasLineLossTest, NumbersWithoutSenseEndInAMessageOrAnError) {
+    using Setter = void (*)(double);
+    const Setter fields[] = {
+        [](double v) { Calc.MassFlow = v; },          [](double v) { Calc.PipeId[1] = v; },
+        [](double v) { Calc.Viscosity = v; },         [](double v) { Calc.MolecularWeight = v; },
+        [](double v) { Calc.CritPressure = v; },      [](double v) { Calc.CritTemperature = v; },
+        [](double v) { Calc.FlowTemperature = v; },   [](double v) { Calc.RatioSpecificHeats = v; },
+        [](double v) { Calc.SourcePressure[1] = v; }, [](double v) { Calc.EquipLoss[1] = v; },
+        [](double v) { Calc.Elevation[2] = v; },      [](double v) { Calc.GateValves = v; },
+    };
+    const double values[] = {0, -1, 1, -459.67, 1e-300, -1e-300, 1e-12, 1e12, 1e300, -1e300, std::nan("")};
+    for (std::size_t field = 0; field < std::size(fields); ++field) {
+        for (const double value : values) {
+            for (const int direction : {1, 2}) {
+                TakeOrdinaryLine();
+                Calc.Elevation[1] = 3;
+                Calc.PressureDirection = direction;
+                fields[field](value);
+                ASSERT_TRUE(Calculate()) << field << " " << value;
+                EXPECT_LE(User.Boxes.size(), 3U) << field << " " << value;
+                try {
+                    const GasLineResults results = GasLineResultsOf(Calc);
+                    for (const double each : {results.FinalPressure, results.LossPer100, results.Velocity,
+                                              results.SonicVelocity, results.EquivLength}) {
+                        ASSERT_TRUE(std::isfinite(each)) << field << " " << value;
+                    }
+                } catch (const RuntimeError& error) {
+                    ASSERT_FALSE(error.Description.empty());
+                }
+            }
+        }
+    }
+    // A ratio of exactly 1 is the slowest sound there is, and no fault.
+    TakeOrdinaryLine();
+    Calc.RatioSpecificHeats = 1;
+    ASSERT_TRUE(Calculate());
+    EXPECT_TRUE(User.Boxes.empty());
+    EXPECT_GT(GasLineResultsOf(Calc).FinalPressure, 90);
+}
+
+}  // namespace
+}  // namespace quillmetra
