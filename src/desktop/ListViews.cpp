@@ -63,7 +63,11 @@ private:
 class ListBoxView : public ControlView {
 public:
     ListBoxView(ListBox& list, QWidget* widget, QListView* view)
-        : ControlView(list, widget), list_(list), view_(view), rows_(new RowsModel(list, view)) {
+        : ControlView(list, widget),
+          list_(list),
+          view_(view),
+          rows_(new RowsModel(list, view)),
+          viewport_(view->viewport()) {
         view_->setUniformItemSizes(true);
         view_->setTextElideMode(Qt::ElideNone);
         view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -86,7 +90,7 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched != view_->viewport()) return ControlView::eventFilter(watched, event);
+        if (watched != viewport_) return ControlView::eventFilter(watched, event);
         if (event->type() == QEvent::MouseButtonPress) mouseDown_ = true;
         if (event->type() == QEvent::MouseButtonRelease && mouseDown_) {
             mouseDown_ = false;
@@ -160,6 +164,7 @@ protected:
 
 private:
     RowsModel* rows_;
+    const QObject* viewport_;  // also asked for while the view is being destroyed
     bool mouseDown_ = false;
     bool renewing_ = false;
 };
