@@ -98,8 +98,8 @@ private:
     std::array<Choice, 36> SelectedFactor{};
     std::string basisBeforePanel_;
     // Units and bases as they were when the window opened, for its Cancel.
-    UnitNames namesBefore_;
-    UnitFactors factorsBefore_;
+    UnitNames namesBefore_{};
+    UnitFactors factorsBefore_{};
     std::string basisBefore_, liquidBasisBefore_, basisPreviousBefore_, liquidBasisPreviousBefore_;
 };
 
