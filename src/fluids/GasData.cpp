@@ -43,7 +43,7 @@ bool ResultsAreFinite() {
 
 bool TellGasNotCalculated() {
     for (const auto field : Results) Calc.*field = 0;
-    TellGasNotCalculable(Title);
+    TellNotCalculable(Title);
     return false;
 }
 
