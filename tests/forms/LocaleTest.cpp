@@ -37,7 +37,7 @@ TEST_F(CommaLocale, AWholeCaseIsTheSame) {
     Type(Form().txtInletPipeElev, "12.5");
     Suite.HideFlowStatus = words::Yes;
     Calculate(0);
-    EXPECT_EQ(Form().txtInletPipeElev.Text(), "12.5");
+    EXPECT_EQ(Form().txtInletPipeElev.Text(), " 12.5");
     EXPECT_EQ(Form().txtVelocity(0).Text(), " 5.035");
     EXPECT_EQ(Form().txtReynoldsNum(0).Text(), " 156731");
     ClickControl(Form().mnuPureLiquid1);
