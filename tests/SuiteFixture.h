@@ -41,6 +41,9 @@ protected:
         for (const char* name : {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"}) {
             std::filesystem::copy_file(SourceFolder() / "data" / name, DataFolder() / name);
         }
+        for (const char* name : {"STEAM.txt", "Stm07.Dat"}) {
+            std::filesystem::copy_file(SourceFolder() / "data" / name, Folder / name);
+        }
         Suite.DefaultPaths.fill(SuitePath(DataFolder()));
         Suite.DefaultPaths[5] = SuitePath(Folder);
     }

@@ -164,6 +164,9 @@ struct CalcRecord {
     double CompressibilityAt60 = 0, LiquidCompressibility = 0, PressureCorrection = 0;
     double ReducedPressure = 0;  // of a gas
 
+    // Of steam: degF after the superheated look-up, in the unit of row 2 after the saturated one.
+    double SaturationTemperature = 0;
+
     // --- Identity and options -------------------------------------------------------------------------
     std::string Tag, TagSaved, TagChanged;
     int ProgramNumber = 0;   // as stored: program x 100 + unit set
@@ -204,7 +207,7 @@ struct CalcRecord {
     std::string SaveAnswer, SavePrompt, ProgramChosen;
     std::string HideResults;  // "Yes" around a refresh that leaves the results alone
     std::string CalcOptionCaller, OptionsLoaded, FormClosing;
-    std::string SteamFindMode;
+    std::string SteamFindMode;  // "FindStm" when the saturation temperature alone is looked up
     std::string LoadedDatabaseFile;
     Row<int, CaseCount> TemperatureBlank{};
     Row<std::string, CaseCount> TemperatureEntered{}, PressureEntered{};

@@ -19,8 +19,17 @@ const std::array<std::uint32_t, 12> DefaultColours = {12632256, 0,       1579315
 
 namespace {
 
-// The shipped tables, all of which belong below the program's folder in TRData.
-constexpr std::array ShippedTables = {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"};
+struct ShippedFile {
+    const char* Name;
+    const char* Place;  // in the program's folder
+};
+
+constexpr std::array ShippedFiles = {
+    ShippedFile{"Liquid.txt", "\\TRData\\"},  ShippedFile{"Gas.txt", "\\TRData\\"},
+    ShippedFile{"W-PIPE.TXT", "\\TRData\\"},  ShippedFile{"Modulus.txt", "\\TRData\\"},
+    ShippedFile{"MaTLDAT.TXT", "\\TRData\\"}, ShippedFile{"STEAM.txt", "\\"},
+    ShippedFile{"Stm07.Dat", "\\"},
+};
 
 void UseDefaultColours() {
     std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
@@ -65,8 +74,8 @@ std::string ProgramFolder() {
 void SeedShippedData(const std::string& programFolder) {
     std::error_code ignored;
     const fs::path source = ShippedDataFolder();
-    for (const char* name : ShippedTables) {
-        const fs::path target = MachinePath(programFolder + "\\TRData\\" + name);
+    for (const auto& [name, place] : ShippedFiles) {
+        const fs::path target = MachinePath(programFolder + place + name);
         if (fs::exists(target, ignored)) continue;
         fs::create_directories(target.parent_path(), ignored);
         // Beside its place and renamed: a copy that breaks off must not pass for the user's own file.

@@ -43,6 +43,11 @@ inline constexpr const char* Transition = "Trans";
 // UnitSystem
 inline constexpr const char* English = "English";
 inline constexpr const char* SI = "SI";
+// SteamKind
+inline constexpr const char* Saturated = "Saturated";
+inline constexpr const char* Superheated = "Superheated";
+// SteamFindMode
+inline constexpr const char* FindSaturation = "FindStm";
 // Callers of the pipe size lookup, in MessageText
 inline constexpr const char* PipeLiquidLoss = "LLoss";
 inline constexpr const char* PipeGasLoss = "GLoss";

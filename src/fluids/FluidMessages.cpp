@@ -24,6 +24,6 @@ bool GoOnInOtherPhase(const char* phase, const char* title) {
     return false;
 }
 
-void TellNotCalculable(const char* title) { Tell("Fluid properties cannot be calculated", title); }
+void TellNotCalculable(const char* title) { Tell(NotCalculable, title); }
 
 }  // namespace quillmetra

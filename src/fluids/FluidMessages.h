@@ -8,6 +8,7 @@ namespace quillmetra {
 // SelectedFluidName is cleared, and the answer is false.
 bool GoOnInOtherPhase(const char* phase, const char* title);
 
+inline constexpr const char* NotCalculable = "Fluid properties cannot be calculated";
 // Tells that constants without sense have given a property that is no number.
 void TellNotCalculable(const char* title);
 

@@ -48,20 +48,7 @@ int ByteOf(char32_t c) {
 constexpr std::uintmax_t LargestFile = 256U << 20U;
 
 std::string ReadWhole(std::string_view suitePath) {
-    const fs::path path = MachinePath(suitePath);
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (status.type() == fs::file_type::not_found) throw failure::FileNotFound();
-    // A folder, a pipe or a device under the name of a table is no file, and reading it could wait for ever.
-    if (status.type() != fs::file_type::regular) throw failure::PathAccess();
-    const std::uintmax_t size = fs::file_size(path, error);
-    if (error || size > LargestFile) throw failure::PathAccess();
-    std::ifstream file(path, std::ios::binary);
-    if (!file) throw failure::PathAccess();
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    file.read(bytes.data(), static_cast<std::streamsize>(size));
-    if (file.bad()) throw failure::DeviceError();
-    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    std::string bytes = ReadBytes(suitePath);
     if (const std::size_t end = bytes.find('\x1A'); end != std::string::npos) bytes.resize(end);
     return Utf8From1252(bytes);
 }
@@ -117,6 +104,33 @@ std::string SuitePath(const fs::path& path) { return path.string(); }
 bool FileExists(std::string_view suitePath) {
     std::error_code error;
     return fs::is_regular_file(MachinePath(suitePath), error);
+}
+
+std::string ReadBytes(std::string_view suitePath) {
+    const fs::path path = MachinePath(suitePath);
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) throw failure::FileNotFound();
+    // A folder, a pipe or a device under the name of a table is no file, and reading it could wait for ever.
+    if (status.type() != fs::file_type::regular) throw failure::PathAccess();
+    const std::uintmax_t size = fs::file_size(path, error);
+    if (error || size > LargestFile) throw failure::PathAccess();
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw failure::PathAccess();
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(size));
+    if (file.bad()) throw failure::DeviceError();
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    return bytes;
+}
+
+FileStamp StampOf(std::string_view suitePath) {
+    const fs::path path = MachinePath(suitePath);
+    std::error_code error;
+    const fs::file_time_type changed = fs::last_write_time(path, error);
+    if (error) return {};
+    const std::uintmax_t size = fs::file_size(path, error);
+    return {.Changed = changed, .Size = size};
 }
 
 std::string Utf8From1252(std::string_view bytes) {

@@ -4,6 +4,7 @@
 // Failures are RuntimeErrors: "File not found", "Path/File access error", "Input past end of file".
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -20,6 +21,18 @@ std::filesystem::path MachinePath(std::string_view suitePath);
 std::string SuitePath(const std::filesystem::path& path);
 
 bool FileExists(std::string_view suitePath);
+
+// A file's bytes as they are. A file of more than 256 MB is refused.
+std::string ReadBytes(std::string_view suitePath);
+
+// What tells whether a file has changed since it was read: equal stamps, same contents. A file that is not
+// there has a stamp of its own.
+struct FileStamp {
+    std::filesystem::file_time_type Changed;
+    std::uintmax_t Size = 0;
+    bool operator==(const FileStamp&) const = default;
+};
+FileStamp StampOf(std::string_view suitePath);
 
 // Code page 1252 to UTF-8 and back. A byte or a character that the code page does not have passes through
 // unchanged, so that nothing of a foreign file is lost when it is rewritten.

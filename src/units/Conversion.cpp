@@ -19,8 +19,6 @@ std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 double Expressible(double value) { return std::isfinite(value) ? value : 0; }
 
-constexpr double MolarViscosity = 23588;  // cs per cp of a gas, times its molecular weight
-
 // From the gravity of case 0, or from the user, who is asked until the answer is above 0.
 void TakeFlowGravity(int caseIndex) {
     constexpr const char* title = "Convert Liquid Flow";

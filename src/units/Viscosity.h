@@ -13,4 +13,7 @@ constexpr double CentistokesPerUnit(std::string_view unit) {
     return 0;
 }
 
+// Centistokes per cp of a gas, times its molecular weight.
+constexpr double MolarViscosity = 23588;
+
 }  // namespace quillmetra

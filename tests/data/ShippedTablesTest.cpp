@@ -2,6 +2,8 @@
 // own formulas. A slip of a digit in a table is a wrong pressure drop on somebody's drawing.
 #include <cmath>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -258,9 +260,44 @@ TEST_F(ShippedTables, MaterialsExpandMoreWhenHot) {
 
 TEST_F(ShippedTables, AreWhatTheirMakerWrites) {
     if (std::system("python3 -c '' >/dev/null 2>&1") != 0) GTEST_SKIP() << "no python3";
-    const std::string maker =
-        "python3 '" + (SourceFolder() / "tools" / "make_tables.py").string() + "' --check";
-    EXPECT_EQ(std::system(maker.c_str()), 0);
+    for (const char* maker : {"make_tables.py", "make_steam.py"}) {
+        const std::string command = "python3 '" + (SourceFolder() / "tools" / maker).string() + "' --check";
+        EXPECT_EQ(std::system(command.c_str()), 0) << maker;
+    }
+}
+
+std::string FileBytes(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
+    const std::filesystem::path program = Folder / "fresh";
+    const char* files[] = {"TRData/Liquid.txt",  "TRData/Gas.txt", "TRData/W-PIPE.TXT", "TRData/Modulus.txt",
+                           "TRData/MaTLDAT.TXT", "STEAM.txt",      "Stm07.Dat"};
+    // A file of the user's own stays, also an empty one and one whose name differs by case.
+    std::filesystem::create_directories(program / "TRData");
+    std::ofstream(program / "TRData" / "Gas.txt") << "mine";
+    std::ofstream(program / "Steam.TXT").close();
+    SeedShippedData(SuitePath(program));
+    for (const std::filesystem::path file : files) {
+        if (file == "TRData/Gas.txt" || file == "STEAM.txt") continue;
+        EXPECT_EQ(FileBytes(program / file), FileBytes(SourceFolder() / "data" / file.filename())) << file;
+    }
+    EXPECT_EQ(FileBytes(program / "TRData" / "Gas.txt"), "mine");
+    EXPECT_EQ(FileBytes(program / "Steam.TXT"), "");
+    EXPECT_FALSE(std::filesystem::exists(program / "STEAM.txt"));
+    EXPECT_FALSE(std::filesystem::exists(program / "TRData" / "STEAM.txt"));
+
+    // What was there at the first time is not written again.
+    std::ofstream(program / "Stm07.Dat") << "changed";
+    SeedShippedData(SuitePath(program));
+    EXPECT_EQ(FileBytes(program / "Stm07.Dat"), "changed");
+    std::ptrdiff_t left = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(program)) {
+        left += entry.is_regular_file() ? 1 : 0;
+    }
+    EXPECT_EQ(left, std::ssize(files)) << "nothing is left beside the files";
 }
 
 }  // namespace
