@@ -2,10 +2,8 @@
 #include "lineloss/GasLineLoss.h"
 
 #include <cmath>
-#include <fstream>
 #include <limits>
 #include <map>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -13,7 +11,7 @@
 #include "lineloss/Friction.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
-#include "tests/SuiteFixture.h"
+#include "tests/ReferenceLines.h"
 
 namespace quillmetra {
 namespace {
@@ -51,58 +49,14 @@ protected:
     }
 };
 
-struct ReferenceLine {
-    std::map<std::string, std::string> Fields;
-    double operator[](const std::string& name) const { return Val(Fields.at(name)); }
-};
-
-std::vector<ReferenceLine> ReadReferenceLines() {
-    std::ifstream file(SourceFolder() / "tests/reference/gas_lines.txt");
-    std::vector<std::string> names;
-    std::vector<ReferenceLine> lines;
-    std::string text;
-    std::getline(file, text);
-    std::getline(file, text);
-    std::istringstream heading(text.substr(2));
-    for (std::string name; heading >> name;) names.push_back(name);
-    while (std::getline(file, text)) {
-        std::istringstream fields(text);
-        ReferenceLine line;
-        for (const std::string& name : names) fields >> line.Fields[name];
-        lines.push_back(line);
-    }
-    return lines;
-}
-
-const std::map<std::string, double CalcRecord::*> ReferenceInputs = {
-    {"flow", &CalcRecord::MassFlow},
-    {"viscosity", &CalcRecord::Viscosity},
-    {"mw", &CalcRecord::MolecularWeight},
-    {"ratio", &CalcRecord::RatioSpecificHeats},
-    {"pc", &CalcRecord::CritPressure},
-    {"tc", &CalcRecord::CritTemperature},
-    {"temperature", &CalcRecord::FlowTemperature},
-    {"fouling", &CalcRecord::PipeFouling},
-    {"gate", &CalcRecord::GateValves},
-    {"globe", &CalcRecord::GlobeValves},
-    {"check", &CalcRecord::CheckValves},
-    {"ell90", &CalcRecord::Ells90},
-    {"ell45", &CalcRecord::Ells45},
-    {"thru", &CalcRecord::ThruTees},
-    {"branch", &CalcRecord::BranchTees},
-};
-
 void TakeReferenceLine(const ReferenceLine& line) {
     Calc.CurrentProgram = 2;
-    for (const auto& [name, field] : ReferenceInputs) Calc.*field = line[name];
-    Calc.PipeId[1] = line["id"];
-    Calc.PipeLength[1] = line["length"];
-    Calc.SourcePressure[1] = line["source"];
-    Calc.Elevation = {0, line["start"], line["end"]};
-    Calc.EquipLoss[1] = line["equipment"];
-    Calc.PipeMaterialNumber = static_cast<int>(line["material"]);
-    Calc.EntranceK = 1.5 * line["entrance"];
-    Calc.ExitK = 2.7 * line["exit"];
+    TakeCommonColumns(line);
+    Calc.MolecularWeight = line["mw"];
+    Calc.RatioSpecificHeats = line["ratio"];
+    Calc.CritPressure = line["pc"];
+    Calc.CritTemperature = line["tc"];
+    Calc.FlowTemperature = line["temperature"];
     Calc.PressureDirection = static_cast<int>(line["direction"]);
     Calc.CaseIndex = 2;
     Calc.CaseInput[0][2] = line["flow_shown"];
@@ -121,7 +75,7 @@ std::string ExpectedMessage(const std::string& stop, double told) {
 
 // One record for all lines: what a case leaves behind must not reach the next one.
 TEST_F(GasLineLossTest, AgreesWithTheIndependentProgram) {
-    const auto lines = ReadReferenceLines();
+    const auto lines = ReadReferenceLines("gas_lines.txt");
     ASSERT_GT(lines.size(), 150U);
     std::map<std::string, int> seen;
     for (const ReferenceLine& line : lines) {

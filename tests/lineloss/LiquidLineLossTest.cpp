@@ -2,9 +2,7 @@
 #include "lineloss/LiquidLineLoss.h"
 
 #include <cmath>
-#include <fstream>
 #include <map>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -13,7 +11,7 @@
 #include "lineloss/Friction.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
-#include "tests/SuiteFixture.h"
+#include "tests/ReferenceLines.h"
 
 namespace quillmetra {
 namespace {
@@ -39,56 +37,12 @@ protected:
     }
 };
 
-struct ReferenceLine {
-    std::map<std::string, std::string> Fields;
-    double operator[](const std::string& name) const { return Val(Fields.at(name)); }
-};
-
-std::vector<ReferenceLine> ReadReferenceLines() {
-    std::ifstream file(SourceFolder() / "tests/reference/liquid_lines.txt");
-    std::vector<std::string> names;
-    std::vector<ReferenceLine> lines;
-    std::string text;
-    std::getline(file, text);
-    std::getline(file, text);
-    std::istringstream heading(text.substr(2));
-    for (std::string name; heading >> name;) names.push_back(name);
-    while (std::getline(file, text)) {
-        std::istringstream fields(text);
-        ReferenceLine line;
-        for (const std::string& name : names) fields >> line.Fields[name];
-        lines.push_back(line);
-    }
-    return lines;
-}
-
-const std::map<std::string, double CalcRecord::*> ReferenceInputs = {
-    {"flow", &CalcRecord::MassFlow},
-    {"viscosity", &CalcRecord::Viscosity},
-    {"sg", &CalcRecord::FlowingSG},
-    {"fouling", &CalcRecord::PipeFouling},
-    {"gate", &CalcRecord::GateValves},
-    {"globe", &CalcRecord::GlobeValves},
-    {"check", &CalcRecord::CheckValves},
-    {"ell90", &CalcRecord::Ells90},
-    {"ell45", &CalcRecord::Ells45},
-    {"thru", &CalcRecord::ThruTees},
-    {"branch", &CalcRecord::BranchTees},
-    {"barometer", &CalcRecord::BaroPressure},
-    {"factor_before", &CalcRecord::TurbulentFactor},
-};
-
 void TakeReferenceLine(const ReferenceLine& line) {
     Calc.CurrentProgram = 1;
-    for (const auto& [name, field] : ReferenceInputs) Calc.*field = line[name];
-    Calc.PipeId[1] = line["id"];
-    Calc.PipeLength[1] = line["length"];
-    Calc.SourcePressure[1] = line["source"];
-    Calc.Elevation = {0, line["start"], line["end"]};
-    Calc.EquipLoss[1] = line["equipment"];
-    Calc.PipeMaterialNumber = static_cast<int>(line["material"]);
-    Calc.EntranceK = 1.5 * line["entrance"];
-    Calc.ExitK = 2.7 * line["exit"];
+    TakeCommonColumns(line);
+    Calc.FlowingSG = line["sg"];
+    Calc.BaroPressure = line["barometer"];
+    Calc.TurbulentFactor = line["factor_before"];
     Calc.PressureDirection = static_cast<int>(line["direction"]);
     Calc.PressureMode = line["gauge"] == 1 ? words::Gauge : words::Absolute;
 }
@@ -96,7 +50,7 @@ void TakeReferenceLine(const ReferenceLine& line) {
 // One record for all lines: what a case leaves behind must not reach the next one.
 TEST_F(LiquidLineLossTest, AgreesWithTheIndependentProgram) {
     Suite.HideFlowStatus = words::Yes;
-    const auto lines = ReadReferenceLines();
+    const auto lines = ReadReferenceLines("liquid_lines.txt");
     ASSERT_GT(lines.size(), 200U);
     std::map<std::string, int> seen;
     for (const ReferenceLine& line : lines) {
