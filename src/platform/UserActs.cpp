@@ -6,21 +6,11 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
+#include "platform/Utf8.h"
 
 namespace quillmetra {
 
 namespace {
-
-// The longest head of a UTF-8 text with so many characters; all of it when there is no limit.
-std::string FirstCharacters(const std::string& text, std::size_t most) {
-    if (most == 0) return text;
-    std::size_t characters = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool continues = (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80U;
-        if (!continues && ++characters > most) return text.substr(0, i);
-    }
-    return text;
-}
 
 void ClickInHandler(Control& control) {
     Form& form = control.Owner();
@@ -43,7 +33,7 @@ void ClickInHandler(Control& control) {
     if (control.Click) control.Click();
 }
 
-bool IsOneCharacter(const std::string& key) { return !key.empty() && FirstCharacters(key, 1) == key; }
+bool IsOneCharacter(const std::string& key) { return CharacterCount(key) == 1; }
 
 // Opens the heads over an entry from the top, as a user does on the way to it; false when one of them put
 // up a box instead of its entries.
@@ -86,14 +76,9 @@ bool MoveInList(ListBox& list, const std::string& key) {
 }
 
 bool EditByKey(TextBox& box, const std::string& key) {
-    std::string text = box.Text();
     if (key == "Delete") return TypeText(box, "");
-    if (key == "Backspace") {
-        while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) text.pop_back();
-        if (!text.empty()) text.pop_back();
-        return TypeText(box, text);
-    }
-    return IsOneCharacter(key) && TypeText(box, text + key);
+    if (key == "Backspace") return TypeText(box, WithoutLastCharacter(box.Text()));
+    return IsOneCharacter(key) && TypeText(box, box.Text() + key);
 }
 
 bool PressEnter(Control& control) {
@@ -160,7 +145,8 @@ bool TypeText(Control& control, const std::string& text) {
     if (control.Kind() != ControlKind::TextBox) return false;
     auto& box = static_cast<TextBox&>(control);
     if (box.Locked) return false;
-    box.Owner().Dispatch([&] { box.SetText(FirstCharacters(text, box.MaxLength)); });
+    box.Owner().Dispatch(
+        [&] { box.SetText(box.MaxLength == 0 ? text : FirstCharacters(text, box.MaxLength)); });
     return true;
 }
 

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 namespace quillmetra {
+
+constexpr std::size_t LongestUnitName = 8;  // characters, as the database holds them
 
 // Fills Suite.UnitLibrary and Suite.PressureStem with the suite's own units, line by line. It clears
 // nothing: a caller that replaces a user's library calls ClearUnitLibrary first.

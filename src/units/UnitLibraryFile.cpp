@@ -9,6 +9,7 @@
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
+#include "platform/Utf8.h"
 #include "units/RecordUnits.h"
 #include "units/UnitCatalogue.h"
 
@@ -18,27 +19,14 @@ namespace {
 
 using Library = decltype(Suite.UnitLibrary);
 
-constexpr std::size_t LongestName = 8;  // characters, as the database holds them
-
 std::string FileName() { return Suite.DefaultPaths[4] + "\\TRLib.TXT"; }
-
-// The first characters of a UTF-8 text.
-std::string Left(const std::string& text, std::size_t count) {
-    std::size_t end = 0;
-    while (end < text.size()) {
-        const bool starts = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80U;
-        if (starts && count-- == 0) break;
-        ++end;
-    }
-    return text.substr(0, end);
-}
 
 Library ReadFile() {
     LineReader file(FileName());
     Library library;
     for (UnitList& list : library) {
         for (std::size_t line = 1; line < list.size(); ++line) {
-            list[line].Name = Left(file.NextWhole(), LongestName);
+            list[line].Name = FirstCharacters(file.NextWhole(), LongestUnitName);
             const double factor = Val(file.NextWhole());
             list[line].Factor = IsUsableFactor(factor) ? factor : 0;
         }
@@ -49,9 +37,8 @@ Library ReadFile() {
 void RebuildPressureStems() {
     for (std::size_t line = 1; line < Suite.PressureStem.size(); ++line) {
         const UnitLine& unit = Suite.UnitLibrary[5][line];
-        const bool hasStem = unit.Name.size() > 1;
-        Suite.PressureStem[line] =
-            hasStem ? UnitLine{unit.Name.substr(0, unit.Name.size() - 1), unit.Factor} : UnitLine{};
+        const std::string stem = WithoutLastCharacter(unit.Name);
+        Suite.PressureStem[line] = stem.empty() ? UnitLine{} : UnitLine{stem, unit.Factor};
     }
 }
 

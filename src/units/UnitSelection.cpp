@@ -5,6 +5,7 @@
 
 #include "core/Suite.h"
 #include "core/Words.h"
+#include "platform/Utf8.h"
 #include "units/UnitCatalogue.h"
 
 namespace quillmetra {
@@ -48,7 +49,7 @@ void ReplaceUnitLine(int list, int line, const std::string& name, double factor)
     Suite.UnitLibrary.at(static_cast<std::size_t>(list)).at(static_cast<std::size_t>(line)) = {name, factor};
     if (list != OperatingPressures) return;
     UnitLine& stem = Suite.PressureStem.at(static_cast<std::size_t>(line));
-    stem = {name.empty() ? "" : name.substr(0, name.size() - 1), factor};
+    stem = {WithoutLastCharacter(name), factor};
 }
 
 }  // namespace quillmetra
