@@ -14,6 +14,8 @@ namespace quillmetra {
 struct UnitLine {
     std::string Name;
     double Factor = 0;
+
+    bool operator==(const UnitLine&) const = default;
 };
 using UnitList = Row<UnitLine, 11>;  // lines 1 to 10
 

@@ -22,17 +22,15 @@ protected:
     }
 };
 
-bool operator==(const UnitLine& a, const UnitLine& b) { return a.Name == b.Name && a.Factor == b.Factor; }
-
 void ExpectLibrary(const SuiteState& expected) {
     for (std::size_t list = 0; list < expected.UnitLibrary.size(); ++list) {
+        if (Suite.UnitLibrary[list] == expected.UnitLibrary[list]) continue;
         for (std::size_t line = 0; line < 11; ++line) {
             ASSERT_TRUE(Suite.UnitLibrary[list][line] == expected.UnitLibrary[list][line])
                 << list << " " << line << " " << Suite.UnitLibrary[list][line].Name;
         }
     }
-    for (std::size_t line = 0; line < 11; ++line)
-        ASSERT_TRUE(Suite.PressureStem[line] == expected.PressureStem[line]) << line;
+    ASSERT_TRUE(Suite.PressureStem == expected.PressureStem);
     ASSERT_EQ(Suite.UnitLibraryName, expected.UnitLibraryName);
 }
 
@@ -69,8 +67,8 @@ TEST_F(UnitLibraryFileTest, AFileThatWasCutAnywhereGivesTheDefaultLibrary) {
     ASSERT_TRUE(WriteUnitLibrary());
     const std::string whole = FileText();
     const SuiteState expected = DefaultLibrary();
-    for (std::size_t length = 0; length + 1 < whole.size(); ++length) {
-        WriteData("TRLib.TXT", whole.substr(0, length));
+    for (std::size_t length = whole.size() - 1; length-- > 0;) {
+        CutData("TRLib.TXT", length);
         Suite.UnitLibrary[3][10] = {"/fort", 0.5};  // must not survive
         ASSERT_FALSE(ReadUnitLibrary()) << length;
         ASSERT_NO_FATAL_FAILURE(ExpectLibrary(expected)) << length;
