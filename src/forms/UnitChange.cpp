@@ -32,8 +32,6 @@ void ConvertToNewUnits(ZeroTemperature zero) {
         if (CalculationForm* form = OpenCalculation()) form->ClearAllCases();
         Calc.FormLoading = words::Yes;
         RenewChosenUnitNames();
-        Calc.BasisPrevious = Calc.Basis;
-        Calc.LiquidBasisPrevious = Calc.LiquidBasis;
     } else if (UnitsHaveChanged()) {
         ConvertProgramData(zero);
         Calc.ChangedFlag = words::No;
@@ -46,6 +44,9 @@ void ConvertToNewUnits(ZeroTemperature zero) {
 }
 
 void ReturnToCalculation() {
+    Calc.FormLoading = words::No;
+    Calc.OptionsLoaded.clear();
+    Calc.NoConversion.clear();  // it holds for one selection
     if (CalculationForm* form = OpenCalculation()) form->ReturnFromPanel();
 }
 

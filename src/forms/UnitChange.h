@@ -9,9 +9,6 @@ namespace quillmetra {
 class CalculationForm;
 class SuiteForm;
 
-// UnitSetName of units picked one by one.
-inline constexpr const char* SelectedUnitsName = "User selected units";
-
 // True when a unit or a basis differs from what was in force before the change.
 bool UnitsHaveChanged();
 
@@ -20,7 +17,7 @@ bool UnitsHaveChanged();
 // Renews the previous units. Without a change of units nothing is converted or rounded.
 void ConvertToNewUnits(ZeroTemperature zero);
 
-// The calculation form takes input again, with its calculate buttons.
+// The calculation form takes input again, with its calculate buttons; NoConversion and OptionsLoaded end.
 void ReturnToCalculation();
 
 // The open calculation form; null when there is none.

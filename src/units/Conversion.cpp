@@ -17,8 +17,6 @@ namespace {
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
-double Expressible(double value) { return std::isfinite(value) ? value : 0; }
-
 // From the gravity of case 0, or from the user, who is asked until the answer is above 0.
 void TakeFlowGravity(int caseIndex) {
     constexpr const char* title = "Convert Liquid Flow";
@@ -67,6 +65,8 @@ void ConvertViscosity(int caseIndex, double ratio, ToCp toCp, FromCp fromCp) {
 }
 
 }  // namespace
+
+double Expressible(double value) { return std::isfinite(value) ? value : 0; }
 
 double Rescaled(double value, int unitRow) {
     return Expressible(value * Calc.UnitFactorPrevious[At(unitRow)] / Calc.UnitFactor[At(unitRow)]);
@@ -134,6 +134,12 @@ void ConvertViscosityGas(int caseIndex) {
     ConvertViscosity(
         caseIndex, ratio, [ratio](double cs) { return cs / ratio; },
         [ratio](double cp) { return cp * ratio; });
+}
+
+bool OwnViscosityStays() {
+    const std::string& unit = Calc.UnitName[7];
+    const bool known = CentistokesPerUnit(unit) > 0 || unit == "Pa.s" || Calc.UnitFactor[7] == 1;
+    return !known && unit == Calc.ChosenUnitRowNames[3] && Calc.UnitFactor[7] == Calc.UnitFactorPrevious[7];
 }
 
 void ConvertStandardTemperature() {

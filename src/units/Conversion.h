@@ -11,6 +11,9 @@ constexpr double MolarVolume = 378.751445;
 constexpr double WaterPoundsPerGallon = 8.3378;
 constexpr double WaterDensity = 62.366;
 
+// The value itself, or 0 for one that is not finite.
+double Expressible(double value);
+
 // v x previous factor / factor of a unit row.
 double Rescaled(double value, int unitRow);
 
@@ -41,9 +44,13 @@ void ConvertFlashPoint(int caseIndex);
 // Row 7, from the unit ChosenUnitRowNames[3] to UnitName[7], to four figures. Kinematic units go through the
 // gravity of case 0 (liquid), which FlowingSG takes, or the molecular weight of row 5 (gas); where that is
 // not above 0 the viscosity becomes 0. A unit of the user's own is divided out on the way to it but not
-// multiplied on the way from it: a deliberate oddity.
+// multiplied on the way from it: a deliberate oddity. Where that unit stays (OwnViscosityStays) there is no
+// way to go, and these two are not called.
 void ConvertViscosityLiquid(int caseIndex);
 void ConvertViscosityGas(int caseIndex);
+
+// True when the viscosity has a unit of the user's own before and after.
+bool OwnViscosityStays();
 
 // Row 21 of case 0 from StdTemperature (degF), to six figures, in degF or degC; in another unit it stays.
 void ConvertStandardTemperature();

@@ -16,13 +16,13 @@ namespace {
 
 // barometer is in the unit of the pressure.
 double AbsoluteFromGauge(double pressure, double barometer) {
-    return pressure > -barometer && pressure != 0 ? RoundedFour(pressure + barometer) : pressure;
+    return pressure > -barometer && pressure != 0 ? Expressible(RoundedFour(pressure + barometer)) : pressure;
 }
 
 // std::nearbyint rounds a half to the even number.
 double GaugeFromAbsolute(double pressure, double barometer) {
     if (pressure == 0 || std::nearbyint(pressure - barometer) == 0) return pressure;
-    return RoundedFour(pressure - barometer);
+    return Expressible(RoundedFour(pressure - barometer));
 }
 
 // The final pressures of a line have their unit in the row of its source pressure, and so have the two wave
@@ -50,10 +50,12 @@ void FillDensityUnit() {
     Tell("Please select the correct density unit", "Temporary variable shown");
 }
 
-double DensityFromGravity(double gravity) { return RoundedFour(gravity * WaterDensity / Calc.UnitFactor[6]); }
+double DensityFromGravity(double gravity) {
+    return Expressible(RoundedFour(gravity * WaterDensity / Calc.UnitFactor[6]));
+}
 
 double GravityFromDensity(double density) {
-    return RoundedFour(Rescaled(density, 6) / WaterDensity * Calc.UnitFactor[6]);
+    return Expressible(RoundedFour(Rescaled(density, 6) / WaterDensity * Calc.UnitFactor[6]));
 }
 
 }  // namespace
@@ -62,15 +64,19 @@ double GravityFromDensity(double density) {
 void ChangePressureMode(const std::string& mode) {
     const bool toAbsolute = mode == words::Absolute;
     const bool changes = toAbsolute != (Calc.PressureMode == words::Absolute);
+    std::string& unit = Calc.UnitName[3];
+    if (changes && (unit.empty() || unit.back() != (toAbsolute ? 'g' : 'a'))) return;
     Calc.PressureMode = mode;
     Calc.PressureModePrevious = mode;
-    std::string& unit = Calc.UnitName[3];
-    if (!changes || unit.empty() || unit.back() != (toAbsolute ? 'g' : 'a')) return;
+    if (!changes) return;
     if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = 14.7;
     const double barometer = Calc.BaroPressure / Calc.UnitFactorPrevious[3];
-    ChangePressures([=](double pressure) {
-        return toAbsolute ? AbsoluteFromGauge(pressure, barometer) : GaugeFromAbsolute(pressure, barometer);
-    });
+    if (Calc.NoConversion != words::Yes) {
+        ChangePressures([=](double pressure) {
+            return toAbsolute ? AbsoluteFromGauge(pressure, barometer)
+                              : GaugeFromAbsolute(pressure, barometer);
+        });
+    }
     unit.back() = toAbsolute ? 'a' : 'g';
     MarkAllCasesConverted();
 }
@@ -83,7 +89,8 @@ void ChangeDensityMode(const std::string& mode) {
     if (!changes) return;
     if (toDensity) FillDensityUnit();
     for (double& value : Calc.CaseInput[6]) {
-        if (value > 0) value = toDensity ? DensityFromGravity(value) : GravityFromDensity(value);
+        if (value > 0 && Calc.NoConversion != words::Yes)
+            value = toDensity ? DensityFromGravity(value) : GravityFromDensity(value);
     }
     Calc.UnitFactorPrevious[6] = Calc.UnitFactor[6];
     Calc.UnitNamePrevious[6] = Calc.UnitName[6];

@@ -1,6 +1,7 @@
 // Gauge or absolute pressure, gravity or density: the values of the record when the mode changes. Both come
 // after the new units stand and before ConvertProgramData, and both give the mode itself its new word: the
-// caller does not set it before.
+// caller does not set it before. With NoConversion "Yes" the mode changes and the values stay. A value that
+// the new unit cannot express becomes 0.
 #pragma once
 
 #include <string>
@@ -11,7 +12,8 @@ namespace quillmetra {
 // barometric pressure, expressed in the previous unit of row 3, in row 3 of all cases, the final pressures
 // and the hammer pressures, to four figures, and changes the ending of UnitName[3]. Zero stays zero. On the
 // way to gauge a pressure that would round to a whole number of 0 stays as it is: a deliberate oddity. A
-// BaroPressure not above 0 becomes 14.7. No value changes when the unit's name has not the old ending.
+// BaroPressure not above 0 becomes 14.7. Nothing changes, not even the mode, when the unit's name has not the
+// old ending: the values would keep the old meaning under the new word.
 void ChangePressureMode(const std::string& mode);
 
 // From LiquidDensityMode to another ("LiqSG", "LiqDen"); nothing when it is the same. Row 6 of all cases

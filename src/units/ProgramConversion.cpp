@@ -90,29 +90,38 @@ void RescaleInput(int caseIndex) {
     Rescale(Calc.CaseInput[At(Row)][At(caseIndex)], UnitRow);
 }
 
+// A change of another unit, again and again, must not divide the viscosity each time.
+template <void (*Convert)(int)>
+void ConvertViscosity(int caseIndex) {
+    if (!OwnViscosityStays()) Convert(caseIndex);
+}
+
 constexpr CaseStep GasLineSteps[] = {
     {0, When::Positive, ConvertLineFlowGas},
     {2, When::NotZero, ConvertTemperature},
     {12, When::NotZero, ConvertCritTemperature},
-    {7, When::Positive, ConvertViscosityGas},
+    {7, When::Positive, ConvertViscosity<ConvertViscosityGas>},
 };
 
 constexpr CaseStep LiquidLineSteps[] = {
     {1, When::Positive, ConvertLineFlowLiquid},
     {2, When::NotZero, ConvertTemperature},
-    {7, When::Positive, ConvertViscosityLiquid},
+    {7, When::Positive, ConvertViscosity<ConvertViscosityLiquid>},
 };
 
 constexpr CaseStep LiquidDataSteps[] = {
-    {2, When::NotZero, ConvertTemperature},      {12, When::NotZero, ConvertCritTemperature},
-    {4, When::NotZero, ConvertBoilingPoint},     {1, When::NotZero, ConvertFlashPoint},
-    {7, When::Positive, ConvertViscosityLiquid}, {27, When::NotZero, RescaleInput<27, 27>},
+    {2, When::NotZero, ConvertTemperature},
+    {12, When::NotZero, ConvertCritTemperature},
+    {4, When::NotZero, ConvertBoilingPoint},
+    {1, When::NotZero, ConvertFlashPoint},
+    {7, When::Positive, ConvertViscosity<ConvertViscosityLiquid>},
+    {27, When::NotZero, RescaleInput<27, 27>},
 };
 
 // Both latent heats go by the unit of row 16.
 constexpr CaseStep GasDataSteps[] = {
     {2, When::NotZero, ConvertTemperature},      {4, When::NotZero, ConvertBoilingPoint},
-    {12, When::NotZero, ConvertCritTemperature}, {7, When::Positive, ConvertViscosityGas},
+    {12, When::NotZero, ConvertCritTemperature}, {7, When::Positive, ConvertViscosity<ConvertViscosityGas>},
     {16, When::NotZero, RescaleInput<16, 16>},   {13, When::NotZero, RescaleInput<13, 16>},
 };
 
@@ -144,8 +153,6 @@ void ConvertCases(std::span<const CaseStep> steps, ZeroTemperature zero) {
 void FinishConversion() {
     Calc.RoundedFlag = words::No;
     RoundRecord();
-    Calc.BasisPrevious = Calc.Basis;
-    Calc.LiquidBasisPrevious = Calc.LiquidBasis;
     RenewChosenUnitNames();
     RememberUnits();
 }

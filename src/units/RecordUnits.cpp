@@ -20,6 +20,8 @@ void MendUnitFactors() {
 void RememberUnits() {
     Calc.UnitNamePrevious = Calc.UnitName;
     Calc.UnitFactorPrevious = Calc.UnitFactor;
+    Calc.BasisPrevious = Calc.Basis;
+    Calc.LiquidBasisPrevious = Calc.LiquidBasis;
 }
 
 void RenewChosenUnitNames() {

@@ -17,7 +17,7 @@ bool IsUsableFactor(double factor);
 // called after whatever brings factors in: a set, a load, a file, a closed panel.
 void MendUnitFactors();
 
-// Copies names and factors in force to the previous ones, all rows.
+// Copies names and factors in force to the previous ones, all rows, and both flow bases.
 void RememberUnits();
 
 // Takes the units of temperature, critical temperature and viscosity in force as those of the values.

@@ -23,8 +23,6 @@ namespace {
 constexpr std::array<std::size_t, 10> LiquidRows = {1, 2, 3, 4, 7, 20, 27, 18, 25, 5};
 constexpr std::array<std::size_t, 10> GasRows = {0, 2, 3, 4, 12, 11, 20, 13, 18, 25};
 
-constexpr const char* UserSetName = "User selected units";
-
 struct UserSet {
     std::string Basis = words::Mass;
     int UnitSet = 0;
@@ -233,8 +231,10 @@ bool TakeUserUnitSet() {
     gas ? TakeGasSet() : TakeLiquidSet();
     MatchPressureEnding();
     if (Calc.CurrentProgram == 4 || Calc.CurrentProgram == 5) TakeFamilyUnits(english);
+    // A liquid's two densities have one unit.
+    if (Calc.CurrentProgram == 4) TakeUnit(6, Calc.UnitName[9], Calc.UnitFactor[9]);
     Calc.UnitName[2] == "degF" ? STPEnglish() : STPSI();
-    Calc.UnitSetName = UserSetName;
+    Calc.UnitSetName = SelectedUnitsName;
     CarryDensityUnit();
     MendUnitFactors();
     return true;

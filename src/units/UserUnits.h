@@ -9,6 +9,9 @@
 
 namespace quillmetra {
 
+// UnitSetName of the user's set and of units picked one by one.
+inline constexpr const char* SelectedUnitsName = "User selected units";
+
 // Reads the file into the user sets and takes bases, unit sets, modes and barometer into the record: the
 // start of a new calculation. A missing, cut or damaged file empties the user sets, puts the record on
 // English units and row 0 on lb/h, and gives false.

@@ -79,11 +79,12 @@ TEST_F(ModeChangeTest, ThePressureModeThatIsInForceChangesNothing) {
     ChangePressureMode(words::Absolute);
     ChangePressureMode(words::Absolute);
     EXPECT_NEAR(Calc.CaseInput[3][0], 114.7, 1e-9);
-    // A unit without the ending is not one of a mode.
+    // A unit without the ending is not one of a mode: values and mode go on together.
     Calc.UnitName[3] = "torr";
     ChangePressureMode(words::Gauge);
     EXPECT_NEAR(Calc.CaseInput[3][0], 114.7, 1e-9);
     EXPECT_EQ(Calc.UnitName[3], "torr");
+    EXPECT_EQ(Calc.PressureMode, "Psia");
     Calc.UnitName[3].clear();
     ChangePressureMode(words::Absolute);
     EXPECT_EQ(Calc.PressureMode, "Psia");
@@ -128,6 +129,34 @@ TEST_F(ModeChangeTest, PressureModeAndUnitsInOneGo) {
     EXPECT_EQ(Calc.UnitName[3], "psig");
     EXPECT_NEAR(Calc.CaseInput[3][0], 100, 0.02);  // by way of four figures in kPa
     EXPECT_NEAR(Calc.CaseInput[3][1], 50, 0.02);
+}
+
+// The numbers were in the other mode all along.
+TEST_F(ModeChangeTest, WithoutConversionTheModesChangeAlone) {
+    TakeLine();
+    Calc.NoConversion = words::Yes;
+    Calc.CaseInput[3][0] = 100;
+    Calc.CaseInput[6][0] = 50;
+    ChangePressureMode(words::Absolute);
+    ChangeDensityMode(words::Density);
+    EXPECT_EQ(Calc.UnitName[3], "psia");
+    EXPECT_EQ(Calc.PressureMode, "Psia");
+    EXPECT_EQ(Calc.LiquidDensityMode, "LiqDen");
+    EXPECT_EQ(Calc.CaseInput[3][0], 100);
+    EXPECT_EQ(Calc.CaseInput[6][0], 50);
+}
+
+// Factors of a user's own unit may be as small or as large as a number can be.
+TEST_F(ModeChangeTest, WhatCannotBeExpressedIsNoNumber) {
+    TakeLine();
+    Calc.CaseInput[3][0] = 1e308;
+    Calc.UnitFactorPrevious[3] = 1e-307;
+    ChangePressureMode(words::Absolute);
+    EXPECT_EQ(Calc.CaseInput[3][0], 0);
+    Calc.UnitFactor[6] = 1e-307;
+    Calc.CaseInput[6] = {20, 0, 0};
+    ChangeDensityMode(words::Density);
+    EXPECT_EQ(Calc.CaseInput[6][0], 0);
 }
 
 TEST_F(ModeChangeTest, DensityAndGravity) {

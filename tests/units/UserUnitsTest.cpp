@@ -75,8 +75,9 @@ TEST_F(UserUnitsTest, WritesWhatItRead) {
 
 TEST_F(UserUnitsTest, AFileThatWasCutAnywhereIsNotTaken) {
     const std::string whole = Joined(GoodLines);
-    for (std::size_t length = 0; length + 1 < whole.size(); ++length) {
-        WriteData("TRUNS.txt", whole.substr(0, length));
+    WriteData("TRUNS.txt", whole);
+    for (std::size_t length = whole.size() - 1; length-- > 0;) {
+        CutData("TRUNS.txt", length);
         Calc = CalcRecord();
         Calc.UnitFactor[4] = 99;
         Suite.UserLiquidUnitName.fill("old");
@@ -220,6 +221,7 @@ TEST_F(UserUnitsTest, FluidDataProgramsFollowTheFamilyOfThePressure) {
         ASSERT_TRUE(TakeUserUnitSet());
         EXPECT_EQ(Calc.UnitName[8], each.Vapor);
         EXPECT_EQ(Calc.UnitName[9], each.Density);
+        EXPECT_EQ(Calc.UnitName[6], each.Density) << "the density at flow goes by the same unit";
         EXPECT_EQ(Calc.UnitName[11], each.CritPressure);
         EXPECT_EQ(Calc.UnitName[12], each.CritTemperature);
         EXPECT_EQ(Calc.UnitName[16], each.LatentHeat);
