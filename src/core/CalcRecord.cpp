@@ -62,6 +62,11 @@ void MarkCalculated() {
     Calc.ChangedFlag = words::No;
 }
 
+void SnapshotRecord() {
+    MarkCalculated();
+    Calc.InputChanged = words::Yes;
+}
+
 void RestoreShown() {
     Calc.CaseInput = Calc.CaseInputSaved;
     Calc.UnitFactor = Calc.UnitFactorShown;

@@ -238,6 +238,9 @@ void ResetForNew();
 // record as updated.
 void MarkCalculated();
 
+// MarkCalculated, and marks the inputs as changed too. What a calculation by the user's button ends with.
+void SnapshotRecord();
+
 // Takes the live fields back from the saved generation, which undoes an edit.
 void RestoreShown();
 

@@ -16,6 +16,7 @@
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "units/NamedUnitSets.h"
+#include "units/RecordUnits.h"
 
 namespace quillmetra {
 
@@ -148,10 +149,13 @@ void CalculationForm::Load() {
 void CalculationForm::ApplyUnits() {
     int& set = Calc.FluidType == words::Gas ? Calc.GasUnitSet : Calc.LiquidUnitSet;
     if (set == 0) set = 1;
-    if (ApplyNamedUnitSet(set)) return;
-    Tell("File is empty, please make and save\nusing Change Setup to the Calc Options Form", "Boot up File");
-    set = 1;
-    ApplyNamedUnitSet(set);
+    if (!ApplyNamedUnitSet(set)) {
+        Tell("File is empty, please make and save\nusing Change Setup to the Calc Options Form",
+             "Boot up File");
+        set = 1;
+        ApplyNamedUnitSet(set);
+    }
+    RememberUnits();  // nothing is entered yet that would have to be converted
 }
 
 void CalculationForm::StoreForm() {

@@ -171,7 +171,7 @@ void LineLossForm::cmdCalculate_Click(int index) {
     if (!CheckData()) return;
     Calc.PipeIndex = 1;
     if (!CalculateCase()) return;
-    MarkCalculated();
+    SnapshotRecord();
     ShowCalculation();
     txtBy.SetFocus();
     Calc.CalculatedFlag = words::Yes;

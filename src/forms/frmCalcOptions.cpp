@@ -1,7 +1,9 @@
 // See frmCalcOptions.h.
 #include "forms/frmCalcOptions.h"
 
-#include "core/Filling.h"
+#include <cmath>
+
+#include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
@@ -10,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/Utf8.h"
 #include "reports/FormRefresh.h"
 #include "units/ModeChange.h"
 #include "units/NamedUnitSets.h"
@@ -61,9 +64,8 @@ frmCalcOptions::frmCalcOptions() : SuiteForm("frmCalcOptions") {
         };
     }
     txtSTPBaro.KeyPress = [](Key& key) {
-        const bool isText = key.Name.size() == 1;
-        const bool isNumber = isText && (key.Name[0] == '.' || (key.Name[0] >= '0' && key.Name[0] <= '9'));
-        key.Handled = isText && !isNumber;
+        const bool isNumber = key.Name[0] == '.' || (key.Name[0] >= '0' && key.Name[0] <= '9');
+        key.Handled = CharacterCount(key.Name) == 1 && !isNumber;
     };
     cmdBaroPress.Click = [this] { cmdBaroPress_Click(); };
     cmdReviewUnits.Click = [this] { cmdReviewUnits_Click(); };
@@ -126,6 +128,17 @@ double frmCalcOptions::BarometerInPsia() const {
     const double typed = Val(txtSTPBaro.Text());
     if (txtSTPBaro.Text() == barometerShown_ || !(typed > 0)) return Calc.BaroPressure;
     return cmdBaroPress.Caption() == Kilopascal ? RoundedFour(typed * PsiPerKilopascal) : typed;
+}
+
+// A new calculation reads the barometer from the file of the standard conditions, when there is one.
+void frmCalcOptions::TakeBarometer() {
+    const double barometer = BarometerInPsia();
+    const double inKilopascal = barometer / PsiPerKilopascal;
+    if (barometer == Calc.BaroPressure || !std::isfinite(inKilopascal)) return;
+    Calc.BaroPressure = barometer;
+    Calc.CaseInput[23][0] = Calc.UnitName[23] == Kilopascal ? RoundedSix(inKilopascal) : barometer;
+    opened_.CaseInput[23] = Calc.CaseInput[23];  // a new barometer outlasts the panel's Cancel
+    SaveStandardConditions();
 }
 
 std::string frmCalcOptions::PressureChoice() const {
@@ -194,9 +207,9 @@ void frmCalcOptions::CloseCalcOpts() {
         Calc.NoConversion.clear();
         return;
     }
-    Calc.FormLoading = words::Yes;
     RememberUnits();
     if (!ApplySet()) return;
+    Calc.FormLoading = words::Yes;
     ApplyModes();
     Calc.DataMode = DataChoice();
     Calc.CalcMode = CalcChoice();
@@ -204,15 +217,17 @@ void frmCalcOptions::CloseCalcOpts() {
     RefreshTitle();
     Calc.HideResults = words::No;
     if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::Stays);
-    Calc.NoConversion.clear();
-    Calc.BaroPressure = BarometerInPsia();
+    TakeBarometer();
     RefreshTitle();
+    const bool modeStays = Calc.PressureMode != PressureChoice();
     InstallOptions();
+    CalculationForm* const form = OpenCalculation();
+    if (modeStays && form != nullptr) {
+        form->SetStatus(Calc.UnitName[3] + " is neither gauge nor absolute: the pressures stay as they were");
+    }
 }
 
 void frmCalcOptions::InstallOptions() {
-    Calc.FormLoading = words::No;
-    Calc.OptionsLoaded.clear();
     UnloadForm(Name());
     ReturnToCalculation();
 }
@@ -221,7 +236,7 @@ void frmCalcOptions::InstallOptions() {
 
 void frmCalcOptions::cmdBootUpUnits_Click() {
     // The modes of the panel are written, but the record keeps its own until OK converts it.
-    const CalcRecord before = Calc;
+    CalcRecord before = Calc;
     const bool absolute = PressureChoice() == words::Absolute;
     Calc.PressureMode = PressureChoice();
     if (!Calc.UnitName[3].empty()) Calc.UnitName[3].back() = absolute ? 'a' : 'g';
@@ -233,26 +248,23 @@ void frmCalcOptions::cmdBootUpUnits_Click() {
         question += optLiqDensity.Checked() ? "\nand liquid density instead of specific gravity"
                                             : "\nand liquid specific gravity instead of density";
     }
-    const bool save = AskYesNo(question + "\nSave?", "New boot up Configuration for " + Calc.FluidType);
-    if (save) {
-        Calc.BaroPressure = BarometerInPsia();
+    if (AskYesNo(question + "\nSave?", "New boot up Configuration for " + Calc.FluidType)) {
+        TakeBarometer();
         TakeBootUpUnits();
         SaveUserUnits(*this);
+        before.LiquidUnitSet = Calc.LiquidUnitSet;
+        before.GasUnitSet = Calc.GasUnitSet;
+        before.BaroPressure = Calc.BaroPressure;
+        before.CaseInput[23] = Calc.CaseInput[23];
     }
-    const int set = UnitSet();
-    const double barometer = Calc.BaroPressure;
     Calc = before;
-    if (save) {
-        UnitSet() = set;
-        Calc.BaroPressure = barometer;
-    }
 }
 
 // Units that belong to no named set become the user's set. A gas keeps its own set throughout, and the first
-// named set of a gas becomes the user's.
+// named set of a gas becomes the user's too.
 void frmCalcOptions::TakeBootUpUnits() {
     int& set = UnitSet();
-    if (set == (IsLiquid() ? 0 : 1)) set = UserUnitSet;
+    if (set == 0 || (!IsLiquid() && set == 1)) set = UserUnitSet;
     if (!IsLiquid() || set == UserUnitSet) StoreUserUnitSet();
 }
 
@@ -301,7 +313,6 @@ void frmCalcOptions::cmdCancelOptions_Click() {
     Calc.GasUnitSet = opened_.GasUnitSet;
     Calc.PressureMode = opened_.PressureMode;
     Calc.LiquidDensityMode = opened_.LiquidDensityMode;
-    Calc.NoConversion.clear();
     InstallOptions();
 }
 

@@ -72,6 +72,7 @@ private:
     // The number of the set that is picked, 0 for "leave as is".
     int SetChoice() const;
     double BarometerInPsia() const;
+    void TakeBarometer();
     // Applies the picked unit set; false when the user's file is empty, which it says.
     bool ApplySet();
     void ApplyModes();

@@ -9,6 +9,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/Utf8.h"
 #include "units/RecordUnits.h"
 #include "units/UnitCatalogue.h"
 #include "units/UnitLibraryFile.h"
@@ -18,7 +19,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t LongestName = 8;
 constexpr int DensityRow = 9;
 constexpr int LiquidDensityRow = 6;
 constexpr int LiquidViscosityRow = 7;
@@ -80,12 +80,7 @@ void frmUnits::Load() {
     ApplyColours(*this);
     if (Suite.UnitLibraryName.empty()) ReadUnitLibrary();
     ApplyPressureSuffix();
-    Calc.UnitFactorPrevious = factorsBefore_ = Calc.UnitFactor;
-    Calc.UnitNamePrevious = namesBefore_ = Calc.UnitName;
-    basisBefore_ = Calc.Basis;
-    liquidBasisBefore_ = Calc.LiquidBasis;
-    basisPreviousBefore_ = Calc.BasisPrevious;
-    liquidBasisPreviousBefore_ = Calc.LiquidBasisPrevious;
+    RememberUnits();
     // The window shows a liquid's density in row 9, whatever row the program keeps it in.
     const bool density = Calc.LiquidDensityMode == words::Density;
     if (!IsGas() && density) {
@@ -176,8 +171,6 @@ void frmUnits::OfferBasis(bool offer) {
 
 void frmUnits::cmdBasis_Click() {
     BasisOfRow() = optVol.Checked() ? words::Volume : words::Mass;
-    (UnitRow == 0 ? Calc.BasisPrevious : Calc.LiquidBasisPrevious) =
-        UnitRow == 0 ? basisBefore_ : liquidBasisBefore_;
     OfferBasis(false);
     DefaultButton = &cmdSelect;
     CancelButton = &cmdCancel;
@@ -219,21 +212,25 @@ void frmUnits::cboText_Change() {
         return;
     }
     cmdReplace.SetEnabled(false);
-    if (line < 0 || (cboUnit.Text().empty() && cboFactor.Text().empty())) return;
+    if (line < 0) return;
     Tell("This item is a base unit and cannot be changed", "Unit Edit");
-    cboUnit.SetText("");
-    cboFactor.SetText("");
+    // By way of the selection: an emptied text would count as the next change of the line.
+    cboUnit.Preselect(-1);
+    cboFactor.Preselect(-1);
+}
+
+bool frmUnits::NameIsTooLong(const std::string& name) {
+    if (CharacterCount(name) <= LongestUnitName) return false;
+    Tell("Maximum of 8 characters", "New Unit Name", Icon::Stop);
+    cboUnit.SetFocus();
+    return true;
 }
 
 void frmUnits::cmdReplace_Click() {
     const int line = cboUnit.Selected();
     if (line < ProtectedCount) return;
     const std::string name(Trim(cboUnit.Text()));
-    if (name.size() > LongestName) {
-        Tell("Maximum of 8 characters", "New Unit Name", Icon::Stop);
-        cboUnit.SetFocus();
-        return;
-    }
+    if (NameIsTooLong(name)) return;
     ReplaceUnitLine(UnitListOf(UnitRow), line + 1, name, Val(cboFactor.Text()));
     const std::string factor(Trim(cboFactor.Text()));
     ListUnits();
@@ -251,11 +248,7 @@ void frmUnits::cmdSelect_Click() {
         cboUnit.SetFocus();
         return;
     }
-    if (name.size() > LongestName) {
-        Tell("Maximum of 8 characters", "New Unit Name", Icon::Stop);
-        cboUnit.SetFocus();
-        return;
-    }
+    if (NameIsTooLong(name)) return;
     if (!IsUsableFactor(factor)) {
         Tell("Multiplier must be greater than zero", "Unit " + name);
         cboFactor.SetFocus();
@@ -321,8 +314,6 @@ bool frmUnits::TakeFlowUnit(int row, int baseRow) {
 }
 
 bool frmUnits::TakeUnits() {
-    Calc.UnitFactorPrevious = factorsBefore_;
-    Calc.UnitNamePrevious = namesBefore_;
     if (!TakeFlowUnit(0, 19) || !TakeFlowUnit(1, 5)) return false;
     const auto order = UnitDisplayOrder(IsGas());
     for (int position = 2; position <= UnitPositions; ++position) {
@@ -346,19 +337,14 @@ bool frmUnits::TakeUnits() {
 }
 
 void frmUnits::RestoreRecord() {
-    Calc.UnitName = namesBefore_;
-    Calc.UnitFactor = factorsBefore_;
-    Calc.UnitFactorPrevious = factorsBefore_;
-    Calc.UnitNamePrevious = namesBefore_;
-    Calc.Basis = basisBefore_;
-    Calc.LiquidBasis = liquidBasisBefore_;
-    Calc.BasisPrevious = basisPreviousBefore_;
-    Calc.LiquidBasisPrevious = liquidBasisPreviousBefore_;
+    Calc.UnitName = Calc.UnitNamePrevious;
+    Calc.UnitFactor = Calc.UnitFactorPrevious;
+    Calc.Basis = Calc.BasisPrevious;
+    Calc.LiquidBasis = Calc.LiquidBasisPrevious;
 }
 
 void frmUnits::cmdOK_Click() {
     if (!AskUpdate()) return;
-    Calc.FormLoading = words::Yes;
     const UnitNames names = Calc.UnitName;
     const UnitFactors factors = Calc.UnitFactor;
     if (!TakeUnits()) {
@@ -366,6 +352,7 @@ void frmUnits::cmdOK_Click() {
         Calc.UnitFactor = factors;
         return;
     }
+    Calc.FormLoading = words::Yes;
     if (UnitsHaveChanged()) {
         // Units picked one by one belong to no named set.
         (IsGas() ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
@@ -410,6 +397,13 @@ bool frmUnits::ConfirmLibrary(const std::string& question, Answer preset) const 
     return AskYesNo(question + "\n\nOK?", "Confirm Deletion", Icon::None, preset);
 }
 
+// Another library is in force: what has been chosen stands, an open list shows the new lines.
+void frmUnits::ShowLibrary() {
+    ApplyPressureSuffix();
+    ShowTitle();
+    if (cboUnit.Works()) ListUnits();
+}
+
 void frmUnits::mnuSaveUnLibrary_Click() {
     if (!ConfirmLibrary("Save created units in a User Library File?", Answer::Yes)) return;
     if (!WriteUnitLibrary()) Tell("Path for units not found", "Units default path");
@@ -421,8 +415,7 @@ void frmUnits::mnuRecallSavedUnLibrary_Click() {
     ReadUnitLibrary();
     if (Suite.UnitLibraryName == DefaultLibraryName)
         Tell("A User library has not been created", LibraryTitle);
-    ApplyPressureSuffix();
-    ShowTitle();
+    ShowLibrary();
 }
 
 void frmUnits::mnuDefaultUnLibrary_Click() {
@@ -432,15 +425,13 @@ void frmUnits::mnuDefaultUnLibrary_Click() {
         return;
     }
     UseDefaultLibrary();
-    ApplyPressureSuffix();
-    ShowTitle();
+    ShowLibrary();
 }
 
 void frmUnits::mnuDeleteLib_Click() {
     if (!ConfirmLibrary("Delete the User Library File?", Answer::No)) return;
     if (!DeleteUnitLibraryFile()) Tell("Path for units not found", "Units default path");
-    ApplyPressureSuffix();
-    ShowTitle();
+    ShowLibrary();
 }
 
 }  // namespace quillmetra

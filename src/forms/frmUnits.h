@@ -53,7 +53,6 @@ public:
 
     void Row_Click(int row);
     void cmdBasis_Click();
-    void cmdCanBasis_Click();
     void cboLine_Click(ComboBox& chosen, ComboBox& other);
     void cboText_Change();
     void cmdReplace_Click();
@@ -82,13 +81,16 @@ private:
     void ClosePanel();
     void OfferBasis(bool offer);
     void ListUnits();
+    bool NameIsTooLong(const std::string& name);  // and says so
     std::string& BasisOfRow() const;
     bool AskUpdate() const;
     // Steps of OK: the chosen units go into the record; false, with a message, when one has no multiplier.
     bool TakeUnits();
     bool TakeFlowUnit(int row, int baseRow);
     bool TakeUnit(int row);
+    // Takes back what the window found, which is the previous units while it is open.
     void RestoreRecord();
+    void ShowLibrary();
     bool ConfirmLibrary(const std::string& question, Answer preset) const;
 
     int UnitRow = 0;  // the row in hand
@@ -96,11 +98,7 @@ private:
     int RowCount = UnitPositions;
     std::array<int, 36> ActiveList{};
     std::array<Choice, 36> SelectedFactor{};
-    std::string basisBeforePanel_;
-    // Units and bases as they were when the window opened, for its Cancel.
-    UnitNames namesBefore_{};
-    UnitFactors factorsBefore_{};
-    std::string basisBefore_, liquidBasisBefore_, basisPreviousBefore_, liquidBasisPreviousBefore_;
+    std::string basisBeforePanel_;  // for the Cancel of the panel
 };
 
 }  // namespace quillmetra

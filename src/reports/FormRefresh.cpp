@@ -60,9 +60,15 @@ constexpr UnitControl LiquidLossUnits[] = {
     {"unEquivLen", Single, 25},
 };
 
-void ShowRow(Form& form, const FormRow& row, int caseIndex) {
+// After a conversion a text that the rule below leaves standing would be a number in the former unit.
+void ShowConverted(Control& control, double value) {
+    if (value <= 0 && Val(control.Text()) != Val(Str(value))) SetText(control, value == 0 ? "" : Str(value));
+}
+
+void ShowRow(Form& form, const FormRow& row, int caseIndex, bool converted) {
     Control& control = RowControl(form, row, caseIndex);
     double& value = LiveValue(row, caseIndex);
+    if (converted && row.From != Source::CaseResult) ShowConverted(control, value);
     switch (row.Rule) {
         case ShowRule::Positive:
             if (value > 0) ShowNumber(control, value);
@@ -93,11 +99,12 @@ std::pair<int, int> CasesToShow() {
 void ShowRows(Form& form, int program) {
     const auto [first, last] = CasesToShow();
     const bool results = Calc.HideResults != words::Yes;
+    const bool converted = Calc.UnitsConverted == words::Yes;
     for (const FormRow& row : FormRows(program)) {
         const bool isResult = row.From == Source::CaseResult;
         if (isResult && !results) continue;
         for (int i = row.PerCase ? first : Calc.CaseIndex; i <= (row.PerCase ? last : Calc.CaseIndex); ++i) {
-            if (!isResult || ResultsStand(i)) ShowRow(form, row, i);
+            if (!isResult || ResultsStand(i)) ShowRow(form, row, i, converted);
         }
     }
     Calc.UnitsConverted.clear();

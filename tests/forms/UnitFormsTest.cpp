@@ -22,6 +22,10 @@ protected:
 
     static double Number(const Control& control) { return Val(control.Text()); }
 
+    void OpenLiquidAnew() {
+        CloseWindow(Form());
+        OpenLiquid();
+    }
     void OpenOptions() { ASSERT_TRUE(ClickControl(Form().cmdFormLayout)); }
     void OpenUnits() { ASSERT_TRUE(ClickControl(Form().cmdUnits(2))); }
 
@@ -227,6 +231,67 @@ TEST_F(UnitForms, ChangeWithoutConversionBlanksWhatNoLongerHolds) {
     EXPECT_TRUE(Calc.NoConversion.empty());
 }
 
+// What the unit window converts next must not be taken for a change of the flow's basis.
+TEST_F(UnitForms, ANewCalculationInVolumeUnitsHasNothingToConvertYet) {
+    OpenOptions();
+    ClickControl(Options().optVolEnglishUnits);
+    ClickControl(Options().cmdOKOptions);
+    OpenLiquidAnew();
+    EXPECT_EQ(Form().cmdUnits(1).Caption(), "USgal/m");
+    FillGoodCase(0);
+    Type(Form().txtSGFlow(0), "0.8");
+    OpenUnits();
+    Choose(2, "degC");
+    ClickControl(Units().cmdOK);
+    EXPECT_EQ(Number(Form().txtFlow(0)), 100000);
+    EXPECT_NEAR(Number(Form().txtTemp(0)), 15.5556, 1e-4);
+}
+
+// Neither a number below zero nor one that is lost may go on standing in its box in the former unit.
+TEST_F(UnitForms, NoTextOutlivesItsUnit) {
+    Type(Form().txtEquip(0), "-20");  // a pump
+    Type(Form().txtSGFlow(0), "");
+    OpenUnits();
+    Choose(4, "kPa");
+    Choose(7, "cs");
+    ClickControl(Units().cmdOK);
+    EXPECT_NEAR(Number(Form().txtEquip(0)), -20 / 0.14504, 1e-3);
+    EXPECT_EQ(Form().txtViscosity(0).Text(), "") << "unknown without a gravity";
+    Type(Form().txtSGFlow(0), "0.8");
+    Calculate(0);
+    EXPECT_EQ(User.LastText(), "Viscosity must be greater than zero");
+}
+
+TEST_F(UnitForms, UnitsOfTheUsersOwnStayWhatTheyAre) {
+    OpenUnits();
+    ClickControl(Units().cmdUnit(7));
+    PickRow(Units().cboUnit, 5);
+    TypeText(Units().cboUnit, "poise");
+    TypeText(Units().cboFactor, "100");
+    ClickControl(Units().cmdSelect);
+    ClickControl(Units().cmdUnit(3));
+    PickRow(Units().cboUnit, 9);
+    TypeText(Units().cboUnit, "Torr");
+    TypeText(Units().cboFactor, "0.019337");
+    ClickControl(Units().cmdSelect);
+    ClickControl(Units().cmdOK);
+    EXPECT_EQ(Number(Form().txtViscosity(0)), 0.01);
+    OpenUnits();
+    Choose(2, "degC");
+    ClickControl(Units().cmdOK);
+    EXPECT_EQ(Number(Form().txtViscosity(0)), 0.01) << "another unit has changed";
+    // A pressure unit without an ending belongs to no mode, so that the mode cannot change under its numbers.
+    const std::string pressure = Form().txtPressure(0).Text();
+    OpenOptions();
+    ClickControl(Options().optAbsolutePressure);
+    ClickControl(Options().cmdOKOptions);
+    EXPECT_EQ(Calc.PressureMode, words::Gauge);
+    EXPECT_EQ(Form().txtPressure(0).Text(), pressure);
+    EXPECT_EQ(Form().Status(), "Torr is neither gauge nor absolute: the pressures stay as they were");
+    Calculate(0);
+    EXPECT_NEAR(Number(Form().txtDestPress(0)) * 0.019337, 90.31, 0.02);
+}
+
 TEST_F(UnitForms, BootUpUnitsComeBackAtTheNextCalculation) {
     OpenOptions();
     ClickControl(Options().optMassSIUnits);
@@ -243,8 +308,7 @@ TEST_F(UnitForms, BootUpUnitsComeBackAtTheNextCalculation) {
     EXPECT_EQ(Calc.PressureMode, words::Gauge) << "the record is converted by OK alone";
     ClickControl(Options().cmdCancelOptions);
     EXPECT_NEAR(Number(Form().txtPressure(0)), 100 / 0.14504, 1e-2);
-    CloseWindow(Form());
-    OpenLiquid();
+    OpenLiquidAnew();
     EXPECT_EQ(Form().cmdUnits(1).Caption(), "kg/s");
     EXPECT_EQ(Form().cmdUnits(3).Caption(), "kPaa");
 }
@@ -274,8 +338,12 @@ TEST_F(UnitForms, TheBarometerKeepsItsDigits) {
     EXPECT_EQ(Calc.BaroPressure, 14.7);
     OpenOptions();
     TypeText(Options().txtSTPBaro, "13.5");
+    ClickControl(Options().optMassSIUnits);
     ClickControl(Options().cmdOKOptions);
     EXPECT_EQ(Calc.BaroPressure, 13.5);
+    EXPECT_EQ(Calc.CaseInput[23][0], 93.0778);
+    OpenLiquidAnew();
+    EXPECT_EQ(Calc.BaroPressure, 13.5) << "kept with the standard conditions";
 }
 
 }  // namespace

@@ -1,0 +1,183 @@
+# The unit window through each of its messages, with Yes and with No, over a calculated case: a choice that is
+# given up leaves the numbers alone, one that is taken converts inputs and results.
+strict on
+start
+new 1
+include good-case.qs
+answer No
+click cmdCalculate(1)
+expect-message Transition
+
+# --- Choosing: what the panel refuses ----------------------------------------------------------------------
+click cmdUnits(25)
+expect-form frmUnits
+expect-title Liquid. Units - Default Library
+expect lblInstruct "The current selections are shown.  Click unit for reselection and editing"
+expect-state fraRow(1) visible
+expect-state fraRow(0) hidden
+expect-state fraRow(9) hidden
+click cmdUnit(25)
+expect lblInstruct "To select, double click the required unit.   To add a unit, click an empty line. Type in the name and the multiplier to convert to the first line unit"
+expect-state cmdOK disabled
+expect-state cmdSaveUser disabled
+expect-state cmdReplace disabled
+answer OK
+pick cboUnit 0
+type cboUnit foot
+expect-box "Unit Edit" "This item is a base unit and cannot be changed" OK
+expect cboUnit ""
+expect cboFactor ""
+expect-state cmdReplace disabled
+answer OK
+click cmdSelect
+expect-box "Unit " "Unit must have a name" OK
+pick cboUnit 4
+type cboUnit 123456789
+expect-state cmdReplace enabled
+answer OK
+click cmdReplace
+expect-box "New Unit Name" "Maximum of 8 characters" OK Stop
+answer OK
+click cmdSelect
+expect-box "New Unit Name" "Maximum of 8 characters" OK Stop
+# Characters are counted, not bytes; a comma and a slash are characters like others.
+type cboUnit µ,/56789
+type cboFactor 0
+answer OK
+click cmdSelect
+expect-box "Unit µ,/56789" "Multiplier must be greater than zero" OK
+type cboFactor 1e-320
+answer OK
+click cmdSelect
+expect-box "Unit µ,/56789" "Multiplier must be greater than zero" OK
+type cboFactor -3
+answer OK
+click cmdSelect
+expect-box "Unit µ,/56789" "Multiplier must be greater than zero" OK
+type cboFactor 2
+click cmdReplace
+click cmdSelect
+expect lblFactor(25) µ,/56789
+
+# --- The basis of a flow -----------------------------------------------------------------------------------
+click lblFactor(1)
+expect lblInstruct "Either mass or volumetric units are available.  The current selection is shown"
+expect-state optMass checked
+click optVol
+click cmdCanBasis
+click cmdUnit(1)
+expect-state optMass checked
+click optVol
+click cmdBasis
+pick cboUnit m3
+click cmdCancel
+expect lblFactor(1) lb
+
+# --- OK and Cancel -----------------------------------------------------------------------------------------
+answer No
+click cmdOK
+expect-box "Unit Display" "Update calculation for changes?\n\nOK?" YesNo
+expect-form frmUnits
+click cmdCancelUn
+expect-form frmLiqLineLoss
+expect cmdUnits(25) ft
+expect txtInletPipeLen 1000
+expect txtDestPress(1) 90.31
+
+# A time base alone goes with the quantity that the flow has.
+click cmdUnits(1)
+click cmdUnit(5)
+doubleclick cboUnit
+click cmdUnit(5)
+pick cboUnit /m
+click cmdSelect
+click cmdUnit(25)
+pick cboUnit µ,/56789
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-box "Line Loss  - Liquid flow" "Round converted data?\n  Yes or No to round\n\n(or Cancel to hide the message)" YesNoCancel
+expect cmdUnits(1) lb/m
+expect txtFlow(1) 1666.67
+expect cmdUnits(25) µ,/56789
+expect txtInletPipeLen 500
+expect txtDestPress(1) 90.31
+
+# --- The user's set ----------------------------------------------------------------------------------------
+# No is asked once more, as for OK, so that it can still end there.
+click cmdUnits(2)
+click cmdUnit(2)
+pick cboUnit degC
+click cmdSelect
+answer No
+answer No
+click cmdSaveUser
+expect-message Update calculation
+expect-message Update calculation
+expect-form frmUnits
+answer Yes
+click cmdSaveUser
+expect-message Update calculation
+expect-form frmUnits
+click cmdCancelUn
+expect cmdUnits(2) degF
+expect txtTemp(1) 60
+
+# --- The library -------------------------------------------------------------------------------------------
+click cmdUnits(3)
+answer No
+click mnuSaveUnLibrary
+expect-box "Confirm Deletion" "Save created units in a User Library File?\n\nOK?" YesNo
+answer Yes
+answer OK
+click mnuRecallSavedUnLibrary
+expect-box "Confirm Deletion" "Load the User Library File?\n\nOK?" YesNo
+expect-box "Library Unit Files" "A User library has not been created" OK
+click cmdUnit(25)
+pick cboUnit 4
+type cboUnit fathom
+type cboFactor 6
+click cmdReplace
+click cmdCancel
+answer Yes
+click mnuSaveUnLibrary
+expect-message Save created units
+answer No
+click mnuDefaultUnLibrary
+expect-box "Confirm Deletion" "Load the default Library File?\n\nOK?" YesNo
+# An open list shows the library that is in force.
+click cmdUnit(25)
+expect-row cboUnit 4 fathom
+answer Yes
+click mnuDefaultUnLibrary
+expect-message Load the default Library File?
+expect-row cboUnit 4 ""
+click cmdCancel
+expect-title Liquid. Units - Default Library
+answer Yes
+answer OK
+click mnuDefaultUnLibrary
+expect-message Load the default Library File?
+expect-box "Library Unit Files" "The default library is already loaded" OK
+answer Yes
+click mnuRecallSavedUnLibrary
+expect-message Load the User Library File?
+answer No
+click mnuDeleteLib
+expect-box "Confirm Deletion" "Delete the User Library File?\n\nOK?" YesNo None No
+click cmdUnit(25)
+expect-row cboUnit 4 fathom
+click cmdCancel
+answer Yes
+click mnuDeleteLib
+expect-message Delete the User Library File?
+expect-title Liquid. Units - Default Library
+
+# A unit that the library has no longer keeps its multiplier in the calculation.
+click cmdCancelUn
+expect cmdUnits(25) µ,/56789
+click cmdCalculate(1)
+expect txtDestPress(1) 90.31
+quit
