@@ -27,7 +27,7 @@ Node Choice() {
     return Frame("fraSelect",
                  Column({Row({"optMass", "optVol", Stretch()}), Buttons({"cmdBasis", "cmdCanBasis"}),
                          Table({{"lblUnit", "lblMultiplier"},
-                                {Item("cboUnit").Wide(12).Tall(9), Item("cboFactor").Wide(18).Tall(9)}}),
+                                {Item("cboUnit").Wide(12).Tall(12), Item("cboFactor").Wide(18).Tall(12)}}),
                          Buttons({"cmdReplace", "cmdSelect", "cmdCancel"})}));
 }
 
@@ -35,7 +35,7 @@ Node Choice() {
 
 Node frmUnits() {
     return Column({Panel("", Item("lblInstruct").Wrapped().Tall(2)),
-                   Over(Quantities(), {Choice()}).Wide(72).Tall(20).Grow(),
+                   Over(Quantities(), {Choice()}).Wide(72).Tall(22).Grow(),
                    Buttons({"cmdOK", "cmdSaveUser", "cmdCancelUn"})});
 }
 
