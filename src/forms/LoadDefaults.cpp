@@ -7,7 +7,7 @@
 namespace quillmetra {
 
 void LoadDefaults() {
-    ReadUserUnits();  // without the file new forms open in English units
+    ReadUserUnits();  // without the file English units stand until the form applies its set
     LoadHeadings();
     ReadStandardConditions();
 }
