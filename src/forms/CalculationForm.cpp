@@ -12,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/Plot.h"
 #include "records/ChangeDetection.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
@@ -190,6 +191,7 @@ void CalculationForm::ClearCase(int caseIndex) {
     mnuPrint.SetEnabled(false);
     if (Control* button = CalculateButton(caseIndex)) button->SetEnabled(true);
     BlankResults(caseIndex);
+    ResultsBlanked(caseIndex);
     clearable = words::No;
 }
 
@@ -231,6 +233,7 @@ bool CalculationForm::MayLeaveRecord() {
 void CalculationForm::EmptyForm() {
     for (Control* control : Controls()) {
         if (control->Kind() == ControlKind::TextBox) static_cast<TextBox&>(*control).SetText("");
+        if (control->Kind() == ControlKind::Plot) static_cast<Plot&>(*control).Clear();
     }
 }
 
@@ -266,6 +269,7 @@ void CalculationForm::mnuExit_Click() {
 
 void CalculationForm::OpenPanel(const char* panel) {
     StoreForm();
+    unitsBeforePanel_ = Calc.UnitName;
     if (const Program* program = FindProgram(program_)) Calc.CalcOptionCaller = program->OptionsWord;
     SetCalculateButtons(false);
     SetEnabled(false);
@@ -276,6 +280,9 @@ void CalculationForm::ReturnFromPanel() {
     SetEnabled(true);
     SetCalculateButtons(true);
     Calc.FormLoading = words::No;
+    if (Calc.UnitName != unitsBeforePanel_) {
+        for (int i = 0; i < CaseCount; ++i) ResultsBlanked(i);
+    }
     ShowForm(Name());
 }
 
