@@ -63,7 +63,9 @@ public:
         legend->setFillOrder(QCPLegend::foColumnsFirst);
         legend->setBorderPen(Qt::NoPen);
         legend->setBrush(Qt::NoBrush);
-        legend->setMargins({0, 0, 0, 0});
+        legend->setMargins({4, 0, 4, 2});
+        legend->setIconSize(20, 12);
+        axisRect()->setMinimumMargins({4, 4, 12, 4});
         for (QCPAxis* axis : Axes()) {
             axis->setNumberFormat("g");
             axis->setLabelPadding(2);
@@ -168,16 +170,16 @@ private:
         auto* const label = new QCPItemText(this);
         label->setText(ToQt(mark.Name));
         label->setFont(legend->font());
+        label->setPadding({3, 1, 3, 1});
         if (mark.Vertical) {
             label->position->setTypeY(QCPItemPosition::ptAxisRectRatio);
             label->position->setCoords(mark.At, MarkLabelGap);
             label->setRotation(-90);
-            label->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
         } else {
             label->position->setTypeX(QCPItemPosition::ptAxisRectRatio);
             label->position->setCoords(1 - MarkLabelGap, mark.At);
-            label->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
         }
+        label->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
         ColourItem(*line);
         ColourItem(*label);
     }
