@@ -2,6 +2,7 @@
 #include "desktop/ControlView.h"
 
 #include "desktop/Painting.h"
+#include "platform/Plot.h"
 
 namespace quillmetra {
 
@@ -55,6 +56,7 @@ ControlView* MakeView(Control& control, QWidget* parent) {
         case ControlKind::ListBox:
         case ControlKind::ComboBox:
         case ControlKind::Grid: return MakeListView(control, parent);
+        case ControlKind::Plot: return MakePlotView(static_cast<Plot&>(control), parent);
         default: return MakeTextView(control, parent);
     }
 }

@@ -10,6 +10,8 @@
 
 namespace quillmetra {
 
+class Plot;
+
 class ControlView : public QObject {
 public:
     ControlView(Control& control, QWidget* widget);
@@ -51,9 +53,10 @@ private:
 // Makes the view of any control but a menu entry, with its widget in the given one.
 ControlView* MakeView(Control& control, QWidget* parent);
 
-// The makers by kind, each with its family: texts, buttons, lists.
+// The makers by kind, each with its family: texts, buttons, lists, plots.
 ControlView* MakeTextView(Control& control, QWidget* parent);
 ControlView* MakeButtonView(Control& control, QWidget* parent);
 ControlView* MakeListView(Control& control, QWidget* parent);
+ControlView* MakePlotView(Plot& plot, QWidget* parent);
 
 }  // namespace quillmetra

@@ -12,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/Plot.h"
 #include "records/ChangeDetection.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
@@ -194,6 +195,7 @@ void CalculationForm::ClearCase(int caseIndex) {
     mnuPrint.SetEnabled(false);
     if (Control* button = CalculateButton(caseIndex)) button->SetEnabled(true);
     BlankResults(caseIndex);
+    ResultsBlanked(caseIndex);
     clearable = words::No;
 }
 
@@ -235,6 +237,7 @@ bool CalculationForm::MayLeaveRecord() {
 void CalculationForm::EmptyForm() {
     for (Control* control : Controls()) {
         if (control->Kind() == ControlKind::TextBox) static_cast<TextBox&>(*control).SetText("");
+        if (control->Kind() == ControlKind::Plot) static_cast<Plot&>(*control).Clear();
     }
 }
 
@@ -270,6 +273,7 @@ void CalculationForm::mnuExit_Click() {
 
 void CalculationForm::OpenPanel(const char* panel) {
     StoreForm();
+    unitsBeforePanel_ = Calc.UnitName;
     if (const Program* program = FindProgram(program_)) Calc.CalcOptionCaller = program->OptionsWord;
     SetCalculateButtons(false);
     SetEnabled(false);
@@ -280,6 +284,9 @@ void CalculationForm::ReturnFromPanel() {
     SetEnabled(true);
     SetCalculateButtons(true);
     Calc.FormLoading = words::No;
+    if (Calc.UnitName != unitsBeforePanel_) {
+        for (int i = 0; i < CaseCount; ++i) ResultsBlanked(i);
+    }
     ShowForm(Name());
 }
 

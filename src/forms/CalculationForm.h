@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "core/CalcRecord.h"
 #include "forms/FluidPanels.h"
 #include "forms/SuiteForm.h"
 
@@ -94,6 +95,9 @@ protected:
     // The calculate button of a case, null when there is none.
     virtual Control* CalculateButton(int) { return nullptr; }
     int InputSlot(const Control& box) const override;
+    // The results of a case no longer stand as they were calculated: blanked, or in other units. What the
+    // form has drawn of them goes.
+    virtual void ResultsBlanked(int) {}
 
     // Asks whether to save what has changed, and sets SaveAnswer.
     void SaveChanges();
@@ -108,6 +112,7 @@ private:
     void SetCalculateButtons(bool enabled);
 
     int program_;
+    UnitNames unitsBeforePanel_;
 };
 
 }  // namespace quillmetra

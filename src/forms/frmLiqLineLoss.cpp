@@ -27,6 +27,7 @@ frmLiqLineLoss::frmLiqLineLoss()
     for (int i = 0; i < CaseCount; ++i) {
         PureEntries[static_cast<std::size_t>(i)]->Click = [this, i] { OpenFluids(i); };
     }
+    pltLine.ColourGroup = 4;  // as the results
     Assemble();
 }
 
@@ -74,7 +75,23 @@ bool frmLiqLineLoss::CalculateCase() {
     if (Calc.FlowPressure == 0) return false;  // the line cannot deliver; the user has been told
     Calc.FinalPressure = Calc.FlowPressure;
     ShowResults();
+    DrawLine();
     return true;
+}
+
+void frmLiqLineLoss::DrawLine() {
+    const LiquidLineProfile line = LiquidLineProfileOf(Calc);
+    drawnCase_ = Calc.CaseIndex;
+    pltLine.Draw({.Title = lblCase(drawnCase_).Caption() + " case",
+                  .Bottom = {"Length", Calc.UnitName[25]},
+                  .Left = {"Pressure", Calc.UnitName[3]},
+                  .Right = {},
+                  .Series = {{"Pressure", {0, line.Length}, {line.SourcePressure, line.DestinationPressure}}},
+                  .Marks = {}});
+}
+
+void frmLiqLineLoss::ResultsBlanked(int caseIndex) {
+    if (caseIndex == drawnCase_) pltLine.Clear();
 }
 
 void frmLiqLineLoss::ShowResults() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/LineLossForm.h"
+#include "platform/Plot.h"
 
 namespace quillmetra {
 
@@ -20,6 +21,7 @@ public:
     ControlArray<TextBox> txtSGFlow{Picture1, "txtSGFlow", {0, 1, 2}};
     Label lblReynoldsNum{Picture1, "lblReynoldsNum", "Reynolds number"};
     ControlArray<TextBox> txtReynoldsNum{Picture1, "txtReynoldsNum", {0, 1, 2}};
+    Plot pltLine{Picture1, "pltLine"};  // the pressure along the line of the case calculated last
 
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
@@ -27,10 +29,14 @@ protected:
     bool CheckSourcePressure() override;
     bool CalculateCase() override;
     bool TakeFluid() override;
+    void ResultsBlanked(int caseIndex) override;
 
 private:
     void ShowResults();
+    void DrawLine();
     void FillCase();
+
+    int drawnCase_ = 0;
 };
 
 }  // namespace quillmetra

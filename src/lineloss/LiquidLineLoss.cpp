@@ -27,6 +27,12 @@ double PercentReached(double difference) {
 
 double Shown(double value) { return CheckFinite(RoundedFour(value)); }
 
+// From psia to unit row 3, gauge or absolute as the pressure mode.
+double PressureShown(const CalcRecord& record, double pressure) {
+    if (record.PressureMode != words::Absolute) pressure -= record.BaroPressure;
+    return pressure / record.UnitFactor[3];
+}
+
 }  // namespace
 
 void CalcFinalPressure() {
@@ -42,16 +48,22 @@ void CalcFinalPressure() {
 
 LiquidLineResults LiquidLineResultsOf(const CalcRecord& record) {
     const auto& factor = record.UnitFactor;
-    const double pressure = record.PressureMode == words::Absolute
-                                ? record.FlowPressure
-                                : record.FlowPressure - record.BaroPressure;
     const double difference = record.SourcePressure[Line] - record.FlowPressure;
     const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
-    return {.FinalPressure = Shown(pressure / factor[3]),
+    return {.FinalPressure = Shown(PressureShown(record, record.FlowPressure)),
             .LossPer100 = Shown(loss / factor[4] * factor[25]),
             .Velocity = Shown(record.Velocity / factor[20]),
             .Reynolds = Shown(record.ReynoldsNumber),
             .EquivLength = Shown(std::fabs(record.EquivLength) / factor[25])};
+}
+
+LiquidLineProfile LiquidLineProfileOf(const CalcRecord& record) {
+    const double given = PressureShown(record, record.SourcePressure[Line]);
+    const double found = PressureShown(record, record.FlowPressure);
+    const bool sourceIsGiven = record.PressureDirection != 2;
+    return {.Length = record.PipeLength[Line] / record.UnitFactor[25],
+            .SourcePressure = sourceIsGiven ? given : found,
+            .DestinationPressure = sourceIsGiven ? found : given};
 }
 
 }  // namespace quillmetra

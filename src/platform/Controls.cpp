@@ -35,6 +35,7 @@ const char* Word(ControlKind kind) {
         case ControlKind::Frame: return "Frame";
         case ControlKind::MenuItem: return "MenuItem";
         case ControlKind::Grid: return "Grid";
+        case ControlKind::Plot: return "Plot";
     }
     return "";
 }

@@ -38,7 +38,8 @@ enum class ControlKind {
     ComboBox,
     Frame,
     MenuItem,
-    Grid
+    Grid,
+    Plot
 };
 const char* Word(ControlKind kind);
 

@@ -129,6 +129,38 @@ TEST_F(LiquidForm, AnInputChangeBlanksTheResultsItTouches) {
     EXPECT_EQ(form.lblDestPress.Caption(), "Source pressure") << "the refresh leaves this label alone";
 }
 
+TEST_F(LiquidForm, DrawsTheLineOfTheLastCalculatedCase) {
+    for (const int i : {0, 1}) FillGoodCase(i);
+    Suite.HideFlowStatus = words::Yes;
+    frmLiqLineLoss& form = Form();
+    EXPECT_TRUE(form.pltLine.IsEmpty());
+    Calculate(0);
+    EXPECT_EQ(form.pltLine.Text(), "Maximum case: Pressure 100 to 90.31 psig over 1000 ft");
+    Calculate(1);
+    EXPECT_EQ(form.pltLine.Text(), "Normal case: Pressure 100 to 90.31 psig over 1000 ft");
+    Type(form.txtFlow(0), "90000");
+    EXPECT_FALSE(form.pltLine.IsEmpty()) << "another case than the drawn one lost its results";
+    Type(form.txtFlow(1), "90000");
+    EXPECT_TRUE(form.pltLine.IsEmpty());
+
+    ClickControl(form.optSource);
+    Calculate(1);
+    EXPECT_EQ(form.pltLine.Text(), "Normal case: Pressure 107.9 to 100 psig over 1000 ft");
+    // A panel that changes no unit leaves the drawing; one that does takes it away.
+    ClickControl(form.cmdFormLayout);
+    ClickControl(ControlOf("frmCalcOptions", "cmdCancelOptions"));
+    EXPECT_FALSE(form.pltLine.IsEmpty());
+    ClickControl(form.cmdFormLayout);
+    ClickControl(ControlOf("frmCalcOptions", "optAbsolutePressure"));
+    ClickControl(ControlOf("frmCalcOptions", "cmdOKOptions"));
+    EXPECT_FALSE(form.txtDestPress(1).Text().empty());
+    EXPECT_TRUE(form.pltLine.IsEmpty()) << "its figures are gauge pressures";
+    Calculate(1);
+    EXPECT_NE(form.pltLine.Text().find("psia"), std::string::npos) << form.pltLine.Text();
+    ClickControl(form.mnuNew);
+    EXPECT_TRUE(form.pltLine.IsEmpty());
+}
+
 TEST_F(LiquidForm, ChangedValuesAreShownInTheChangedColour) {
     FillGoodCase(0);
     Suite.HideFlowStatus = words::Yes;

@@ -46,8 +46,10 @@ answer No
 click cmdCalculate(0)
 expect-message Transition Zone
 show txtDestPress(0)
+show pltLine
 type txtFlow(0) 90000
 expect txtDestPress(0) ""
+expect pltLine ""
 
 click mnuExit
 expect-form none

@@ -84,11 +84,13 @@ Node Liquids() {
 }  // namespace
 
 Node frmLiqLineLoss() {
-    return Over(Frame("Picture1",
-                      Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
-                              Row({CasesAndResults().Grow(), Column({Signatures().Grow(), Basis()})}).Grow(),
-                              Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")})),
-                {Liquids(), Components()});
+    return Over(
+        Frame("Picture1",
+              Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
+                      Row({CasesAndResults().Grow(), Column({Signatures(), Basis(), Item("pltLine").Grow()})})
+                          .Grow(),
+                      Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")})),
+        {Liquids(), Components()});
 }
 
 }  // namespace quillmetra::layout
