@@ -99,6 +99,28 @@ TEST_F(UnitForms, GaugeAbsoluteAndDensityInOneOk) {
     EXPECT_NEAR(Number(Form().txtFlow(0)), 100000, 60);
 }
 
+TEST_F(UnitForms, AbsolutePressureAndDensityHaveMessagesOfTheirOwn) {
+    OpenOptions();
+    ClickControl(Options().optAbsolutePressure);
+    ClickControl(Options().optLiqDensity);
+    ClickControl(Options().cmdOKOptions);
+    const struct {
+        TextBox& Box;
+        const char* Message;
+    } cases[] = {{Form().txtPressure(0), "Pressure must be greater than zero"},
+                 {Form().txtSGFlow(0), "Flowing Density must be greater than zero"}};
+    for (const auto& each : cases) {
+        const std::string good = each.Box.Text();
+        Type(each.Box, "0");
+        Calculate(0);
+        EXPECT_EQ(User.LastText(), each.Message);
+        EXPECT_EQ(Form().Focus.Current(), &each.Box);
+        Type(each.Box, good);
+    }
+    Calculate(0);
+    EXPECT_NEAR(Number(Form().txtDestPress(0)), 90.31 + 14.7, 0.02);
+}
+
 TEST_F(UnitForms, CancelLeavesNoTrace) {
     const std::string pressure = Form().txtPressure(0).Text();
     OpenOptions();
