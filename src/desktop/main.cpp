@@ -1,4 +1,7 @@
 // The desktop program.
+#include <cstdio>
+#include <cstdlib>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
@@ -12,15 +15,28 @@
 #include "platform/Forms.h"
 #include "platform/TextFiles.h"
 
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName("quillmetra");
-    QApplication::setApplicationDisplayName("Quillmetra");
-    QApplication::setApplicationVersion(quillmetra::version::Text);
-    QApplication::setWindowIcon(QIcon(":/quillmetra.png"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    quillmetra::UseSuiteStyle();
+namespace {
 
+// What a shell asks is answered without a display.
+void AnswerTheShell(const QCommandLineParser& parser, const QStringList& arguments) {
+    const auto asked = [&](const char* one, const char* other) {
+        return arguments.contains(one) || arguments.contains(other);
+    };
+    if (!asked("--version", "-v") && !asked("--help", "-h")) return;
+    int count = 1;
+    char name[] = "quillmetra";
+    char* words[] = {name, nullptr};
+    const QCoreApplication shell(count, words);
+    std::puts(asked("--version", "-v") ? qPrintable("quillmetra " + QCoreApplication::applicationVersion())
+                                       : qPrintable(parser.helpText()));
+    std::exit(0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName("quillmetra");
+    QCoreApplication::setApplicationVersion(quillmetra::version::Text);
     QCommandLineParser parser;
     parser.setApplicationDescription("Line loss, water hammer and fluid properties for piping engineers.");
     parser.addHelpOption();
@@ -28,6 +44,13 @@ int main(int argc, char** argv) {
     const QCommandLineOption folder("folder", "Use PATH as the program's own folder.", "PATH");
     const QCommandLineOption timeStart("time-start", "Print the milliseconds to the first paint and end.");
     parser.addOptions({folder, timeStart});
+    AnswerTheShell(parser, QStringList(argv + 1, argv + argc));
+
+    const QApplication app(argc, argv);
+    QApplication::setApplicationDisplayName("Quillmetra");
+    QApplication::setWindowIcon(QIcon(":/quillmetra.png"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    quillmetra::UseSuiteStyle();
     parser.process(app);
 
     quillmetra::DesktopHost host;
