@@ -23,7 +23,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr const char* CaseWords[CaseCount] = {"Maximum", "Normal", "Minimum"};
 constexpr const char* CaseCaptions[CaseCount] = {"&Maximum", "&Normal", "M&inimum"};
 constexpr const char* DatePrompt = "Date";
 
@@ -109,7 +108,7 @@ void CalculationForm::DescribeRows() {
         for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
             auto& box = static_cast<TextBox&>(RowControl(*this, row, i));
             Control* const unit = *row.Unit == '\0' ? nullptr : Find(row.Unit, row.UnitIndex);
-            box.Describe(Find(row.Label), unit, row.PerCase ? CaseWords[i] : "");
+            box.Describe(Find(row.Label), unit, row.PerCase ? CaseWords[static_cast<std::size_t>(i)] : "");
             box.IsNumber = true;
             box.Locked = row.From == Source::CaseResult;
             box.ColourGroup = box.Locked ? 4 : 2;

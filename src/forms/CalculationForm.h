@@ -2,6 +2,7 @@
 // of results, new, back to the browser, exit.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "core/CalcRecord.h"
@@ -22,6 +23,9 @@ public:
     };
 
     explicit CalculationForm(const Names& names);
+
+    // The cases by their index, as buttons, columns and messages name them.
+    static constexpr std::array<const char*, 3> CaseWords = {"Maximum", "Normal", "Minimum"};
 
     void Load() override;
     void CloseBox() override { mnuProgram_Click(); }

@@ -8,16 +8,13 @@
 
 namespace quillmetra {
 
-namespace {
-constexpr const char* CaseWords[CaseCount] = {"Maximum", "Normal", "Minimum"};
-}  // namespace
-
 LineLossForm::LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows)
     : CalculationForm(names), cmdUnits(Picture1, "cmdUnits", rows, ""), pipeWord_(pipeWord) {
     for (int i = 0; i < CaseCount; ++i) {
-        lblCase(i).SetCaption(CaseWords[i]);
-        cmdCalculate(i).SetCaption(CaseWords[i]);
-        cmdCalculate(i).SetToolTip(std::string("Calculates the ") + CaseWords[i] + " case");
+        lblCase(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
+        cmdCalculate(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
+        cmdCalculate(i).SetToolTip(std::string("Calculates the ") + CaseWords[static_cast<std::size_t>(i)] +
+                                   " case");
     }
     chkEntrance.SetToolTip("Allows for a large reduction in line size");
     chkExit.SetToolTip("Allows for a large increase in line size");

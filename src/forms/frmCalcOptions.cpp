@@ -25,7 +25,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double PsiPerKilopascal = 0.14504;
 constexpr const char* Psia = "psia";
 constexpr const char* Kilopascal = "kPaa";
 
@@ -110,7 +109,7 @@ void frmCalcOptions::ShowOptions() {
 void frmCalcOptions::ShowBarometer() {
     const bool si = Calc.UnitSystem == words::SI;
     cmdBaroPress.SetCaption(si ? Kilopascal : Psia);
-    barometerShown_ = Str(si ? RoundedFour(Calc.BaroPressure / PsiPerKilopascal) : Calc.BaroPressure);
+    barometerShown_ = Str(si ? RoundedFour(Calc.BaroPressure / PsiPerKPa) : Calc.BaroPressure);
     txtSTPBaro.SetText(barometerShown_);
 }
 
@@ -119,7 +118,7 @@ void frmCalcOptions::cmdBaroPress_Click() {
     const double value = Val(txtSTPBaro.Text());
     const bool toKilopascal = cmdBaroPress.Caption() == Psia;
     cmdBaroPress.SetCaption(toKilopascal ? Kilopascal : Psia);
-    txtSTPBaro.SetText(Str(RoundedFour(toKilopascal ? value / PsiPerKilopascal : value * PsiPerKilopascal)));
+    txtSTPBaro.SetText(Str(RoundedFour(toKilopascal ? value / PsiPerKPa : value * PsiPerKPa)));
     if (untouched) barometerShown_ = txtSTPBaro.Text();
 }
 
@@ -127,13 +126,13 @@ void frmCalcOptions::cmdBaroPress_Click() {
 double frmCalcOptions::BarometerInPsia() const {
     const double typed = Val(txtSTPBaro.Text());
     if (txtSTPBaro.Text() == barometerShown_ || !(typed > 0)) return Calc.BaroPressure;
-    return cmdBaroPress.Caption() == Kilopascal ? RoundedFour(typed * PsiPerKilopascal) : typed;
+    return cmdBaroPress.Caption() == Kilopascal ? RoundedFour(typed * PsiPerKPa) : typed;
 }
 
 // A new calculation reads the barometer from the file of the standard conditions, when there is one.
 void frmCalcOptions::TakeBarometer() {
     const double barometer = BarometerInPsia();
-    const double inKilopascal = barometer / PsiPerKilopascal;
+    const double inKilopascal = barometer / PsiPerKPa;
     if (barometer == Calc.BaroPressure || !std::isfinite(inKilopascal)) return;
     Calc.BaroPressure = barometer;
     Calc.CaseInput[23][0] = Calc.UnitName[23] == Kilopascal ? RoundedSix(inKilopascal) : barometer;

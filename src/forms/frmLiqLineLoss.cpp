@@ -10,6 +10,7 @@
 #include "lineloss/LiquidLineLoss.h"
 #include "platform/Arithmetic.h"
 #include "reports/FormRefresh.h"
+#include "units/Conversion.h"
 #include "units/Rounding.h"
 #include "units/Viscosity.h"
 
@@ -45,7 +46,7 @@ bool frmLiqLineLoss::CheckFluid() {
     const std::size_t i = ThisCase();
     const UnitFactors& factor = Calc.UnitFactor;
     if (Calc.LiquidDensityMode == words::Density) {
-        Calc.FlowingSG = Calc.CaseInput[6][i] * factor[6] / 62.366;
+        Calc.FlowingSG = Calc.CaseInput[6][i] * factor[6] / WaterDensity;
         if (!(Calc.FlowingSG > 0)) {
             return RefuseData("Flowing Density must be greater than zero", txtSGFlow(caseIndex));
         }
@@ -57,7 +58,8 @@ bool frmLiqLineLoss::CheckFluid() {
     }
 
     Calc.MassFlow = Calc.CaseInput[1][i] * factor[1];
-    if (Calc.LiquidBasis == words::Volume) Calc.MassFlow = Calc.MassFlow * Calc.FlowingSG * 8.3378;
+    if (Calc.LiquidBasis == words::Volume)
+        Calc.MassFlow = Calc.MassFlow * Calc.FlowingSG * WaterPoundsPerGallon;
     if (!(Calc.MassFlow > 0)) return RefuseData("Flow must be greater than zero", txtFlow(caseIndex));
 
     Calc.Viscosity = Calc.CaseInput[7][i] * factor[7];
@@ -136,7 +138,7 @@ void frmLiqLineLoss::FillCase() {
     }
     Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
     const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
-                                           ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[5] * 62.366)
+                                           ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[5] * WaterDensity)
                                            : Calc.FlowingSG);
     double viscosity = Calc.FluidViscosity / Calc.UnitFactor[7];
     if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {

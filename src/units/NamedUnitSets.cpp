@@ -27,8 +27,6 @@ void SetFlowUnit(std::size_t row, const NamedUnitSet::FlowUnit& unit) {
     Calc.UnitFactor[row] = unit.Factor;
 }
 
-constexpr double PsiPerKPa = 0.14504;
-
 void ShowStandardConditions(const char* system, const char* temperature, const char* pressure,
                             double pressureFactor) {
     Calc.StdConditions = {0, Calc.StdPressure, Calc.StdTemperature, Calc.BaroPressure};
