@@ -41,8 +41,10 @@ void Shoot(const char* name) {
     std::printf("%s %d x %d\n", name, top->width(), top->height());
 }
 
+const char* Calculation = "frmLiqLineLoss";  // the form that is filled
+
 void Type(const char* name, int index, const char* text) {
-    Control& box = ControlOf("frmLiqLineLoss", name, index);
+    Control& box = ControlOf(Calculation, name, index);
     MoveFocus(box);
     TypeText(box, text);
 }
@@ -89,6 +91,46 @@ void FillLine() {
         Type("txtViscosity", i, "1.002");
         Type("txtEquip", i, "3");
     }
+}
+
+void PickFluid(const std::string& name) {
+    auto& list = static_cast<ListBox&>(ControlOf(Calculation, "lstFluid"));
+    for (int row = 0; row < list.RowCount(); ++row) {
+        if (list.Row(row).starts_with(name)) PickRow(list, row);
+    }
+    Click(Calculation, "cmdSelect");
+}
+
+// Methane, a mixture and the base conditions on the gas form.
+void ShootGasLine() {
+    Click(Calculation, "mnuProgram");
+    const char* const form = Calculation = "frmGasLineLoss";
+    Click("frmTRProg", "cmdOK");
+    Click("frmObxProg", "optProgram", 2);
+    Click("frmObxProg", "cmdOK");
+    Type("txtTagNum", Control::NoIndex, "FG-2301");
+    Type("txtInletPipeLen", Control::NoIndex, "3200");
+    Type("txtInletPipeID", Control::NoIndex, "6.065");
+    for (int i = 0; i < 3; ++i) {
+        Type("txtFlow", i, i == 0 ? "36000" : "24000");
+        Type("txtTemp", i, "80");
+        Type("txtPressure", i, "150");
+        Click(form, ("mnuPureGases" + std::to_string(i + 1)).c_str());
+        PickFluid("Methane ");
+    }
+    Shoot("gas-empty");
+    for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
+    Shoot("gas-results");
+    Click(form, "mnuSTP");
+    Shoot("gas-base-conditions");
+    Click(form, "cmdCancelSTP");
+    Click(form, "mnuMixtures1");
+    for (const char* gas : {"Methane ", "Ethane ", "Propane ", "Nitrogen "}) PickFluid(gas);
+    Type("txtPercent", 0, "85");
+    Type("txtPercent", 1, "10");
+    Shoot("gas-mixture");
+    for (int i = 4; i < 16; ++i) PickFluid("Ethylene ");
+    Shoot("gas-mixture-full");
 }
 
 }  // namespace
@@ -145,8 +187,7 @@ int main(int argc, char** argv) {
     Shoot("units-basis");
     Click("frmUnits", "cmdCanBasis");
     Click("frmUnits", "cmdCancelUn");
-    ControlOf("frmLiqLineLoss", "fraComponent").SetVisible(true);
-    Shoot("line-mixture");
+    ShootGasLine();
     ResetForms();
     return 0;
 }
