@@ -110,7 +110,7 @@ void CalculationForm::DescribeRows() {
             Control* const unit = *row.Unit == '\0' ? nullptr : Find(row.Unit, row.UnitIndex);
             box.Describe(Find(row.Label), unit, row.PerCase ? CaseWords[static_cast<std::size_t>(i)] : "");
             box.IsNumber = true;
-            box.Locked = row.From == Source::CaseResult;
+            box.Locked = row.IsResult();
             box.ColourGroup = box.Locked ? 4 : 2;
             if (box.Locked) box.TabStop = false;
             if (box.Locked || box.Change) continue;
@@ -164,7 +164,7 @@ void CalculationForm::StoreForm() {
     txtTagNum.SetText(Calc.Tag);
     Calc.FluidName = txtFluid.Text();
     for (const FormRow& row : FormRows(program_)) {
-        if (row.From == Source::CaseResult) continue;
+        if (row.IsResult()) continue;
         for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
             TakeNumber(LiveValue(row, i), RowControl(*this, row, i).Text());
         }
@@ -180,7 +180,7 @@ void CalculationForm::StoreForm() {
 
 void CalculationForm::BlankResults(int caseIndex) {
     for (const FormRow& row : FormRows(program_)) {
-        if (row.From == Source::CaseResult && row.PerCase) {
+        if (row.IsResult() && row.PerCase) {
             static_cast<TextBox&>(RowControl(*this, row, caseIndex)).SetText("");
         }
     }
@@ -202,7 +202,7 @@ void CalculationForm::ClearAllCases() {
     if (Calc.FormLoading == words::Yes) return;
     for (int i = 0; i < CaseCount; ++i) ClearCase(i);
     for (const FormRow& row : FormRows(program_)) {
-        if (row.From == Source::CaseResult && !row.PerCase) {
+        if (row.IsResult() && !row.PerCase) {
             static_cast<TextBox&>(RowControl(*this, row, 0)).SetText("");
         }
     }

@@ -85,7 +85,7 @@ protected:
             inputs += tick->Checked() ? "1" : "0";
         }
         for (const FormRow& row : FormRows(1)) {
-            if (row.From != Source::CaseResult) inputs += Str(Val(RowControl(Form(), row, i).Text()));
+            if (!row.IsResult()) inputs += Str(Val(RowControl(Form(), row, i).Text()));
         }
         return inputs;
     }
