@@ -13,8 +13,9 @@ struct Entry {
 };
 
 constexpr Entry Layouts[] = {
-    {"frmTRProg", frmTRProg},     {"frmObxProg", frmObxProg}, {"frmLiqLineLoss", frmLiqLineLoss},
-    {"frmPipeSize", frmPipeSize}, {"frmUnits", frmUnits},     {"frmCalcOptions", frmCalcOptions},
+    {"frmTRProg", frmTRProg},           {"frmObxProg", frmObxProg},   {"frmLiqLineLoss", frmLiqLineLoss},
+    {"frmGasLineLoss", frmGasLineLoss}, {"frmPipeSize", frmPipeSize}, {"frmUnits", frmUnits},
+    {"frmCalcOptions", frmCalcOptions},
 };
 }  // namespace
 

@@ -45,7 +45,7 @@ void TakeNumber(double& field, const std::string& text) {
 CalculationForm::CalculationForm(const Names& names)
     : SuiteForm(names.Form),
       mnuFluiProp(*this, names.FluidMenu, "Fl&uid properties"),
-      Liquids(*this, names.ListFrame, names.ListCaption),
+      Fluids(*this, names.ListFrame, names.ListCaption),
       Mixture(*this),
       program_(names.Program) {
     EnterMovesOn = true;
@@ -243,7 +243,6 @@ void CalculationForm::EmptyForm() {
 void CalculationForm::mnuNew_Click() {
     if (!MayLeaveRecord()) return;
     const Filling filling;
-    Liquids.Close();
     EmptyForm();
     ResetForNew();
     Calc.PipeData[4] = Calc.PipeData[5] = 1;

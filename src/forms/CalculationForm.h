@@ -75,7 +75,7 @@ public:
     Label lblComments{Picture1, "lblComments", "Comments"};
     ControlArray<TextBox> txtComments{Picture1, "txtComments", {0, 1}};
 
-    FluidList Liquids;
+    FluidList Fluids;
     MixturePanel Mixture;
 
     // Opens the panel of units or of options over this form, which takes no input until the panel calls

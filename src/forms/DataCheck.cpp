@@ -12,25 +12,29 @@
 
 namespace quillmetra {
 
-namespace {
-
-bool RefusePressure(Control& box) {
-    if (Calc.PressureMode == words::Absolute) {
-        return RefuseData("Pressure must be greater than zero", box);
-    }
-    return RefuseData("Pressure must be greater than minus" + Str(Calc.BaroPressure / Calc.UnitFactor[23]),
-                      box);
-}
-
-}  // namespace
-
-bool RefuseData(const std::string& message, Control& box) {
-    Tell(message, "Data checking", Icon::Stop);
+bool RefuseData(const std::string& message, Control& box, Icon icon) {
+    Tell(message, "Data checking", icon);
     box.SetFocus();
     return false;
 }
 
-bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes) {
+bool CheckPressure(TextBox& box, const TempPressureRules& rules) {
+    RestoreStandardConditions();
+    const auto i = static_cast<std::size_t>(Calc.CaseIndex);
+    Calc.EnteredPressure = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
+    Calc.FlowPressure = Calc.EnteredPressure;
+    if (Calc.PressureMode == words::Absolute) {
+        return Calc.FlowPressure > 0 || RefuseData(rules.AbsoluteText, box);
+    }
+    Calc.FlowPressure += Calc.BaroPressure;
+    const double lowest = rules.GaugeAboveZero ? Calc.BaroPressure : 0;
+    return Calc.FlowPressure >= lowest ||
+           RefuseData("Pressure must be greater than minus" + Str(Calc.BaroPressure / Calc.UnitFactor[23]),
+                      box);
+}
+
+bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
+                       const TempPressureRules& rules) {
     form.StoreForm();
     Calc.TempPressureOk = words::No;
     RestoreStandardConditions();
@@ -43,19 +47,13 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes) {
         return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(unit)),
                           boxes.Temperature);
     }
+    if (!CheckPressure(boxes.Pressure, rules)) return false;
 
-    Calc.EnteredPressure = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
-    Calc.FlowPressure = Calc.EnteredPressure;
-    if (Calc.PressureMode == words::Absolute) {
-        if (!(Calc.FlowPressure > 0)) return RefusePressure(boxes.Pressure);
-    } else {
-        Calc.FlowPressure += Calc.BaroPressure;
-        if (Calc.FlowPressure < 0) return RefusePressure(boxes.Pressure);
-    }
-
-    Calc.VaporPressure = Calc.CaseInput[8][i] * Calc.UnitFactor[8];
-    if (Calc.VaporPressure >= Calc.FlowPressure) {
-        return RefuseData("Inlet pressure must be greater than Vapor pressure", boxes.Pressure);
+    if (rules.HasVaporPressure) {
+        Calc.VaporPressure = Calc.CaseInput[8][i] * Calc.UnitFactor[8];
+        if (Calc.VaporPressure >= Calc.FlowPressure) {
+            return RefuseData("Inlet pressure must be greater than Vapor pressure", boxes.Pressure);
+        }
     }
     Calc.TempPressureOk = words::Yes;
     return true;

@@ -2,14 +2,17 @@
 // checking", and the focus goes to the box that is to be mended.
 #pragma once
 
+#include <string>
+
 #include "platform/Controls.h"
+#include "platform/Dialogs.h"
 
 namespace quillmetra {
 
 class CalculationForm;
 
 // Tells a failed check and moves the focus; returns false for the caller to return.
-bool RefuseData(const std::string& message, Control& box);
+bool RefuseData(const std::string& message, Control& box, Icon icon = Icon::Stop);
 
 // The boxes of the case in hand that the temperature and pressure check leads to.
 struct TempPressureBoxes {
@@ -17,10 +20,22 @@ struct TempPressureBoxes {
     TextBox& Pressure;
 };
 
+// How the programs differ in the check.
+struct TempPressureRules {
+    const char* AbsoluteText;  // an absolute pressure that is not above 0
+    bool GaugeAboveZero;    // a pressure below that of the atmosphere is refused, not only one below a vacuum
+    bool HasVaporPressure;  // row 8 is the fluid's, and the pressure must exceed it
+};
+inline constexpr TempPressureRules LiquidRules{"Pressure must be greater than zero", false, true};
+inline constexpr TempPressureRules GasRules{"Flow pressure must be greater than zero", true, false};
+
 // Stores the form, restores missing standard conditions, and takes FlowTemperature (degF) and FlowPressure
 // (psia) of the case in hand. Refuses a temperature at absolute zero or below or an empty one, a pressure
-// below a perfect vacuum, and a pressure that does not exceed the vapour pressure (row 8). Sets
-// TempPressureOk; true when it is "Yes".
-bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes);
+// as the rules have it, and one that does not exceed the vapour pressure (row 8). Sets TempPressureOk; true
+// when it is "Yes".
+bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes, const TempPressureRules& rules);
+
+// The same for FlowPressure alone.
+bool CheckPressure(TextBox& box, const TempPressureRules& rules);
 
 }  // namespace quillmetra

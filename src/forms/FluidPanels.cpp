@@ -2,18 +2,24 @@
 #include "forms/FluidPanels.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
+#include "fluids/Mixtures.h"
 #include "forms/CalculationForm.h"
 #include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "platform/Utf8.h"
 
 namespace quillmetra {
 
 namespace {
 constexpr std::initializer_list<int> Components = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
-}
+constexpr std::size_t NameLength = 20;  // of a component
+constexpr const char* NothingTaken = "100";
+}  // namespace
 
 FluidList::FluidList(CalculationForm& form, const std::string& frameName, const std::string& caption)
     : Panel(form, frameName, caption),
@@ -23,7 +29,12 @@ FluidList::FluidList(CalculationForm& form, const std::string& frameName, const 
       form_(form) {
     Panel.SetVisible(false);
     lstFluid.Describe(&Panel);
-    cmdCancel.Click = [this] { Close(); };
+    // In a mixture there is no default button, but Enter in the list picks all the same.
+    lstFluid.KeyPress = [this](Key& key) {
+        if (key.Name != "Enter" || !cmdSelect.Enabled() || !cmdSelect.Click) return;
+        key.Handled = true;
+        cmdSelect.Click();
+    };
 }
 
 void FluidList::Open(const std::string& fluidType) {
@@ -63,14 +74,83 @@ MixturePanel::MixturePanel(CalculationForm& form)
       lblComponent(fraComponent, "lblComponent", Components, ""),
       txtPercent(fraComponent, "txtPercent", Components),
       lblRemainingCaption(fraComponent, "lblRemainingCaption", "Remaining percent"),
-      lblRemaining(fraComponent, "lblRemaining", "100"),
+      lblRemaining(fraComponent, "lblRemaining", NothingTaken),
       cmdCalcPseudo(fraComponent, "cmdCalcPseudo", "Calc&ulate mixture"),
-      cmdClear(fraComponent, "cmdClear", "C&lear") {
+      cmdClear(fraComponent, "cmdClear", "C&lear"),
+      form_(form) {
     fraComponent.SetVisible(false);
     txtPercent.Each([this](TextBox& box, int i) {
         box.IsNumber = true;
+        box.SetToolTip("R takes what remains");
         box.Describe(&lblComponent(i), nullptr, "percent");
+        box.Change = [this] { ShowRemaining(); };
+        box.KeyPress = [this, i](Key& key) {
+            if (key.Name != "R" && key.Name != "r") return;
+            key.Handled = true;
+            TakeRemainder(i);
+        };
     });
+}
+
+void MixturePanel::Open() {
+    for (int i = 0; i < MostComponents; ++i) {
+        const double percent = Calc.FluidPercent[static_cast<std::size_t>(i)];
+        txtPercent(i).SetText(percent == 0 ? "" : TrimmedStr(percent));
+    }
+    ShowComponents();
+    fraComponent.SetVisible(true);
+    form_.DefaultButton = nullptr;  // Enter in a percentage goes on to the next
+}
+
+void MixturePanel::Show(int place) {
+    ShowComponents();
+    txtPercent(place).SetFocus();
+}
+
+void MixturePanel::ShowComponents() {
+    const int count = ComponentCount();
+    for (int i = 0; i < MostComponents; ++i) {
+        const std::string row = FirstCharacters(Calc.FluidData[static_cast<std::size_t>(i)], NameLength);
+        lblComponent(i).SetCaption(std::string(Trim(row)));
+        lblComponent(i).SetVisible(i < count);
+        txtPercent(i).SetVisible(i < count);
+    }
+    cmdCalcPseudo.SetEnabled(count > 0);
+    cmdClear.SetEnabled(count > 0);
+    ShowRemaining();
+}
+
+void MixturePanel::Close() {
+    if (!fraComponent.Visible()) return;
+    fraComponent.SetVisible(false);
+    ClearPercents();
+    lblRemaining.SetCaption(NothingTaken);
+}
+
+void MixturePanel::StorePercents() const {
+    Calc.FluidPercent.fill(0);
+    for (int i = 0; i < ComponentCount(); ++i) {
+        Calc.FluidPercent[static_cast<std::size_t>(i)] = Val(txtPercent(i).Text());
+    }
+}
+
+void MixturePanel::ClearPercents() {
+    txtPercent.Each([](TextBox& box, int) { box.SetText(""); });
+}
+
+void MixturePanel::ShowRemaining() {
+    std::array<double, MostComponents> percents;
+    for (int i = 0; i < MostComponents; ++i) {
+        percents[static_cast<std::size_t>(i)] = Val(txtPercent(i).Text());
+    }
+    lblRemaining.SetCaption(TrimmedStr(RemainingPercent(percents)));
+}
+
+// What the others leave of 100, so that the box counts with what it takes, not on top of what it had.
+void MixturePanel::TakeRemainder(int place) {
+    txtPercent(place).SetText("");
+    const double rest = Val(lblRemaining.Caption());
+    txtPercent(place).SetText(rest > 0 ? TrimmedStr(rest) : "");
 }
 
 }  // namespace quillmetra

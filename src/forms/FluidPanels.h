@@ -33,10 +33,20 @@ private:
     Control* cameFrom_ = nullptr;
 };
 
-// The rows of a mixture and their percentages.
+// The components of a mixture, which stand beside the open list of fluids, and their percentages. A component
+// is shown by the first 20 characters of its table row.
 class MixturePanel {
 public:
     explicit MixturePanel(CalculationForm& form);
+
+    // Opens the panel with the components of the record.
+    void Open();
+    // Shows the components of the record and leads to the percentage of one.
+    void Show(int place);
+    void Close();
+    // Takes the percentages of the boxes into the record.
+    void StorePercents() const;
+    void ClearPercents();
 
     Frame fraComponent;
     ControlArray<Label> lblComponent;
@@ -45,6 +55,13 @@ public:
     Label lblRemaining;
     CommandButton cmdCalcPseudo;
     CommandButton cmdClear;
+
+private:
+    void ShowComponents();
+    void ShowRemaining();
+    void TakeRemainder(int place);
+
+    CalculationForm& form_;
 };
 
 }  // namespace quillmetra

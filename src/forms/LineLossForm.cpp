@@ -1,5 +1,7 @@
-// See LineLossForm.h: the line, the cases and the calculation. The fluid is in LineLossFluid.cpp.
+// See LineLossForm.h.
 #include "forms/LineLossForm.h"
+
+#include <utility>
 
 #include "core/Words.h"
 #include "forms/DataCheck.h"
@@ -9,7 +11,7 @@
 namespace quillmetra {
 
 LineLossForm::LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows)
-    : CalculationForm(names), cmdUnits(Picture1, "cmdUnits", rows, ""), pipeWord_(pipeWord) {
+    : FluidForm(names), cmdUnits(Picture1, "cmdUnits", rows, ""), pipeWord_(pipeWord) {
     for (int i = 0; i < CaseCount; ++i) {
         lblCase(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
         cmdCalculate(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
@@ -29,9 +31,7 @@ LineLossForm::LineLossForm(const Names& names, const char* pipeWord, std::initia
 }
 
 void LineLossForm::Assemble() {
-    // Mixtures are yet to come.
-    for (MenuItem* entry : MixtureEntries) entry->SetEnabled(false);
-    for (MenuItem* entry : PureEntries) entry->SetEnabled(false);
+    pltLine.ColourGroup = 4;  // as the results
     HookLine();
     HookFluid();
     DescribeRows();
@@ -57,10 +57,7 @@ void LineLossForm::OrderTabs() {
         TabOrder.push_back(control);
     }
     cmdUnits.Each([this](CommandButton& button, int) { TabOrder.push_back(&button); });
-    for (Control* control :
-         std::initializer_list<Control*>{&Liquids.lstFluid, &Liquids.cmdSelect, &Liquids.cmdCancel}) {
-        TabOrder.push_back(control);
-    }
+    AppendFluidTabs();
 }
 
 void LineLossForm::HookLine() {
@@ -85,11 +82,8 @@ void LineLossForm::HookLine() {
 }
 
 void LineLossForm::ShowChoices() {
-    edited_ = nullptr;
     lstMatl.SetVisible(false);
-    const bool mixture = Calc.MixtureFlag == words::Yes;
-    for (MenuItem* entry : MixtureEntries) entry->SetChecked(mixture);
-    for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
+    ShowFluidEntries();
     if (Calc.PressureDirection == 2) {
         optSource.SetChecked(true);
         lblDestPress.SetCaption("Source pressure");
@@ -117,10 +111,6 @@ void LineLossForm::StoreOwn() {
 }
 
 // --- Calculation ---------------------------------------------------------------------------------------
-
-bool LineLossForm::CheckTempPressureOfCase() {
-    return CheckTempPressure(*this, {txtTemp(Calc.CaseIndex), txtPressure(Calc.CaseIndex)});
-}
 
 // Takes the line into the working layer, test by test in the order of the form.
 bool LineLossForm::CheckLine() {
@@ -151,7 +141,7 @@ bool LineLossForm::CheckLine() {
 bool LineLossForm::CheckData() {
     const std::size_t i = ThisCase();
     Calc.DataOk = words::No;
-    if (!CheckTempPressureOfCase() || !CheckLine()) return false;
+    if (!CheckState() || !CheckLine()) return false;
     Calc.SourcePressure[1] = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
     if (Calc.PressureMode != words::Absolute) Calc.SourcePressure[1] += Calc.BaroPressure;
     if (!CheckSourcePressure()) return false;
@@ -172,6 +162,29 @@ void LineLossForm::cmdCalculate_Click(int index) {
     ShowCalculation();
     txtBy.SetFocus();
     Calc.CalculatedFlag = words::Yes;
+}
+
+// After a fluid was picked the case is calculated from its button.
+void LineLossForm::FluidTaken() {
+    cmdCalculate.Each([](CommandButton& button, int) { button.SetEnabled(true); });
+    cmdCalculate(Calc.CaseIndex).SetFocus();
+}
+
+// A case that has been calculated has a velocity.
+void LineLossForm::Recalculate() {
+    if (Calc.CalculatedFlag == words::Yes && Calc.CaseResult[2][ThisCase()] > 0) {
+        cmdCalculate_Click(Calc.CaseIndex);
+    }
+}
+
+void LineLossForm::DrawLine(PlotDrawing drawing) {
+    drawnCase_ = Calc.CaseIndex;
+    drawing.Title = lblCase(drawnCase_).Caption() + " case";
+    pltLine.Draw(std::move(drawing));
+}
+
+void LineLossForm::ResultsBlanked(int caseIndex) {
+    if (caseIndex == drawnCase_) pltLine.Clear();
 }
 
 // --- The line ------------------------------------------------------------------------------------------

@@ -2,15 +2,15 @@
 // of flow, temperature and pressure, and the way from a press of a calculate button to the results.
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "core/CalcRecord.h"
-#include "forms/CalculationForm.h"
+#include "forms/FluidForm.h"
+#include "platform/Plot.h"
 
 namespace quillmetra {
 
-class LineLossForm : public CalculationForm {
+class LineLossForm : public FluidForm {
 public:
     // rows: the unit rows that have a button.
     LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows);
@@ -81,6 +81,7 @@ public:
     Label lblEquivLen{Picture1, "lblEquivLen", "Equivalent length"};
     TextBox txtEquivLen{Picture1, "txtEquivLen"};
     Label unEquivLen{Picture1, "unEquivLen"};
+    Plot pltLine{Picture1, "pltLine"};  // what goes on along the line of the case calculated last
 
     void cmdCalculate_Click(int index);
     void cmdPipeID_Click();
@@ -88,11 +89,6 @@ public:
     void lstMatl_DoubleClick();
     void optDestination_Click();
     void optSource_Click();
-    void mnuFluiProp_Click();
-    void mnuCase_Click(int index);
-    void cmdSelect_Click();
-    void txtTemp_LostFocus(int index);
-    void txtPressure_LostFocus(int index);
 
 protected:
     using CaseBoxes = const ControlArray<TextBox>*;
@@ -104,44 +100,28 @@ protected:
     virtual bool CheckSourcePressure() = 0;
     // Runs the calculation of the checked case and shows its results; false when there are none.
     virtual bool CalculateCase() = 0;
-    // Parses FluidRow and fills the case in hand with the fluid's properties; false when it was given up.
-    virtual bool TakeFluid() = 0;
-
+    TextBox& TemperatureBox(int caseIndex) override { return txtTemp(caseIndex); }
+    TextBox& PressureBox(int caseIndex) override { return txtPressure(caseIndex); }
+    void FluidTaken() override;
+    void Recalculate() override;
     void StoreOwn() override;
     void ShowChoices() override;
+    void ResultsBlanked(int caseIndex) override;
     Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
 
     // To be called by the form when its own controls stand.
     void Assemble();
-    // A pure fluid of the table is wanted for a case: opens the list when temperature and pressure are right.
-    void OpenFluids(int caseIndex);
-    // The check before a fluid is picked or renewed: the vapour pressure of the old fluid does not count.
-    bool CheckForNewFluid();
-    void NoteEntered(int caseIndex);
-    bool HasTempAndPressure(int caseIndex) const;
-    // The case's properties were renewed: what was typed into its state before is dealt with.
-    void StateIsDealtWith(int caseIndex);
-    static std::size_t ThisCase() { return static_cast<std::size_t>(Calc.CaseIndex); }
-
-    // The menu entries that pick a fluid: those of a pure one, and of a mixture, by case.
-    std::array<MenuItem*, CaseCount> PureEntries{};
-    std::array<MenuItem*, CaseCount> MixtureEntries{};
+    // Draws the case in hand, which stands until its results go.
+    void DrawLine(PlotDrawing drawing);
 
 private:
     void OrderTabs();
     void HookLine();
-    void HookFluid();
     bool CheckData();
     bool CheckLine();
-    bool CheckTempPressureOfCase();
-    void UpdateFluidProperties();
-    void EnterState(TextBox& box);
-    // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
-    void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
 
     const char* pipeWord_;
-    const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
-    std::string textBefore_;
+    int drawnCase_ = 0;
 };
 
 }  // namespace quillmetra

@@ -4,6 +4,7 @@
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "forms/frmCalcOptions.h"
+#include "forms/frmGasLineLoss.h"
 #include "forms/frmLiqLineLoss.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
@@ -27,11 +28,9 @@ struct FormEntry {
 };
 
 constexpr FormEntry FormTable[] = {
-    {"frmTRProg", MakeForm<frmTRProg>},
-    {"frmObxProg", MakeForm<frmObxProg>},
-    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>},
-    {"frmPipeSize", MakeForm<frmPipeSize>},
-    {"frmUnits", MakeForm<frmUnits>},
+    {"frmTRProg", MakeForm<frmTRProg>},           {"frmObxProg", MakeForm<frmObxProg>},
+    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>}, {"frmGasLineLoss", MakeForm<frmGasLineLoss>},
+    {"frmPipeSize", MakeForm<frmPipeSize>},       {"frmUnits", MakeForm<frmUnits>},
     {"frmCalcOptions", MakeForm<frmCalcOptions>},
 };
 

@@ -5,6 +5,7 @@
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
 #include "fluids/LiquidData.h"
+#include "fluids/Mixtures.h"
 #include "forms/DataCheck.h"
 #include "lineloss/Friction.h"
 #include "lineloss/LiquidLineLoss.h"
@@ -23,17 +24,17 @@ frmLiqLineLoss::frmLiqLineLoss()
                     .ListFrame = "fraLiquidData",
                     .ListCaption = "Liquids"},
                    words::PipeLiquidLoss, {1, 2, 3, 4, 6, 7, 18, 25}) {
-    PureEntries = {&mnuPureLiquid1, &mnuPureLiquid2, &mnuPureLiquid3};
-    MixtureEntries = {&mnuMixture1, &mnuMixture2, &mnuMixture3};
-    for (int i = 0; i < CaseCount; ++i) {
-        PureEntries[static_cast<std::size_t>(i)]->Click = [this, i] { OpenFluids(i); };
-    }
-    pltLine.ColourGroup = 4;  // as the results
+    Entries = {
+        {&mnuPureLiquid1, &mnuMixture1}, {&mnuPureLiquid2, &mnuMixture2}, {&mnuPureLiquid3, &mnuMixture3}};
     Assemble();
 }
 
 std::vector<LineLossForm::CaseBoxes> frmLiqLineLoss::BoxesOfACase() const {
     return {&txtFlow, &txtTemp, &txtPressure, &txtSGFlow, &txtViscosity, &txtEquip};
+}
+
+bool frmLiqLineLoss::CheckState() {
+    return CheckTempPressure(*this, {txtTemp(Calc.CaseIndex), txtPressure(Calc.CaseIndex)}, LiquidRules);
 }
 
 bool frmLiqLineLoss::CheckSourcePressure() {
@@ -77,23 +78,18 @@ bool frmLiqLineLoss::CalculateCase() {
     if (Calc.FlowPressure == 0) return false;  // the line cannot deliver; the user has been told
     Calc.FinalPressure = Calc.FlowPressure;
     ShowResults();
-    DrawLine();
+    DrawPressure();
     return true;
 }
 
-void frmLiqLineLoss::DrawLine() {
+void frmLiqLineLoss::DrawPressure() {
     const LiquidLineProfile line = LiquidLineProfileOf(Calc);
-    drawnCase_ = Calc.CaseIndex;
-    pltLine.Draw({.Title = lblCase(drawnCase_).Caption() + " case",
-                  .Bottom = {"Length", Calc.UnitName[25]},
-                  .Left = {"Pressure", Calc.UnitName[3]},
-                  .Right = {},
-                  .Series = {{"Pressure", {0, line.Length}, {line.SourcePressure, line.DestinationPressure}}},
-                  .Marks = {}});
-}
-
-void frmLiqLineLoss::ResultsBlanked(int caseIndex) {
-    if (caseIndex == drawnCase_) pltLine.Clear();
+    DrawLine({.Title = {},
+              .Bottom = {"Length", Calc.UnitName[25]},
+              .Left = {"Pressure", Calc.UnitName[3]},
+              .Right = {},
+              .Series = {{"Pressure", {0, line.Length}, {line.SourcePressure, line.DestinationPressure}}},
+              .Marks = {}});
 }
 
 void frmLiqLineLoss::ShowResults() {
@@ -114,8 +110,11 @@ void frmLiqLineLoss::ShowResults() {
     Calc.ResultsClearable[ThisCase()] = words::Yes;
 }
 
-bool frmLiqLineLoss::TakeFluid() {
-    ParseLiquidRow();
+void frmLiqLineLoss::ParseFluid() { ParseLiquidRow(); }
+
+bool frmLiqLineLoss::CalcMixture() { return CalcLiquidMixture(); }
+
+bool frmLiqLineLoss::FillFluid() {
     if (!ProcessLiquidData()) return false;
     try {
         FillCase();
@@ -149,8 +148,8 @@ void frmLiqLineLoss::FillCase() {
     Calc.CaseInput[6][i] = gravity;
     Calc.Viscosity = Calc.FluidViscosity;
     StateIsDealtWith(caseIndex);
-    ShowNumber(txtSGFlow(caseIndex), Calc.CaseInput[6][i]);
-    ShowNumber(txtViscosity(caseIndex), Calc.CaseInput[7][i]);
+    ShowProperty(txtSGFlow(caseIndex), Calc.CaseInput[6][i]);
+    ShowProperty(txtViscosity(caseIndex), Calc.CaseInput[7][i]);
 }
 
 }  // namespace quillmetra

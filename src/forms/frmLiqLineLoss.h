@@ -2,7 +2,6 @@
 #pragma once
 
 #include "forms/LineLossForm.h"
-#include "platform/Plot.h"
 
 namespace quillmetra {
 
@@ -21,22 +20,21 @@ public:
     ControlArray<TextBox> txtSGFlow{Picture1, "txtSGFlow", {0, 1, 2}};
     Label lblReynoldsNum{Picture1, "lblReynoldsNum", "Reynolds number"};
     ControlArray<TextBox> txtReynoldsNum{Picture1, "txtReynoldsNum", {0, 1, 2}};
-    Plot pltLine{Picture1, "pltLine"};  // the pressure along the line of the case calculated last
 
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
     bool CheckFluid() override;
     bool CheckSourcePressure() override;
     bool CalculateCase() override;
-    bool TakeFluid() override;
-    void ResultsBlanked(int caseIndex) override;
+    bool CheckState() override;
+    void ParseFluid() override;
+    bool CalcMixture() override;
+    bool FillFluid() override;
 
 private:
     void ShowResults();
-    void DrawLine();
+    void DrawPressure();
     void FillCase();
-
-    int drawnCase_ = 0;
 };
 
 }  // namespace quillmetra

@@ -46,20 +46,20 @@ struct UnitControl {
 
 constexpr int Single = Control::NoIndex;
 constexpr UnitControl LiquidLossUnits[] = {
-    {"cmdUnits", 1, 1},
-    {"cmdUnits", 2, 2},
-    {"cmdUnits", 3, 3},
-    {"cmdUnits", 4, 4},
-    {"cmdUnits", 6, 6},
-    {"cmdUnits", 7, 7},
-    {"cmdUnits", 18, 18},
-    {"cmdUnits", 25, 25},
-    {"unInletPipeElev", Single, 25},
-    {"unOutletPipeElev", Single, 25},
-    {"unDropP100", Single, 4},
-    {"unDestPress", Single, 3},
-    {"unVelocity", Single, 20},
-    {"unEquivLen", Single, 25},
+    {"cmdUnits", 1, 1}, {"cmdUnits", 2, 2}, {"cmdUnits", 3, 3},   {"cmdUnits", 4, 4},
+    {"cmdUnits", 6, 6}, {"cmdUnits", 7, 7}, {"cmdUnits", 18, 18}, {"cmdUnits", 25, 25},
+};
+constexpr UnitControl GasLossUnits[] = {
+    {"cmdUnits", 0, 0},   {"cmdUnits", 2, 2},
+    {"cmdUnits", 3, 3},   {"cmdUnits", 4, 4},
+    {"cmdUnits", 11, 11}, {"cmdUnits", 12, 12},
+    {"cmdUnits", 13, 13}, {"cmdUnits", 18, 18},
+    {"cmdUnits", 25, 25}, {"unSonicVelocity", Single, 20},
+};
+// Those that both line-loss forms have beside them.
+constexpr UnitControl LineUnits[] = {
+    {"unInletPipeElev", Single, 25}, {"unOutletPipeElev", Single, 25}, {"unDropP100", Single, 4},
+    {"unDestPress", Single, 3},      {"unVelocity", Single, 20},       {"unEquivLen", Single, 25},
 };
 
 constexpr UnitControl WaterHammerUnits[] = {
@@ -137,16 +137,13 @@ void ShowUnits(Form& form, std::span<const UnitControl> units) {
     }
 }
 
-// The liquid form, when the destination is given, writes its input label twice: the second text stands, and
-// the result label keeps what the click of optSource wrote.
-void ShowDirection(Form& form) {
-    if (Calc.PressureDirection == 2) {
-        Named(form, "lblPressure").SetCaption("End pressure");
-        Named(form, "lblPressure").SetCaption("Destination pressure");
-    } else {
-        Named(form, "lblPressure").SetCaption("Source pressure");
-        Named(form, "lblDestPress").SetCaption("Destination pressure");
-    }
+// The given pressure and the one calculated. When the destination is given, the liquid form leaves its
+// result label as the click of optSource wrote it.
+void ShowDirection(Form& form, bool swapsResult) {
+    const bool source = Calc.PressureDirection == 2;
+    Named(form, "lblPressure").SetCaption(source ? "Destination pressure" : "Source pressure");
+    if (source && !swapsResult) return;
+    Named(form, "lblDestPress").SetCaption(source ? "Source pressure" : "Destination pressure");
 }
 
 void ShowDensityMode(Form& form, const char* gravityTip) {
@@ -181,6 +178,17 @@ void ShowSignatures(Form& form) {
     SetText(Named(form, "txtComments", 1), Calc.HeadingText[9]);
 }
 
+// What both line-loss forms show alike.
+void ShowLine(Form& form, int program) {
+    ShowUnits(form, LineUnits);
+    Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[25]);
+    Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
+    ShowTick(form, "chkEntrance", 4);
+    ShowTick(form, "chkExit", 5);
+    ShowRows(form, program);
+    ShowSignatures(form);
+}
+
 }  // namespace
 
 bool ResultsStand(int caseIndex) {
@@ -200,14 +208,18 @@ void ShowLiquidLoss() {
     Form& form = LoadForm("frmLiqLineLoss");
     ShowIdentity(form);
     ShowUnits(form, LiquidLossUnits);
-    Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[25]);
-    ShowDirection(form);
+    ShowDirection(form, false);
     ShowDensityMode(form, "Specific gravity @ FTPy");
-    Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
-    ShowTick(form, "chkEntrance", 4);
-    ShowTick(form, "chkExit", 5);
-    ShowRows(form, 1);
-    ShowSignatures(form);
+    ShowLine(form, 1);
+}
+
+void ShowGasLoss() {
+    const Filling filling;
+    Form& form = LoadForm("frmGasLineLoss");
+    ShowIdentity(form);
+    ShowUnits(form, GasLossUnits);
+    ShowDirection(form, true);
+    ShowLine(form, 2);
 }
 
 void ShowWaterHammer() {
@@ -232,6 +244,7 @@ void ShowCalculation() {
     Calc.MethodText = program->Method;
     switch (program->Number) {
         case 1: ShowLiquidLoss(); break;
+        case 2: ShowGasLoss(); break;
         case 3: ShowWaterHammer(); break;
         default: break;
     }

@@ -1,6 +1,9 @@
 // See FormRows.h.
 #include "reports/FormRows.h"
 
+#include <algorithm>
+#include <array>
+
 #include "core/CalcRecord.h"
 #include "platform/TextCase.h"
 
@@ -12,7 +15,8 @@ constexpr int Single = Control::NoIndex;
 constexpr bool Each = true;   // one for each case
 constexpr bool Once = false;  // one for all cases
 
-constexpr FormRow LiquidLossRows[] = {
+// The line, as both line-loss forms have it.
+constexpr std::array LineRows = std::to_array<FormRow>({
     {"txtInletPipeLen", Source::PipeData, 1, ShowRule::Positive, Once, "lblInletPipeLen", "cmdUnits", 25},
     {"txtInletPipeID", Source::PipeData, 2, ShowRule::Positive, Once, "lblInletPipeID", "cmdUnits", 18},
     {"txtInletPipeElev", Source::PipeData, 3, ShowRule::Signed, Once, "lblInletPipeElev", "unInletPipeElev",
@@ -27,18 +31,55 @@ constexpr FormRow LiquidLossRows[] = {
     {"txtInlet45Deg", Source::FittingCount, 5, ShowRule::Signed, Once, "lblInlet45Deg", "", Single},
     {"txtInletThru", Source::FittingCount, 6, ShowRule::Signed, Once, "lblInletThru", "", Single},
     {"txtInletBranch", Source::FittingCount, 7, ShowRule::Signed, Once, "lblInletBranch", "", Single},
-    {"txtFlow", Source::CaseInput, 1, ShowRule::Positive, Each, "lblFlow", "cmdUnits", 1},
-    {"txtTemp", Source::CaseInput, 2, ShowRule::LegalZero, Each, "lblTemp", "cmdUnits", 2},
-    {"txtPressure", Source::CaseInput, 3, ShowRule::LegalZero, Each, "lblPressure", "cmdUnits", 3},
-    {"txtSGFlow", Source::CaseInput, 6, ShowRule::Positive, Each, "lblSGFlow", "cmdUnits", 6},
-    {"txtViscosity", Source::CaseInput, 7, ShowRule::Positive, Each, "lblViscosity", "cmdUnits", 7},
-    {"txtEquip", Source::CaseInput, 4, ShowRule::Positive, Each, "lblEquip", "cmdUnits", 4},
-    {"txtDropP100", Source::CaseResult, 0, ShowRule::Positive, Each, "lblDropP100", "unDropP100", Single},
-    {"txtDestPress", Source::CaseResult, 1, ShowRule::LegalZero, Each, "lblDestPress", "unDestPress", Single},
-    {"txtVelocity", Source::CaseResult, 2, ShowRule::Positive, Each, "lblVelocity", "unVelocity", Single},
-    {"txtReynoldsNum", Source::CaseResult, 4, ShowRule::Positive, Each, "lblReynoldsNum", "", Single},
-    {"txtEquivLen", Source::CaseResult, 5, ShowRule::Positive, Once, "lblEquivLen", "unEquivLen", Single},
-};
+});
+
+template <std::size_t A, std::size_t B>
+constexpr std::array<FormRow, A + B> Joined(const std::array<FormRow, A>& first,
+                                            const std::array<FormRow, B>& second) {
+    std::array<FormRow, A + B> rows{};
+    std::copy(first.begin(), first.end(), rows.begin());
+    std::copy(second.begin(), second.end(), rows.begin() + A);
+    return rows;
+}
+
+constexpr auto LiquidLossRows = Joined(
+    LineRows,
+    std::to_array<FormRow>({
+        {"txtFlow", Source::CaseInput, 1, ShowRule::Positive, Each, "lblFlow", "cmdUnits", 1},
+        {"txtTemp", Source::CaseInput, 2, ShowRule::LegalZero, Each, "lblTemp", "cmdUnits", 2},
+        {"txtPressure", Source::CaseInput, 3, ShowRule::LegalZero, Each, "lblPressure", "cmdUnits", 3},
+        {"txtSGFlow", Source::CaseInput, 6, ShowRule::Positive, Each, "lblSGFlow", "cmdUnits", 6},
+        {"txtViscosity", Source::CaseInput, 7, ShowRule::Positive, Each, "lblViscosity", "cmdUnits", 7},
+        {"txtEquip", Source::CaseInput, 4, ShowRule::Positive, Each, "lblEquip", "cmdUnits", 4},
+        {"txtDropP100", Source::CaseResult, 0, ShowRule::Positive, Each, "lblDropP100", "unDropP100", Single},
+        {"txtDestPress", Source::CaseResult, 1, ShowRule::LegalZero, Each, "lblDestPress", "unDestPress",
+         Single},
+        {"txtVelocity", Source::CaseResult, 2, ShowRule::Positive, Each, "lblVelocity", "unVelocity", Single},
+        {"txtReynoldsNum", Source::CaseResult, 4, ShowRule::Positive, Each, "lblReynoldsNum", "", Single},
+        {"txtEquivLen", Source::CaseResult, 5, ShowRule::Positive, Once, "lblEquivLen", "unEquivLen", Single},
+    }));
+
+constexpr auto GasLossRows = Joined(
+    LineRows,
+    std::to_array<FormRow>({
+        {"txtFlow", Source::CaseInput, 0, ShowRule::Positive, Each, "lblFlow", "cmdUnits", 0},
+        {"txtTemp", Source::CaseInput, 2, ShowRule::LegalZero, Each, "lblTemp", "cmdUnits", 2},
+        {"txtPressure", Source::CaseInput, 3, ShowRule::LegalZero, Each, "lblPressure", "cmdUnits", 3},
+        {"txtMW", Source::CaseInput, 5, ShowRule::Positive, Each, "lblMW", "", Single},
+        {"txtRatioSH", Source::CaseInput, 10, ShowRule::Positive, Each, "lblRatioSH", "", Single},
+        {"txtCritTemp", Source::CaseInput, 12, ShowRule::LegalZero, Each, "lblCritTemp", "cmdUnits", 12},
+        {"txtCritPressure", Source::CaseInput, 11, ShowRule::Positive, Each, "lblCritPressure", "cmdUnits",
+         11},
+        {"txtViscosity", Source::CaseInput, 7, ShowRule::Positive, Each, "lblViscosity", "cmdUnits", 13},
+        {"txtEquip", Source::CaseInput, 4, ShowRule::Positive, Each, "lblEquip", "cmdUnits", 4},
+        {"txtDropP100", Source::CaseResult, 0, ShowRule::Positive, Each, "lblDropP100", "unDropP100", Single},
+        {"txtDestPress", Source::CaseResult, 1, ShowRule::LegalZero, Each, "lblDestPress", "unDestPress",
+         Single},
+        {"txtVelocity", Source::CaseResult, 2, ShowRule::Positive, Each, "lblVelocity", "unVelocity", Single},
+        {"txtSonicVelocity", Source::CaseResult, 3, ShowRule::Positive, Each, "lblSonicVelocity",
+         "unSonicVelocity", Single},
+        {"txtEquivLen", Source::CaseResult, 5, ShowRule::Positive, Once, "lblEquivLen", "unEquivLen", Single},
+    }));
 
 // Some rows of the record hold a second quantity in another column than the first.
 constexpr int Allowable = 1, PipeModulus = 1, Wall = 2;
@@ -82,6 +123,7 @@ std::size_t At(int index) { return static_cast<std::size_t>(index); }
 std::span<const FormRow> FormRows(int program) {
     switch (program) {
         case 1: return LiquidLossRows;
+        case 2: return GasLossRows;
         case 3: return WaterHammerRows;
         default: return {};
     }

@@ -33,10 +33,10 @@ TEST_F(LiquidFluid, TheListFillsTheCaseThatOpenedIt) {
     EnterState(0, "100", "50");
     EnterState(1, "200", "50");
     ClickControl(Form().mnuPureLiquid1);
-    ASSERT_TRUE(Form().Liquids.IsOpen());
+    ASSERT_TRUE(Form().Fluids.IsOpen());
     EXPECT_FALSE(ClickControl(Form().mnuPureLiquid2));
     EXPECT_FALSE(OpenMenu(Form().mnuCase(1)));
-    ClickControl(Form().Liquids.cmdSelect);
+    ClickControl(Form().Fluids.cmdSelect);
     EXPECT_GT(Gravity(0), 0);
     EXPECT_TRUE(Form().txtSGFlow(1).Text().empty());
     EXPECT_EQ(Form().Focus.Current(), &Form().cmdCalculate(0));
@@ -48,7 +48,7 @@ TEST_F(LiquidFluid, ANewTemperatureAsksEvenAfterADetourByTheMenu) {
     PickLiquid(0, "Toluene ");
     Type(Form().txtTemp(0), "150");
     ClickControl(Form().mnuPureLiquid1);
-    PressKey(Form().Liquids.lstFluid, "Escape");
+    PressKey(Form().Fluids.lstFluid, "Escape");
     EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
     EXPECT_EQ(Form().Focus.Current(), &Form().txtTemp(0));
     MoveFocus(Form().txtFlow(0));
@@ -91,7 +91,7 @@ TEST_F(LiquidFluid, NewInTheMiddleOfAListLeavesAFreshForm) {
     EnterState(0, "100", "50");
     ClickControl(Form().mnuPureLiquid1);
     ClickControl(Form().mnuNew);
-    EXPECT_FALSE(Form().Liquids.IsOpen());
+    EXPECT_FALSE(Form().Fluids.IsOpen());
     EXPECT_EQ(Form().Focus.Current(), &Form().txtTagNum);
     EXPECT_TRUE(CanAct(Form().txtFlow(0)));
     ClickControl(Form().cmdMatl);

@@ -50,12 +50,12 @@ protected:
     void PickLiquid(int i, const std::string& name) {
         MenuItem* const menus[] = {&Form().mnuPureLiquid1, &Form().mnuPureLiquid2, &Form().mnuPureLiquid3};
         ASSERT_TRUE(ClickControl(*menus[i]));
-        ListBox& list = Form().Liquids.lstFluid;
+        ListBox& list = Form().Fluids.lstFluid;
         const auto& rows = list.Rows();
         const auto row = std::find_if(rows.begin(), rows.end(),
                                       [&](const std::string& each) { return each.starts_with(name); });
         ASSERT_TRUE(PickRow(list, static_cast<int>(row - rows.begin()))) << name;
-        ASSERT_TRUE(ClickControl(Form().Liquids.cmdSelect));
+        ASSERT_TRUE(ClickControl(Form().Fluids.cmdSelect));
     }
 
     void Calculate(int i) { ASSERT_TRUE(ClickControl(Form().cmdCalculate(i))); }

@@ -191,20 +191,20 @@ TEST_F(LiquidForm, PicksALiquidOnceTemperatureAndPressureAreIn) {
     frmLiqLineLoss& form = Form();
     ClickControl(form.mnuPureLiquid1);
     EXPECT_EQ(User.LastText(), "Need Pressure and Temperature to continue");
-    EXPECT_FALSE(form.Liquids.IsOpen());
+    EXPECT_FALSE(form.Fluids.IsOpen());
     Suite.HideFluidReminder = words::Yes;
     Type(form.txtTemp(0), "100");
     Type(form.txtPressure(0), "50");
     User.Boxes.clear();
     ClickControl(form.mnuPureLiquid1);
-    ASSERT_TRUE(form.Liquids.IsOpen()) << User.LastText();
+    ASSERT_TRUE(form.Fluids.IsOpen()) << User.LastText();
     EXPECT_FALSE(CanAct(form.txtFlow(0))) << "only the list takes input";
-    EXPECT_EQ(form.Focus.Current(), &form.Liquids.lstFluid);
-    const auto& rows = form.Liquids.lstFluid.Rows();
+    EXPECT_EQ(form.Focus.Current(), &form.Fluids.lstFluid);
+    const auto& rows = form.Fluids.lstFluid.Rows();
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].starts_with("Toluene ")) PickRow(form.Liquids.lstFluid, static_cast<int>(i));
+        if (rows[i].starts_with("Toluene ")) PickRow(form.Fluids.lstFluid, static_cast<int>(i));
     }
-    PressKey(form.Liquids.lstFluid, "Enter");
+    PressKey(form.Fluids.lstFluid, "Enter");
     EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
     EXPECT_EQ(form.txtFluid.Text(), "Toluene");
     // Toluene at 100 degF: density 53.0 lb/ft3, viscosity 0.49 cp, vapour pressure 1.03 psia (handbook).
@@ -240,20 +240,20 @@ TEST_F(LiquidForm, AMissingOrHostileLiquidTableDoesNoHarm) {
     std::filesystem::remove(DataFolder() / "Liquid.txt");
     ClickControl(form.mnuPureLiquid1);
     EXPECT_EQ(User.LastText(), "File Liquid.txt");
-    EXPECT_TRUE(form.Liquids.IsOpen());
-    EXPECT_FALSE(form.Liquids.cmdSelect.Enabled());
-    PressKey(form.Liquids.cmdCancel, "Escape");
-    EXPECT_FALSE(form.Liquids.IsOpen());
+    EXPECT_TRUE(form.Fluids.IsOpen());
+    EXPECT_FALSE(form.Fluids.cmdSelect.Enabled());
+    PressKey(form.Fluids.cmdCancel, "Escape");
+    EXPECT_FALSE(form.Fluids.IsOpen());
 
     const std::string bytes("Bytes \0\xFF\x80,1,2", 13);
     WriteData("LIQUID.TXT", "head\r\nShort,1,2\r\n" + bytes + "\nZero,1,0,0,0,0,0,0,0,0,0,\r\n");
     ClickControl(form.mnuPureLiquid1);
-    ASSERT_EQ(form.Liquids.lstFluid.RowCount(), 3);
+    ASSERT_EQ(form.Fluids.lstFluid.RowCount(), 3);
     for (int row = 0; row < 3; ++row) {
-        if (!form.Liquids.IsOpen()) ClickControl(form.mnuPureLiquid1);
-        PickRow(form.Liquids.lstFluid, row);
+        if (!form.Fluids.IsOpen()) ClickControl(form.mnuPureLiquid1);
+        PickRow(form.Fluids.lstFluid, row);
         User.Answers.assign(5, Answer::Yes);
-        ClickControl(form.Liquids.cmdSelect);
+        ClickControl(form.Fluids.cmdSelect);
         EXPECT_EQ(User.LastText(), "Fluid properties cannot be calculated") << row;
         EXPECT_TRUE(form.txtSGFlow(0).Text().empty());
         EXPECT_TRUE(CanAct(form.txtFlow(0)));

@@ -41,8 +41,8 @@ TEST_F(CommaLocale, AWholeCaseIsTheSame) {
     EXPECT_EQ(Form().txtVelocity(0).Text(), " 5.035");
     EXPECT_EQ(Form().txtReynoldsNum(0).Text(), " 156731");
     ClickControl(Form().mnuPureLiquid1);
-    EXPECT_GT(Form().Liquids.lstFluid.RowCount(), 100);
-    ClickControl(Form().Liquids.cmdSelect);
+    EXPECT_GT(Form().Fluids.lstFluid.RowCount(), 100);
+    ClickControl(Form().Fluids.cmdSelect);
     EXPECT_NEAR(Val(Form().txtSGFlow(0).Text()), 1.347, 0.002) << "1-1-1-Trichloroethane at 60 degF";
 }
 

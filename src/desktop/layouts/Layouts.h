@@ -6,12 +6,11 @@
 namespace quillmetra::layout {
 
 Node frmCalcOptions();
-Node frmCalcOptions();
+Node frmGasLineLoss();
 Node frmLiqLineLoss();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmTRProg();
-Node frmUnits();
 Node frmUnits();
 
 }  // namespace quillmetra::layout

@@ -1,0 +1,155 @@
+// See BaseConditions.h.
+#include "forms/BaseConditions.h"
+
+#include "core/CalcRecord.h"
+#include "core/StartUp.h"
+#include "core/Words.h"
+#include "forms/CalculationForm.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "units/NamedUnitSets.h"
+#include "units/Rounding.h"
+#include "units/Temperature.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* Title = "Base conditions";
+
+bool IsSI() { return Calc.UnitSystem == words::SI; }
+
+void ApplySystem(bool si) { si ? STPSI() : STPEnglish(); }
+
+bool Refuse(const char* text, TextBox& box) {
+    Tell(text, Title, Icon::Stop);
+    box.SetFocus();
+    return false;
+}
+
+// What a box says in the record's own unit, psia or degF; a box as it was filled says nothing new.
+double Typed(const TextBox& box, const std::string& shown, double former, double (*fromSI)(double)) {
+    if (box.Text() == shown) return former;
+    const double typed = Val(box.Text());
+    return IsSI() ? RoundedFour(fromSI(typed)) : typed;
+}
+
+double FromKilopascal(double value) { return value * PsiPerKPa; }
+double FromDegC(double value) { return value * 1.8 + 32.0; }
+
+}  // namespace
+
+BaseConditions::BaseConditions(CalculationForm& form)
+    : mnuSTP(form, "mnuSTP", "&Base conditions"),
+      fraSTP(form, "fraSTP", Title),
+      lblSTPPressure(fraSTP, "lblSTPPressure", "Base pressure"),
+      txtSTPPressure(fraSTP, "txtSTPPressure"),
+      unSTPPressure(fraSTP, "unSTPPressure"),
+      lblSTPTemp(fraSTP, "lblSTPTemp", "Base temperature"),
+      txtSTPTemp(fraSTP, "txtSTPTemp"),
+      unSTPTemp(fraSTP, "unSTPTemp"),
+      lblSTPBaro(fraSTP, "lblSTPBaro", "Barometric pressure"),
+      txtSTPBaro(fraSTP, "txtSTPBaro"),
+      unSTPBaro(fraSTP, "unSTPBaro"),
+      cmdSTPEnglish(fraSTP, "cmdSTPEnglish", "&English units"),
+      cmdSTPSI(fraSTP, "cmdSTPSI", "S&I units"),
+      cmdOKSTP(fraSTP, "cmdOKSTP", "OK"),
+      cmdSaveSTP(fraSTP, "cmdSaveSTP", "&Save"),
+      cmdCancelSTP(fraSTP, "cmdCancelSTP", "Cancel"),
+      form_(form) {
+    fraSTP.SetVisible(false);
+    txtSTPPressure.Describe(&lblSTPPressure, &unSTPPressure);
+    txtSTPTemp.Describe(&lblSTPTemp, &unSTPTemp);
+    txtSTPBaro.Describe(&lblSTPBaro, &unSTPBaro);
+    for (TextBox* box : {&txtSTPPressure, &txtSTPTemp, &txtSTPBaro}) {
+        box->IsNumber = true;
+        box->ColourGroup = 2;
+    }
+    mnuSTP.Click = [this] { Open(); };
+    cmdSTPEnglish.Click = [this] { SwitchTo(false); };
+    cmdSTPSI.Click = [this] { SwitchTo(true); };
+    cmdOKSTP.Click = [this] { cmdOKSTP_Click(); };
+    cmdSaveSTP.Click = [this] { cmdSaveSTP_Click(); };
+    cmdCancelSTP.Click = [this] { cmdCancelSTP_Click(); };
+}
+
+void BaseConditions::Open() {
+    if (fraSTP.Visible()) return;
+    RestoreStandardConditions();
+    systemBefore_ = Calc.UnitSystem;
+    ApplySystem(IsSI());
+    Show();
+    cameFrom_ = form_.Focus.Current();
+    form_.Picture1.SetEnabled(false);
+    form_.mnuFluiProp.SetEnabled(false);
+    fraSTP.SetVisible(true);
+    form_.DefaultButton = &cmdOKSTP;
+    form_.CancelButton = &cmdCancelSTP;
+    txtSTPPressure.SetFocus();
+}
+
+void BaseConditions::Close() {
+    if (!fraSTP.Visible()) return;
+    fraSTP.SetVisible(false);
+    form_.Picture1.SetEnabled(true);
+    form_.mnuFluiProp.SetEnabled(true);
+    form_.DefaultButton = nullptr;
+    form_.CancelButton = nullptr;
+    if (cameFrom_ != nullptr) cameFrom_->SetFocus();
+}
+
+void BaseConditions::Show() {
+    shown_ = {TrimmedStr(Calc.CaseInput[22][0]), TrimmedStr(Calc.CaseInput[21][0]),
+              TrimmedStr(Calc.CaseInput[23][0])};
+    txtSTPPressure.SetText(shown_[0]);
+    txtSTPTemp.SetText(shown_[1]);
+    txtSTPBaro.SetText(shown_[2]);
+    unSTPPressure.SetCaption(Calc.UnitName[22]);
+    unSTPTemp.SetCaption(Calc.UnitName[21]);
+    unSTPBaro.SetCaption(Calc.UnitName[23]);
+    cmdSTPEnglish.SetEnabled(IsSI());
+    cmdSTPSI.SetEnabled(!IsSI());
+}
+
+// The values in force in the other system; what was typed and not taken goes.
+void BaseConditions::SwitchTo(bool si) {
+    ApplySystem(si);
+    Show();
+    txtSTPPressure.SetFocus();
+}
+
+bool BaseConditions::Take() {
+    const double pressure = Typed(txtSTPPressure, shown_[0], Calc.StdPressure, FromKilopascal);
+    const double temperature = Typed(txtSTPTemp, shown_[1], Calc.StdTemperature, FromDegC);
+    const double barometer = Typed(txtSTPBaro, shown_[2], Calc.BaroPressure, FromKilopascal);
+    if (!(pressure > 0)) return Refuse("Base pressure must be greater than zero", txtSTPPressure);
+    if (!(temperature > AbsoluteZeroF)) {
+        return Refuse("Base temperature must be greater than absolute zero", txtSTPTemp);
+    }
+    if (!(barometer > 0)) return Refuse("Barometric pressure must be greater than zero", txtSTPBaro);
+    const bool changed =
+        pressure != Calc.StdPressure || temperature != Calc.StdTemperature || barometer != Calc.BaroPressure;
+    Calc.StdPressure = pressure;
+    Calc.StdTemperature = temperature;
+    Calc.BaroPressure = barometer;
+    ApplySystem(IsSI());
+    if (changed && Changed) Changed();
+    return true;
+}
+
+void BaseConditions::cmdOKSTP_Click() {
+    if (Take()) Close();
+}
+
+void BaseConditions::cmdSaveSTP_Click() {
+    if (!Take()) return;
+    SaveStandardConditions();
+    Close();
+}
+
+void BaseConditions::cmdCancelSTP_Click() {
+    ApplySystem(systemBefore_ == words::SI);
+    Close();
+}
+
+}  // namespace quillmetra

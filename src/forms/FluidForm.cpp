@@ -1,0 +1,218 @@
+// See FluidForm.h: the entries, the questions about temperature and pressure, and what a fluid changes on the
+// form. How one is picked is in FluidPicks.cpp.
+#include "forms/FluidForm.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/Filling.h"
+#include "core/StartUp.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "reports/FormRefresh.h"
+#include "reports/FormRows.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr std::size_t TemperatureRow = 2;
+constexpr std::size_t PressureRow = 3;
+}  // namespace
+
+void FluidForm::HookFluid() {
+    mnuFluiProp.Click = [this] { mnuFluiProp_Click(); };
+    mnuCase.Each([this](MenuItem& head, int i) { head.Click = [this, i] { mnuCase_Click(i); }; });
+    for (std::size_t i = 0; i < Entries.size(); ++i) {
+        const int caseIndex = static_cast<int>(i);
+        const FluidEntries& entries = Entries[i];
+        entries.Pure->Click = [this, caseIndex] { OpenPure(caseIndex); };
+        entries.Mixture->Click = [this, caseIndex] { OpenMixture(caseIndex); };
+        if (entries.Saturated == nullptr) continue;
+        entries.Saturated->Click = [this, caseIndex] { PickSteam(caseIndex, words::Saturated); };
+        entries.Superheated->Click = [this, caseIndex] { PickSteam(caseIndex, words::Superheated); };
+    }
+    Fluids.cmdSelect.Click = [this] { cmdSelect_Click(); };
+    Fluids.cmdCancel.Click = [this] { cmdCancel_Click(); };
+    Fluids.lstFluid.DoubleClick = [this] { cmdSelect_Click(); };
+    Mixture.cmdCalcPseudo.Click = [this] { cmdCalcPseudo_Click(); };
+    Mixture.cmdClear.Click = [this] { cmdClear_Click(); };
+    HookState();
+}
+
+void FluidForm::HookState() {
+    for (std::size_t i = 0; i < Entries.size(); ++i) {
+        const int caseIndex = static_cast<int>(i);
+        TextBox& temperature = TemperatureBox(caseIndex);
+        TextBox& pressure = PressureBox(caseIndex);
+        for (TextBox* box : {&temperature, &pressure}) {
+            box->GotFocus = [this, box] { EnterState(*box); };
+        }
+        temperature.LostFocus = [this, caseIndex, i, &temperature] {
+            LeaveState(caseIndex, TemperatureRow, temperature, Calc.PressureEntered[i] == words::Entered,
+                       "Temperature Has Changed");
+        };
+        pressure.LostFocus = [this, caseIndex, i, &pressure] {
+            LeaveState(caseIndex, PressureRow, pressure, Calc.TemperatureEntered[i] == words::Entered,
+                       "Pressure Has Changed");
+        };
+    }
+}
+
+void FluidForm::AppendFluidTabs() {
+    for (Control* control :
+         std::initializer_list<Control*>{&Fluids.lstFluid, &Fluids.cmdSelect, &Fluids.cmdCancel}) {
+        TabOrder.push_back(control);
+    }
+    Mixture.txtPercent.Each([this](TextBox& box, int) { TabOrder.push_back(&box); });
+    TabOrder.push_back(&Mixture.cmdCalcPseudo);
+    TabOrder.push_back(&Mixture.cmdClear);
+}
+
+// --- Entries ---------------------------------------------------------------------------------------------
+
+bool FluidForm::HasState(int caseIndex) const {
+    const auto i = static_cast<std::size_t>(caseIndex);
+    return Calc.TemperatureEntered[i] == words::Entered && Calc.PressureEntered[i] == words::Entered;
+}
+
+// A temperature is entered when its box is not empty, a pressure when it is above a perfect vacuum. The
+// entries of the case's fluid menu work when both are; saturated steam needs the pressure alone.
+void FluidForm::NoteEntered(int caseIndex) {
+    const auto i = static_cast<std::size_t>(caseIndex);
+    const bool blank = Trim(TemperatureBox(caseIndex).Text()).empty();
+    Calc.TemperatureBlank[i] = blank ? 1 : 0;
+    Calc.TemperatureEntered[i] = blank ? "" : words::Entered;
+    const double barometer = Calc.PressureMode == words::Absolute ? 0
+                             : Calc.BaroPressure > 0              ? Calc.BaroPressure
+                                                                  : 14.7;
+    const std::string& typed = PressureBox(caseIndex).Text();
+    const bool pressure = !Trim(typed).empty() && Val(typed) * Calc.UnitFactor[3] + barometer > 0;
+    Calc.PressureEntered[i] = pressure ? words::Entered : "";
+
+    const FluidEntries& entries = Entries[i];
+    for (MenuItem* entry : {entries.Pure, entries.Mixture, entries.Superheated}) {
+        if (entry != nullptr) entry->SetEnabled(HasState(caseIndex));
+    }
+    if (entries.Saturated != nullptr) entries.Saturated->SetEnabled(pressure);
+}
+
+bool FluidForm::CanPick(int caseIndex) const {
+    const auto i = static_cast<std::size_t>(caseIndex);
+    return HasState(caseIndex) ||
+           (Entries[i].Saturated != nullptr && Calc.PressureEntered[i] == words::Entered);
+}
+
+void FluidForm::TickEntries() {
+    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const bool steam = !Calc.SteamKind.empty();
+    for (const FluidEntries& entries : Entries) {
+        entries.Pure->SetChecked(!steam && Calc.MixtureFlag == words::No);
+        entries.Mixture->SetChecked(!steam && mixture);
+        if (entries.Saturated == nullptr) continue;
+        entries.Saturated->SetChecked(Calc.SteamKind == words::Saturated);
+        entries.Superheated->SetChecked(Calc.SteamKind == words::Superheated);
+    }
+}
+
+void FluidForm::ShowFluidEntries() {
+    edited_ = nullptr;
+    CloseFluids();
+    TickEntries();
+    for (std::size_t i = 0; i < Entries.size(); ++i) NoteEntered(static_cast<int>(i));
+}
+
+void FluidForm::mnuFluiProp_Click() {
+    bool any = false;
+    for (int i = 0; i < static_cast<int>(Entries.size()); ++i) {
+        NoteEntered(i);
+        any = any || CanPick(i);
+    }
+    if (!any) Tell("Need Pressure and Temperature to continue", "Fluid Properties");
+}
+
+void FluidForm::mnuCase_Click(int index) {
+    Calc.CaseIndex = index;
+    if (!CanPick(index)) Tell("Need Pressure and Temperature to continue", "Fluid Properties");
+}
+
+// --- What a fluid changes on the form ----------------------------------------------------------------------
+
+void FluidForm::ShowProperty(TextBox& box, double value) {
+    ShowNumber(box, value);
+    box.SetColours(box.BackColour(), SlotColour(InputSlot(box)));
+}
+
+void FluidForm::ShowTitle(const std::string& tail) {
+    for (const char* steam : {" - Saturated Steam", " - Superheated Steam"}) {
+        if (Calc.ProgramTitle.ends_with(steam)) {
+            Calc.ProgramTitle.resize(Calc.ProgramTitle.size() - std::string_view(steam).size());
+        }
+    }
+    Calc.ProgramTitle += tail;
+    SetCaption(Suite.VersionText + Calc.ProgramTitle);
+}
+
+// The fluid of the case in hand is another one, or the same at another state.
+void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
+    Calc.FluidName = name;
+    Calc.FluidDataSource = words::Loaded;
+    {
+        const Filling filling;
+        ShowTitle(Calc.SteamKind.empty() ? "" : SteamTail());
+        txtFluid.SetText(Calc.FluidName);
+        txtFluid.SetColours(txtFluid.BackColour(), SlotColour(TextSlot(Calc.FluidName, Calc.FluidNameSaved)));
+    }
+    TickEntries();
+    if (isAnother) {
+        // Nor does the former fluid's vapour pressure hold for the other cases.
+        for (std::size_t i = 0; i < CaseCount; ++i) {
+            if (i != ThisCase()) Calc.CaseInput[8][i] = 0;
+        }
+        ClearAllCases();
+    } else {
+        ClearCase(Calc.CaseIndex);
+    }
+}
+
+// --- Temperature and pressure ------------------------------------------------------------------------------
+
+// The question is about what the user changed, so the text that the box had when it was entered counts: an
+// act in between may have stored the new one already. A focus that code takes away and gives back is no new
+// entry.
+void FluidForm::EnterState(TextBox& box) {
+    if (std::exchange(edited_, &box) != &box) textBefore_ = box.Text();
+}
+
+void FluidForm::StateIsDealtWith(int caseIndex) {
+    if (edited_ != nullptr && edited_->Index() == caseIndex) edited_ = nullptr;
+}
+
+void FluidForm::LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered,
+                           const char* title) {
+    const bool wasEdited = std::exchange(edited_, nullptr) == &box;
+    const double typed = Val(box.Text());
+    const bool isNew =
+        wasEdited && !Trim(box.Text()).empty() && (Trim(textBefore_).empty() || typed != Val(textBefore_));
+    NoteEntered(caseIndex);
+    if (!isNew) return;
+    Calc.CaseInput[row][static_cast<std::size_t>(caseIndex)] = typed;
+    if (!otherEntered) return;
+    Calc.CaseIndex = caseIndex;
+    if (Calc.FluidDataSource == words::Loaded) {
+        if (!AskYesNo("Update Fluid Properties?", title)) return;
+        UpdateFluidProperties();
+        if (Calc.SteamKind == words::Saturated && row == TemperatureRow) {
+            Tell("Saturated temperature is a function of saturated pressure", "Saturated Steam", Icon::Stop);
+        }
+    } else if (Suite.HideFluidReminder.empty()) {
+        if (AskYesNo("Enter new Fluid Properties\n\nStop showing this message?", title)) {
+            Suite.HideFluidReminder = words::Yes;
+            SaveStandardConditions();
+        }
+    }
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,105 @@
+// What the calculation forms have in common about their fluid: the entries that pick one for a case, the list
+// of the fluid table, the components of a mixture, steam, and the questions when temperature or pressure
+// change under a fluid that is loaded.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "core/CalcRecord.h"
+#include "forms/CalculationForm.h"
+
+namespace quillmetra {
+
+class FluidForm : public CalculationForm {
+public:
+    using CalculationForm::CalculationForm;
+
+    void mnuFluiProp_Click();
+    void mnuCase_Click(int index);
+    void cmdSelect_Click();
+    void cmdCancel_Click();
+    void cmdCalcPseudo_Click();
+    void cmdClear_Click();
+
+protected:
+    // The menu entries of a case, null for what the form does not offer.
+    struct FluidEntries {
+        MenuItem* Pure;
+        MenuItem* Mixture;
+        MenuItem* Saturated = nullptr;
+        MenuItem* Superheated = nullptr;
+    };
+    // Case by case; to be filled before HookFluid.
+    std::vector<FluidEntries> Entries;
+
+    virtual TextBox& TemperatureBox(int caseIndex) = 0;
+    virtual TextBox& PressureBox(int caseIndex) = 0;
+    // Takes FlowTemperature and FlowPressure of the case in hand; false when they are refused, which it
+    // tells.
+    virtual bool CheckState() = 0;
+    // The same for the pressure alone, of saturated steam.
+    virtual bool CheckPressureAlone() { return CheckState(); }
+    // Parses FluidRow.
+    virtual void ParseFluid() = 0;
+    // The pseudo properties of the mixture in hand.
+    virtual bool CalcMixture() = 0;
+    // Fills the case in hand with the properties of what was parsed; false when it was given up.
+    virtual bool FillFluid() = 0;
+    // Shows the rows of the case that steam, found or cleared, has left in the record.
+    virtual void ShowSteam() {}
+    // What the title of the calculation ends with for steam.
+    virtual std::string SteamTail() const { return " - Saturated Steam"; }
+    // A fluid was picked for the case in hand.
+    virtual void FluidTaken() {}
+    // Calculates the case in hand anew when it had results: a mixture does so.
+    virtual void Recalculate() {}
+
+    void HookFluid();
+    void AppendFluidTabs();
+    // Enables and ticks the entries as the record has it; to be run when a form loads or starts anew.
+    void ShowFluidEntries();
+    void NoteEntered(int caseIndex);
+    // The case's properties were renewed: what was typed into its state before is dealt with.
+    void StateIsDealtWith(int caseIndex);
+    // Writes a property of the fluid to a box, in the colour of a change when it is one.
+    void ShowProperty(TextBox& box, double value);
+    static std::size_t ThisCase() { return static_cast<std::size_t>(Calc.CaseIndex); }
+    void CloseFluids();
+
+private:
+    // What the opening of a list changes before anything is picked, for Cancel.
+    struct FluidChoice {
+        std::string MixtureFlag, FluidOk, SteamKind, FluidRow;
+        decltype(CalcRecord::FluidData) Data;
+        decltype(CalcRecord::FluidPercent) Percents;
+        int MixtureCount;
+    };
+    static FluidChoice ChoiceInForce();
+    void Restore(const FluidChoice& choice);
+
+    void HookState();
+    void OpenPure(int caseIndex);
+    void OpenMixture(int caseIndex);
+    void PickPure();
+    void PickComponent();
+    void PickSteam(int caseIndex, const char* kind);
+    bool TakeSteam();
+    bool CheckForNewFluid();
+    bool HasState(int caseIndex) const;
+    bool CanPick(int caseIndex) const;
+    void TickEntries();
+    void InstallFluid(const std::string& name, bool isAnother);
+    void ShowTitle(const std::string& tail);
+    void UpdateFluidProperties();
+    void EnterState(TextBox& box);
+    // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
+    void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
+
+    FluidChoice before_;
+    const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
+    std::string textBefore_;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,188 @@
+// See FluidForm.h: how a pure fluid, a mixture or steam is picked for the case in hand.
+#include <utility>
+
+#include "core/Filling.h"
+#include "core/Words.h"
+#include "fluids/FluidTables.h"
+#include "fluids/Mixtures.h"
+#include "fluids/SteamTables.h"
+#include "forms/FluidForm.h"
+#include "platform/NumberText.h"
+
+namespace quillmetra {
+
+namespace {
+// A row of a fluid table is longer than this; a shorter text is the rest of something else.
+constexpr std::size_t ShortestFluidRow = 25;
+constexpr const char* MixtureName = "Mixture";
+constexpr const char* SteamName = "Steam";
+}  // namespace
+
+FluidForm::FluidChoice FluidForm::ChoiceInForce() {
+    return {Calc.MixtureFlag, Calc.FluidOk,      Calc.SteamKind,   Calc.FluidRow,
+            Calc.FluidData,   Calc.FluidPercent, Calc.MixtureCount};
+}
+
+void FluidForm::Restore(const FluidChoice& choice) {
+    Calc.MixtureFlag = choice.MixtureFlag;
+    Calc.FluidOk = choice.FluidOk;
+    Calc.SteamKind = choice.SteamKind;
+    Calc.FluidRow = choice.FluidRow;
+    Calc.FluidData = choice.Data;
+    Calc.FluidPercent = choice.Percents;
+    Calc.MixtureCount = choice.MixtureCount;
+    TickEntries();
+}
+
+// Before a fluid is picked or renewed the vapour pressure of the old one does not count.
+bool FluidForm::CheckForNewFluid() {
+    StoreForm();
+    const double oldVaporPressure = std::exchange(Calc.CaseInput[8][ThisCase()], 0);
+    const bool ok = CheckState();
+    Calc.CaseInput[8][ThisCase()] = oldVaporPressure;
+    return ok;
+}
+
+void FluidForm::CloseFluids() {
+    Mixture.Close();
+    Fluids.Close();
+}
+
+void FluidForm::cmdSelect_Click() {
+    if (Fluids.lstFluid.Selected() < 0) return;
+    Mixture.fraComponent.Visible() ? PickComponent() : PickPure();
+}
+
+void FluidForm::cmdCancel_Click() {
+    CloseFluids();
+    Restore(before_);
+}
+
+// --- Pure fluids -------------------------------------------------------------------------------------------
+
+void FluidForm::OpenPure(int caseIndex) {
+    Calc.CaseIndex = caseIndex;
+    if (!CheckForNewFluid()) return;
+    before_ = ChoiceInForce();
+    Calc.MixtureFlag = words::No;
+    Calc.SteamKind.clear();
+    Calc.FluidOk = words::FluidPicked;
+    TickEntries();
+    Fluids.Open(Calc.FluidType);
+}
+
+void FluidForm::PickPure() {
+    const std::string oldName = Calc.FluidName;
+    Calc.FluidRow = Fluids.lstFluid.Row(Fluids.lstFluid.Selected());
+    ParseFluid();
+    const bool taken = FillFluid();
+    CloseFluids();
+    if (!taken) {
+        Restore(before_);  // the fluid in hand is still the former one, and may be renewed from its row
+        return;
+    }
+    InstallFluid(Calc.SelectedFluidName, Calc.SelectedFluidName != oldName);
+    FluidTaken();
+}
+
+void FluidForm::UpdateFluidProperties() {
+    if (!Calc.SteamKind.empty()) {
+        const bool saturated = Calc.SteamKind == words::Saturated;
+        StoreForm();
+        if ((saturated ? CheckPressureAlone() : CheckState()) && TakeSteam()) {
+            InstallFluid(SteamName, false);
+        }
+        return;
+    }
+    const bool mixture = Calc.MixtureFlag == words::Yes;
+    Calc.FluidOk = mixture ? "" : words::FluidPicked;
+    if (!CheckForNewFluid()) return;
+    if (mixture) {
+        if (CalcMixture() && FillFluid()) {
+            InstallFluid(MixtureName, false);
+            Recalculate();
+        }
+    } else if (Calc.FluidRow.size() > ShortestFluidRow) {
+        ParseFluid();
+        if (FillFluid()) ClearCase(Calc.CaseIndex);
+    }
+}
+
+// --- Mixtures ----------------------------------------------------------------------------------------------
+
+// A mixture that is loaded is opened as it is, to be changed; another fluid gives way to an empty one.
+void FluidForm::OpenMixture(int caseIndex) {
+    Calc.CaseIndex = caseIndex;
+    if (!CheckForNewFluid()) return;
+    before_ = ChoiceInForce();
+    Fluids.Open(Calc.FluidType);
+    Calc.FluidOk.clear();
+    if (Calc.MixtureFlag != words::Yes) {
+        Calc.FluidData.fill("");
+        Calc.FluidPercent.fill(0);
+        Calc.MixtureCount = 0;
+    }
+    Mixture.Open();
+}
+
+void FluidForm::PickComponent() {
+    Mixture.StorePercents();
+    Mixture.Show(AddComponent(Fluids.lstFluid.Row(Fluids.lstFluid.Selected())));
+}
+
+void FluidForm::cmdClear_Click() { Mixture.ClearPercents(); }
+
+void FluidForm::cmdCalcPseudo_Click() {
+    Mixture.StorePercents();
+    const FluidChoice components = ChoiceInForce();
+    const std::string oldSteam = std::exchange(Calc.SteamKind, "");
+    if (!CalcMixture()) {
+        Calc.SteamKind = oldSteam;
+        return;
+    }
+    if (!FillFluid()) {
+        Restore(components);
+        return;
+    }
+    CloseFluids();
+    Calc.FluidRow.clear();  // it is that of a component
+    InstallFluid(MixtureName, true);
+    FluidTaken();
+    Recalculate();
+}
+
+// --- Steam -------------------------------------------------------------------------------------------------
+
+void FluidForm::PickSteam(int caseIndex, const char* kind) {
+    Calc.CaseIndex = caseIndex;
+    StoreForm();
+    if (!(kind == std::string_view(words::Saturated) ? CheckPressureAlone() : CheckState())) return;
+    before_ = ChoiceInForce();
+    const std::string oldName = Calc.FluidName;
+    Calc.SteamKind = kind;
+    Calc.MixtureFlag = words::No;
+    Calc.FluidOk = words::FluidPicked;
+    if (!TakeSteam()) {
+        Restore(before_);
+        return;
+    }
+    Calc.FluidRow.clear();  // steam has none
+    InstallFluid(SteamName, oldName != SteamName);
+    FluidTaken();
+}
+
+bool FluidForm::TakeSteam() {
+    const SteamOutcome outcome = GetSteamData();
+    if (outcome == SteamOutcome::NoPressure || outcome == SteamOutcome::Refused) return false;
+    {
+        const Filling filling;
+        ShowSteam();
+    }
+    StateIsDealtWith(Calc.CaseIndex);
+    NoteEntered(Calc.CaseIndex);
+    if (outcome == SteamOutcome::Found) return true;
+    ClearCase(Calc.CaseIndex);
+    return false;
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,246 @@
+// See frmGasLineLoss.h.
+#include "forms/frmGasLineLoss.h"
+
+#include "core/Filling.h"
+#include "core/Words.h"
+#include "fluids/FluidTables.h"
+#include "fluids/GasData.h"
+#include "fluids/Mixtures.h"
+#include "forms/DataCheck.h"
+#include "platform/Arithmetic.h"
+#include "platform/NumberText.h"
+#include "reports/FormRefresh.h"
+#include "units/Rounding.h"
+#include "units/Temperature.h"
+#include "units/Viscosity.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr double StandardCubicFeetPerMole = 378.751445;  // of a lb-mole; whatever the base conditions
+
+// The places of a line that its picture shows: a march has a step a foot, and no screen that many dots.
+class LinePicture {
+public:
+    void Take(const GasStation& station) {
+        if (station.Part < next_ && station.Part < 1) {
+            last_ = station;
+            return;
+        }
+        Add(station);
+        next_ = station.Part + 1.0 / Stations;
+    }
+
+    // In the units shown. A line calculated from its end is walked from there.
+    PlotDrawing Drawing() {
+        if (last_.Part > next_ - 1.0 / Stations) Add(last_);  // the step that stopped the march
+        return {.Title = {},
+                .Bottom = {"Length", Calc.UnitName[25]},
+                .Left = {"Pressure", Calc.UnitName[3]},
+                .Right = {"Velocity", Calc.UnitName[20]},
+                .Series = {{"Pressure", lengths_, pressures_},
+                           {"Velocity", lengths_, velocities_, true},
+                           {"Sonic velocity", lengths_, sonic_, true, true}},
+                .Marks = {}};
+    }
+
+private:
+    static constexpr int Stations = 200;
+
+    void Add(const GasStation& station) {
+        const double part = Calc.PressureDirection == 2 ? 1 - station.Part : station.Part;
+        const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
+        lengths_.push_back(part * Calc.PipeData[1]);
+        pressures_.push_back((station.Pressure - gauge) / Calc.UnitFactor[3]);
+        velocities_.push_back(station.Velocity / Calc.UnitFactor[20]);
+        sonic_.push_back(station.SonicVelocity / Calc.UnitFactor[20]);
+    }
+
+    std::vector<double> lengths_, pressures_, velocities_, sonic_;
+    double next_ = 0;
+    GasStation last_{};
+};
+
+}  // namespace
+
+frmGasLineLoss::frmGasLineLoss()
+    : LineLossForm({.Program = 2,
+                    .Form = "frmGasLineLoss",
+                    .FluidMenu = "mnuFluidProp",
+                    .ListFrame = "fraGasData",
+                    .ListCaption = "Gases"},
+                   words::PipeGasLoss, {0, 2, 3, 4, 11, 12, 13, 18, 25}) {
+    Entries = {{&mnuPureGases1, &mnuMixtures1, &mnuSatSteam1, &mnuSupersteam1},
+               {&mnuPureGases2, &mnuMixtures2, &mnuSatSteam2, &mnuSupersteam2},
+               {&mnuPureGases3, &mnuMixtures3, &mnuSatSteam3, &mnuSupersteam3}};
+    Base.Changed = [this] { ClearAllCases(); };
+    Assemble();
+}
+
+std::vector<LineLossForm::CaseBoxes> frmGasLineLoss::BoxesOfACase() const {
+    return {&txtFlow,     &txtTemp,         &txtPressure,  &txtMW,   &txtRatioSH,
+            &txtCritTemp, &txtCritPressure, &txtViscosity, &txtEquip};
+}
+
+void frmGasLineLoss::ShowChoices() {
+    Base.Close();
+    LineLossForm::ShowChoices();
+}
+
+// --- Checks ------------------------------------------------------------------------------------------------
+
+bool frmGasLineLoss::CheckState() {
+    return CheckTempPressure(*this, {txtTemp(Calc.CaseIndex), txtPressure(Calc.CaseIndex)}, GasRules);
+}
+
+bool frmGasLineLoss::CheckPressureAlone() { return CheckPressure(txtPressure(Calc.CaseIndex), GasRules); }
+
+// A source pressure of zero passes: the march then tells where it ends.
+bool frmGasLineLoss::CheckSourcePressure() {
+    if (!(Calc.SourcePressure[1] < 0)) return true;
+    return RefuseData("Absolute Source Pressure must be greater than zero", txtPressure(Calc.CaseIndex));
+}
+
+bool frmGasLineLoss::CheckFluid() {
+    const int caseIndex = Calc.CaseIndex;
+    const std::size_t i = ThisCase();
+    const UnitFactors& factor = Calc.UnitFactor;
+
+    Calc.CritPressure = Calc.CaseInput[11][i] * factor[11];
+    if (!(Calc.CritPressure > 0)) {
+        return RefuseData("Critical pressure must be greater than zero", txtCritPressure(caseIndex));
+    }
+    Calc.CritTemperature = ToDegR(Calc.UnitName[12], Calc.CaseInput[12][i], factor[12]);
+    if (!(Calc.CritTemperature > 0) || Trim(txtCritTemp(caseIndex).Text()).empty()) {
+        return RefuseData(
+            "Critical Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[12])),
+            txtCritTemp(caseIndex), Icon::None);
+    }
+    Calc.MolecularWeight = Calc.CaseInput[5][i];
+    if (!(Calc.MolecularWeight > 0)) {
+        return RefuseData("Molecular weight must be greater than zero", txtMW(caseIndex));
+    }
+    Calc.MassFlow = Calc.CaseInput[0][i] * factor[0];
+    if (Calc.Basis == words::Volume) {
+        Calc.MassFlow = Calc.MassFlow * Calc.MolecularWeight / StandardCubicFeetPerMole;
+    }
+    if (!(Calc.MassFlow > 0)) {
+        return RefuseData("Flow must be greater than zero", txtFlow(caseIndex), Icon::None);
+    }
+    Calc.RatioSpecificHeats = Calc.CaseInput[10][i];
+    if (!(Calc.RatioSpecificHeats > 0)) {
+        return RefuseData("Ratio of specific heats must be greater than zero", txtRatioSH(caseIndex));
+    }
+    Calc.Viscosity = Calc.CaseInput[7][i] * factor[7];
+    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
+        Calc.Viscosity = Calc.Viscosity / MolarViscosity * Calc.MolecularWeight * kinematic;
+    }
+    if (!(Calc.Viscosity > 0)) {
+        return RefuseData("Viscosity must be greater than zero", txtViscosity(caseIndex));
+    }
+    return true;
+}
+
+// --- Calculation -------------------------------------------------------------------------------------------
+
+bool frmGasLineLoss::CalculateCase() {
+    LinePicture picture;
+    CalcGasFriction();
+    if (!CalcGasProfile([&picture](const GasStation& station) { picture.Take(station); })) return false;
+    ShowResults(GasLineResultsOf(Calc));
+    if (Calc.EquivLength != 0) {
+        DrawLine(picture.Drawing());
+    } else {
+        pltLine.Clear();  // the inlet is sonic, and no step was taken
+    }
+    return true;
+}
+
+void frmGasLineLoss::ShowResults(const GasLineResults& results) {
+    const Filling filling;
+    const int i = Calc.CaseIndex;
+    Calc.CaseResult[0][ThisCase()] = results.LossPer100;
+    Calc.CaseResult[1][ThisCase()] = results.FinalPressure;
+    Calc.CaseResult[2][ThisCase()] = results.Velocity;
+    Calc.CaseResult[3][ThisCase()] = results.SonicVelocity;
+    Calc.CaseResult[5][0] = results.EquivLength;
+    ShowNumber(txtDestPress(i), results.FinalPressure);
+    ShowNumber(txtDropP100(i), results.LossPer100);
+    ShowNumber(txtVelocity(i), results.Velocity);
+    ShowNumber(txtSonicVelocity(i), results.SonicVelocity);
+    ShowNumber(txtEquivLen, results.EquivLength);
+    if (results.IsSonic) txtDestPress(i).SetText("");
+    if (results.IsSonic || Calc.EquivLength == 0) txtDropP100(i).SetText("");
+    if (Calc.EquivLength == 0) txtEquivLen.SetText("");
+    Calc.ResultsClearable[ThisCase()] = words::Yes;
+}
+
+// --- The gas -----------------------------------------------------------------------------------------------
+
+void frmGasLineLoss::ParseFluid() { ParseGasRow(); }
+
+bool frmGasLineLoss::CalcMixture() { return CalcGasMixtureForLine(); }
+
+bool frmGasLineLoss::FillFluid() {
+    if (!ProcessGasData()) return false;
+    try {
+        FillCase();
+    } catch (const RuntimeError&) {
+        return TellGasNotCalculated();
+    }
+    return true;
+}
+
+// Rounds the gas's properties into the case in hand, in the units shown. Nothing is stored when one of them
+// is not finite in its unit.
+void frmGasLineLoss::FillCase() {
+    const Filling filling;
+    const std::size_t i = ThisCase();
+    const UnitFactors& factor = Calc.UnitFactor;
+    const auto shown = [](double value) { return CheckFinite(RoundedFour(value)); };
+    Calc.RatioSpecificHeats = shown(Calc.RatioSpecificHeats);
+    double viscosity = Calc.FluidViscosity / factor[7];
+    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
+        viscosity = viscosity * MolarViscosity / Calc.MolecularWeight / kinematic;
+    }
+    const double weight = CheckFinite(Calc.MolecularWeight);
+    viscosity = shown(viscosity);
+    const double critPressure = shown(Calc.CritPressure / factor[11]);
+    const double critTemperature = shown(FromDegR(Calc.UnitName[12], Calc.CritTemperature, factor[12]));
+    const double density = shown(Calc.Density / factor[9]);
+
+    Calc.CaseInput[5][i] = weight;
+    Calc.CaseInput[7][i] = viscosity;
+    Calc.CaseInput[9][i] = density;
+    Calc.CaseInput[10][i] = Calc.RatioSpecificHeats;
+    Calc.CaseInput[11][i] = critPressure;
+    Calc.CaseInput[12][i] = critTemperature;
+    Calc.Viscosity = Calc.FluidViscosity;
+    StateIsDealtWith(Calc.CaseIndex);
+    ShowFluidRows();
+}
+
+void frmGasLineLoss::ShowFluidRows() {
+    const int i = Calc.CaseIndex;
+    ShowProperty(txtMW(i), Calc.CaseInput[5][ThisCase()]);
+    ShowProperty(txtRatioSH(i), Calc.CaseInput[10][ThisCase()]);
+    ShowProperty(txtCritTemp(i), Calc.CaseInput[12][ThisCase()]);
+    ShowProperty(txtCritPressure(i), Calc.CaseInput[11][ThisCase()]);
+    ShowProperty(txtViscosity(i), Calc.CaseInput[7][ThisCase()]);
+}
+
+// The look-up leaves rows of 0 when it has cleared them.
+void frmGasLineLoss::ShowSteam() {
+    const int i = Calc.CaseIndex;
+    if (Calc.CaseInput[5][ThisCase()] == 0) {
+        for (const auto* boxes : {&txtMW, &txtRatioSH, &txtCritTemp, &txtCritPressure, &txtViscosity}) {
+            (*boxes)(i).SetText("");
+        }
+        return;
+    }
+    if (Calc.SteamKind == words::Saturated) ShowProperty(txtTemp(i), Calc.CaseInput[2][ThisCase()]);
+    ShowFluidRows();
+}
+
+}  // namespace quillmetra
