@@ -16,6 +16,7 @@
 #include "records/ChangeDetection.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
+#include "tables/PipeSizes.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
 
@@ -45,6 +46,7 @@ void TakeNumber(double& field, const std::string& text) {
 CalculationForm::CalculationForm(const Names& names)
     : SuiteForm(names.Form),
       mnuFluiProp(*this, names.FluidMenu, "Fl&uid properties"),
+      mnuCase(mnuFluiProp, "mnuCase", names.Cases, ""),
       Fluids(*this, names.ListFrame, names.ListCaption),
       Mixture(*this),
       program_(names.Program) {
@@ -133,7 +135,10 @@ void CalculationForm::Load() {
     {
         const Filling filling;
         ApplyColours(*this);
-        if (Calc.InCalculation != words::Yes) ApplyUnits();
+        if (Calc.InCalculation != words::Yes) {
+            ApplyUnits();
+            BeginRecord();
+        }
         ComposeHeading();
         if (Calc.PipeMaterialNumber <= 0) Calc.PipeMaterialNumber = 1;
         for (std::size_t i = 0; i < PipeMaterials.size(); ++i)
@@ -247,6 +252,7 @@ void CalculationForm::mnuNew_Click() {
     ResetForNew();
     Calc.PipeData[4] = Calc.PipeData[5] = 1;
     Calc.PressureDirection = 1;
+    BeginRecord();
     UnloadForm("frmUnits");
     UnloadForm("frmObxPrintCalc");
     mnuPrint.SetEnabled(false);
@@ -276,6 +282,19 @@ void CalculationForm::OpenPanel(const char* panel) {
     SetCalculateButtons(false);
     SetEnabled(false);
     ShowForm(panel);
+}
+
+void CalculationForm::HookUnits(const ControlArray<CommandButton>& buttons) {
+    buttons.Each([this](CommandButton& button, int) {
+        button.SetToolTip("The unit of this row; click to change units");
+        button.Click = [this] { OpenPanel("frmUnits"); };
+    });
+}
+
+void CalculationForm::OpenPipeSizes() {
+    StoreForm();
+    if (const Program* program = FindProgram(program_)) Calc.MessageText = program->PipeWord;
+    PreparePipeUnits();
 }
 
 void CalculationForm::ReturnFromPanel() {

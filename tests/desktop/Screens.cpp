@@ -91,6 +91,38 @@ void FillLine() {
     }
 }
 
+void TypeHammer(const char* name, const char* text) {
+    Control& box = ControlOf("frmWaterHammer", name);
+    MoveFocus(box);
+    TypeText(box, text);
+}
+
+void ShootHammer() {
+    constexpr const char* form = "frmWaterHammer";
+    Click("frmTRProg", "cmdOK");
+    Click("frmObxProg", "optProgram", 3);
+    Click("frmObxProg", "cmdOK");
+    Shoot("hammer-empty");
+    const std::pair<const char*, const char*> line[] = {
+        {"txtTagNum", "XV-204 closing"}, {"txtMaxLiqFlow", "400000"},   {"txtFlowTemp", "68"},
+        {"txtOperPressure", "100"},      {"txtLineLength", "2500"},     {"txtPipeID", "6.065"},
+        {"txtPipeWall", "0.28"},         {"txtMaxAllowPressure", "300"}};
+    for (const auto& [box, text] : line) TypeHammer(box, text);
+    Click(form, "mnuPureLiquids");
+    PickRow(static_cast<ListBox&>(ControlOf(form, "lstFluid")), 160);
+    Shoot("hammer-liquids");
+    Click(form, "cmdSelect");
+    Click(form, "cmdPipeMatl");
+    Shoot("hammer-moduli");
+    Click(form, "cmdSelectModulus");
+    Click(form, "cmdCalculateliq");
+    Shoot("hammer-results");
+    TypeHammer("txtSelectedTime", "4");
+    Click(form, "cmdCalculateliq");
+    Shoot("hammer-selected");
+    Click(form, "mnuProgram");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -147,6 +179,8 @@ int main(int argc, char** argv) {
     Click("frmUnits", "cmdCancelUn");
     ControlOf("frmLiqLineLoss", "fraComponent").SetVisible(true);
     Shoot("line-mixture");
+    Click("frmLiqLineLoss", "mnuProgram");
+    ShootHammer();
     ResetForms();
     return 0;
 }
