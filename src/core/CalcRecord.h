@@ -31,7 +31,7 @@ using CaseInputs = CaseTable<32>;
 using CaseResults = CaseTable<7>;  // rows 0 to 5 hold results; row 6 is always 0 but is rounded with the rest
 using PipeValues = Row<double, 7>;       // 1 length, 2 inside diameter, 3 start elevation, 4 entrance, 5 exit
 using FittingCounts = Row<double, 15>;   // 1 gate, 2 globe, 3 check, 4 90 deg, 5 45 deg, 6 thru, 7 branch
-using HammerResults = Row<double, 19>;   // 1 to 18
+using HammerResults = Row<double, 19>;   // 1 to 18; 12 to 18 in use, see hammer/WaterHammer.h
 using UnitNames = Row<std::string, 36>;  // rows 0 to 27; 31 belongs to the pipe size lookup
 using UnitFactors = Row<double, 36>;     // rows 0 to 27; 31 to 33 belong to the pipe size lookup
 
@@ -135,6 +135,19 @@ struct CalcRecord {
     double StdTemperature = 0;  // degF
     double StdPressure = 0;     // psia
     double BaroPressure = 0;    // psia
+
+    // Of the water hammer, see hammer/WaterHammer.h.
+    double LiquidMassFlow = 0;                   // lb/h
+    double MaxAllowPressure = 0;                 // psia
+    double BulkModulus = 0;                      // psi, of the liquid
+    double PipeModulus = 0;                      // psi
+    double LineLength = 0;                       // ft
+    double PipeDiameter = 0, WallThickness = 0;  // in
+    double SelectedTime = 0;                     // s
+    double WaveVelocity = 0;                     // ft/s
+    double PressureRise = 0, SelectedRise = 0;   // psi, over the operating pressure
+    double WavePressure = 0;                     // psi, gauge or absolute as the pressure mode
+    double CriticalTime = 0, MinimumTime = 0;    // s, four figures
 
     // The fluid row parsed last, see fluids/FluidTables.h.
     std::string FluidRow;

@@ -148,12 +148,12 @@ void ReadStandardConditions() {
     RestoreStandardConditions();
 }
 
-void RestoreStandardConditions() {
+void RestoreStandardConditions(double usualPressure) {
     for (const StandardCondition& condition : StandardConditions) {
         double& value = Calc.*condition.Field;
         if (condition.ZeroAlone ? value != 0 : value > 0) continue;
-        value = condition.Usual;
-        Calc.CaseInput[condition.Row][0] = condition.Usual;
+        value = condition.Field == &CalcRecord::StdPressure ? usualPressure : condition.Usual;
+        Calc.CaseInput[condition.Row][0] = value;
         Calc.UnitName[condition.Row] = condition.Unit;
     }
 }

@@ -37,9 +37,9 @@ void LoadHeadings();
 // nothing.
 void ReadStandardConditions();
 
-// Gives a standard condition that is missing its usual value: a pressure not above zero becomes 14.7 psia,
-// a temperature of exactly zero 60 degF.
-void RestoreStandardConditions();
+// Gives a standard condition that is missing its usual value: a standard pressure not above zero becomes the
+// usual one (psia), a barometer not above zero 14.7 psia, a temperature of exactly zero 60 degF.
+void RestoreStandardConditions(double usualPressure = 14.7);
 
 // Writes TRSTP.TXT: standard pressure, standard temperature, barometric pressure, then the three words that
 // hide messages. Pressure and temperature stand in the other order than they are read: a deliberate

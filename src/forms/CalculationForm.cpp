@@ -16,6 +16,7 @@
 #include "records/ChangeDetection.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
+#include "tables/PipeSizes.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
 
@@ -45,6 +46,7 @@ void TakeNumber(double& field, const std::string& text) {
 CalculationForm::CalculationForm(const Names& names)
     : SuiteForm(names.Form),
       mnuFluiProp(*this, names.FluidMenu, "Fl&uid properties"),
+      mnuCase(mnuFluiProp, "mnuCase", names.Cases, ""),
       Fluids(*this, names.ListFrame, names.ListCaption),
       Mixture(*this),
       program_(names.Program) {
@@ -111,7 +113,7 @@ void CalculationForm::DescribeRows() {
             Control* const unit = *row.Unit == '\0' ? nullptr : Find(row.Unit, row.UnitIndex);
             box.Describe(Find(row.Label), unit, row.PerCase ? CaseWords[static_cast<std::size_t>(i)] : "");
             box.IsNumber = true;
-            box.Locked = row.From == Source::CaseResult;
+            box.Locked = row.IsResult();
             box.ColourGroup = box.Locked ? 4 : 2;
             if (box.Locked) box.TabStop = false;
             if (box.Locked || box.Change) continue;
@@ -134,7 +136,10 @@ void CalculationForm::Load() {
     {
         const Filling filling;
         ApplyColours(*this);
-        if (Calc.InCalculation != words::Yes) ApplyUnits();
+        if (Calc.InCalculation != words::Yes) {
+            ApplyUnits();
+            BeginRecord();
+        }
         ComposeHeading();
         if (Calc.PipeMaterialNumber <= 0) Calc.PipeMaterialNumber = 1;
         for (std::size_t i = 0; i < PipeMaterials.size(); ++i)
@@ -165,7 +170,7 @@ void CalculationForm::StoreForm() {
     txtTagNum.SetText(Calc.Tag);
     Calc.FluidName = txtFluid.Text();
     for (const FormRow& row : FormRows(program_)) {
-        if (row.From == Source::CaseResult) continue;
+        if (row.IsResult()) continue;
         for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
             TakeNumber(LiveValue(row, i), RowControl(*this, row, i).Text());
         }
@@ -181,7 +186,7 @@ void CalculationForm::StoreForm() {
 
 void CalculationForm::BlankResults(int caseIndex) {
     for (const FormRow& row : FormRows(program_)) {
-        if (row.From == Source::CaseResult && row.PerCase) {
+        if (row.IsResult() && row.PerCase) {
             static_cast<TextBox&>(RowControl(*this, row, caseIndex)).SetText("");
         }
     }
@@ -203,7 +208,7 @@ void CalculationForm::ClearAllCases() {
     if (Calc.FormLoading == words::Yes) return;
     for (int i = 0; i < CaseCount; ++i) ClearCase(i);
     for (const FormRow& row : FormRows(program_)) {
-        if (row.From == Source::CaseResult && !row.PerCase) {
+        if (row.IsResult() && !row.PerCase) {
             static_cast<TextBox&>(RowControl(*this, row, 0)).SetText("");
         }
     }
@@ -248,6 +253,7 @@ void CalculationForm::mnuNew_Click() {
     ResetForNew();
     Calc.PipeData[4] = Calc.PipeData[5] = 1;
     Calc.PressureDirection = 1;
+    BeginRecord();
     UnloadForm("frmUnits");
     UnloadForm("frmObxPrintCalc");
     mnuPrint.SetEnabled(false);
@@ -277,6 +283,19 @@ void CalculationForm::OpenPanel(const char* panel) {
     SetCalculateButtons(false);
     SetEnabled(false);
     ShowForm(panel);
+}
+
+void CalculationForm::HookUnits(const ControlArray<CommandButton>& buttons) {
+    buttons.Each([this](CommandButton& button, int) {
+        button.SetToolTip("The unit of this row; click to change units");
+        button.Click = [this] { OpenPanel("frmUnits"); };
+    });
+}
+
+void CalculationForm::OpenPipeSizes() {
+    StoreForm();
+    if (const Program* program = FindProgram(program_)) Calc.MessageText = program->PipeWord;
+    PreparePipeUnits();
 }
 
 void CalculationForm::ReturnFromPanel() {

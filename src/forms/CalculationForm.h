@@ -20,7 +20,10 @@ public:
         const char* FluidMenu;  // the menu head of the fluid properties
         const char* ListFrame;
         const char* ListCaption;
+        std::initializer_list<int> Cases = EachCase;  // those with a menu of their own
     };
+    static constexpr std::initializer_list<int> EachCase = {0, 1, 2};
+    static constexpr std::initializer_list<int> OneCase = {};
 
     explicit CalculationForm(const Names& names);
 
@@ -50,7 +53,7 @@ public:
     MenuItem mnuProgram{mnuFile, "mnuProgram", "Pro&gram"};
     MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
     MenuItem mnuFluiProp;
-    ControlArray<MenuItem> mnuCase{mnuFluiProp, "mnuCase", {0, 1, 2}, ""};
+    ControlArray<MenuItem> mnuCase;
     MenuItem mnuDefPath{*this, "mnuDefPath", "Default pa&ths"};
     MenuItem mnuPathDataFile{mnuDefPath, "mnuPathDataFile", "Data file default path"};
     MenuItem mnuPathUserUnitFile{mnuDefPath, "mnuPathUserUnitFile", "User unit file default path"};
@@ -90,6 +93,12 @@ public:
     void cmdDate_Click();
 
 protected:
+    // What a fresh record of the form begins with, beside what all have.
+    virtual void BeginRecord() {}
+    // The buttons that show the units of the rows and open the unit window.
+    void HookUnits(const ControlArray<CommandButton>& buttons);
+    // Opens the pipe size dialog for this form.
+    void OpenPipeSizes();
     // The units routine of the form: applies the unit set in force to the record.
     void ApplyUnits();
     // The numbers and texts that a form has beside the common ones.

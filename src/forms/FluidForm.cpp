@@ -18,6 +18,13 @@
 namespace quillmetra {
 
 namespace {
+
+// The line-loss programs say what has changed; the others do so for a saved record alone.
+const char* StateTitle(const char* change) {
+    constexpr int lastLineLoss = 2;
+    const bool isNew = Calc.CurrentProgram > lastLineLoss && Calc.BrowserOpen != words::Yes;
+    return isNew ? "New Calculation" : change;
+}
 constexpr std::size_t TemperatureRow = 2;
 constexpr std::size_t PressureRow = 3;
 }  // namespace
@@ -130,12 +137,16 @@ void FluidForm::mnuFluiProp_Click() {
         NoteEntered(i);
         any = any || CanPick(i);
     }
-    if (!any) Tell("Need Pressure and Temperature to continue", "Fluid Properties");
+    if (!any) TellNeedsState();
 }
 
 void FluidForm::mnuCase_Click(int index) {
     Calc.CaseIndex = index;
-    if (!CanPick(index)) Tell("Need Pressure and Temperature to continue", "Fluid Properties");
+    if (!CanPick(index)) TellNeedsState();
+}
+
+void FluidForm::TellNeedsState() const {
+    Tell("Need Pressure and Temperature to continue", "Fluid Properties", NeedsStateIcon());
 }
 
 // --- What a fluid changes on the form ----------------------------------------------------------------------
@@ -202,13 +213,13 @@ void FluidForm::LeaveState(int caseIndex, std::size_t row, TextBox& box, bool ot
     if (!otherEntered) return;
     Calc.CaseIndex = caseIndex;
     if (Calc.FluidDataSource == words::Loaded) {
-        if (!AskYesNo("Update Fluid Properties?", title)) return;
+        if (!AskYesNo("Update Fluid Properties?", StateTitle(title))) return;
         UpdateFluidProperties();
         if (Calc.SteamKind == words::Saturated && row == TemperatureRow) {
             Tell("Saturated temperature is a function of saturated pressure", "Saturated Steam", Icon::Stop);
         }
     } else if (Suite.HideFluidReminder.empty()) {
-        if (AskYesNo("Enter new Fluid Properties\n\nStop showing this message?", title)) {
+        if (AskYesNo("Enter new Fluid Properties\n\nStop showing this message?", StateTitle(title))) {
             Suite.HideFluidReminder = words::Yes;
             SaveStandardConditions();
         }

@@ -9,6 +9,7 @@
 
 #include "core/CalcRecord.h"
 #include "forms/CalculationForm.h"
+#include "platform/Dialogs.h"
 
 namespace quillmetra {
 
@@ -36,6 +37,8 @@ protected:
 
     virtual TextBox& TemperatureBox(int caseIndex) = 0;
     virtual TextBox& PressureBox(int caseIndex) = 0;
+    // Of the message that temperature and pressure are missing.
+    virtual Icon NeedsStateIcon() const { return Icon::None; }
     // Takes FlowTemperature and FlowPressure of the case in hand; false when they are refused, which it
     // tells.
     virtual bool CheckState() = 0;
@@ -90,6 +93,7 @@ private:
     bool HasState(int caseIndex) const;
     bool CanPick(int caseIndex) const;
     void TickEntries();
+    void TellNeedsState() const;
     void InstallFluid(const std::string& name, bool isAnother);
     void ShowTitle(const std::string& tail);
     void UpdateFluidProperties();

@@ -21,21 +21,12 @@ constexpr std::size_t NameLength = 20;  // of a component
 constexpr const char* NothingTaken = "100";
 }  // namespace
 
-FluidList::FluidList(CalculationForm& form, const std::string& frameName, const std::string& caption)
-    : Panel(form, frameName, caption),
-      lstFluid(Panel, "lstFluid"),
-      cmdSelect(Panel, "cmdSelect", "&Select"),
-      cmdCancel(Panel, "cmdCancel", "Cancel"),
-      form_(form) {
-    Panel.SetVisible(false);
-    lstFluid.Describe(&Panel);
-    // In a mixture there is no default button, but Enter in the list picks all the same.
-    lstFluid.KeyPress = [this](Key& key) {
-        if (key.Name != "Enter" || !cmdSelect.Enabled() || !cmdSelect.Click) return;
-        key.Handled = true;
-        cmdSelect.Click();
-    };
-}
+FluidList::FluidList(CalculationForm& form, const char* frameName, const char* caption)
+    : PickList(form, {.Frame = frameName,
+                      .Caption = caption,
+                      .List = "lstFluid",
+                      .Select = "cmdSelect",
+                      .Cancel = "cmdCancel"}) {}
 
 void FluidList::Open(const std::string& fluidType) {
     std::vector<std::string> rows;
@@ -46,27 +37,7 @@ void FluidList::Open(const std::string& fluidType) {
     }
     const int known = FindFluidName(rows, Calc.FluidName);
     const int current = rows.empty() ? -1 : std::max(known, 0);
-    if (!IsOpen()) cameFrom_ = form_.Focus.Current();
-    lstFluid.SetRows(std::move(rows));
-    lstFluid.Preselect(current);
-    cmdSelect.SetEnabled(current >= 0);
-    form_.Picture1.SetEnabled(false);
-    form_.mnuFluiProp.SetEnabled(false);  // the list is for the case that opened it
-    Panel.SetVisible(true);
-    form_.DefaultButton = &cmdSelect;
-    form_.CancelButton = &cmdCancel;
-    (current >= 0 ? static_cast<Control&>(lstFluid) : cmdCancel).SetFocus();
-}
-
-void FluidList::Close() {
-    if (!IsOpen()) return;
-    Panel.SetVisible(false);
-    lstFluid.Clear();
-    form_.Picture1.SetEnabled(true);
-    form_.mnuFluiProp.SetEnabled(true);
-    form_.DefaultButton = nullptr;
-    form_.CancelButton = nullptr;
-    if (cameFrom_ != nullptr) cameFrom_->SetFocus();
+    PickList::Open(std::move(rows), current);
 }
 
 MixturePanel::MixturePanel(CalculationForm& form)

@@ -3,34 +3,21 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "platform/Form.h"
+#include "forms/PickList.h"
 
 namespace quillmetra {
 
-class CalculationForm;
-
-// The list of a fluid table with its two buttons. Only the frame takes input while it is open, and Cancel
-// gives the focus back to the control that had it.
-class FluidList {
+// The list of a fluid table.
+class FluidList : public PickList {
 public:
-    FluidList(CalculationForm& form, const std::string& frameName, const std::string& caption);
+    FluidList(CalculationForm& form, const char* frameName, const char* caption);
 
     // Fills the list from the data files' table and opens it. The row of the fluid in hand is selected, the
     // first one when there is none. A table that cannot be read is told, and the list opens empty.
     void Open(const std::string& fluidType);
-    void Close();
-    bool IsOpen() const { return Panel.Visible(); }
 
-    Frame Panel;
-    ListBox lstFluid;
-    CommandButton cmdSelect;
-    CommandButton cmdCancel;
-
-private:
-    CalculationForm& form_;
-    Control* cameFrom_ = nullptr;
+    ListBox& lstFluid = List;
 };
 
 // The components of a mixture, which stand beside the open list of fluids, and their percentages. A component

@@ -6,12 +6,11 @@
 #include "core/Words.h"
 #include "forms/DataCheck.h"
 #include "reports/FormRefresh.h"
-#include "tables/PipeSizes.h"
 
 namespace quillmetra {
 
-LineLossForm::LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows)
-    : FluidForm(names), cmdUnits(Picture1, "cmdUnits", rows, ""), pipeWord_(pipeWord) {
+LineLossForm::LineLossForm(const Names& names, std::initializer_list<int> rows)
+    : FluidForm(names), cmdUnits(Picture1, "cmdUnits", rows, "") {
     for (int i = 0; i < CaseCount; ++i) {
         lblCase(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
         cmdCalculate(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
@@ -24,10 +23,7 @@ LineLossForm::LineLossForm(const Names& names, const char* pipeWord, std::initia
     lstMatl.Describe(&lblMatl);
     cmdMatl.Describe(&lblMatl);
     optDestination.SetChecked(true);
-    cmdUnits.Each([this](CommandButton& button, int) {
-        button.SetToolTip("The unit of this row; click to change units");
-        button.Click = [this] { OpenPanel("frmUnits"); };
-    });
+    HookUnits(cmdUnits);
 }
 
 void LineLossForm::Assemble() {
@@ -63,7 +59,7 @@ void LineLossForm::OrderTabs() {
 void LineLossForm::HookLine() {
     cmdCalculate.Each(
         [this](CommandButton& button, int i) { button.Click = [this, i] { cmdCalculate_Click(i); }; });
-    cmdPipeID.Click = [this] { cmdPipeID_Click(); };
+    cmdPipeID.Click = [this] { OpenPipeSizes(); };
     cmdMatl.Click = [this] { cmdMatl_Click(); };
     lstMatl.DoubleClick = [this] { lstMatl_DoubleClick(); };
     lstMatl.KeyPress = [this](Key& key) {
@@ -188,12 +184,6 @@ void LineLossForm::ResultsBlanked(int caseIndex) {
 }
 
 // --- The line ------------------------------------------------------------------------------------------
-
-void LineLossForm::cmdPipeID_Click() {
-    StoreForm();
-    Calc.MessageText = pipeWord_;
-    PreparePipeUnits();
-}
 
 void LineLossForm::cmdMatl_Click() {
     if (lstMatl.Visible()) {

@@ -13,7 +13,7 @@ namespace quillmetra {
 class LineLossForm : public FluidForm {
 public:
     // rows: the unit rows that have a button.
-    LineLossForm(const Names& names, const char* pipeWord, std::initializer_list<int> rows);
+    LineLossForm(const Names& names, std::initializer_list<int> rows);
 
     // The line
     Label lblInletPipeLen{Picture1, "lblInletPipeLen", "Length"};
@@ -84,7 +84,6 @@ public:
     Plot pltLine{Picture1, "pltLine"};  // what goes on along the line of the case calculated last
 
     void cmdCalculate_Click(int index);
-    void cmdPipeID_Click();
     void cmdMatl_Click();
     void lstMatl_DoubleClick();
     void optDestination_Click();
@@ -120,7 +119,6 @@ private:
     bool CheckData();
     bool CheckLine();
 
-    const char* pipeWord_;
     int drawnCase_ = 0;
 };
 

@@ -10,6 +10,7 @@
 #include "forms/frmPipeSize.h"
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
+#include "forms/frmWaterHammer.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
 
@@ -28,9 +29,13 @@ struct FormEntry {
 };
 
 constexpr FormEntry FormTable[] = {
-    {"frmTRProg", MakeForm<frmTRProg>},           {"frmObxProg", MakeForm<frmObxProg>},
-    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>}, {"frmGasLineLoss", MakeForm<frmGasLineLoss>},
-    {"frmPipeSize", MakeForm<frmPipeSize>},       {"frmUnits", MakeForm<frmUnits>},
+    {"frmTRProg", MakeForm<frmTRProg>},
+    {"frmObxProg", MakeForm<frmObxProg>},
+    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>},
+    {"frmGasLineLoss", MakeForm<frmGasLineLoss>},
+    {"frmPipeSize", MakeForm<frmPipeSize>},
+    {"frmWaterHammer", MakeForm<frmWaterHammer>},
+    {"frmUnits", MakeForm<frmUnits>},
     {"frmCalcOptions", MakeForm<frmCalcOptions>},
 };
 

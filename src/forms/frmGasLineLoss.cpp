@@ -70,7 +70,7 @@ frmGasLineLoss::frmGasLineLoss()
                     .FluidMenu = "mnuFluidProp",
                     .ListFrame = "fraGasData",
                     .ListCaption = "Gases"},
-                   words::PipeGasLoss, {0, 2, 3, 4, 11, 12, 13, 18, 25}) {
+                   {0, 2, 3, 4, 11, 12, 13, 18, 25}) {
     Entries = {{&mnuPureGases1, &mnuMixtures1, &mnuSatSteam1, &mnuSupersteam1},
                {&mnuPureGases2, &mnuMixtures2, &mnuSatSteam2, &mnuSupersteam2},
                {&mnuPureGases3, &mnuMixtures3, &mnuSatSteam3, &mnuSupersteam3}};

@@ -23,7 +23,7 @@ frmLiqLineLoss::frmLiqLineLoss()
                     .FluidMenu = "mnuFluiProp",
                     .ListFrame = "fraLiquidData",
                     .ListCaption = "Liquids"},
-                   words::PipeLiquidLoss, {1, 2, 3, 4, 6, 7, 18, 25}) {
+                   {1, 2, 3, 4, 6, 7, 18, 25}) {
     Entries = {
         {&mnuPureLiquid1, &mnuMixture1}, {&mnuPureLiquid2, &mnuMixture2}, {&mnuPureLiquid3, &mnuMixture3}};
     Assemble();

@@ -13,6 +13,7 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "reports/FormRows.h"
+#include "units/ProgramConversion.h"
 
 namespace quillmetra {
 
@@ -61,6 +62,24 @@ constexpr UnitControl LineUnits[] = {
     {"unDestPress", Single, 3},      {"unVelocity", Single, 20},       {"unEquivLen", Single, 25},
 };
 
+constexpr UnitControl WaterHammerUnits[] = {
+    {"cmdUnits", 1, 1},
+    {"cmdUnits", 2, 2},
+    {"cmdUnits", 3, 3},
+    {"cmdUnits", 6, 6},
+    {"cmdUnits", 18, 18},
+    {"cmdUnits", 25, 25},
+    {"cmdUnits", 27, 27},
+    {"UnpipeWall", Single, 18},
+    {"unLineModulus", Single, 27},
+    {"unMaxAllowPressure", Single, 3},
+    {"unWaveVelocity", Single, 20},
+    {"unPressureWave", Single, 3},
+    {"unSupportForce", Single, 0},
+    {"unSelectedWave", Single, 3},
+    {"unSelectedForce", Single, 0},
+};
+
 // After a conversion a text that the rule below leaves standing would be a number in the former unit.
 void ShowConverted(Control& control, double value) {
     if (value <= 0 && Val(control.Text()) != Val(Str(value))) SetText(control, value == 0 ? "" : Str(value));
@@ -69,7 +88,7 @@ void ShowConverted(Control& control, double value) {
 void ShowRow(Form& form, const FormRow& row, int caseIndex, bool converted) {
     Control& control = RowControl(form, row, caseIndex);
     double& value = LiveValue(row, caseIndex);
-    if (converted && row.From != Source::CaseResult) ShowConverted(control, value);
+    if (converted && !row.IsResult()) ShowConverted(control, value);
     switch (row.Rule) {
         case ShowRule::Positive:
             if (value > 0) ShowNumber(control, value);
@@ -102,7 +121,7 @@ void ShowRows(Form& form, int program) {
     const bool results = Calc.HideResults != words::Yes;
     const bool converted = Calc.UnitsConverted == words::Yes;
     for (const FormRow& row : FormRows(program)) {
-        const bool isResult = row.From == Source::CaseResult;
+        const bool isResult = row.IsResult();
         if (isResult && !results) continue;
         for (int i = row.PerCase ? first : Calc.CaseIndex; i <= (row.PerCase ? last : Calc.CaseIndex); ++i) {
             if (!isResult || ResultsStand(i)) ShowRow(form, row, i, converted);
@@ -130,8 +149,10 @@ void ShowDirection(Form& form, bool swapsResult) {
 void ShowDensityMode(Form& form, const char* gravityTip) {
     const bool density = Calc.LiquidDensityMode == words::Density;
     Named(form, "lblSGFlow").SetCaption(density ? "Flowing density" : "Specific gravity @ FTP");
-    for (int i = 0; i < CaseCount; ++i) {
-        Named(form, "txtSGFlow", i).SetToolTip(density ? " Enter flowing density" : gravityTip);
+    for (const int i : {Single, 0, 1, 2}) {
+        if (Control* box = form.Find("txtSGFlow", i)) {
+            box->SetToolTip(density ? " Enter flowing density" : gravityTip);
+        }
     }
     Named(form, "cmdUnits", 6).SetVisible(density);
 }
@@ -201,6 +222,21 @@ void ShowGasLoss() {
     ShowLine(form, 2);
 }
 
+void ShowWaterHammer() {
+    const Filling filling;
+    Form& form = LoadForm("frmWaterHammer");
+    ShowIdentity(form);
+    SetForceUnit();  // it goes by the unit of the pipe
+    ShowUnits(form, WaterHammerUnits);
+    ShowDensityMode(form, " Enter Specific gravity @ FTP");
+    // The basis shows from the first calculation on.
+    Control& basis = Named(form, "lblLiqTestBasis");
+    if (!basis.Caption().empty()) basis.SetCaption(Calc.LiquidBasis);
+    SetText(Named(form, "txtPipeMatl"), Calc.PipeMaterial);
+    ShowRows(form, 3);
+    ShowSignatures(form);
+}
+
 void ShowCalculation() {
     const Program* const program = FindProgram(Calc.CurrentProgram);
     if (program == nullptr) return;
@@ -209,6 +245,7 @@ void ShowCalculation() {
     switch (program->Number) {
         case 1: ShowLiquidLoss(); break;
         case 2: ShowGasLoss(); break;
+        case 3: ShowWaterHammer(); break;
         default: break;
     }
 }

@@ -16,6 +16,7 @@ void ComposeHeading();
 // The refresh of each program.
 void ShowLiquidLoss();
 void ShowGasLoss();
+void ShowWaterHammer();
 
 // Whether the results of a case stand; an input change since its calculation has blanked them, and a refresh
 // then leaves them blank.

@@ -81,6 +81,41 @@ constexpr auto GasLossRows = Joined(
         {"txtEquivLen", Source::CaseResult, 5, ShowRule::Positive, Once, "lblEquivLen", "unEquivLen", Single},
     }));
 
+// Some rows of the record hold a second quantity in another column than the first.
+constexpr int Allowable = 1, PipeModulus = 1, Wall = 2;
+
+constexpr FormRow WaterHammerRows[] = {
+    {"txtMaxLiqFlow", Source::CaseInput, 1, ShowRule::Positive, Once, "lblMaxLiqFlow", "cmdUnits", 1},
+    {"txtFlowTemp", Source::CaseInput, 2, ShowRule::LegalZero, Once, "lblFlowTemp", "cmdUnits", 2},
+    {"txtOperPressure", Source::CaseInput, 3, ShowRule::LegalZero, Once, "lblOperPressure", "cmdUnits", 3},
+    {"txtSGFlow", Source::CaseInput, 6, ShowRule::Positive, Once, "lblSGFlow", "cmdUnits", 6},
+    {"txtBulkModulus", Source::CaseInput, 27, ShowRule::Positive, Once, "lblBulkModulus", "cmdUnits", 27},
+    {"txtLineLength", Source::CaseInput, 25, ShowRule::Positive, Once, "lblLineLength", "cmdUnits", 25},
+    {"txtPipeID", Source::CaseInput, 18, ShowRule::Positive, Once, "lblPipeID", "cmdUnits", 18},
+    {"txtPipeWall", Source::CaseInput, 18, ShowRule::Positive, Once, "lblPipeWall", "UnpipeWall", Single,
+     Wall},
+    {"txtLineModulus", Source::CaseInput, 27, ShowRule::Positive, Once, "lblLineModulus", "unLineModulus",
+     Single, PipeModulus},
+    {"txtMaxAllowPressure", Source::CaseInput, 3, ShowRule::LegalZero, Once, "lblMaxAllowPressure",
+     "unMaxAllowPressure", Single, Allowable},
+    {"txtSelectedTime", Source::CaseInput, 10, ShowRule::Positive, Once, "lblSelectedTime", "unSelectedTime",
+     Single},
+    {"txtCriticalTime", Source::HammerResult, 12, ShowRule::Positive, Once, "lblCriticalTime",
+     "unCriticalTime", Single},
+    {"txtWaveVelocity", Source::HammerResult, 13, ShowRule::Positive, Once, "lblWaveVelocity",
+     "unWaveVelocity", Single},
+    {"txtPressureWave", Source::HammerResult, 14, ShowRule::LegalZero, Once, "lblPressureWave",
+     "unPressureWave", Single},
+    {"txtSupportForce", Source::HammerResult, 15, ShowRule::Positive, Once, "lblSupportForce",
+     "unSupportForce", Single},
+    {"txtCloseTime", Source::HammerResult, 16, ShowRule::Positive, Once, "lblCloseTime", "unCloseTime",
+     Single},
+    {"txtSelectedWave", Source::HammerResult, 17, ShowRule::LegalZero, Once, "lblSelectedWave",
+     "unSelectedWave", Single},
+    {"txtSelectedForce", Source::HammerResult, 18, ShowRule::Positive, Once, "lblSelectedForce",
+     "unSelectedForce", Single},
+};
+
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 }  // namespace
@@ -89,14 +124,16 @@ std::span<const FormRow> FormRows(int program) {
     switch (program) {
         case 1: return LiquidLossRows;
         case 2: return GasLossRows;
+        case 3: return WaterHammerRows;
         default: return {};
     }
 }
 
 double& LiveValue(const FormRow& row, int caseIndex) {
-    const std::size_t column = row.PerCase ? At(caseIndex) : 0;
+    const std::size_t column = At(row.PerCase ? caseIndex : row.Column);
     switch (row.From) {
         case Source::CaseResult: return Calc.CaseResult[At(row.Row)][column];
+        case Source::HammerResult: return Calc.HammerResult[At(row.Row)];
         case Source::PipeData: return Calc.PipeData[At(row.Row)];
         case Source::FittingCount: return Calc.FittingCount[At(row.Row)];
         case Source::PipeFouling: return Calc.PipeFouling;
@@ -105,9 +142,10 @@ double& LiveValue(const FormRow& row, int caseIndex) {
 }
 
 double ShownValue(const FormRow& row, int caseIndex) {
-    const std::size_t column = row.PerCase ? At(caseIndex) : 0;
+    const std::size_t column = At(row.PerCase ? caseIndex : row.Column);
     switch (row.From) {
         case Source::CaseResult: return Calc.CaseResultShown[At(row.Row)][column];
+        case Source::HammerResult: return Calc.HammerResultShown[At(row.Row)];
         case Source::PipeData: return Calc.PipeDataShown[At(row.Row)];
         case Source::FittingCount: return Calc.FittingCountShown[At(row.Row)];
         case Source::PipeFouling: return Calc.PipeFoulingSaved;

@@ -10,7 +10,7 @@
 
 namespace quillmetra {
 
-enum class Source { CaseInput, CaseResult, PipeData, FittingCount, PipeFouling };
+enum class Source { CaseInput, CaseResult, HammerResult, PipeData, FittingCount, PipeFouling };
 
 // When a number replaces the text of its control.
 enum class ShowRule {
@@ -28,12 +28,15 @@ struct FormRow {
     const char* Label;  // the label that names the row
     const char* Unit;   // the control that shows its unit, empty for a dimensionless number
     int UnitIndex;      // its index in an array, Control::NoIndex for none
+    int Column = 0;     // of a CaseInput that is not per case
+
+    bool IsResult() const { return From == Source::CaseResult || From == Source::HammerResult; }
 };
 
 // The rows of a program's form, in reading order; none for a program without a form.
 std::span<const FormRow> FormRows(int program);
 
-// The number of the record behind a row; a row that is not per case has case 0 alone.
+// The number of the record behind a row; a row that is not per case has its one column.
 double& LiveValue(const FormRow& row, int caseIndex);
 // What it is compared with for its colour.
 double ShownValue(const FormRow& row, int caseIndex);

@@ -125,9 +125,15 @@ constexpr CaseStep GasDataSteps[] = {
     {16, When::NotZero, RescaleInput<16, 16>},   {13, When::NotZero, RescaleInput<13, 16>},
 };
 
-// The water hammer has one case; some rows use a second or third column for another quantity.
+// The water hammer does not ask for a gravity: without one a flow that changes its basis stays as it is.
+void ConvertHammerFlow(int caseIndex) {
+    const bool newBasis = Calc.LiquidBasis != Calc.LiquidBasisPrevious;
+    if (!newBasis || Calc.FlowingSG > 0) ConvertLineFlowLiquid(caseIndex);
+}
+
+// It has one case; some rows use a second or third column for another quantity.
 constexpr CaseStep HammerFlowSteps[] = {
-    {1, When::Positive, ConvertLineFlowLiquid},
+    {1, When::Positive, ConvertHammerFlow},
     {2, When::NotZero, ConvertTemperature},
 };
 

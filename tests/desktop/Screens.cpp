@@ -41,7 +41,7 @@ void Shoot(const char* name) {
     std::printf("%s %d x %d\n", name, top->width(), top->height());
 }
 
-const char* Calculation = "frmLiqLineLoss";  // the form that is filled
+const char* Calculation = "";  // the form that is filled
 
 void Type(const char* name, int index, const char* text) {
     Control& box = ControlOf(Calculation, name, index);
@@ -63,6 +63,14 @@ void AnswerBoxes() {
     pictured = true;
     std::printf("box: %s | %s\n", qPrintable(box->windowTitle()), qPrintable(box->text().simplified()));
     box->defaultButton()->click();
+}
+
+// From the browser.
+const char* Open(int program, const char* form) {
+    Click("frmTRProg", "cmdOK");
+    Click("frmObxProg", "optProgram", program);
+    Click("frmObxProg", "cmdOK");
+    return Calculation = form;
 }
 
 // A dialog runs its own loop: its picture is taken from within.
@@ -93,67 +101,9 @@ void FillLine() {
     }
 }
 
-void PickFluid(const std::string& name) {
-    auto& list = static_cast<ListBox&>(ControlOf(Calculation, "lstFluid"));
-    for (int row = 0; row < list.RowCount(); ++row) {
-        if (list.Row(row).starts_with(name)) PickRow(list, row);
-    }
-    Click(Calculation, "cmdSelect");
-}
-
-// Methane, a mixture and the base conditions on the gas form.
-void ShootGasLine() {
-    Click(Calculation, "mnuProgram");
-    const char* const form = Calculation = "frmGasLineLoss";
-    Click("frmTRProg", "cmdOK");
-    Click("frmObxProg", "optProgram", 2);
-    Click("frmObxProg", "cmdOK");
-    Type("txtTagNum", Control::NoIndex, "FG-2301");
-    Type("txtInletPipeLen", Control::NoIndex, "3200");
-    Type("txtInletPipeID", Control::NoIndex, "6.065");
-    for (int i = 0; i < 3; ++i) {
-        Type("txtFlow", i, i == 0 ? "36000" : "24000");
-        Type("txtTemp", i, "80");
-        Type("txtPressure", i, "150");
-        Click(form, ("mnuPureGases" + std::to_string(i + 1)).c_str());
-        PickFluid("Methane ");
-    }
-    Shoot("gas-empty");
-    for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
-    Shoot("gas-results");
-    Click(form, "mnuSTP");
-    Shoot("gas-base-conditions");
-    Click(form, "cmdCancelSTP");
-    Click(form, "mnuMixtures1");
-    for (const char* gas : {"Methane ", "Ethane ", "Propane ", "Nitrogen "}) PickFluid(gas);
-    Type("txtPercent", 0, "85");
-    Type("txtPercent", 1, "10");
-    Shoot("gas-mixture");
-    for (int i = 4; i < 16; ++i) PickFluid("Ethylene ");
-    Shoot("gas-mixture-full");
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    if (argc != 2) return 2;
-    Folder = argv[1];
-    UseSuiteStyle();
-    QApplication::setFont(QFont("DejaVu Sans", 9));
-    QApplication::setQuitOnLastWindowClosed(false);
-    QTimer boxes;
-    QObject::connect(&boxes, &QTimer::timeout, AnswerBoxes);
-    boxes.start(20);
-    DesktopHost host;
-    RegisterForms();
-    const std::string home = SuitePath(std::filesystem::temp_directory_path() / "quillmetra-screens");
-    SeedShippedData(home);
-    StartUp(home);
-    Shoot("browser");
-    Click("frmTRProg", "cmdOK");
-    Shoot("selector");
-    Click("frmObxProg", "cmdOK");
+// The liquid form, and the windows that all forms share.
+void ShootLiquidLine() {
+    Open(1, "frmLiqLineLoss");
     Shoot("line-empty");
     FillLine();
     Within([] {
@@ -187,7 +137,90 @@ int main(int argc, char** argv) {
     Shoot("units-basis");
     Click("frmUnits", "cmdCanBasis");
     Click("frmUnits", "cmdCancelUn");
-    ShootGasLine();
+}
+
+void PickFluid(const std::string& name) {
+    auto& list = static_cast<ListBox&>(ControlOf(Calculation, "lstFluid"));
+    for (int row = 0; row < list.RowCount(); ++row) {
+        if (list.Row(row).starts_with(name)) PickRow(list, row);
+    }
+    Click(Calculation, "cmdSelect");
+}
+
+// Methane, a mixture and the base conditions on the gas form.
+void ShootGasLine() {
+    const char* const form = Open(2, "frmGasLineLoss");
+    Type("txtTagNum", Control::NoIndex, "FG-2301");
+    Type("txtInletPipeLen", Control::NoIndex, "3200");
+    Type("txtInletPipeID", Control::NoIndex, "6.065");
+    for (int i = 0; i < 3; ++i) {
+        Type("txtFlow", i, i == 0 ? "36000" : "24000");
+        Type("txtTemp", i, "80");
+        Type("txtPressure", i, "150");
+        Click(form, ("mnuPureGases" + std::to_string(i + 1)).c_str());
+        PickFluid("Methane ");
+    }
+    Shoot("gas-empty");
+    for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
+    Shoot("gas-results");
+    Click(form, "mnuSTP");
+    Shoot("gas-base-conditions");
+    Click(form, "cmdCancelSTP");
+    Click(form, "mnuMixtures1");
+    for (const char* gas : {"Methane ", "Ethane ", "Propane ", "Nitrogen "}) PickFluid(gas);
+    Type("txtPercent", 0, "85");
+    Type("txtPercent", 1, "10");
+    Shoot("gas-mixture");
+    for (int i = 4; i < 16; ++i) PickFluid("Ethylene ");
+    Shoot("gas-mixture-full");
+}
+
+void ShootHammer() {
+    const char* const form = Open(3, "frmWaterHammer");
+    Shoot("hammer-empty");
+    const std::pair<const char*, const char*> line[] = {
+        {"txtTagNum", "XV-204 closing"}, {"txtMaxLiqFlow", "400000"},   {"txtFlowTemp", "68"},
+        {"txtOperPressure", "100"},      {"txtLineLength", "2500"},     {"txtPipeID", "6.065"},
+        {"txtPipeWall", "0.28"},         {"txtMaxAllowPressure", "300"}};
+    for (const auto& [box, text] : line) Type(box, Control::NoIndex, text);
+    Click(form, "mnuPureLiquids");
+    Shoot("hammer-liquids");
+    Click(form, "cmdSelect");
+    Click(form, "cmdPipeMatl");
+    Shoot("hammer-moduli");
+    Click(form, "cmdSelectModulus");
+    Click(form, "cmdCalculateliq");
+    Shoot("hammer-results");
+    Type("txtSelectedTime", Control::NoIndex, "4");
+    Click(form, "cmdCalculateliq");
+    Shoot("hammer-selected");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc != 2) return 2;
+    Folder = argv[1];
+    UseSuiteStyle();
+    QApplication::setFont(QFont("DejaVu Sans", 9));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QTimer boxes;
+    QObject::connect(&boxes, &QTimer::timeout, AnswerBoxes);
+    boxes.start(20);
+    DesktopHost host;
+    RegisterForms();
+    const std::string home = SuitePath(std::filesystem::temp_directory_path() / "quillmetra-screens");
+    SeedShippedData(home);
+    StartUp(home);
+    Shoot("browser");
+    Click("frmTRProg", "cmdOK");
+    Shoot("selector");
+    Click("frmObxProg", "cmdCancel");
+    for (const auto& shoot : {ShootLiquidLine, ShootGasLine, ShootHammer}) {
+        shoot();
+        Click(Calculation, "mnuProgram");
+    }
     ResetForms();
     return 0;
 }

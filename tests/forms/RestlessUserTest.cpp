@@ -1,5 +1,6 @@
 // A user who presses, types and closes at random: whatever he does, no number on the form stops being one,
 // and the form stays usable.
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -69,13 +70,19 @@ protected:
         return texts[Below(std::size(texts))];
     }
 
-    quillmetra::Form& AnyVisibleForm() {
-        for (const char* name : {"frmPipeSize", "frmUnits", "frmCalcOptions", "frmLiqLineLoss",
-                                 "frmGasLineLoss", "frmObxProg", "frmTRProg"}) {
+    // The one in front: dialogs and panels first, the browser last.
+    static quillmetra::Form& AnyVisibleForm() {
+        std::vector<std::string_view> names = FormNames();
+        std::stable_partition(names.begin(), names.end(), [](std::string_view name) {
+            return name == "frmPipeSize" || name == "frmUnits" || name == "frmCalcOptions";
+        });
+        for (const std::string_view name : names) {
             quillmetra::Form* form = LoadedForm(name);
-            if (form != nullptr && form->Visible()) return *form;
+            if (form != nullptr && form->Visible() && name != "frmTRProg") return *form;
         }
-        throw std::logic_error("no form is shown");
+        quillmetra::Form* browser = LoadedForm("frmTRProg");
+        if (browser == nullptr || !browser->Visible()) throw std::logic_error("no form is shown");
+        return *browser;
     }
 
     void ActOn(Control& control) {
@@ -130,7 +137,7 @@ protected:
             inputs += tick->Checked() ? "1" : "0";
         }
         for (const FormRow& row : FormRows(form.ProgramNumber())) {
-            if (row.From != Source::CaseResult) inputs += Str(Val(RowControl(form, row, i).Text()));
+            if (!row.IsResult()) inputs += Str(Val(RowControl(form, row, i).Text()));
         }
         return inputs;
     }

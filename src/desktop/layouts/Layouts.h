@@ -12,5 +12,6 @@ Node frmObxProg();
 Node frmPipeSize();
 Node frmTRProg();
 Node frmUnits();
+Node frmWaterHammer();
 
 }  // namespace quillmetra::layout

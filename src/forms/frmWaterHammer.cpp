@@ -1,0 +1,166 @@
+// See frmWaterHammer.h: the form's life, its liquid and its pipe. The calculation is in WaterHammerCase.cpp.
+#include "forms/frmWaterHammer.h"
+
+#include "core/Filling.h"
+#include "core/Words.h"
+#include "fluids/FluidTables.h"
+#include "fluids/LiquidCorrelations.h"
+#include "fluids/LiquidData.h"
+#include "fluids/Mixtures.h"
+#include "hammer/PipeModulus.h"
+#include "platform/Arithmetic.h"
+#include "platform/Dialogs.h"
+#include "reports/FormRefresh.h"
+#include "tables/TableFiles.h"
+#include "units/Conversion.h"
+#include "units/ProgramConversion.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr std::size_t MaterialLength = 30;  // the longest name that the database keeps
+}
+
+frmWaterHammer::frmWaterHammer()
+    : FluidForm({.Program = 3,
+                 .Form = "frmWaterHammer",
+                 .FluidMenu = "mnuFluidProp",
+                 .ListFrame = "fraLiquidData",
+                 .ListCaption = "Liquids",
+                 .Cases = OneCase}),
+      Moduli(*this, {.Frame = "fraModulus",
+                     .Caption = "Modulus of elasticity",
+                     .List = "lstModulus",
+                     .Select = "cmdSelectModulus",
+                     .Cancel = "cmdCancelModulus"}) {
+    SetCaption("Water Hammer Closing Time, Pressure Rise and Support Force");
+    lblFluid.SetCaption("Liquid name");
+    lblLiqTestBasis.SetToolTip("The basis of the flow: mass or volume");
+    txtPipeMatl.MaxLength = MaterialLength;
+    txtPipeMatl.Describe(&lblPipeMatl);
+    txtPipeMatl.Change = [this] { ClearAllCases(); };
+    pltClosing.ColourGroup = 4;  // as the results
+    Entries = {{&mnuPureLiquids, &mnuMixtures}};
+    HookUnits(cmdUnits);
+    HookFluid();
+    DescribeRows();
+    OrderTabs();
+
+    cmdCalculateliq.Click = [this] { cmdCalculateliq_Click(); };
+    cmdPipeID.Click = [this] { OpenPipeSizes(); };
+    cmdPipeMatl.Click = [this] { cmdPipeMatl_Click(); };
+    Moduli.List.DoubleClick = [this] { cmdSelectModulus_Click(); };
+    Moduli.cmdSelect.Click = [this] { cmdSelectModulus_Click(); };
+    Moduli.cmdCancel.Click = [this] { Moduli.Close(); };
+}
+
+void frmWaterHammer::OrderTabs() {
+    TabOrder = {&txtTagNum,       &txtFluid,        &txtMaxLiqFlow, &txtFlowTemp,    &txtOperPressure,
+                &txtSGFlow,       &txtBulkModulus,  &txtLineLength, &txtPipeID,      &cmdPipeID,
+                &txtPipeWall,     &txtPipeMatl,     &cmdPipeMatl,   &txtLineModulus, &txtMaxAllowPressure,
+                &txtSelectedTime, &cmdCalculateliq, &txtBy,         &txtApprov,      &cmdDate,
+                &txtComments(0),  &txtComments(1),  &cmdFormLayout};
+    cmdUnits.Each([this](CommandButton& button, int) { TabOrder.push_back(&button); });
+    AppendFluidTabs();
+    for (Control* control :
+         std::initializer_list<Control*>{&Moduli.List, &Moduli.cmdSelect, &Moduli.cmdCancel})
+        TabOrder.push_back(control);
+}
+
+// The material of a fresh record is that of the line-loss programs, whose list has no moduli.
+void frmWaterHammer::BeginRecord() { Calc.PipeMaterial.clear(); }
+
+void frmWaterHammer::StoreOwn() {
+    NoteEntered(0);
+    Calc.PipeMaterial = Calc.CaseText[5] = Calc.CaseUnitsText[5] = txtPipeMatl.Text();
+}
+
+void frmWaterHammer::ShowChoices() {
+    Calc.CaseIndex = 0;
+    Moduli.Close();
+    ShowFluidEntries();
+    lblLiqTestBasis.SetCaption("");
+    ShowSelectedTime(Calc.CaseInput[10][0] > 0);
+}
+
+void frmWaterHammer::ShowSelectedTime(bool visible) {
+    for (Control* control :
+         std::initializer_list<Control*>{&lblSelectedTime, &txtSelectedTime, &unSelectedTime})
+        control->SetVisible(visible);
+}
+
+// --- The liquid ------------------------------------------------------------------------------------------
+
+void frmWaterHammer::ParseFluid() { ParseLiquidRow(); }
+
+bool frmWaterHammer::CalcMixture() { return CalcLiquidMixture(); }
+
+bool frmWaterHammer::FillFluid() {
+    if (!ProcessLiquidData()) return false;
+    try {
+        FillCase();
+    } catch (const RuntimeError&) {
+        return TellNotCalculated();
+    }
+    return true;
+}
+
+// Gravity and bulk modulus, rounded, in the units shown. A liquid whose modulus is not known leaves its box
+// blank.
+void frmWaterHammer::FillCase() {
+    const Filling filling;
+    Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
+    const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
+                                           ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[6] * WaterDensity)
+                                           : Calc.FlowingSG);
+    Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
+    const double modulus = CheckFinite(RoundedFour(Calc.BulkModulus / Calc.UnitFactor[27]));
+    Calc.CaseInput[6][0] = gravity;
+    Calc.CaseInput[27][0] = modulus > 0 ? modulus : 0;
+    StateIsDealtWith(Control::NoIndex);
+    ShowProperty(txtSGFlow, gravity);
+    ShowProperty(txtBulkModulus, Calc.CaseInput[27][0]);
+    if (modulus <= 0) txtBulkModulus.SetText("");
+}
+
+void frmWaterHammer::FluidTaken() {
+    cmdCalculateliq.SetFocus();
+    if (Calc.MixtureFlag != words::Yes) Recalculate();  // that of a mixture follows by itself
+}
+
+void frmWaterHammer::Recalculate() {
+    if (Calc.HammerCalculated == words::Yes) cmdCalculateliq_Click();
+}
+
+// --- The pipe --------------------------------------------------------------------------------------------
+
+void frmWaterHammer::cmdPipeMatl_Click() {
+    StoreForm();
+    if (Calc.TemperatureEntered[0] != words::Entered) {
+        Tell("Need the  temperature", "Elastic modulus calculation");
+        txtFlowTemp.SetFocus();
+        return;
+    }
+    if (!CheckTempPressure()) return;
+    std::vector<std::string> rows;
+    try {
+        rows = ReadTable(table::Modulus);
+    } catch (const RuntimeError&) {
+        Tell("File " + std::string(table::Modulus.FileName), Calc.ProgramTitle, Icon::Stop);
+    }
+    const int current = rows.empty() ? -1 : FindTableRow(rows, Calc.PipeMaterial);
+    Moduli.Open(std::move(rows), current);
+}
+
+void frmWaterHammer::cmdSelectModulus_Click() {
+    if (Moduli.List.Selected() < 0) return;
+    const TableFields fields = SplitTableLine(table::Modulus, Moduli.Picked());
+    Moduli.Close();
+    const bool loaded = LoadPipeModulus(fields);
+    txtPipeMatl.SetText(Calc.PipeMaterial);
+    txtLineModulus.SetText("");
+    if (loaded) ShowNumber(txtLineModulus, Calc.CaseInput[27][1]);
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,94 @@
+// See WaterHammer.h.
+#include "hammer/WaterHammer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/CalcRecord.h"
+#include "platform/Arithmetic.h"
+#include "units/ProgramConversion.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr double QuarterPi = 0.7854;
+
+double Shown(double value, std::size_t unitRow) {
+    return CheckFinite(RoundedFour(value / Calc.UnitFactor[unitRow]));
+}
+
+}  // namespace
+
+double WaveVelocityOf(double gravity, double bulkModulus, double diameter, double wall, double pipeModulus) {
+    return 8.618176 / std::sqrt(gravity * ((1 / bulkModulus) + ((diameter / wall) / pipeModulus)));
+}
+
+double FlowVelocityOf(double massFlow, double gravity, double diameter) {
+    return ((massFlow / 1225.492) / gravity) / (diameter * diameter);
+}
+
+double PressureRiseOf(double waveVelocity, double flowVelocity, double gravity) {
+    return (waveVelocity * flowVelocity * gravity) / 74.313;
+}
+
+double ThrustOf(double rise, double diameter) { return rise * QuarterPi * (diameter * diameter); }
+
+double CriticalTimeOf(double length, double waveVelocity) { return (2 * length) / waveVelocity; }
+
+double MinimumTimeOf(double rise, double allowableRise, double criticalTime) {
+    return (rise / allowableRise) * criticalTime;
+}
+
+double RiseAtTime(double rise, double criticalTime, double closingTime) {
+    return (rise / closingTime) * criticalTime;
+}
+
+void CalcCriticalClosing() {
+    Calc.WaveVelocity = WaveVelocityOf(Calc.FlowingSG, Calc.BulkModulus, Calc.PipeDiameter,
+                                       Calc.WallThickness, Calc.PipeModulus);
+    Calc.Velocity = FlowVelocityOf(Calc.LiquidMassFlow, Calc.FlowingSG, Calc.PipeDiameter);
+    Calc.PressureRise = PressureRiseOf(Calc.WaveVelocity, Calc.Velocity, Calc.FlowingSG);
+    Calc.WavePressure = Calc.EnteredPressure + Calc.PressureRise;
+    SetForceUnit();
+    const double thrust = ThrustOf(Calc.PressureRise, Calc.PipeDiameter);
+    Calc.CriticalTime = RoundedFour(CriticalTimeOf(Calc.LineLength, Calc.WaveVelocity));
+    // The rounded critical time counts, so that whoever works from the printed figures finds the same.
+    Calc.MinimumTime = RoundedFour(
+        MinimumTimeOf(Calc.PressureRise, Calc.MaxAllowPressure - Calc.FlowPressure, Calc.CriticalTime));
+    HammerResults results = Calc.HammerResult;
+    results[12] = CheckFinite(Calc.CriticalTime);
+    results[13] = Shown(Calc.WaveVelocity, 20);
+    results[14] = Shown(Calc.WavePressure, 3);
+    results[15] = Shown(thrust, 0);
+    results[16] = CheckFinite(Calc.MinimumTime);
+    results[17] = results[18] = 0;
+    Calc.HammerResult = results;
+}
+
+void CalcSelectedClosing() {
+    Calc.SelectedRise = RiseAtTime(Calc.PressureRise, Calc.CriticalTime, Calc.SelectedTime);
+    const double pressure = Shown(Calc.EnteredPressure + Calc.SelectedRise, 3);
+    const double thrust = Shown(ThrustOf(Calc.SelectedRise, Calc.PipeDiameter), 0);
+    Calc.HammerResult[17] = pressure;
+    Calc.HammerResult[18] = thrust;
+}
+
+ClosingCurve ClosingCurveOfRecord() {
+    constexpr int steps = 80;
+    const double selected = Calc.SelectedTime > 0 ? Calc.SelectedTime : Calc.CriticalTime;
+    const auto [least, most] = std::minmax({Calc.CriticalTime, Calc.MinimumTime, selected});
+    const double first = least * 0.8;
+    const double ratio = std::pow(most * 1.5 / first, 1.0 / steps);  // closer together where it is steep
+    ClosingCurve curve;
+    double time = first;
+    for (int i = 0; i <= steps; ++i, time *= ratio) {
+        const double rise = RiseAtTime(Calc.PressureRise, Calc.CriticalTime, time);
+        curve.Times.push_back(time);
+        curve.Pressures.push_back((Calc.EnteredPressure + rise) / Calc.UnitFactor[3]);
+    }
+    return curve;
+}
+
+}  // namespace quillmetra
