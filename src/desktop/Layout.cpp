@@ -13,10 +13,10 @@ struct Entry {
 };
 
 constexpr Entry Layouts[] = {
-    {"frmTRProg", frmTRProg},           {"frmObxProg", frmObxProg},
-    {"frmLiqLineLoss", frmLiqLineLoss}, {"frmGasLineLoss", frmGasLineLoss},
-    {"frmPipeSize", frmPipeSize},       {"frmUnits", frmUnits},
-    {"frmCalcOptions", frmCalcOptions}, {"frmWaterHammer", frmWaterHammer},
+    {"frmTRProg", frmTRProg},           {"frmObxProg", frmObxProg}, {"frmLiqLineLoss", frmLiqLineLoss},
+    {"frmGasLineLoss", frmGasLineLoss}, {"frmLiqData", frmLiqData}, {"frmGasData", frmGasData},
+    {"frmPipeSize", frmPipeSize},       {"frmUnits", frmUnits},     {"frmCalcOptions", frmCalcOptions},
+    {"frmWaterHammer", frmWaterHammer},
 };
 }  // namespace
 

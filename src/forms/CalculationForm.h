@@ -67,8 +67,6 @@ public:
     TextBox txtTagNum{Picture1, "txtTagNum"};
     Label lblFluid{Picture1, "lblFluid", "Fluid"};
     TextBox txtFluid{Picture1, "txtFluid"};
-    Label lblSetupSelections{Picture1, "lblSetupSelections"};
-    Label lblCalcSource{Picture1, "lblCalcSource"};
     CommandButton cmdFormLayout{Picture1, "cmdFormLayout", "Change &Setup"};
     Label lblBy{Picture1, "lblBy", "Calculated by"};
     TextBox txtBy{Picture1, "txtBy"};

@@ -85,13 +85,16 @@ bool FluidForm::HasState(int caseIndex) const {
     return Calc.TemperatureEntered[i] == words::Entered && Calc.PressureEntered[i] == words::Entered;
 }
 
-// A temperature is entered when its box is not empty, a pressure when it is above a perfect vacuum. The
-// entries of the case's fluid menu work when both are; saturated steam needs the pressure alone.
+bool FluidForm::IsTemperatureEntered(int caseIndex) {
+    return !Trim(TemperatureBox(caseIndex).Text()).empty();
+}
+
+// A pressure is entered when it is above a perfect vacuum. The entries of the case's fluid menu work when
+// temperature and pressure are; saturated steam needs the pressure alone.
 void FluidForm::NoteEntered(int caseIndex) {
     const auto i = static_cast<std::size_t>(caseIndex);
-    const bool blank = Trim(TemperatureBox(caseIndex).Text()).empty();
-    Calc.TemperatureBlank[i] = blank ? 1 : 0;
-    Calc.TemperatureEntered[i] = blank ? "" : words::Entered;
+    Calc.TemperatureBlank[i] = Trim(TemperatureBox(caseIndex).Text()).empty() ? 1 : 0;
+    Calc.TemperatureEntered[i] = IsTemperatureEntered(caseIndex) ? words::Entered : "";
     const double barometer = Calc.PressureMode == words::Absolute ? 0
                              : Calc.BaroPressure > 0              ? Calc.BaroPressure
                                                                   : 14.7;
@@ -126,6 +129,7 @@ void FluidForm::TickEntries() {
 
 void FluidForm::ShowFluidEntries() {
     edited_ = nullptr;
+    titleTail_ = Calc.ProgramTitle.ends_with(TitleTail()) ? TitleTail() : "";
     CloseFluids();
     TickEntries();
     for (std::size_t i = 0; i < Entries.size(); ++i) NoteEntered(static_cast<int>(i));
@@ -137,17 +141,15 @@ void FluidForm::mnuFluiProp_Click() {
         NoteEntered(i);
         any = any || CanPick(i);
     }
-    if (!any) TellNeedsState();
+    if (!any) TellNeedsState(NoCase);
 }
 
 void FluidForm::mnuCase_Click(int index) {
     Calc.CaseIndex = index;
-    if (!CanPick(index)) TellNeedsState();
+    if (!CanPick(index)) TellNeedsState(index);
 }
 
-void FluidForm::TellNeedsState() const {
-    Tell("Need Pressure and Temperature to continue", "Fluid Properties", NeedsStateIcon());
-}
+void FluidForm::TellNeedsState(int) { Tell("Need Pressure and Temperature to continue", "Fluid Properties"); }
 
 // --- What a fluid changes on the form ----------------------------------------------------------------------
 
@@ -156,13 +158,13 @@ void FluidForm::ShowProperty(TextBox& box, double value) {
     box.SetColours(box.BackColour(), SlotColour(InputSlot(box)));
 }
 
-void FluidForm::ShowTitle(const std::string& tail) {
-    for (const char* steam : {" - Saturated Steam", " - Superheated Steam"}) {
-        if (Calc.ProgramTitle.ends_with(steam)) {
-            Calc.ProgramTitle.resize(Calc.ProgramTitle.size() - std::string_view(steam).size());
-        }
+// The tail of the former fluid goes.
+void FluidForm::ShowTitle() {
+    if (Calc.ProgramTitle.ends_with(titleTail_)) {
+        Calc.ProgramTitle.resize(Calc.ProgramTitle.size() - titleTail_.size());
     }
-    Calc.ProgramTitle += tail;
+    titleTail_ = TitleTail();
+    Calc.ProgramTitle += titleTail_;
     SetCaption(Suite.VersionText + Calc.ProgramTitle);
 }
 
@@ -172,7 +174,7 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
     Calc.FluidDataSource = words::Loaded;
     {
         const Filling filling;
-        ShowTitle(Calc.SteamKind.empty() ? "" : SteamTail());
+        ShowTitle();
         txtFluid.SetText(Calc.FluidName);
         txtFluid.SetColours(txtFluid.BackColour(), SlotColour(TextSlot(Calc.FluidName, Calc.FluidNameSaved)));
     }
@@ -186,6 +188,7 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
     } else {
         ClearCase(Calc.CaseIndex);
     }
+    PropertiesTaken();
 }
 
 // --- Temperature and pressure ------------------------------------------------------------------------------

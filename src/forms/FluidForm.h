@@ -9,7 +9,6 @@
 
 #include "core/CalcRecord.h"
 #include "forms/CalculationForm.h"
-#include "platform/Dialogs.h"
 
 namespace quillmetra {
 
@@ -37,8 +36,10 @@ protected:
 
     virtual TextBox& TemperatureBox(int caseIndex) = 0;
     virtual TextBox& PressureBox(int caseIndex) = 0;
-    // Of the message that temperature and pressure are missing.
-    virtual Icon NeedsStateIcon() const { return Icon::None; }
+    virtual bool IsTemperatureEntered(int caseIndex);
+    // Says that a case needs temperature and pressure before it can have a fluid; NoCase when all do.
+    static constexpr int NoCase = -1;
+    virtual void TellNeedsState(int caseIndex);
     // Takes FlowTemperature and FlowPressure of the case in hand; false when they are refused, which it
     // tells.
     virtual bool CheckState() = 0;
@@ -50,10 +51,14 @@ protected:
     virtual bool CalcMixture() = 0;
     // Fills the case in hand with the properties of what was parsed; false when it was given up.
     virtual bool FillFluid() = 0;
+    // A look-up of steam begins.
+    virtual void BeginSteam() {}
     // Shows the rows of the case that steam, found or cleared, has left in the record.
     virtual void ShowSteam() {}
-    // What the title of the calculation ends with for steam.
-    virtual std::string SteamTail() const { return " - Saturated Steam"; }
+    // What the title of the calculation ends with for the fluid in hand.
+    virtual std::string TitleTail() const { return Calc.SteamKind.empty() ? "" : " - Saturated Steam"; }
+    // The case in hand has properties of its fluid.
+    virtual void PropertiesTaken() {}
     // A fluid was picked for the case in hand.
     virtual void FluidTaken() {}
     // Calculates the case in hand anew when it had results: a mixture does so.
@@ -64,6 +69,11 @@ protected:
     // Enables and ticks the entries as the record has it; to be run when a form loads or starts anew.
     void ShowFluidEntries();
     void NoteEntered(int caseIndex);
+    bool HasState(int caseIndex) const;
+    // Whether there is a fluid for what is entered.
+    bool CanPick(int caseIndex) const;
+    // Renews the properties of the fluid that is loaded for the case in hand.
+    void UpdateFluidProperties();
     // The case's properties were renewed: what was typed into its state before is dealt with.
     void StateIsDealtWith(int caseIndex);
     // Writes a property of the fluid to a box, in the colour of a change when it is one.
@@ -90,18 +100,15 @@ private:
     void PickSteam(int caseIndex, const char* kind);
     bool TakeSteam();
     bool CheckForNewFluid();
-    bool HasState(int caseIndex) const;
-    bool CanPick(int caseIndex) const;
     void TickEntries();
-    void TellNeedsState() const;
     void InstallFluid(const std::string& name, bool isAnother);
-    void ShowTitle(const std::string& tail);
-    void UpdateFluidProperties();
+    void ShowTitle();
     void EnterState(TextBox& box);
     // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
     void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
 
     FluidChoice before_;
+    std::string titleTail_;            // what ProgramTitle ends with for the fluid in hand
     const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
     std::string textBefore_;
 };

@@ -104,7 +104,7 @@ void FluidForm::UpdateFluidProperties() {
         }
     } else if (Calc.FluidRow.size() > ShortestFluidRow) {
         ParseFluid();
-        if (FillFluid()) ClearCase(Calc.CaseIndex);
+        if (FillFluid()) InstallFluid(Calc.FluidName, false);
     }
 }
 
@@ -172,10 +172,12 @@ void FluidForm::PickSteam(int caseIndex, const char* kind) {
 }
 
 bool FluidForm::TakeSteam() {
+    BeginSteam();
     const SteamOutcome outcome = GetSteamData();
-    if (outcome == SteamOutcome::NoPressure || outcome == SteamOutcome::Refused) return false;
     {
         const Filling filling;
+        txtFluid.SetText(Calc.FluidName);
+        if (outcome == SteamOutcome::NoPressure || outcome == SteamOutcome::Refused) return false;
         ShowSteam();
     }
     StateIsDealtWith(Calc.CaseIndex);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/CalcRecord.h"
+#include "forms/BasisLabels.h"
 #include "forms/FluidForm.h"
 #include "platform/Plot.h"
 
@@ -14,6 +15,8 @@ class LineLossForm : public FluidForm {
 public:
     // rows: the unit rows that have a button.
     LineLossForm(const Names& names, std::initializer_list<int> rows);
+
+    BasisLabels Basis{Picture1};
 
     // The line
     Label lblInletPipeLen{Picture1, "lblInletPipeLen", "Length"};

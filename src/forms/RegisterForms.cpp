@@ -4,7 +4,9 @@
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "forms/frmCalcOptions.h"
+#include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
+#include "forms/frmLiqData.h"
 #include "forms/frmLiqLineLoss.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
@@ -33,6 +35,8 @@ constexpr FormEntry FormTable[] = {
     {"frmObxProg", MakeForm<frmObxProg>},
     {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>},
     {"frmGasLineLoss", MakeForm<frmGasLineLoss>},
+    {"frmLiqData", MakeForm<frmLiqData>},
+    {"frmGasData", MakeForm<frmGasData>},
     {"frmPipeSize", MakeForm<frmPipeSize>},
     {"frmWaterHammer", MakeForm<frmWaterHammer>},
     {"frmUnits", MakeForm<frmUnits>},

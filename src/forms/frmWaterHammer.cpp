@@ -90,6 +90,10 @@ void frmWaterHammer::ShowSelectedTime(bool visible) {
         control->SetVisible(visible);
 }
 
+void frmWaterHammer::TellNeedsState(int) {
+    Tell("Need Pressure and Temperature to continue", "Fluid Properties", Icon::Stop);
+}
+
 // --- The liquid ------------------------------------------------------------------------------------------
 
 void frmWaterHammer::ParseFluid() { ParseLiquidRow(); }

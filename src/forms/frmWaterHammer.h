@@ -2,6 +2,7 @@
 // valve must close. One case alone, which is case 0 of the record.
 #pragma once
 
+#include "forms/BasisLabels.h"
 #include "forms/FluidForm.h"
 #include "forms/PickList.h"
 #include "platform/Plot.h"
@@ -14,6 +15,8 @@ public:
 
     MenuItem mnuPureLiquids{mnuFluiProp, "mnuPureLiquids", "&Pure liquid"};
     MenuItem mnuMixtures{mnuFluiProp, "mnuMixtures", "&Mixture"};
+
+    BasisLabels Basis{Picture1};
 
     // The liquid
     Label lblMaxLiqFlow{Picture1, "lblMaxLiqFlow", "Maximum flow"};
@@ -94,7 +97,7 @@ protected:
     bool FillFluid() override;
     void FluidTaken() override;
     void Recalculate() override;
-    Icon NeedsStateIcon() const override { return Icon::Stop; }
+    void TellNeedsState(int caseIndex) override;
     void BeginRecord() override;
     void StoreOwn() override;
     void ShowChoices() override;

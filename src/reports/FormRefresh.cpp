@@ -80,6 +80,25 @@ constexpr UnitControl WaterHammerUnits[] = {
     {"unSelectedForce", Single, 0},
 };
 
+constexpr UnitControl LiquidDataUnits[] = {
+    {"cmdUnits", 2, 2},         {"cmdUnits", 3, 3},           {"unCritPressure", Single, 11},
+    {"unCritTemp", Single, 12}, {"unDensity", Single, 9},     {"unNormalBP", Single, 2},
+    {"unViscosity", Single, 7}, {"unVapPressure", Single, 8}, {"unFlashPoint", Single, 2},
+    {"unBulkMod", Single, 27},
+};
+constexpr UnitControl GasDataUnits[] = {
+    {"cmdUnits", 2, 2},
+    {"cmdUnits", 3, 3},
+    {"unNormalBP", Single, 2},
+    {"unCritPressure", Single, 11},
+    {"unCritTemp", Single, 12},
+    {"unDensity", Single, 9},
+    {"unViscosity", Single, 7},
+    {"unVapPressure", Single, 8},
+    {"unReqdLatentHeat", Single, 16},
+    {"unLatentHeatBP", Single, 16},
+};
+
 // After a conversion a text that the rule below leaves standing would be a number in the former unit.
 void ShowConverted(Control& control, double value) {
     if (value <= 0 && Val(control.Text()) != Val(Str(value))) SetText(control, value == 0 ? "" : Str(value));
@@ -110,14 +129,15 @@ void ShowTick(Form& form, const char* name, std::size_t flag) {
     PaintTick(box, Calc.PipeDataShown[flag]);
 }
 
-// The cases that the line-loss forms refresh: all three after a conversion, else the one in hand.
-std::pair<int, int> CasesToShow() {
-    if (Calc.UnitsConverted == words::Yes) return {0, CaseCount - 1};
+// The line-loss forms refresh all three cases after a conversion, else the one in hand; the fluid data forms
+// always all.
+std::pair<int, int> CasesToShow(int program) {
+    if (Calc.UnitsConverted == words::Yes || program > 3) return {0, CaseCount - 1};
     return {Calc.CaseIndex, Calc.CaseIndex};
 }
 
 void ShowRows(Form& form, int program) {
-    const auto [first, last] = CasesToShow();
+    const auto [first, last] = CasesToShow(program);
     const bool results = Calc.HideResults != words::Yes;
     const bool converted = Calc.UnitsConverted == words::Yes;
     for (const FormRow& row : FormRows(program)) {
@@ -160,10 +180,13 @@ void ShowDensityMode(Form& form, const char* gravityTip) {
 // The boxes of the two names and the date show their prompt while they are empty.
 std::string OrPrompt(const std::string& text, const char* prompt) { return text.empty() ? prompt : text; }
 
-void ShowIdentity(Form& form) {
-    form.SetCaption(Suite.VersionText + Calc.ProgramTitle);
+void ShowBasis(Form& form) {
     Named(form, "lblSetupSelections").SetCaption(Calc.UnitsTitle);
     Named(form, "lblCalcSource").SetCaption(Calc.MethodText);
+}
+
+void ShowIdentity(Form& form) {
+    form.SetCaption(Suite.VersionText + Calc.ProgramTitle);
     SetText(Named(form, "txtTagNum"), Calc.Tag);
     Control& fluid = Named(form, "txtFluid");
     SetText(fluid, Calc.FluidName);
@@ -180,6 +203,7 @@ void ShowSignatures(Form& form) {
 
 // What both line-loss forms show alike.
 void ShowLine(Form& form, int program) {
+    ShowBasis(form);
     ShowUnits(form, LineUnits);
     Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[25]);
     Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
@@ -226,6 +250,7 @@ void ShowWaterHammer() {
     const Filling filling;
     Form& form = LoadForm("frmWaterHammer");
     ShowIdentity(form);
+    ShowBasis(form);
     SetForceUnit();  // it goes by the unit of the pipe
     ShowUnits(form, WaterHammerUnits);
     ShowDensityMode(form, " Enter Specific gravity @ FTP");
@@ -234,6 +259,32 @@ void ShowWaterHammer() {
     if (!basis.Caption().empty()) basis.SetCaption(Calc.LiquidBasis);
     SetText(Named(form, "txtPipeMatl"), Calc.PipeMaterial);
     ShowRows(form, 3);
+    ShowSignatures(form);
+}
+
+// The form has no place for units' title and source; the report of this program reads them on the gas form.
+void ShowLiquidData() {
+    const Filling filling;
+    Form& form = LoadForm("frmLiqData");
+    ShowIdentity(form);
+    ShowBasis(LoadForm("frmGasLineLoss"));
+    ShowUnits(form, LiquidDataUnits);
+    const bool density = Calc.LiquidDensityMode == words::Density;
+    Named(form, "lblSGFTP")
+        .SetCaption(density ? "Density @ FTP    " + Calc.UnitName[9] : "Specific gravity @ FTP");
+    Named(form, "lblSGBase")
+        .SetCaption(density ? "Density @ Base    " + Calc.UnitName[9] : "Specific gravity @ Base");
+    ShowRows(form, 4);
+    ShowSignatures(form);
+}
+
+void ShowGasData() {
+    const Filling filling;
+    Form& form = LoadForm("frmGasData");
+    ShowIdentity(form);
+    ShowBasis(form);
+    ShowUnits(form, GasDataUnits);
+    ShowRows(form, 5);
     ShowSignatures(form);
 }
 
@@ -246,6 +297,8 @@ void ShowCalculation() {
         case 1: ShowLiquidLoss(); break;
         case 2: ShowGasLoss(); break;
         case 3: ShowWaterHammer(); break;
+        case 4: ShowLiquidData(); break;
+        case 5: ShowGasData(); break;
         default: break;
     }
 }

@@ -17,6 +17,8 @@ void ComposeHeading();
 void ShowLiquidLoss();
 void ShowGasLoss();
 void ShowWaterHammer();
+void ShowLiquidData();
+void ShowGasData();
 
 // Whether the results of a case stand; an input change since its calculation has blanked them, and a refresh
 // then leaves them blank.

@@ -116,6 +116,44 @@ constexpr FormRow WaterHammerRows[] = {
      "unSelectedForce", Single},
 };
 
+constexpr FormRow LiquidDataRows[] = {
+    {"txtTemp", Source::CaseInput, 2, ShowRule::LegalZero, Each, "lblTemp", "cmdUnits", 2},
+    {"txtPressure", Source::CaseInput, 3, ShowRule::LegalZero, Each, "lblPressure", "cmdUnits", 3},
+    {"txtMW", Source::Property, 0, ShowRule::Positive, Each, "lblMW", "", Single},
+    {"txtSGFTP", Source::Property, 6, ShowRule::Positive, Each, "lblSGFTP", "", Single},
+    {"txtSGBase", Source::Property, 5, ShowRule::Positive, Each, "lblSGBase", "", Single},
+    {"txtCritPressure", Source::Property, 11, ShowRule::Positive, Each, "lblCritPressure", "unCritPressure",
+     Single},
+    {"txtCritTemp", Source::Property, 12, ShowRule::Signed, Each, "lblCritTemp", "unCritTemp", Single},
+    {"txtDensity", Source::Property, 9, ShowRule::Positive, Each, "lblDensity", "unDensity", Single},
+    {"txtNormalBP", Source::Property, 4, ShowRule::Signed, Each, "lblNormalBP", "unNormalBP", Single},
+    {"txtViscosity", Source::Property, 7, ShowRule::Positive, Each, "lblViscosity", "unViscosity", Single},
+    {"txtVapPressure", Source::Property, 8, ShowRule::Positive, Each, "lblVapPressure", "unVapPressure",
+     Single},
+    {"txtFlashpoint", Source::Property, 1, ShowRule::Signed, Each, "lblFlashpoint", "unFlashPoint", Single},
+    {"txtBulkModulus", Source::Property, 27, ShowRule::Positive, Each, "lblBulkMod", "unBulkMod", Single},
+};
+
+constexpr FormRow GasDataRows[] = {
+    {"txtTemp", Source::CaseInput, 2, ShowRule::LegalZero, Each, "lblTemp", "cmdUnits", 2},
+    {"txtPressure", Source::CaseInput, 3, ShowRule::LegalZero, Each, "lblPressure", "cmdUnits", 3},
+    {"txtMW", Source::Property, 5, ShowRule::Positive, Each, "lblMW", "", Single},
+    {"txtRatioSH", Source::Property, 10, ShowRule::Positive, Each, "lblRatioSH", "", Single},
+    {"txtNormalBP", Source::Property, 4, ShowRule::Signed, Each, "lblNormalBP", "unNormalBP", Single},
+    {"txtCritPressure", Source::Property, 11, ShowRule::Positive, Each, "lblCritPressure", "unCritPressure",
+     Single},
+    {"txtCritTemp", Source::Property, 12, ShowRule::Signed, Each, "lblCritTemp", "unCritTemp", Single},
+    {"txtDensity", Source::Property, 9, ShowRule::Positive, Each, "lblDensity", "unDensity", Single},
+    {"txtCompFactor", Source::Property, 0, ShowRule::Positive, Each, "lblCompFactor", "", Single},
+    {"txtViscosity", Source::Property, 7, ShowRule::Positive, Each, "lblViscosity", "unViscosity", Single},
+    {"txtVapPressure", Source::Property, 8, ShowRule::Positive, Each, "lblVapPressure", "unVapPressure",
+     Single},
+    {"txtReqdLatentHeat", Source::Property, 13, ShowRule::Positive, Each, "lblReqdLatentHeat",
+     "unReqdLatentHeat", Single},
+    {"txtLatentHeatBP", Source::Property, 16, ShowRule::Positive, Each, "lblLatentHeatBP", "unLatentHeatBP",
+     Single},
+};
+
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 }  // namespace
@@ -125,6 +163,8 @@ std::span<const FormRow> FormRows(int program) {
         case 1: return LiquidLossRows;
         case 2: return GasLossRows;
         case 3: return WaterHammerRows;
+        case 4: return LiquidDataRows;
+        case 5: return GasDataRows;
         default: return {};
     }
 }

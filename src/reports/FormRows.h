@@ -10,7 +10,15 @@
 
 namespace quillmetra {
 
-enum class Source { CaseInput, CaseResult, HammerResult, PipeData, FittingCount, PipeFouling };
+enum class Source {
+    CaseInput,
+    Property,  // a row of CaseInput that the fluid data programs calculate
+    CaseResult,
+    HammerResult,
+    PipeData,
+    FittingCount,
+    PipeFouling
+};
 
 // When a number replaces the text of its control.
 enum class ShowRule {
@@ -30,7 +38,9 @@ struct FormRow {
     int UnitIndex;      // its index in an array, Control::NoIndex for none
     int Column = 0;     // of a CaseInput that is not per case
 
-    bool IsResult() const { return From == Source::CaseResult || From == Source::HammerResult; }
+    bool IsResult() const {
+        return From == Source::Property || From == Source::CaseResult || From == Source::HammerResult;
+    }
 };
 
 // The rows of a program's form, in reading order; none for a program without a form.

@@ -16,7 +16,7 @@ TEST_F(LiquidForm, OpensFromTheBrowserInEnglishUnits) {
     EXPECT_EQ(Form().cmdUnits(1).Caption(), "lb/h");
     EXPECT_EQ(Form().unVelocity.Caption(), "ft/s");
     EXPECT_EQ(Form().lblDropP100.Caption(), "Loss per 100 ft");
-    EXPECT_EQ(Form().lblSetupSelections.Caption(), "English mass units, calculate data");
+    EXPECT_EQ(Form().Basis.lblSetupSelections.Caption(), "English mass units, calculate data");
     EXPECT_EQ(Form().txtBy.Text(), "By");
     EXPECT_FALSE(Form().cmdUnits(6).Visible());
 }

@@ -56,7 +56,7 @@ TEST_F(UnitForms, SiUnitsConvertInputsAndResultsTogether) {
     EXPECT_EQ(User.Boxes[0].Title, "Line Loss  - Liquid flow");
     ASSERT_EQ(LoadedForm("frmCalcOptions"), nullptr);
     ASSERT_TRUE(CanAct(Form().cmdCalculate(0)));
-    EXPECT_EQ(Form().lblSetupSelections.Caption().substr(0, 13), "SI mass units");
+    EXPECT_EQ(Form().Basis.lblSetupSelections.Caption().substr(0, 13), "SI mass units");
     EXPECT_EQ(Form().cmdUnits(3).Caption(), "kPag");
     EXPECT_NEAR(Number(Form().txtFlow(0)), 100000 / 7936.641, 1e-4);
     EXPECT_NEAR(Number(Form().txtTemp(0)), 15.5556, 1e-4);

@@ -6,7 +6,9 @@
 namespace quillmetra::layout {
 
 Node frmCalcOptions();
+Node frmGasData();
 Node frmGasLineLoss();
+Node frmLiqData();
 Node frmLiqLineLoss();
 Node frmObxProg();
 Node frmPipeSize();

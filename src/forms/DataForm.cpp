@@ -1,0 +1,114 @@
+// See DataForm.h.
+#include "forms/DataForm.h"
+
+#include "core/Filling.h"
+#include "core/StartUp.h"
+#include "core/Words.h"
+#include "platform/Arithmetic.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "reports/FormRefresh.h"
+#include "units/Rounding.h"
+#include "units/Temperature.h"
+
+namespace quillmetra {
+
+namespace {
+constexpr std::array<const char*, CaseCount> CaseMenus = {"&Case 1", "C&ase 2", "Ca&se 3"};
+}
+
+DataForm::DataForm(const Names& names) : FluidForm(names) {
+    for (int i = 0; i < CaseCount; ++i) {
+        const auto word = static_cast<std::size_t>(i);
+        lblCase(i).SetCaption("Case " + std::to_string(i + 1));
+        mnuCase(i).SetCaption(CaseMenus[word]);
+        cmdOK(i).SetCaption(CaseWords[word]);
+        cmdOK(i).SetToolTip("Finds the properties of the fluid in hand for case " + std::to_string(i + 1));
+        cmdOK(i).Click = [this, i] { cmdOK_Click(i); };
+    }
+    HookUnits(cmdUnits);
+}
+
+void DataForm::Assemble() {
+    HookFluid();
+    DescribeRows();
+    TabOrder = {&txtTagNum, &txtFluid};
+    for (int i = 0; i < CaseCount; ++i) {
+        for (Control* control : std::initializer_list<Control*>{&txtTemp(i), &txtPressure(i), &cmdOK(i)}) {
+            TabOrder.push_back(control);
+        }
+    }
+    for (Control* control :
+         std::initializer_list<Control*>{&txtBy, &txtApprov, &cmdDate, &txtComments(0), &txtComments(1),
+                                         &cmdFormLayout, &cmdUnits(2), &cmdUnits(3)}) {
+        TabOrder.push_back(control);
+    }
+    AppendFluidTabs();
+}
+
+void DataForm::ShowChoices() { ShowFluidEntries(); }
+
+void DataForm::StoreOwn() {
+    for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
+}
+
+// A temperature of exactly zero counts as none.
+bool DataForm::IsTemperatureEntered(int caseIndex) { return Val(txtTemp(caseIndex).Text()) != 0; }
+
+void DataForm::TellNeedsState(int caseIndex) {
+    if (caseIndex == NoCase) return;  // each case tells for itself
+    Tell(cmdOK(caseIndex).Caption() + " Case \nNeed the pressure and temperature", "Fluid Properties");
+}
+
+bool DataForm::CheckState() {
+    StoreForm();
+    Calc.TempPressureOk = words::No;
+    RestoreStandardConditions();
+    const std::size_t i = ThisCase();
+    Calc.FlowTemperature = ToDegF(Calc.UnitName[2], Calc.CaseInput[2][i], Calc.UnitFactor[2]);
+    Calc.EnteredPressure = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
+    Calc.FlowPressure = Calc.EnteredPressure;
+    if (Calc.PressureMode != words::Absolute) Calc.FlowPressure += Calc.BaroPressure;
+    NoteEntered(Calc.CaseIndex);
+    if (!HasState(Calc.CaseIndex)) return false;
+    Calc.TempPressureOk = words::Yes;
+    return true;
+}
+
+void DataForm::cmdOK_Click(int index) {
+    Calc.CaseIndex = index;
+    for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
+    if (Calc.FluidDataSource == words::Loaded && CanPick(index)) {
+        UpdateFluidProperties();
+    } else {
+        mnuCase_Click(index);
+    }
+}
+
+double DataForm::TemperatureShown(double degF) {
+    return FromDegF(Calc.UnitName[2], degF, Calc.UnitFactor[2]);
+}
+
+double DataForm::CritTemperatureShown(double degR) {
+    return FromDegR(Calc.UnitName[12], degR, Calc.UnitFactor[12]);
+}
+
+void DataForm::Store(std::initializer_list<Property> properties) {
+    for (const Property& property : properties) CheckFinite(RoundedFour(property.Value));
+    for (const Property& property : properties) {
+        Calc.CaseInput[property.Row][ThisCase()] = RoundedFour(property.Value);
+    }
+}
+
+// The properties are the results: they stand from now on, and the refresh shows them.
+void DataForm::PropertiesTaken() {
+    Calc.DataOk = words::Yes;
+    Calc.CalculatedFlag = words::Yes;
+    Calc.ResultsClearable[ThisCase()] = words::Yes;
+    SnapshotRecord();
+    ShowCalculation();
+}
+
+void DataForm::FluidTaken() { txtBy.SetFocus(); }
+
+}  // namespace quillmetra

@@ -1,0 +1,136 @@
+// See frmGasData.h.
+#include "forms/frmGasData.h"
+
+#include "core/Filling.h"
+#include "core/StartUp.h"
+#include "core/Words.h"
+#include "fluids/FluidTables.h"
+#include "fluids/GasData.h"
+#include "fluids/Mixtures.h"
+#include "forms/DataCheck.h"
+#include "platform/RuntimeError.h"
+#include "reports/FormRefresh.h"
+#include "units/Temperature.h"
+#include "units/Viscosity.h"
+
+namespace quillmetra {
+
+namespace {
+
+// This program alone takes a temperature of exactly this for one that is not entered: it keeps the one
+// before, whatever it was. It stands so.
+constexpr double SkippedTemperature = 1;
+
+double ViscosityShown() {
+    const double viscosity = Calc.FluidViscosity / Calc.UnitFactor[7];
+    const double kinematic = CentistokesPerUnit(Calc.UnitName[7]);
+    return kinematic > 0 ? viscosity * MolarViscosity / Calc.MolecularWeight / kinematic : viscosity;
+}
+
+}  // namespace
+
+frmGasData::frmGasData()
+    : DataForm({.Program = 5,
+                .Form = "frmGasData",
+                .FluidMenu = "mnuFluidProp",
+                .ListFrame = "fraGasData",
+                .ListCaption = "Gases"}) {
+    SetCaption("Gas properties at temperature and pressure");
+    Entries = {{&mnuPureGases1, &mnuMixtures1, &mnuSatSteam1, &mnuSupersteam1},
+               {&mnuPureGases2, &mnuMixtures2, &mnuSatSteam2, &mnuSuperSteam2},
+               {&mnuPureGases3, &mnuMixtures3, &mnuSatSteam3, &mnuSuperSteam3}};
+    Base.Changed = [this] { ClearAllCases(); };
+    Assemble();
+}
+
+void frmGasData::ShowChoices() {
+    Base.Close();
+    DataForm::ShowChoices();
+}
+
+// --- State -------------------------------------------------------------------------------------------------
+
+bool frmGasData::CheckPressureAlone() {
+    RestoreStandardConditions();
+    const bool absolute = Calc.PressureMode == words::Absolute;
+    Calc.EnteredPressure = Calc.CaseInput[3][ThisCase()] * Calc.UnitFactor[3];
+    Calc.FlowPressure = Calc.EnteredPressure + (absolute ? 0 : Calc.BaroPressure);
+    if (!absolute || Calc.FlowPressure > 0) return true;
+    return RefuseData("Flow pressure must be greater than zero", txtPressure(Calc.CaseIndex));
+}
+
+bool frmGasData::CheckState() {
+    const double before = Calc.FlowTemperature;
+    StoreForm();
+    if (!CheckPressureAlone() || !DataForm::CheckState()) return false;
+    if (Calc.CaseInput[2][ThisCase()] == SkippedTemperature) Calc.FlowTemperature = before;
+    return true;
+}
+
+bool frmGasData::IsTemperatureEntered(int caseIndex) {
+    const auto i = static_cast<std::size_t>(caseIndex);
+    if (Calc.CaseInput[2][i] == SkippedTemperature) return Calc.TemperatureEntered[i] == words::Entered;
+    return DataForm::IsTemperatureEntered(caseIndex);
+}
+
+// --- The gas -----------------------------------------------------------------------------------------------
+
+void frmGasData::ParseFluid() { ParseGasRow(); }
+
+bool frmGasData::CalcMixture() { return CalcGasMixtureForData(); }
+
+bool frmGasData::FillFluid() {
+    const double mixtureHeat = Calc.CaseInput[13][ThisCase()];  // as the mixture rule has left it
+    if (!ProcessGasData()) return false;
+    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const UnitFactors& factor = Calc.UnitFactor;
+    try {
+        Store({{4, TemperatureShown(Calc.NormalBoilingPoint)},
+               {16, Calc.LatentHeatBP / factor[16]},
+               {13, mixture ? mixtureHeat : Calc.LatentHeatAtFlow / factor[16]},
+               {8, Calc.VaporPressure / factor[8]},
+               {10, Calc.RatioSpecificHeats},
+               {5, Calc.MolecularWeight},
+               {7, ViscosityShown()},
+               {11, Calc.CritPressure / factor[11]},
+               {12, CritTemperatureShown(Calc.CritTemperature)},
+               {9, Calc.Density / factor[9]},
+               {0, Calc.CompressFactor}});
+    } catch (const RuntimeError&) {
+        return TellGasNotCalculated();
+    }
+    return true;
+}
+
+// --- Steam -------------------------------------------------------------------------------------------------
+
+void frmGasData::BeginSteam() {
+    const Filling filling;
+    if (Calc.SteamKind == words::Superheated) txtFluid.SetText("Sup Steam");
+}
+
+// Beside the rows of the look-up: the boiling point and the latent heats. Steam has no compressibility factor
+// here, and its vapor pressure is its own.
+void frmGasData::ShowSteam() {
+    const bool found = Calc.CaseInput[5][ThisCase()] != 0;
+    const double heat = Calc.UnitFactor[16];
+    Store({{0, 0},
+           {4, found ? TemperatureShown(Calc.NormalBoilingPoint) : 0},
+           {8, 0},
+           {13, found ? Calc.LatentHeatAtFlow / heat : 0},
+           {16, found ? Calc.LatentHeatBP / heat : 0}});
+    if (Calc.SteamKind == words::Saturated)
+        ShowProperty(txtTemp(Calc.CaseIndex), Calc.CaseInput[2][ThisCase()]);
+}
+
+std::string frmGasData::TitleTail() const {
+    if (Calc.SteamKind.empty()) return " - Gas Flow";
+    return " - " + Calc.SteamKind + " Steam";
+}
+
+void frmGasData::PropertiesTaken() {
+    Calc.FluidKind = Calc.SteamKind.empty() ? words::Gas : "";
+    DataForm::PropertiesTaken();
+}
+
+}  // namespace quillmetra
