@@ -1,6 +1,7 @@
 // See Menus.h.
 #include "desktop/Menus.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 #include <QAction>
@@ -80,23 +81,32 @@ private:
     QMenuBar* bar_;
 };
 
+// In the order of their making, but for those that stand last.
+std::vector<MenuItem*> EntriesOf(const Form& form) {
+    std::vector<MenuItem*> entries;
+    for (Control* control : form.Controls()) {
+        if (control->Kind() == ControlKind::MenuItem) entries.push_back(static_cast<MenuItem*>(control));
+    }
+    std::stable_partition(entries.begin(), entries.end(),
+                          [](const MenuItem* entry) { return !entry->StandsLast; });
+    return entries;
+}
+
 }  // namespace
 
 std::vector<ControlView*> MakeMenus(const Form& form, QMenuBar& bar) {
     std::vector<ControlView*> views;
     std::unordered_map<const Control*, HeadMenu*> heads;
-    for (const Control* control : form.Controls()) {
-        if (control->Kind() == ControlKind::MenuItem && control->Container() != nullptr) {
-            heads[control->Container()] = nullptr;
-        }
+    const std::vector<MenuItem*> entries = EntriesOf(form);
+    for (const MenuItem* entry : entries) {
+        if (entry->Container() != nullptr) heads[entry->Container()] = nullptr;
     }
-    for (Control* control : form.Controls()) {
-        if (control->Kind() != ControlKind::MenuItem) continue;
-        auto& item = static_cast<MenuItem&>(*control);
-        HeadMenu* const under = control->Container() == nullptr ? nullptr : heads[control->Container()];
+    for (MenuItem* entry : entries) {
+        MenuItem& item = *entry;
+        HeadMenu* const under = item.Container() == nullptr ? nullptr : heads[item.Container()];
         QWidget* const place = under == nullptr ? static_cast<QWidget*>(&bar) : under;
         if (item.SeparatorBefore && under != nullptr) under->addSeparator();
-        const auto head = heads.find(control);
+        const auto head = heads.find(entry);
         if (head == heads.end()) {
             auto* const action = new QAction(place);
             place->addAction(action);

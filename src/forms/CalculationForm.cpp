@@ -69,6 +69,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuSave.Shortcut = "Ctrl+S";
     mnuPrint.Shortcut = "Ctrl+P";
     mnuHelp.Shortcut = "F1";
+    mnuHelp.StandsLast = true;
     // Records, reports and the path finder are yet to come.
     for (Control* later : std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
                                                           &mnuPathUserUnitFile, &mnuPathPrintHdgs}) {

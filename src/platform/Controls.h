@@ -209,6 +209,7 @@ public:
 
     std::string Shortcut;  // "Ctrl+S"
     bool SeparatorBefore = false;
+    bool StandsLast = false;  // in its menu or bar, whatever is made after it
 };
 
 // A list of rows with one of them selected, or several when Multiple is set.

@@ -146,8 +146,8 @@ TEST_P(Rules, TabFollowsTheReadingOrder) {
 
 TEST_P(Rules, EveryNumberHasItsUnitBesideIt) {
     const std::set<std::string> withoutUnit = {
-        "txtInletGate", "txtInletGlobe",  "txtInletCheck",  "txtInlet90Deg", "txtInlet45Deg",
-        "txtInletThru", "txtInletBranch", "txtReynoldsNum", "txtPipeCond",   "txtPercent"};
+        "txtInletGate",   "txtInletGlobe",  "txtInletCheck", "txtInlet90Deg", "txtInlet45Deg", "txtInletThru",
+        "txtInletBranch", "txtReynoldsNum", "txtPipeCond",   "txtPercent",    "txtMW",         "txtRatioSH"};
     for (const Control* control : Shown.Controls()) {
         if (control->Kind() != ControlKind::TextBox || !control->Seen()) continue;
         if (!static_cast<const TextBox*>(control)->IsNumber || withoutUnit.contains(control->Name()))

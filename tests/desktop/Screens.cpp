@@ -41,8 +41,10 @@ void Shoot(const char* name) {
     std::printf("%s %d x %d\n", name, top->width(), top->height());
 }
 
+const char* Calculation = "frmLiqLineLoss";  // the form that is filled
+
 void Type(const char* name, int index, const char* text) {
-    Control& box = ControlOf("frmLiqLineLoss", name, index);
+    Control& box = ControlOf(Calculation, name, index);
     MoveFocus(box);
     TypeText(box, text);
 }
@@ -91,36 +93,75 @@ void FillLine() {
     }
 }
 
-void TypeHammer(const char* name, const char* text) {
-    Control& box = ControlOf("frmWaterHammer", name);
-    MoveFocus(box);
-    TypeText(box, text);
+void PickFluid(const std::string& name) {
+    auto& list = static_cast<ListBox&>(ControlOf(Calculation, "lstFluid"));
+    for (int row = 0; row < list.RowCount(); ++row) {
+        if (list.Row(row).starts_with(name)) PickRow(list, row);
+    }
+    Click(Calculation, "cmdSelect");
 }
 
+// Methane, a mixture and the base conditions on the gas form.
+void ShootGasLine() {
+    Click(Calculation, "mnuProgram");
+    const char* const form = Calculation = "frmGasLineLoss";
+    Click("frmTRProg", "cmdOK");
+    Click("frmObxProg", "optProgram", 2);
+    Click("frmObxProg", "cmdOK");
+    Type("txtTagNum", Control::NoIndex, "FG-2301");
+    Type("txtInletPipeLen", Control::NoIndex, "3200");
+    Type("txtInletPipeID", Control::NoIndex, "6.065");
+    for (int i = 0; i < 3; ++i) {
+        Type("txtFlow", i, i == 0 ? "36000" : "24000");
+        Type("txtTemp", i, "80");
+        Type("txtPressure", i, "150");
+        Click(form, ("mnuPureGases" + std::to_string(i + 1)).c_str());
+        PickFluid("Methane ");
+    }
+    Shoot("gas-empty");
+    for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
+    Shoot("gas-results");
+    Click(form, "mnuSTP");
+    Shoot("gas-base-conditions");
+    Click(form, "cmdCancelSTP");
+    Click(form, "mnuMixtures1");
+    for (const char* gas : {"Methane ", "Ethane ", "Propane ", "Nitrogen "}) PickFluid(gas);
+    Type("txtPercent", 0, "85");
+    Type("txtPercent", 1, "10");
+    Shoot("gas-mixture");
+    for (int i = 4; i < 16; ++i) PickFluid("Ethylene ");
+    Shoot("gas-mixture-full");
+}
+
+// Water closing off in a steel pipe, before and with a selected time.
 void ShootHammer() {
-    constexpr const char* form = "frmWaterHammer";
+    Click(Calculation, "cmdCancel");
+    Click(Calculation, "mnuProgram");
+    const char* const form = Calculation = "frmWaterHammer";
     Click("frmTRProg", "cmdOK");
     Click("frmObxProg", "optProgram", 3);
     Click("frmObxProg", "cmdOK");
     Shoot("hammer-empty");
-    const std::pair<const char*, const char*> line[] = {
-        {"txtTagNum", "XV-204 closing"}, {"txtMaxLiqFlow", "400000"},   {"txtFlowTemp", "68"},
-        {"txtOperPressure", "100"},      {"txtLineLength", "2500"},     {"txtPipeID", "6.065"},
-        {"txtPipeWall", "0.28"},         {"txtMaxAllowPressure", "300"}};
-    for (const auto& [box, text] : line) TypeHammer(box, text);
+    for (const auto& [box, text] : {std::pair{"txtTagNum", "XV-204 closing"},
+                                    {"txtMaxLiqFlow", "400000"},
+                                    {"txtFlowTemp", "68"},
+                                    {"txtOperPressure", "100"},
+                                    {"txtLineLength", "2500"},
+                                    {"txtPipeID", "6.065"},
+                                    {"txtPipeWall", "0.28"},
+                                    {"txtMaxAllowPressure", "300"}}) {
+        Type(box, Control::NoIndex, text);
+    }
     Click(form, "mnuPureLiquids");
-    PickRow(static_cast<ListBox&>(ControlOf(form, "lstFluid")), 160);
-    Shoot("hammer-liquids");
-    Click(form, "cmdSelect");
+    PickFluid("Water ");
     Click(form, "cmdPipeMatl");
     Shoot("hammer-moduli");
     Click(form, "cmdSelectModulus");
     Click(form, "cmdCalculateliq");
     Shoot("hammer-results");
-    TypeHammer("txtSelectedTime", "4");
+    Type("txtSelectedTime", Control::NoIndex, "4");
     Click(form, "cmdCalculateliq");
     Shoot("hammer-selected");
-    Click(form, "mnuProgram");
 }
 
 }  // namespace
@@ -177,9 +218,7 @@ int main(int argc, char** argv) {
     Shoot("units-basis");
     Click("frmUnits", "cmdCanBasis");
     Click("frmUnits", "cmdCancelUn");
-    ControlOf("frmLiqLineLoss", "fraComponent").SetVisible(true);
-    Shoot("line-mixture");
-    Click("frmLiqLineLoss", "mnuProgram");
+    ShootGasLine();
     ShootHammer();
     ResetForms();
     return 0;

@@ -1,0 +1,153 @@
+# The components of a mixture on both line forms: percentages, the remainder, the key R, the refusals, and a
+# mixture that is opened again.
+strict on
+start
+new 2
+include good-gas-case.qs
+answer No
+click cmdCalculate(1)
+expect-message Transition
+
+click mnuMixtures2
+expect-state fraComponent visible
+expect-state Picture1 disabled
+expect lblRemaining 100
+expect-state cmdCalcPseudo disabled
+pick lstFluid "Methane "
+click cmdSelect
+expect lblComponent(0) Methane
+expect-focus txtPercent(0)
+expect-state txtPercent(1) hidden
+type txtPercent(0) 60
+expect lblRemaining 40
+pick lstFluid "Ethane "
+doubleclick lstFluid
+expect-focus txtPercent(1)
+answer OK
+click cmdCalcPseudo
+expect-box "Mixture Calculation" "Sum of percentages must equal 100" OK
+expect-state fraComponent visible
+key txtPercent(1) R
+expect txtPercent(1) 40
+expect lblRemaining 0
+# It takes what the others leave, not what is left on top of its own.
+type txtPercent(1) 10
+key txtPercent(1) r
+expect txtPercent(1) 40
+click cmdClear
+expect txtPercent(0) ""
+expect lblRemaining 100
+type txtPercent(0) 80
+key txtPercent(1) R
+
+# Cancel leaves the form as it was, and the case keeps its results.
+click cmdCancel
+expect-state fraComponent hidden
+expect txtFluid ""
+expect txtDestPress(1) 95.89
+click mnuMixtures2
+expect lblRemaining 100
+expect-state txtPercent(0) hidden
+pick lstFluid "Methane "
+click cmdSelect
+type txtPercent(0) 80
+pick lstFluid "Ethane "
+click cmdSelect
+key txtPercent(1) R
+pick lstFluid "Propane "
+click cmdSelect
+# A form with results calculates the mixture at once. Propane without a percentage is dropped.
+click cmdCalcPseudo
+expect txtFluid Mixture
+expect txtMW(1) 18.85
+expect txtRatioSH(1) 1.275
+expect txtCritPressure(1) 679.1
+expect-state mnuMixtures1 checked
+expect txtDestPress(1) 96.55
+
+# Opened again it shows what it is made of; a mixture that has been calculated needs no sum of 100.
+click mnuMixtures2
+expect lblComponent(1) Ethane
+expect txtPercent(1) 20
+expect-state txtPercent(2) hidden
+type txtPercent(1) 10
+expect lblRemaining 10
+click cmdCalcPseudo
+expect txtMW(1) 15.84
+
+# A new temperature renews it.
+type txtTemp(1) 200
+answer Yes
+leave
+expect-box "Temperature Has Changed" "Update Fluid Properties?" YesNo
+expect txtRatioSH(1) 1.284
+
+# Sixteen at most. The seventeenth takes the last place.
+click mnuPureGases2
+pick lstFluid "Methane "
+click cmdSelect
+click mnuMixtures2
+pick lstFluid 0
+click cmdSelect
+pick lstFluid 1
+click cmdSelect
+pick lstFluid 2
+click cmdSelect
+pick lstFluid 3
+click cmdSelect
+pick lstFluid 4
+click cmdSelect
+pick lstFluid 5
+click cmdSelect
+pick lstFluid 6
+click cmdSelect
+pick lstFluid 7
+click cmdSelect
+pick lstFluid 8
+click cmdSelect
+pick lstFluid 9
+click cmdSelect
+pick lstFluid 10
+click cmdSelect
+pick lstFluid 11
+click cmdSelect
+pick lstFluid 12
+click cmdSelect
+pick lstFluid 13
+click cmdSelect
+pick lstFluid 14
+click cmdSelect
+expect-state txtPercent(15) hidden
+pick lstFluid 15
+answer OK
+click cmdSelect
+expect-box "Mixture components" "Maximum number is 16" OK
+expect-state txtPercent(15) visible
+type txtPercent(15) 30
+expect lblRemaining 70
+key txtPercent(0) R
+click cmdCalcPseudo
+expect txtFluid Mixture
+click mnuProgram
+
+# --- The liquid form -------------------------------------------------------------------------------------------
+new 1
+type txtTemp(1) 60
+type txtPressure(1) 100
+click mnuMixture2
+pick lstFluid "Toluene "
+click cmdSelect
+type txtPercent(0) 50
+pick lstFluid "Benzene "
+click cmdSelect
+type txtPercent(1) 30
+answer OK
+click cmdCalcPseudo
+expect-box "Mixture Calculation" "Sum of percentages must equal 100" OK
+key txtPercent(1) R
+click cmdCalcPseudo
+expect txtFluid Mixture
+expect txtSGFlow(1) 0.8784
+expect txtViscosity(1) 0.6555
+expect-focus cmdCalculate(1)
+quit
