@@ -38,9 +38,9 @@ void OpenFluidList(benchmark::State& state) {
     filled.WriteLiquids(Liquids);
     Calc.FluidName = "Liquid 9000";
     for ([[maybe_unused]] auto each : state) {
-        filled.Form().Liquids.Open(words::Liquid);
+        filled.Form().Fluids.Open(words::Liquid);
         state.PauseTiming();
-        filled.Form().Liquids.Close();
+        filled.Form().Fluids.Close();
         state.ResumeTiming();
     }
 }

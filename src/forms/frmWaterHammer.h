@@ -95,6 +95,7 @@ protected:
     void FluidTaken() override;
     void Recalculate() override;
     Icon NeedsStateIcon() const override { return Icon::Stop; }
+    int InputSlot(const Control& box) const override;
     void BeginRecord() override;
     void StoreOwn() override;
     void ShowChoices() override;
