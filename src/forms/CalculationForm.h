@@ -15,11 +15,11 @@ class CalculationForm : public SuiteForm {
 public:
     // The names that differ from form to form.
     struct Names {
-        int Program;
-        const char* Form;
-        const char* FluidMenu;  // the menu head of the fluid properties
-        const char* ListFrame;
-        const char* ListCaption;
+        int Program = 0;
+        const char* Form = "";
+        const char* FluidMenu = "";  // the menu head of the fluid properties
+        const char* ListFrame = "";
+        const char* ListCaption = "";
         std::initializer_list<int> Cases = EachCase;  // those with a menu of their own
     };
     static constexpr std::initializer_list<int> EachCase = {0, 1, 2};

@@ -26,8 +26,8 @@ public:
 protected:
     // The menu entries of a case, null for what the form does not offer.
     struct FluidEntries {
-        MenuItem* Pure;
-        MenuItem* Mixture;
+        MenuItem* Pure = nullptr;
+        MenuItem* Mixture = nullptr;
         MenuItem* Saturated = nullptr;
         MenuItem* Superheated = nullptr;
     };
@@ -86,8 +86,8 @@ private:
     struct FluidChoice {
         std::string MixtureFlag, FluidOk, SteamKind, FluidRow;
         decltype(CalcRecord::FluidData) Data;
-        decltype(CalcRecord::FluidPercent) Percents;
-        int MixtureCount;
+        decltype(CalcRecord::FluidPercent) Percents{};
+        int MixtureCount = 0;
     };
     static FluidChoice ChoiceInForce();
     void Restore(const FluidChoice& choice);

@@ -11,6 +11,7 @@
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "reports/FormRefresh.h"
+#include "reports/FormRows.h"
 #include "tables/TableFiles.h"
 #include "units/Conversion.h"
 #include "units/ProgramConversion.h"
@@ -36,6 +37,8 @@ frmWaterHammer::frmWaterHammer()
                      .Cancel = "cmdCancelModulus"}) {
     SetCaption("Water Hammer Closing Time, Pressure Rise and Support Force");
     lblFluid.SetCaption("Liquid name");
+    txtSelectedTime.SetToolTip(
+        "A time below the critical one gives more than the full pressure rise, which no valve can cause");
     lblLiqTestBasis.SetToolTip("The basis of the flow: mass or volume");
     txtPipeMatl.MaxLength = MaterialLength;
     txtPipeMatl.Describe(&lblPipeMatl);
@@ -69,7 +72,15 @@ void frmWaterHammer::OrderTabs() {
 }
 
 // The material of a fresh record is that of the line-loss programs, whose list has no moduli.
-void frmWaterHammer::BeginRecord() { Calc.PipeMaterial.clear(); }
+void frmWaterHammer::BeginRecord() {
+    Calc.PipeMaterial.clear();
+    Calc.PipeMaterialSaved.clear();
+}
+
+int frmWaterHammer::InputSlot(const Control& box) const {
+    if (&box == &txtPipeMatl) return TextSlot(txtPipeMatl.Text(), Calc.PipeMaterialSaved);
+    return FluidForm::InputSlot(box);
+}
 
 void frmWaterHammer::StoreOwn() {
     NoteEntered(0);
@@ -78,6 +89,7 @@ void frmWaterHammer::StoreOwn() {
 
 void frmWaterHammer::ShowChoices() {
     Calc.CaseIndex = 0;
+    if (Calc.MixtureFlag != words::Yes) Calc.FluidOk = words::FluidPicked;  // not "OK", as the others have it
     Moduli.Close();
     ShowFluidEntries();
     lblLiqTestBasis.SetCaption("");

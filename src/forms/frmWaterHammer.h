@@ -98,6 +98,7 @@ protected:
     void FluidTaken() override;
     void Recalculate() override;
     void TellNeedsState(int caseIndex) override;
+    int InputSlot(const Control& box) const override;
     void BeginRecord() override;
     void StoreOwn() override;
     void ShowChoices() override;

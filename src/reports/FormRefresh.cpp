@@ -257,7 +257,9 @@ void ShowWaterHammer() {
     // The basis shows from the first calculation on.
     Control& basis = Named(form, "lblLiqTestBasis");
     if (!basis.Caption().empty()) basis.SetCaption(Calc.LiquidBasis);
-    SetText(Named(form, "txtPipeMatl"), Calc.PipeMaterial);
+    Control& material = Named(form, "txtPipeMatl");
+    SetText(material, Calc.PipeMaterial);
+    PaintValue(material, TextSlot(Calc.PipeMaterial, Calc.PipeMaterialSaved));
     ShowRows(form, 3);
     ShowSignatures(form);
 }

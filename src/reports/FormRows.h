@@ -28,15 +28,15 @@ enum class ShowRule {
 };
 
 struct FormRow {
-    const char* Control;  // a box, or an array of one for each case
-    Source From;
-    int Row;
-    ShowRule Rule;
-    bool PerCase;
-    const char* Label;  // the label that names the row
-    const char* Unit;   // the control that shows its unit, empty for a dimensionless number
-    int UnitIndex;      // its index in an array, Control::NoIndex for none
-    int Column = 0;     // of a CaseInput that is not per case
+    const char* Control = "";  // a box, or an array of one for each case
+    Source From = Source::CaseInput;
+    int Row = 0;
+    ShowRule Rule = ShowRule::Positive;
+    bool PerCase = false;
+    const char* Label = "";  // the label that names the row
+    const char* Unit = "";   // the control that shows its unit, empty for a dimensionless number
+    int UnitIndex = 0;       // its index in an array, Control::NoIndex for none
+    int Column = 0;          // of a CaseInput that is not per case
 
     bool IsResult() const {
         return From == Source::Property || From == Source::CaseResult || From == Source::HammerResult;

@@ -173,6 +173,7 @@ void ShootGasLine() {
     Shoot("gas-mixture");
     for (int i = 4; i < 16; ++i) PickFluid("Ethylene ");
     Shoot("gas-mixture-full");
+    Click(form, "cmdCancel");
 }
 
 void ShootHammer() {
@@ -184,8 +185,7 @@ void ShootHammer() {
         {"txtPipeWall", "0.28"},         {"txtMaxAllowPressure", "300"}};
     for (const auto& [box, text] : line) Type(box, Control::NoIndex, text);
     Click(form, "mnuPureLiquids");
-    Shoot("hammer-liquids");
-    Click(form, "cmdSelect");
+    PickFluid("Water ");
     Click(form, "cmdPipeMatl");
     Shoot("hammer-moduli");
     Click(form, "cmdSelectModulus");
@@ -195,6 +195,22 @@ void ShootHammer() {
     Click(form, "cmdCalculateliq");
     Shoot("hammer-selected");
 }
+
+// Toluene and steam in three cases.
+void ShootFluidData(int program, const char* name, const char* entry, const char* fluid) {
+    const char* const form = Open(program, name);
+    Type("txtTagNum", Control::NoIndex, "FD-12");
+    for (int i = 0; i < 3; ++i) {
+        Type("txtTemp", i, std::to_string(80 + 100 * i).c_str());
+        Type("txtPressure", i, "100");
+        Click(form, (entry + std::to_string(i + 1)).c_str());
+        PickFluid(fluid);
+    }
+    Shoot(form);
+}
+
+void ShootLiquidData() { ShootFluidData(4, "frmLiqData", "mnuLiquid", "Toluene "); }
+void ShootGasData() { ShootFluidData(5, "frmGasData", "mnuPureGases", "Methane "); }
 
 }  // namespace
 
@@ -217,7 +233,7 @@ int main(int argc, char** argv) {
     Click("frmTRProg", "cmdOK");
     Shoot("selector");
     Click("frmObxProg", "cmdCancel");
-    for (const auto& shoot : {ShootLiquidLine, ShootGasLine, ShootHammer}) {
+    for (const auto& shoot : {ShootLiquidLine, ShootGasLine, ShootHammer, ShootLiquidData, ShootGasData}) {
         shoot();
         Click(Calculation, "mnuProgram");
     }

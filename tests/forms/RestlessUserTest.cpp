@@ -5,7 +5,7 @@
 #include <random>
 
 #include "core/Words.h"
-#include "forms/LineLossForm.h"
+#include "forms/CalculationForm.h"
 #include "forms/RegisterForms.h"
 #include "platform/NumberText.h"
 #include "platform/UserActs.h"
@@ -20,6 +20,9 @@ struct Run {
     unsigned Seed;
 };
 
+constexpr const char* CalculationForms[] = {"frmLiqLineLoss", "frmGasLineLoss", "frmWaterHammer",
+                                            "frmLiqData", "frmGasData"};
+
 class RestlessUser : public SuiteTest, public ::testing::WithParamInterface<Run> {
 protected:
     RestlessUser() : random_(GetParam().Seed) {
@@ -30,30 +33,58 @@ protected:
         ClickControl(ControlOf("frmObxProg", "cmdOK"));
     }
 
-    // The line-loss form that is loaded, of either program; null for none.
-    static LineLossForm* Line() {
-        for (const char* name : {"frmLiqLineLoss", "frmGasLineLoss"}) {
-            if (auto* form = dynamic_cast<LineLossForm*>(LoadedForm(name))) return form;
+    // The calculation form that is loaded; null for none.
+    static CalculationForm* Calculation() {
+        for (const char* name : CalculationForms) {
+            auto* form = dynamic_cast<CalculationForm*>(LoadedForm(name));
+            if (form != nullptr && form->ProgramNumber() == Calc.CurrentProgram) return form;
         }
         return nullptr;
     }
 
+    // The control of a case, or the only one of that name.
+    static Control* OfCase(CalculationForm& form, const char* name, int i) {
+        Control* const control = form.Find(name, i);
+        return control != nullptr || i > 0 ? control : form.Find(name);
+    }
+    static Control* CalculateButton(CalculationForm& form, int i) {
+        Control* const button = OfCase(form, "cmdCalculate", i);
+        if (button != nullptr) return button;
+        return OfCase(form, form.ProgramNumber() == 3 ? "cmdCalculateliq" : "cmdOK", i);
+    }
+
     // A case that calculates: 1000 ft of 4 in pipe with a light liquid or methane.
-    static void FillGoodCase(LineLossForm& form, int i) {
+    static void FillGoodCase(CalculationForm& form, int i) {
         Suite.HideFluidReminder = words::Yes;
-        Type(form.txtInletPipeLen, "1000");
-        Type(form.txtInletPipeID, "4.026");
-        Type(form.txtFlow(i), form.ProgramNumber() == 1 ? "100000" : "5000");
-        for (const auto& [box, text] : {std::pair{"txtTemp", "60"},
+        for (const auto& [box, text] : {std::pair{"txtInletPipeLen", "1000"},
+                                        {"txtInletPipeID", "4.026"},
+                                        {"txtFlow", form.ProgramNumber() == 1 ? "100000" : "5000"},
+                                        {"txtTemp", "60"},
                                         {"txtPressure", "100"},
                                         {"txtSGFlow", "1"},
                                         {"txtViscosity", "0.1"},
                                         {"txtMW", "16.04"},
                                         {"txtRatioSH", "1.3"},
                                         {"txtCritTemp", "343"},
-                                        {"txtCritPressure", "667"}}) {
-            if (Control* const control = form.Find(box, i)) Type(*control, text);
+                                        {"txtCritPressure", "667"},
+                                        {"txtMaxLiqFlow", "100000"},
+                                        {"txtFlowTemp", "60"},
+                                        {"txtOperPressure", "100"},
+                                        {"txtBulkModulus", "300000"},
+                                        {"txtLineLength", "1000"},
+                                        {"txtPipeID", "4.026"},
+                                        {"txtPipeWall", "0.237"},
+                                        {"txtLineModulus", "2e7"},
+                                        {"txtMaxAllowPressure", "300"},
+                                        {"txtSelectedTime", "2"}}) {
+            Control* const control = OfCase(form, box, i);
+            if (control != nullptr && !static_cast<TextBox*>(control)->Locked) Type(*control, text);
         }
+        if (form.ProgramNumber() < 4) return;
+        // A fluid of the table is the calculation of these.
+        const std::string entry = form.ProgramNumber() == 4 ? "mnuLiquid" : "mnuPureGases";
+        ClickControl(*form.Find(entry + std::to_string(i + 1)));
+        if (CanAct(form.Fluids.cmdSelect)) ClickControl(form.Fluids.cmdSelect);
     }
     static void Type(Control& box, const std::string& text) {
         MoveFocus(box);
@@ -104,7 +135,7 @@ protected:
         if (Below(4) == 0) {
             quillmetra::Form& form = AnyVisibleForm();
             Control* const current = form.Focus.Current();
-            if (current != nullptr && current->Name() != "cmdCalculate")
+            if (current != nullptr && !current->Name().starts_with("cmdCalculate"))
                 PressKey(*current, keys[Below(std::size(keys))]);
         }
     }
@@ -118,6 +149,7 @@ protected:
         for (const auto& row : Calc.CaseResult) {
             for (const double value : row) ASSERT_TRUE(std::isfinite(value));
         }
+        for (const double value : Calc.HammerResult) ASSERT_TRUE(std::isfinite(value));
         const quillmetra::Form& form = AnyVisibleForm();
         for (const double factor : Calc.UnitFactor) ASSERT_TRUE(std::isfinite(factor));
         ASSERT_TRUE(PanelIsOpen() || Calc.FormLoading != words::Yes);
@@ -129,12 +161,14 @@ protected:
     }
 
     // What a case's results depend on, as the form says it.
-    static std::string InputsOf(LineLossForm& form, int i) {
-        std::string inputs = form.txtFluid.Text() + form.cmdMatl.Caption();
-        for (const Tickable* tick :
-             {static_cast<Tickable*>(&form.chkEntrance), static_cast<Tickable*>(&form.chkExit),
-              static_cast<Tickable*>(&form.optSource)}) {
-            inputs += tick->Checked() ? "1" : "0";
+    static std::string InputsOf(CalculationForm& form, int i) {
+        std::string inputs = form.txtFluid.Text();
+        for (const char* material : {"cmdMatl", "txtPipeMatl"}) {
+            if (const Control* control = form.Find(material)) inputs += control->Text();
+        }
+        for (const char* tick : {"chkEntrance", "chkExit", "optSource"}) {
+            const auto* control = dynamic_cast<const Tickable*>(form.Find(tick));
+            if (control != nullptr) inputs += control->Checked() ? "1" : "0";
         }
         for (const FormRow& row : FormRows(form.ProgramNumber())) {
             if (!row.IsResult()) inputs += Str(Val(RowControl(form, row, i).Text()));
@@ -142,20 +176,27 @@ protected:
         return inputs;
     }
 
+    static bool HasResults(CalculationForm& form, int i) {
+        const Control* result = OfCase(form, "txtDestPress", i);
+        if (result == nullptr) result = OfCase(form, "txtCriticalTime", i);
+        if (result == nullptr) result = OfCase(form, "txtDensity", i);
+        return result != nullptr && !result->Text().empty();
+    }
+
     // Results stand only beside the inputs that gave them.
     void ExpectNoStaleResults(bool calculated) {
-        LineLossForm* const line = Line();
+        CalculationForm* const form = Calculation();
         // A panel converts inputs and results alike.
-        if (line == nullptr || PanelIsOpen()) return inputs_.fill({});
+        if (form == nullptr || PanelIsOpen()) return inputs_.fill({});
         for (int i = 0; i < CaseCount; ++i) {
             std::string& former = inputs_[static_cast<std::size_t>(i)];
-            if (line->txtDestPress(i).Text().empty()) {
+            if (!HasResults(*form, i)) {
                 former.clear();
             } else if (former.empty() || (calculated && Calc.CaseIndex == i)) {
-                former = InputsOf(*line, i);
+                former = InputsOf(*form, i);
                 ++Results;
             } else {
-                ASSERT_EQ(former, InputsOf(*line, i)) << "case " << i;
+                ASSERT_EQ(former, InputsOf(*form, i)) << "case " << i;
             }
         }
     }
@@ -171,10 +212,13 @@ TEST_P(RestlessUser, LeavesEveryFormUsable) {
     for (int act = 0; act < 4000; ++act) {
         quillmetra::Form& form = AnyVisibleForm();
         // Nonsense alone never gets as far as a result.
-        LineLossForm* const line = Line();
-        if (Below(40) == 0 && &form == line && CanAct(line->txtFlow(0))) {
-            FillGoodCase(*line, Calc.CaseIndex = Below(CaseCount));
-            ClickControl(line->cmdCalculate(Calc.CaseIndex));
+        CalculationForm* const calculation = Calculation();
+        const int anyCase = Below(CaseCount);
+        if (Below(40) == 0 && &form == calculation && CanAct(calculation->txtTagNum) &&
+            CalculateButton(*calculation, anyCase) != nullptr) {
+            Calc.CaseIndex = anyCase;
+            FillGoodCase(*calculation, anyCase);
+            ClickControl(*CalculateButton(*calculation, anyCase));
             ExpectNoStaleResults(true);
         }
         User.Boxes.clear();
@@ -188,7 +232,10 @@ TEST_P(RestlessUser, LeavesEveryFormUsable) {
         const bool leaves = control.Name() == "mnuNew" || control.Name() == "mnuProgram";
         if (leaves && Below(10) != 0) continue;
         // The act may unload the form.
-        const bool calculates = control.Name() == "cmdCalculate" || control.Name() == "cmdCalcPseudo";
+        // Where a fluid is picked, a form that has results may calculate them anew.
+        const Control* const fluids = form.Find("lstFluid");
+        bool calculates = control.Name().starts_with("cmdCalculate") || control.Name().starts_with("mnuS") ||
+                          control.Name() == "cmdOK" || (fluids != nullptr && fluids->Seen());
         const std::string name = form.Name() + "." + control.FullName();
         if (Below(300) == 0 && form.Name() != "frmTRProg") {
             CloseWindow(form);
@@ -197,6 +244,7 @@ TEST_P(RestlessUser, LeavesEveryFormUsable) {
         }
         for (const MessageBox& box : User.Boxes) {
             ASSERT_EQ(box.Text.find("control"), std::string::npos) << name << ": " << box.Text;
+            calculates = calculates || box.Text == "Update Fluid Properties?";
         }
         ExpectSoundForm();
         ExpectNoStaleResults(calculates);
@@ -205,7 +253,9 @@ TEST_P(RestlessUser, LeavesEveryFormUsable) {
     EXPECT_GT(Results, 1) << "too restless to calculate anything";
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RestlessUser, ::testing::Values(Run{1, 1}, Run{1, 2}, Run{2, 3}, Run{2, 4}),
+INSTANTIATE_TEST_SUITE_P(Seeds, RestlessUser,
+                         ::testing::Values(Run{1, 1}, Run{1, 2}, Run{2, 3}, Run{2, 4}, Run{3, 5}, Run{3, 6},
+                                           Run{4, 7}, Run{5, 8}),
                          [](const auto& run) {
                              return "Program" + std::to_string(run.param.Program) + "Seed" +
                                     std::to_string(run.param.Seed);

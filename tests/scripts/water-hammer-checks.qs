@@ -177,6 +177,7 @@ click optAbsolutePressure
 click optLiqDensity
 answer Yes
 click cmdOKOptions
+expect-message Round converted data?
 expect txtOperPressure 34.7
 type txtOperPressure 0
 answer No

@@ -136,6 +136,24 @@ click cmdCancelUn
 expect-form frmWaterHammer
 expect txtPressureWave 637.8
 
+# A pipe in millimetres brings the forces to kg.
+click cmdUnits(18)
+click cmdUnit(18)
+pick cboUnit mm
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect-form frmWaterHammer
+expect txtPipeID 154.051
+expect txtPipeWall 7.11201
+expect unSelectedForce kg
+expect txtSupportForce 6856
+expect txtSelectedForce 1955
+expect txtOperPressure 114.698
+
 # --- The tables --------------------------------------------------------------------------------------------
 click mnuNew
 expect txtMaxLiqFlow ""
