@@ -58,9 +58,10 @@ private:
     sqlite3_stmt* statement_;
 };
 
+// The value stays where it is until the statement has run.
 void Bind(sqlite3_stmt* statement, int place, const FieldValue& value) {
     if (const auto* text = std::get_if<std::string>(&value)) {
-        sqlite3_bind_text(statement, place, text->data(), static_cast<int>(text->size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(statement, place, text->data(), static_cast<int>(text->size()), SQLITE_STATIC);
     } else if (const auto* number = std::get_if<double>(&value)) {
         sqlite3_bind_double(statement, place, *number);
     }
@@ -229,7 +230,8 @@ bool Database::HasTable(std::string_view name) {
     sqlite3_stmt* const statement =
         Prepared("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1 COLLATE NOCASE");
     const Run run(statement);
-    Bind(statement, 1, std::string(name));
+    const FieldValue sought = std::string(name);
+    Bind(statement, 1, sought);
     const int result = sqlite3_step(statement);
     if (result != SQLITE_ROW && result != SQLITE_DONE) Fail();
     return result == SQLITE_ROW;
@@ -240,7 +242,8 @@ void Database::AddTable(const TableShape& table) { Execute(CreateSql(table)); }
 void Database::CompactInto(const fs::path& file) {
     sqlite3_stmt* const statement = Prepared("VACUUM INTO ?1");
     const Run run(statement);
-    Bind(statement, 1, file.string());
+    const FieldValue target = file.string();
+    Bind(statement, 1, target);
     if (sqlite3_step(statement) != SQLITE_DONE) Fail();
 }
 
@@ -476,8 +479,12 @@ void Recordset::Update() {
     sqlite3_stmt* const statement = Statement(isNew ? Act::Insert : Act::Update);
     const Run run(statement);
     for (std::size_t i = 0; i < buffer_.size(); ++i) {
-        // A field that was read keeps its stored value: fitting it again gives the same 32 bits.
-        Bind(statement, static_cast<int>(i) + 1, FittedValue(table_.Fields[i], buffer_[i]));
+        // A single that was read is a short decimal: it goes back to its 32 bits.
+        const auto* number = std::get_if<double>(&buffer_[i]);
+        if (number != nullptr && table_.Fields[i].Type == FieldType::Single) {
+            buffer_[i] = static_cast<double>(static_cast<float>(*number));
+        }
+        Bind(statement, static_cast<int>(i) + 1, buffer_[i]);
     }
     if (!isNew) Bind(statement, static_cast<int>(buffer_.size()) + 1, row_[0]);
     if (sqlite3_step(statement) != SQLITE_DONE) database_.Fail();

@@ -67,11 +67,7 @@ void CompleteUnits() {
 }
 
 // The standard conditions are kept in degF and psia and shown by the unit system.
-void ShowStandardConditions() {
-    const std::string system = Calc.UnitSystem;
-    system == words::SI ? STPSI() : STPEnglish();
-    Calc.UnitSystem = system;
-}
+void ShowStandardConditions() { Calc.UnitSystem == words::SI ? STPSI() : STPEnglish(); }
 
 void NameUnitSet() {
     const int set = Calc.FluidType == words::Liquid ? Calc.LiquidUnitSet : Calc.GasUnitSet;
@@ -121,6 +117,9 @@ void MarkBlankTemperatures() {
 void MendRecord() {
     if (Calc.PipeMaterialNumber < 1 || Calc.PipeMaterialNumber > 7) Calc.PipeMaterialNumber = 1;
     if (Calc.PressureDirection != 2) Calc.PressureDirection = 1;
+    for (int* set : {&Calc.LiquidUnitSet, &Calc.GasUnitSet}) {
+        if (*set < 0 || *set > UserUnitSet) *set = 0;
+    }
     MarkBlankTemperatures();
 }
 

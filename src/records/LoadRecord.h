@@ -9,7 +9,10 @@ namespace quillmetra {
 // from the head's "Fluid Type" (TakeFluidType), which is not read here. True when the record can be shown:
 // it then counts as unchanged and as the reference for colours. False, after a message, when there is no such
 // tag or its program number is none. A record without its row of units or of its program is told of and
-// shown with what the head knows.
+// shown with what the head knows. Throws as OpenRecords.
+//
+// After it the form of Calc.CurrentProgram is loaded with InCalculation "Yes"; UnitsConverted is "Yes", so
+// its first refresh shows all cases.
 bool GetTRCalc();
 
 // Sets FluidType from the head of a record; from its program where the head does not tell.

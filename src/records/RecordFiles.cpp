@@ -35,7 +35,7 @@ fs::path InFolder(const std::string& folder, const char* name) {
 // another file takes the name.
 void ForgetJournal(const fs::path& file) {
     try {
-        const Database recovered(file, Kind);
+        Database(file, Kind).HasTable(FileName);  // the first look recovers
     } catch (const RuntimeError&) {
         // No database of ours: there is nothing to recover.
     }
