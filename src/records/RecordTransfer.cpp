@@ -14,6 +14,7 @@ namespace quillmetra {
 namespace {
 
 constexpr int CalcDateText = 10;
+const FieldValue NoValue;  // an empty field, other than one that is left as it is
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
@@ -59,19 +60,22 @@ FieldValue ResultOf(const Cell& cell, int row) {
     return StandingResult(row, cell.Case);
 }
 
+FieldValue HammerResultOf(int row) {
+    if (!ResultsStand(0)) return {};
+    return StandingHammerResult(row);
+}
+
 std::optional<FieldValue> DateOf(const std::string& text, bool keepsFormer) {
     const std::string day = IsoDate(text);
     if (!day.empty()) return FieldValue(day);
     if (keepsFormer) return {};
-    return FieldValue();
+    return NoValue;
 }
 
 std::optional<FieldValue> ValueOfCell(const RecordField& field, const Cell& cell) {
     const int row = CellRow(field);
     if (cell.Of == Group::CaseResult) return ResultOf(cell, row);
-    if (cell.Of == Group::HammerResult) {
-        return ResultsStand(0) ? FieldValue(StandingHammerResult(row)) : FieldValue();
-    }
+    if (cell.Of == Group::HammerResult) return HammerResultOf(row);
     if (const double* number = NumberCell(cell, row)) return *number;
     const std::string& text = *TextCell(cell, row);
     if (field.Shape.Type == FieldType::Date) return DateOf(text, row == CalcDateText);
@@ -88,7 +92,7 @@ std::optional<FieldValue> ValueOfMade(const RecordField& field, Made made) {
         case Made::OptionCodes: return Calc.OtherCalcs.empty() ? words::NoCodes : Calc.OtherCalcs;
         case Made::Temperature: {
             const double value = Calc.CaseInput[2][At(field.Case)];
-            if (value == 0 && Calc.TemperatureBlank[At(field.Case)] == 1) return FieldValue();
+            if (value == 0 && Calc.TemperatureBlank[At(field.Case)] == 1) return NoValue;
             return value;
         }
         case Made::NumberAsText: return Str(Calc.CaseInput[4][At(field.Case)]);

@@ -1,7 +1,6 @@
 // See SaveRecord.h.
 #include "records/SaveRecord.h"
 
-#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,11 +31,11 @@ struct RowWords {
     std::size_t Position;  // of the pair, counted from 1
     const char* Code;
 };
-const std::array<RowWords, 3> RowsOfPrograms = {{
+constexpr RowWords RowsOfPrograms[] = {
     {PressureDropTable, &CalcRecord::SavePDRow, &CalcRecord::PDRowLoaded, 1, "PD"},
     {FluidDataTable, &CalcRecord::SaveFDRow, &CalcRecord::FDRowLoaded, 3, "FD"},
     {WaterhammerTable, &CalcRecord::SaveWHRow, &CalcRecord::WHRowLoaded, 5, "WH"},
-}};
+};
 
 const RowWords* RowWordsInHand() {
     for (const RowWords& each : RowsOfPrograms) {
