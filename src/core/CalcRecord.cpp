@@ -68,6 +68,12 @@ double StandingHammerResult(int row) {
     return ResultsStand(0) ? Calc.HammerResult[static_cast<std::size_t>(row)] : 0;
 }
 
+double StandingInput(int row, int caseIndex) {
+    const bool isTyped = Calc.CurrentProgram < 4 || row == 2 || row == 3 || (row >= 21 && row <= 23);
+    if (!isTyped && !ResultsStand(caseIndex)) return 0;
+    return Calc.CaseInput[static_cast<std::size_t>(row)][static_cast<std::size_t>(caseIndex)];
+}
+
 void TakeShown() {
     std::copy_n(Calc.CaseInput.begin(), 28, Calc.CaseInputShown.begin());
     std::copy_n(Calc.CaseResult.begin(), 6, Calc.CaseResultShown.begin());
@@ -105,7 +111,12 @@ void RestoreShown() {
 }
 
 void TakeSaved() {
-    Calc.CaseInputSaved = Calc.CaseInput;
+    for (int row = 0; row < 32; ++row) {
+        for (int i = 0; i < CaseCount; ++i) {
+            Calc.CaseInputSaved[static_cast<std::size_t>(row)][static_cast<std::size_t>(i)] =
+                StandingInput(row, i);
+        }
+    }
     for (int row = 0; row < 7; ++row) {
         for (int i = 0; i < CaseCount; ++i) {
             Calc.CaseResultSaved[static_cast<std::size_t>(row)][static_cast<std::size_t>(i)] =

@@ -266,6 +266,8 @@ bool ResultsStand(int caseIndex);
 double StandingResult(int row, int caseIndex);
 // The same for the one case of the water hammer program.
 double StandingHammerResult(int row);
+// The same for a number of CaseInput: what the fluid data programs calculate stands there among the inputs.
+double StandingInput(int row, int caseIndex);
 
 // Copies what stands to the shown generation.
 void TakeShown();

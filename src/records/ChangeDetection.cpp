@@ -45,7 +45,10 @@ bool RowsDiffer() {
     for (std::size_t row = 0; row < UnitRowsKept; ++row) {
         if (row >= 21 && row <= 23) continue;
         if (Calc.UnitFactor[row] != Calc.UnitFactorShown[row]) return true;
-        if (Calc.CaseInput[row] != Calc.CaseInputSaved[row]) return true;
+        for (int i = 0; i < CaseCount; ++i) {
+            const double saved = Calc.CaseInputSaved[row][static_cast<std::size_t>(i)];
+            if (StandingInput(static_cast<int>(row), i) != saved) return true;
+        }
         if (!SameText(Calc.UnitName[row], Calc.UnitNameShown[row])) return true;
     }
     return false;

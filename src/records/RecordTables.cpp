@@ -226,6 +226,9 @@ const Line SettingsLines[] = {
     {"Standard Temperature", S, 0, &CalcRecord::StdTemperature},
     {"Standard Pressure", S, 0, &CalcRecord::StdPressure},
     {"Barometric Pressure", S, 0, &CalcRecord::BaroPressure},
+    {"% Vapor Pressure", S, 0, CI(8)},
+    {"% Density", S, 0, CI(9)},
+    {"% Latent Heat at BP", S, 0, CI(16)},
 };
 
 RecordField FieldOf(const Line& line, std::string name, int caseIndex) {

@@ -85,8 +85,8 @@ const RecordTable& FluidDataTable();
 const RecordTable& PressureDropTable();
 const RecordTable& WaterhammerTable();
 const RecordTable& MixtureTable();
-// What the tables above cannot hold: direction, modes and standard conditions. A database made elsewhere may
-// lack it.
+// What the tables above cannot hold: direction, modes, standard conditions, the vapour pressure and density
+// of a line's fluid, the latent heat of a gas at its boiling point. A database made elsewhere may lack it.
 const RecordTable& SettingsTable();
 
 // All seven in the order of their creation, the head first and the settings last.

@@ -75,6 +75,7 @@ std::optional<FieldValue> DateOf(const std::string& text, bool keepsFormer) {
 std::optional<FieldValue> ValueOfCell(const RecordField& field, const Cell& cell) {
     const int row = CellRow(field);
     if (cell.Of == Group::CaseResult) return ResultOf(cell, row);
+    if (cell.Of == Group::CaseInput) return StandingInput(row, cell.Case);
     if (cell.Of == Group::HammerResult) return HammerResultOf(row);
     if (const double* number = NumberCell(cell, row)) return *number;
     const std::string& text = *TextCell(cell, row);
@@ -95,7 +96,7 @@ std::optional<FieldValue> ValueOfMade(const RecordField& field, Made made) {
             if (value == 0 && Calc.TemperatureBlank[At(field.Case)] == 1) return NoValue;
             return value;
         }
-        case Made::NumberAsText: return Str(Calc.CaseInput[4][At(field.Case)]);
+        case Made::NumberAsText: return Str(StandingInput(4, field.Case));
         case Made::Fouling: return NumberToFit(Calc.PipeFouling, At(field.Shape.Size));
         case Made::ForceFactor:
             if (hammer) return Calc.UnitFactor[0];

@@ -51,6 +51,7 @@ const Change Changes[] = {
     {"result", 1, [] { Calc.CaseResult[1][0] += 1; }, "record PD "},
     {"loss per 100", 1, [] { Calc.CaseResult[0][0] += 1; }, ""},
     {"blanked result", 2, [] { Calc.ResultsClearable[2] = words::No; }, "record PD "},
+    {"blanked properties", 4, [] { Calc.ResultsClearable[1] = words::No; }, "record FD "},
     {"result of another program", 4, [] { Calc.CaseResult[1][0] += 1; }, ""},
     {"pipe", 1, [] { Calc.PipeData[3] += 1; }, "record PD "},
     {"fitting", 2, [] { Calc.FittingCount[7] += 1; }, "record PD "},
