@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/Database.h"
@@ -48,7 +49,8 @@ public:
     // The position that the browser shows: 1 for the first record, 0 when there is none.
     int Position();
     int Count() { return static_cast<int>(Tags().size()); }
-    // The first and the last but one index of the tags that start with a text, for search while typing.
+    // The tags that start with a text, for search while typing: the index of the first, and of the first
+    // behind them.
     std::pair<std::size_t, std::size_t> StartingWith(std::string_view text);
 
 private:
