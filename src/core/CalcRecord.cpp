@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/Suite.h"
 #include "core/Words.h"
 #include "platform/Forms.h"
 
@@ -53,11 +54,35 @@ void ResetForNew() {
     for (const std::size_t row : {21U, 22U, 23U}) Calc.CaseInput[row][0] = old.CaseInput[row][0];
 }
 
-void MarkCalculated() {
+bool ResultsStand(int caseIndex) {
+    return Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)] != words::No;
+}
+
+double StandingResult(int row, int caseIndex) {
+    const bool stands =
+        row == 5 ? ResultsStand(0) || ResultsStand(1) || ResultsStand(2) : ResultsStand(caseIndex);
+    return stands ? Calc.CaseResult[static_cast<std::size_t>(row)][static_cast<std::size_t>(caseIndex)] : 0;
+}
+
+double StandingHammerResult(int row) {
+    return ResultsStand(0) ? Calc.HammerResult[static_cast<std::size_t>(row)] : 0;
+}
+
+double StandingInput(int row, int caseIndex) {
+    const bool isTyped = Calc.CurrentProgram < 4 || row == 2 || row == 3 || (row >= 21 && row <= 23);
+    if (!isTyped && !ResultsStand(caseIndex)) return 0;
+    return Calc.CaseInput[static_cast<std::size_t>(row)][static_cast<std::size_t>(caseIndex)];
+}
+
+void TakeShown() {
     std::copy_n(Calc.CaseInput.begin(), 28, Calc.CaseInputShown.begin());
     std::copy_n(Calc.CaseResult.begin(), 6, Calc.CaseResultShown.begin());
     Calc.PipeDataShown = Calc.PipeData;
     Calc.HammerResultShown = Calc.HammerResult;
+}
+
+void MarkCalculated() {
+    TakeShown();
     Calc.RecordUpdated = words::Yes;
     Calc.ChangedFlag = words::No;
 }
@@ -86,10 +111,22 @@ void RestoreShown() {
 }
 
 void TakeSaved() {
-    Calc.CaseInputSaved = Calc.CaseInput;
-    Calc.CaseResultSaved = Calc.CaseResult;
+    for (int row = 0; row < 32; ++row) {
+        for (int i = 0; i < CaseCount; ++i) {
+            Calc.CaseInputSaved[static_cast<std::size_t>(row)][static_cast<std::size_t>(i)] =
+                StandingInput(row, i);
+        }
+    }
+    for (int row = 0; row < 7; ++row) {
+        for (int i = 0; i < CaseCount; ++i) {
+            Calc.CaseResultSaved[static_cast<std::size_t>(row)][static_cast<std::size_t>(i)] =
+                StandingResult(row, i);
+        }
+    }
+    for (int row = 0; row < 19; ++row) {
+        Calc.HammerResultSaved[static_cast<std::size_t>(row)] = StandingHammerResult(row);
+    }
     Calc.PipeDataSaved = Calc.PipeData;
-    Calc.HammerResultSaved = Calc.HammerResult;
     Calc.HeadingTextSaved = Calc.HeadingText;
     Calc.CaseTextSaved = Calc.CaseText;
     Calc.CaseUnitsTextSaved = Calc.CaseUnitsText;
@@ -103,6 +140,9 @@ void TakeSaved() {
     Calc.PipeMaterialSaved = Calc.PipeMaterial;
     Calc.PipeMaterialNumberSaved = Calc.PipeMaterialNumber;
     Calc.TagSaved = Calc.Tag;
+    Calc.ProgramTitleSaved = Calc.ProgramTitle;
+    Calc.RecordChanged = words::No;
+    Calc.LoadedDatabaseFile = Suite.DatabaseFile;
     // Units and fittings have no saved copy of their own: their shown copy is the reference.
     Calc.UnitNameShown = Calc.UnitName;
     Calc.UnitFactorShown = Calc.UnitFactor;

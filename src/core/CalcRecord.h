@@ -186,7 +186,7 @@ struct CalcRecord {
     int CurrentProgram = 0;  // 1 to 5, 0 before a choice
     std::string FluidType;   // "Liquid", "Gas"; set when a program is chosen
     std::string FluidKind;   // "Gas" or empty, for titles
-    std::string ProgramTitle, MethodText;
+    std::string ProgramTitle, ProgramTitleSaved, MethodText;
     std::string FluidName, FluidNameSaved;
     std::string CalcMode, DataMode;
     std::string CalcOption, OtherCalcs;  // option codes as stored
@@ -257,7 +257,23 @@ void SnapshotRecord();
 // Takes the live fields back from the saved generation, which undoes an edit.
 void RestoreShown();
 
-// Copies the live fields to the saved generation, at the end of a load and of a good save.
+// Whether the results of a case stand; an input change since its calculation has blanked them, and neither a
+// refresh nor a save then takes the numbers that are left of them.
+bool ResultsStand(int caseIndex);
+
+// The result of a case as the form shows it: 0 where results do not stand. Row 5, one number for the line,
+// stands as long as any case does.
+double StandingResult(int row, int caseIndex);
+// The same for the one case of the water hammer program.
+double StandingHammerResult(int row);
+// The same for a number of CaseInput: what the fluid data programs calculate stands there among the inputs.
+double StandingInput(int row, int caseIndex);
+
+// Copies what stands to the shown generation.
+void TakeShown();
+
+// Copies the live fields to the saved generation, at the end of a load and of a good save: nothing counts as
+// changed after it, and the record belongs to the database in hand.
 void TakeSaved();
 
 }  // namespace quillmetra

@@ -33,7 +33,8 @@ struct SuiteState {
     Row<UnitList, 21> UnitLibrary{};  // the unit lists 0 to 20, see units/UnitCatalogue.h
     UnitList PressureStem{};          // pressure units without the ending "g" or "a"
     std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded
-    std::string DatabaseFile, DatabasePath, BrowsePath;
+    std::string DatabaseFile, DatabasePath, BrowsePath;        // full name of the file; its folder
+    int RecordTotal = 0;                                       // records of DatabaseFile after the last save
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;
     std::string TableKind;  // the table that the editor is to open: "Gas", "Liquid", ...

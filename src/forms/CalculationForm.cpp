@@ -226,6 +226,7 @@ int CalculationForm::InputSlot(const Control& box) const {
 
 void CalculationForm::SaveChanges() {
     StoreForm();
+    if (!mnuSave.Enabled()) return Calc.SaveAnswer.clear();  // nothing can be saved yet
     DetectChanges();
     Calc.SaveAnswer.clear();
     if (Calc.RecordChanged == words::Yes) {

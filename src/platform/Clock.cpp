@@ -4,14 +4,50 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <optional>
 
 namespace quillmetra {
 
 namespace {
 std::string FixedDay;
 
+// Two digits at least.
+std::string Padded(unsigned number) {
+    std::string text = std::to_string(number);
+    if (text.size() < 2) text.insert(0, 1, '0');
+    return text;
+}
+
 std::string Written(int year, unsigned month, unsigned day) {
-    return std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year);
+    return Padded(month) + "/" + Padded(day) + "/" + std::to_string(year);
+}
+
+struct Day {
+    int Year = 0;
+    unsigned Month = 0, Day = 0;
+
+    bool IsDay() const {
+        using namespace std::chrono;
+        return Year >= 1000 && Year <= 9999 && year_month_day(year(Year), month(Month), day(Day)).ok();
+    }
+};
+
+// Whole texts alone: nothing may follow the day.
+std::optional<Day> ParseIso(const std::string& text) {
+    Day day;
+    char rest = 0;
+    if (std::sscanf(text.c_str(), "%4d-%2u-%2u%c", &day.Year, &day.Month, &day.Day, &rest) != 3) return {};
+    if (!day.IsDay()) return {};
+    return day;
+}
+
+std::optional<Day> ParseMonthFirst(const std::string& text) {
+    Day day;
+    char rest = 0;
+    if (std::sscanf(text.c_str(), "%2u/%2u/%4d%c", &day.Month, &day.Day, &day.Year, &rest) != 3) return {};
+    if (text.size() - text.rfind('/') == 3) day.Year += day.Year < 30 ? 2000 : 1900;
+    if (!day.IsDay()) return {};
+    return day;
 }
 }  // namespace
 
@@ -28,16 +64,22 @@ bool SetToday(const std::string& isoDay) {
         FixedDay.clear();
         return true;
     }
-    int year = 0;
-    unsigned month = 0;
-    unsigned day = 0;
-    char rest = 0;
-    if (std::sscanf(isoDay.c_str(), "%4d-%2u-%2u%c", &year, &month, &day, &rest) != 3) return false;
-    const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month),
-                                           std::chrono::day(day)};
-    if (!date.ok()) return false;
-    FixedDay = Written(year, month, day);
+    const std::optional<Day> day = ParseIso(isoDay);
+    if (!day) return false;
+    FixedDay = Written(day->Year, day->Month, day->Day);
     return true;
+}
+
+std::string DateText(const std::string& isoDay) {
+    const std::optional<Day> day = ParseIso(isoDay);
+    return day ? Written(day->Year, day->Month, day->Day) : "";
+}
+
+std::string IsoDate(const std::string& text) {
+    std::optional<Day> day = ParseIso(text);
+    if (!day) day = ParseMonthFirst(text);
+    if (!day) return "";
+    return std::to_string(day->Year) + "-" + Padded(day->Month) + "-" + Padded(day->Day);
 }
 
 }  // namespace quillmetra

@@ -76,14 +76,6 @@ fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
     return folder / wanted;
 }
 
-// Renaming over a file would not ask whether its owner allows it to be written.
-bool IsWriteProtected(const fs::path& path) {
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    constexpr fs::perms anyone = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    return fs::exists(status) && (status.permissions() & anyone) == fs::perms::none;
-}
-
 }  // namespace
 
 fs::path MachinePath(std::string_view suitePath) {
@@ -104,6 +96,13 @@ std::string SuitePath(const fs::path& path) { return path.string(); }
 bool FileExists(std::string_view suitePath) {
     std::error_code error;
     return fs::is_regular_file(MachinePath(suitePath), error);
+}
+
+bool IsWriteProtected(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    constexpr fs::perms anyone = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    return fs::exists(status) && (status.permissions() & anyone) == fs::perms::none;
 }
 
 std::string ReadBytes(std::string_view suitePath) {

@@ -215,10 +215,6 @@ void ShowLine(Form& form, int program) {
 
 }  // namespace
 
-bool ResultsStand(int caseIndex) {
-    return Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)] != words::No;
-}
-
 void PaintTick(CheckBox& box, double shown) {
     constexpr int frameText = 2;  // a tick stands on the frame, not in an input box
     const int slot = ValueSlot(box.Checked() ? 2 : 1, shown);

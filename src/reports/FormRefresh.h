@@ -20,10 +20,6 @@ void ShowWaterHammer();
 void ShowLiquidData();
 void ShowGasData();
 
-// Whether the results of a case stand; an input change since its calculation has blanked them, and a refresh
-// then leaves them blank.
-bool ResultsStand(int caseIndex);
-
 // Paints a tick box in the changed colour when it differs from the flag that was last calculated or loaded.
 void PaintTick(CheckBox& box, double shown);
 

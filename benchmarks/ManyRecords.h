@@ -1,0 +1,91 @@
+// A database of 100,000 records in a folder that lasts as long as the process, and the same head rows written
+// by the bare engine.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <sstream>
+#include <string>
+
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "platform/TextFiles.h"
+#include "records/RecordFiles.h"
+#include "records/RecordTables.h"
+#include "records/RecordTransfer.h"
+#include "script/ScriptHost.h"
+#include "script/TemporaryFolder.h"
+#include "units/NamedUnitSets.h"
+
+namespace quillmetra {
+
+constexpr int ManyRecords = 100000;
+
+// Tags in no order, as they come about in an office.
+inline std::string TagOf(int i) { return "FT-" + std::to_string(i * 7919LL % 1000003); }
+
+inline void TakeRecord(int i) {
+    Calc = CalcRecord();
+    Calc.CurrentProgram = 1;
+    Calc.FluidType = words::Liquid;
+    ApplyNamedUnitSet(1);
+    Calc.Tag = TagOf(i);
+    Calc.FluidName = "Water";
+    Calc.ProgramTitle = FindProgram(1)->Title;
+    Calc.CaseText[8] = "by";
+    Calc.CaseText[10] = "11/24/2026";
+    Calc.CaseText[11] = i == ManyRecords / 2 ? "11/25/2026" : "11/20/2026";
+    Calc.OtherCalcs = "PDXXXXXX";
+    Calc.CalcOption = "SGGANXXX";
+    for (std::size_t row = 0; row < 13; ++row) Calc.CaseInput[row].fill(static_cast<double>(i));
+}
+
+inline void AddRow(Recordset& rows, const RecordTable& table) {
+    const RowValues values = RowOfRecord(table);
+    rows.AddNew();
+    for (std::size_t f = 0; f < values.size(); ++f) {
+        if (values[f]) rows.Set(f, *values[f]);
+    }
+    rows.Update();
+}
+
+// Every head with its rows of units and of the line; the name of the file.
+inline const std::string& ManyRecordsFile() {
+    static const TemporaryFolder folder;
+    static std::ostringstream out;
+    static ScriptHost host(out);
+    static const std::string file = [] {
+        InstallHost(&host);
+        Suite = SuiteState();
+        Suite.DatabasePath = SuitePath(folder.Path());
+        CreateDB(true);
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        Transaction all(*database);
+        for (const RecordTable* table :
+             {&HeadTable(), &UnitsTable(), &PressureDropTable(), &SettingsTable()}) {
+            Recordset rows(*database, table->Shape);
+            for (int i = 0; i < ManyRecords; ++i) {
+                TakeRecord(i);
+                AddRow(rows, *table);
+            }
+        }
+        all.Commit();
+        return Suite.DatabaseFile;
+    }();
+    Suite.DatabaseFile = file;
+    return file;
+}
+
+// A new database for a comparison of inserts, with one table of heads.
+class EmptyHeads {
+public:
+    EmptyHeads() { Database::Create(File(), Kind, {HeadTable().Shape}); }
+    std::filesystem::path File() const { return folder_.Path() / "heads.db"; }
+    static constexpr DatabaseKind Kind = {.Application = 1, .Schema = 1};
+
+private:
+    TemporaryFolder folder_;
+};
+
+}  // namespace quillmetra

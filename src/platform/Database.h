@@ -1,0 +1,201 @@
+// Tables with a text key on one SQLite file, in the operations that the suite works with: seek a key, walk in
+// key order, add, edit, delete, in transactions.
+//
+// Keys compare as KeyOrder.h tells. A single field keeps 32 bits and reads back as the shortest decimal text
+// of its value, so 0.1 comes back as 0.1. The engine's failures are RuntimeErrors with its own words and a
+// number from 3000 on.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/RuntimeError.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace quillmetra {
+
+enum class FieldType { Text, Integer, Single, Date };
+
+struct FieldShape {
+    std::string Name;
+    FieldType Type = FieldType::Text;
+    int Size = 0;  // of a text, in characters
+};
+
+// The first field is the key, a text.
+struct TableShape {
+    std::string Name;
+    std::vector<FieldShape> Fields;
+};
+
+// Empty, a number (integer, single), or a text (text, and date as "2026-11-24").
+using FieldValue = std::variant<std::monostate, double, std::string>;
+
+// A value as its field keeps it: a number that is not finite becomes empty, an integer is rounded half to
+// even, a single goes through 32 bits. Throws for a text that is too long and a number out of range, naming
+// the field.
+FieldValue FittedValue(const FieldShape& field, FieldValue value);
+
+namespace failure {
+inline RuntimeError NoIndex() { return {3019, "Seek needs an index"}; }
+inline RuntimeError NothingToUpdate() { return {3020, "Update needs AddNew or Edit before it"}; }
+inline RuntimeError NoCurrentRecord() { return {3021, "No current record."}; }
+inline RuntimeError NoSuchField(std::string_view name) {
+    return {3265, "Field '" + std::string(name) + "' does not exist"};
+}
+inline RuntimeError DatabaseInvalid() { return {3343, "Open failed (Database invalid)"}; }
+inline RuntimeError DatabaseNewer() {
+    return {3344, "This database was made by a later version of the suite and cannot be used by this one"};
+}
+}  // namespace failure
+
+// What tells a database of the suite from any other file.
+struct DatabaseKind {
+    std::uint32_t Application = 0;
+    int Schema = 0;  // the newest that is understood
+};
+
+class Database {
+public:
+    // Opens a database that exists. A file that is none of this kind, and one of a newer schema, is refused
+    // before the engine touches it. A file that nobody may write is opened for reading.
+    Database(const std::filesystem::path& file, const DatabaseKind& kind);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    // Makes a file with these tables, where there is none; a failure leaves none.
+    static void Create(const std::filesystem::path& file, const DatabaseKind& kind,
+                       const std::vector<TableShape>& tables);
+
+    bool HasTable(std::string_view name);
+    // Adds a table that is absent. Inside a transaction it goes with it.
+    void AddTable(const TableShape& table);
+
+    // Writes a copy without gaps, sorted by key, to a file that must not exist.
+    void CompactInto(const std::filesystem::path& file);
+    void Reindex();
+    // The first fault that the engine finds in the file; empty for none.
+    std::string Fault();
+    // A number that changes whenever the file does, by whatever process.
+    std::int64_t Version();
+    // False when the engine has given up a transaction by itself, as on a full disk.
+    bool InTransaction() const;
+
+    // How long a locked file is waited for.
+    static inline int BusyMilliseconds = 5000;
+
+private:
+    friend class Recordset;
+    friend class Transaction;
+
+    Database() = default;
+    void Open(const std::filesystem::path& file, int flags);
+    void Execute(const std::string& sql);
+    // A statement stays prepared for the life of the database.
+    sqlite3_stmt* Prepared(const std::string& sql);
+    [[noreturn]] void Fail() const;
+
+    sqlite3* handle_ = nullptr;
+    std::map<std::string, sqlite3_stmt*> statements_;
+    int depth_ = 0;
+};
+
+// Changes between its start and Commit come about together or, without Commit, not at all. One inside another
+// can be undone alone. The file is locked for writing from the start of the outermost.
+class Transaction {
+public:
+    explicit Transaction(Database& database);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    void Commit();
+
+private:
+    Database& database_;
+    int level_;
+    bool open_ = true;
+};
+
+// The rows of one table. It stands on the first row when it is made. No lock is held between two calls.
+class Recordset {
+public:
+    Recordset(Database& database, const TableShape& table);
+    // On no row, nothing read: for a damaged file.
+    struct Unplaced {};
+    Recordset(Database& database, const TableShape& table, Unplaced);
+
+    void Index(std::string_view name);  // "Tag_Number", the key of each table
+    bool Seek(std::string_view key);    // false, NoMatch and no current row when there is none
+    bool NoMatch() const { return noMatch_; }
+
+    // A move over the end (start) leaves no current row and AtEnd (AtStart); a move from there, and any move
+    // in an empty table, throws "No current record."
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    void MovePrevious();
+    bool AtEnd() const { return place_ == Place::End || place_ == Place::Empty; }
+    bool AtStart() const { return place_ == Place::Start || place_ == Place::Empty; }
+
+    std::int64_t RecordCount();
+    // All keys in their order, at one go.
+    std::vector<std::string> Keys();
+    // The same as far as a damaged file can be read.
+    std::vector<std::string> ReadableKeys();
+
+    // Fields of the current row.
+    const FieldValue& Value(std::string_view field) const;
+    const FieldValue& Value(std::size_t field) const;
+    std::string Text(std::string_view field) const;  // empty for an empty field
+    double Number(std::string_view field) const;     // 0 for an empty field
+
+    // AddNew starts an empty row, Edit a copy of the current one; Update writes it. After AddNew the former
+    // row stays current. What is set but not updated is dropped by the next move.
+    void AddNew();
+    void Edit();
+    void Set(std::string_view field, FieldValue value);
+    void Set(std::size_t field, FieldValue value);
+    // Sets all fields to those of another recordset's current row.
+    void SetAll(const Recordset& other);
+    void Update();
+    // The deleted row stays current, without fields, until a move.
+    void Delete();
+
+    // For what can still be read of a damaged file: the row with an inner number of the engine, made
+    // current; false when there is none or it cannot be read. Rows are numbered from 1, with gaps.
+    bool ReadNumbered(std::int64_t number);
+    std::int64_t LargestNumber();
+
+private:
+    enum class Place { Empty, Start, Row, Deleted, End, Nowhere };
+    enum class Act { Seek, First, Last, Next, Previous, Count, Insert, Update, Delete, Numbered, Largest };
+
+    sqlite3_stmt* Statement(Act act);
+    std::string SqlOf(Act act) const;
+    bool Fetch(Act act, std::string_view key = {});
+    void ReadRow(sqlite3_stmt* statement);
+    bool AppendKeys(std::vector<std::string>& keys);
+    void Step(Act act, Place past);
+    std::size_t FieldNumber(std::string_view name) const;
+    std::string Key() const;
+
+    Database& database_;
+    const TableShape& table_;
+    std::array<sqlite3_stmt*, 11> statements_{};
+    std::vector<FieldValue> row_, buffer_;
+    Place place_ = Place::Empty;
+    bool indexed_ = false, noMatch_ = false;
+    enum class Buffer { None, New, Edited } buffered_ = Buffer::None;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,15 @@
+// The order of record keys: by characters without regard to case, for the letters of the western, Greek and
+// Cyrillic alphabets as well as for A to Z, and independent of the machine's language.
+//
+// Databases on disk are sorted by it: a change of this order leaves the tags of an existing file unfindable,
+// so it must go with a new schema number and a rebuilding of the keys.
+#pragma once
+
+#include <string_view>
+
+namespace quillmetra {
+
+// Below 0, 0 or above 0 as the first UTF-8 text stands before, beside or behind the second.
+int CompareKeys(std::string_view a, std::string_view b);
+
+}  // namespace quillmetra

@@ -1,0 +1,56 @@
+// The database file TRDB.MDB as a whole: create, open, compact, repair. At every moment of these there is a
+// whole database under the name, the former or the new one.
+//
+// Files are named in the suite's words, with "\" or "/" between the parts. Failures are RuntimeErrors with
+// words for the user, unless a routine says otherwise. A caller closes its own view of a file (RecordView)
+// before it has the file replaced.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Database.h"
+
+namespace quillmetra {
+
+// Folder & "\TRDB.MDB".
+std::string DatabaseFileOf(const std::string& folder);
+
+// Whether a file is named TRDB.MDB, in whatever case: the whole name, not just its end.
+bool IsDatabaseName(const std::string& file);
+std::string FolderOf(const std::string& file);
+
+// Opens a database and checks that it is one of the suite's with its six tables. "Open failed (Database
+// invalid)" for anything else, which is left untouched; a database of a later version, a locked one and a
+// damaged one are refused in words of their own.
+std::unique_ptr<Database> OpenRecords(const std::string& file);
+
+// Makes an empty database in Suite.DatabasePath and tells so with the title Calc.MessageTitle; sets
+// Suite.DatabaseFile. A database that is there already is replaced without a question when the user has
+// agreed and it may be written; else the user is asked. False when the user said No.
+bool CreateDB(bool agreed);
+
+// Rewrites the database without the room of deleted records. The former file stays as the one backup
+// TRDB.BAK.
+void CompactDB(const std::string& folder);
+
+struct RepairReport {
+    bool WasDamaged = false;
+    std::vector<std::string> Lost;  // what could not be read, in words; empty when all was kept
+    std::string KeptAs;             // where the damaged file stays
+};
+// Checks the database. A sound one gets its keys sorted anew; of a damaged one all that can be read goes to a
+// new file, and the damaged file stays beside it as TRDB.BAD.
+RepairReport RepairDB(const std::string& folder);
+// The report in words for the user; empty for a sound database.
+std::string RepairText(const RepairReport& report);
+
+// Removes a record's rows from all tables. False with "Database is empty" when there are none.
+bool DeleteRecord(const std::string& file, const std::string& tag);
+
+// Copies a record's rows to another database, over those of the same tag if there are any. False when the
+// tag is not in the first.
+bool CopyRecord(const std::string& fromFile, const std::string& tag, const std::string& toFile);
+
+}  // namespace quillmetra

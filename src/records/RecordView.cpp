@@ -1,0 +1,138 @@
+// See RecordView.h.
+#include "records/RecordView.h"
+
+#include <algorithm>
+
+#include "core/Words.h"
+#include "platform/Clock.h"
+#include "platform/KeyOrder.h"
+#include "platform/NumberText.h"
+#include "platform/Utf8.h"
+#include "records/RecordFiles.h"
+#include "records/RecordTables.h"
+
+namespace quillmetra {
+
+namespace {
+
+const char* CalculationOf(int storedProgramNumber) {
+    const int program = storedProgramNumber > 90 ? storedProgramNumber / 100 : storedProgramNumber;
+    const RecordTable* const table = ProgramTable(program);
+    if (table == nullptr) return "";
+    if (table == &PressureDropTable()) return "Pressure drop";
+    return table == &WaterhammerTable() ? "Waterhammer" : "Fluid data";
+}
+
+bool IsBefore(std::string_view a, std::string_view b) { return CompareKeys(a, b) < 0; }
+
+// Days in year-month-day form compare as texts.
+bool IsOutdated(const Recordset& heads) {
+    const std::string data = IsoDate(heads.Text("Data Date"));
+    const std::string calculated = IsoDate(heads.Text("Calc Date"));
+    return !data.empty() && !calculated.empty() && data > calculated;
+}
+
+}  // namespace
+
+RecordView::RecordView(const std::string& file)
+    : database_(OpenRecords(file)), heads_(*database_, HeadTable().Shape) {
+    heads_.Index("Tag_Number");
+    hasRecord_ = !heads_.AtEnd();
+    if (hasRecord_) TakeHead();
+}
+
+bool RecordView::TakeHead() {
+    const auto text = [this](const char* field) { return std::string(Trim(heads_.Text(field))); };
+    head_.Tag = text("Tag");
+    head_.FluidType = text("Fluid Type");
+    head_.ProgramNumber = static_cast<int>(heads_.Number("Program Number"));
+    head_.Calculation = CalculationOf(head_.ProgramNumber);
+    head_.ProgramName = text("Program Name");
+    head_.FluidName = text("Fluid Name");
+    head_.CalcBy = text("Calc By");
+    head_.ApprovedBy = text("Approv By");
+    head_.DataDate = DateText(text("Data Date"));
+    head_.CalcDate = DateText(text("Calc Date"));
+    head_.OtherCalcs = text("Other Calcs");
+    head_.IsOutdated = IsOutdated(heads_);
+    return hasRecord_ = true;
+}
+
+void RecordView::First() {
+    if (!hasRecord_) return;
+    heads_.MoveFirst();
+    TakeHead();
+}
+
+void RecordView::Last() {
+    if (!hasRecord_) return;
+    heads_.MoveLast();
+    TakeHead();
+}
+
+void RecordView::Next() {
+    if (!hasRecord_) return;
+    heads_.MoveNext();
+    if (heads_.AtEnd()) heads_.MoveLast();
+    TakeHead();
+}
+
+void RecordView::Previous() {
+    if (!hasRecord_) return;
+    heads_.MovePrevious();
+    if (heads_.AtStart()) heads_.MoveFirst();
+    TakeHead();
+}
+
+bool RecordView::Find(std::string_view tag) {
+    if (heads_.Seek(Trim(tag))) return TakeHead();
+    if (hasRecord_) heads_.Seek(head_.Tag);
+    return false;
+}
+
+bool RecordView::NextOutdated(bool fromStart) {
+    if (!hasRecord_) return false;
+    const std::string before = head_.Tag;
+    fromStart ? heads_.MoveFirst() : heads_.MoveNext();
+    for (; !heads_.AtEnd(); heads_.MoveNext()) {
+        if (IsOutdated(heads_)) return TakeHead();
+    }
+    heads_.Seek(before);
+    return false;
+}
+
+void RecordView::LeaveDeleted() {
+    const std::vector<std::string>& tags = Tags();
+    hasRecord_ = !tags.empty();
+    if (!hasRecord_) {
+        head_ = {};
+        return;
+    }
+    Find(tags[std::min(IndexOf(head_.Tag), tags.size() - 1)]);
+}
+
+const std::vector<std::string>& RecordView::Tags() {
+    if (const std::int64_t version = database_->Version(); version != tagsVersion_) {
+        tags_ = heads_.Keys();
+        tagsVersion_ = version;
+    }
+    return tags_;
+}
+
+std::size_t RecordView::IndexOf(std::string_view tag) {
+    const std::vector<std::string>& tags = Tags();
+    return static_cast<std::size_t>(std::lower_bound(tags.begin(), tags.end(), tag, IsBefore) - tags.begin());
+}
+
+int RecordView::Position() { return hasRecord_ ? static_cast<int>(IndexOf(head_.Tag)) + 1 : 0; }
+
+std::pair<std::size_t, std::size_t> RecordView::StartingWith(std::string_view text) {
+    const std::size_t length = CharacterCount(text);
+    const std::size_t first = IndexOf(text);
+    const auto last = std::partition_point(
+        tags_.begin() + static_cast<std::ptrdiff_t>(first), tags_.end(),
+        [&](const std::string& tag) { return CompareKeys(FirstCharacters(tag, length), text) == 0; });
+    return {first, static_cast<std::size_t>(last - tags_.begin())};
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,251 @@
+// See SaveRecord.h.
+#include "records/SaveRecord.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/CalcRecord.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "platform/Dialogs.h"
+#include "platform/NumberText.h"
+#include "platform/TextCase.h"
+#include "records/ChangeDetection.h"
+#include "records/RecordFiles.h"
+#include "records/RecordTables.h"
+#include "records/RecordTransfer.h"
+
+namespace quillmetra {
+
+namespace {
+
+bool IsYes(const std::string& word) { return word == words::Yes; }
+const char* YesIf(bool yes) { return yes ? words::Yes : words::No; }
+
+// Which word asks for the row of a program, which tells that it was loaded, and its pair of OtherCalcs.
+struct RowWords {
+    const RecordTable& (*Table)();
+    std::string CalcRecord::*Save;
+    std::string CalcRecord::*Loaded;
+    std::size_t Position;  // of the pair, counted from 1
+    const char* Code;
+};
+constexpr RowWords RowsOfPrograms[] = {
+    {PressureDropTable, &CalcRecord::SavePDRow, &CalcRecord::PDRowLoaded, 1, "PD"},
+    {FluidDataTable, &CalcRecord::SaveFDRow, &CalcRecord::FDRowLoaded, 3, "FD"},
+    {WaterhammerTable, &CalcRecord::SaveWHRow, &CalcRecord::WHRowLoaded, 5, "WH"},
+};
+
+const RowWords* RowWordsInHand() {
+    for (const RowWords& each : RowsOfPrograms) {
+        if (&each.Table() == ProgramTable(Calc.CurrentProgram)) return &each;
+    }
+    return nullptr;
+}
+
+void SetCode(std::string& codes, std::size_t position, const std::string& code) {
+    if (codes.size() < 8) codes.resize(8, 'X');
+    codes.replace(position - 1, code.size(), code);
+}
+
+// A record that goes to another database than it came from is written whole.
+void MarkEverything() {
+    Calc.SavePDRow = Calc.SaveFDRow = Calc.SaveWHRow = words::No;
+    Calc.SaveAll = words::Yes;
+    Calc.MixtureSave = YesIf(IsYes(Calc.MixtureFlag));
+    if (const RowWords* row = RowWordsInHand()) Calc.*(row->Save) = Calc.*(row->Loaded) = words::Yes;
+}
+
+void FindWhatToSave() {
+    Calc.ChangedFlag = words::Yes;
+    if (SameName(Suite.DatabaseFile, Calc.LoadedDatabaseFile)) {
+        DetectChanges();
+    } else {
+        MarkEverything();
+    }
+}
+
+bool HasRow(Database& database, const RecordTable& table) {
+    Recordset rows(database, table.Shape);
+    rows.Index("Tag_Number");
+    return rows.Seek(Calc.Tag);
+}
+
+// A row that is not there is written whatever was detected, and so is that of another tag's record which is
+// about to be overwritten: no save leaves a head without its row, or with the row of another record.
+void AddMissingRows(Database& database) {
+    const bool newTag = !SameName(Calc.Tag, std::string(Trim(Calc.TagSaved)));
+    if (const RowWords* row = RowWordsInHand()) {
+        if (newTag || !HasRow(database, row->Table())) Calc.*(row->Save) = words::Yes;
+    }
+    if (IsYes(Calc.MixtureFlag) && (newTag || !HasRow(database, MixtureTable())))
+        Calc.MixtureSave = words::Yes;
+}
+
+void ComposeCodes() {
+    SetCode(Calc.CalcOption, 1, Calc.LiquidDensityMode == words::Density ? "DN" : "SG");
+    SetCode(Calc.CalcOption, 3, Calc.PressureMode == words::Absolute ? "AB" : "GA");
+    SetCode(Calc.CalcOption, 5, Calc.FluidDataSource == words::Loaded ? "L" : "N");
+
+    if (!IsYes(Calc.MixtureFlag)) Calc.MixtureSave.clear();
+    SetCode(Calc.OtherCalcs, 7, IsYes(Calc.MixtureFlag) ? "MX" : "XX");
+    if (Calc.SteamKind == words::Superheated) SetCode(Calc.OtherCalcs, 7, "SU");
+    if (Calc.SteamKind == words::Saturated) SetCode(Calc.OtherCalcs, 7, "SA");
+    if (const RowWords* row = RowWordsInHand(); row != nullptr && IsYes(Calc.*(row->Save))) {
+        SetCode(Calc.OtherCalcs, row->Position, row->Code);
+    }
+}
+
+// Throws for the first text that is too long for its field, and for a number that no field can hold.
+void CheckFields() {
+    RowOfRecord(HeadTable());
+    RowOfRecord(UnitsTable());
+    if (const RecordTable* table = ProgramTable(Calc.CurrentProgram)) RowOfRecord(*table);
+    if (IsYes(Calc.MixtureFlag)) RowOfRecord(MixtureTable());
+    RowOfRecord(SettingsTable());
+}
+
+void WriteRow(Recordset& rows, const RecordTable& table) {
+    const RowValues values = RowOfRecord(table);
+    if (rows.Seek(Calc.Tag)) {
+        rows.Edit();
+    } else {
+        rows.AddNew();
+    }
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (values[i]) rows.Set(i, *values[i]);
+    }
+    rows.Update();
+}
+
+void SaveRow(Database& database, const RecordTable& table) {
+    Calc.Tag = std::string(Trim(Calc.Tag));
+    if (Calc.Tag.empty()) {
+        return Tell("Each record must have a unique Tag Number",
+                    &table == &MixtureTable() ? "Mixture File" : Suite.DatabaseFile, Icon::Stop);
+    }
+    Recordset rows(database, table.Shape);
+    rows.Index("Tag_Number");
+    WriteRow(rows, table);
+}
+
+void DeleteRow(Database& database, const RecordTable& table) {
+    Recordset rows(database, table.Shape);
+    rows.Index("Tag_Number");
+    if (rows.Seek(Calc.Tag)) rows.Delete();
+}
+
+// Rows that the record does not have: of other programs, and of a mixture that is none any more.
+void DeleteLeftovers(Database& database) {
+    const RowWords* const own = RowWordsInHand();
+    for (const RowWords& each : RowsOfPrograms) {
+        if (&each != own) DeleteRow(database, each.Table());
+    }
+    if (!IsYes(Calc.MixtureFlag)) DeleteMixtureRow(database);
+}
+
+// A row that the database refuses is undone alone.
+void TrySave(void (*save)(Database&), Database& database, std::vector<std::string>& refused) {
+    try {
+        Transaction row(database);
+        save(database);
+        row.Commit();
+    } catch (const RuntimeError& error) {
+        if (!database.InTransaction()) throw;  // the engine has given up the whole save
+        refused.push_back(error.Description);
+    }
+}
+
+std::vector<std::string> SaveRows(Database& database) {
+    std::vector<std::string> refused;
+    TrySave(SaveTRUnits, database, refused);
+    if (IsYes(Calc.SavePDRow)) TrySave(SaveTRDB, database, refused);
+    if (IsYes(Calc.SaveWHRow)) TrySave(SaveWHCalc, database, refused);
+    if (IsYes(Calc.SaveFDRow)) TrySave(SaveFDCalc, database, refused);
+    if (IsYes(Calc.MixtureSave)) TrySave(SaveMixture, database, refused);
+    TrySave(SaveSettings, database, refused);
+    TrySave(DeleteLeftovers, database, refused);
+    return refused;
+}
+
+// Rows of other programs are not asked for, whatever words an earlier record has left.
+void DropForeignFlags() {
+    const RowWords* const own = RowWordsInHand();
+    for (const RowWords& each : RowsOfPrograms) {
+        if (&each != own) Calc.*(each.Save) = words::No;
+    }
+}
+
+void TakeAsSaved() {
+    Calc.SaveAll = Calc.SavePDRow = Calc.SaveFDRow = Calc.SaveWHRow = Calc.MixtureSave = words::No;
+    Calc.InputChanged.clear();
+    Calc.InCalculation = words::Yes;
+    Calc.ChangedFlag.clear();
+    Calc.RecordUpdated.clear();
+    TakeSaved();
+}
+
+bool WriteRecord() {
+    const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+    Recordset heads(*database, HeadTable().Shape);
+    heads.Index("Tag_Number");
+    bool mayOverwrite = false;
+    std::vector<std::string> refused;
+    for (bool done = false; !done;) {
+        // The question waits outside the transaction, and another process may save the same tag meanwhile.
+        if (heads.Seek(Calc.Tag) && !mayOverwrite) {
+            mayOverwrite =
+                AskYesNo("Tag Number is on file\nOverwrite the existing record?", "Calculation Save");
+            if (!mayOverwrite) return false;
+        }
+        Transaction all(*database);
+        if (heads.Seek(Calc.Tag) && !mayOverwrite) continue;
+        AddMissingRows(*database);
+        DropForeignFlags();
+        ComposeCodes();
+        WriteRow(heads, HeadTable());
+        database->AddTable(SettingsTable().Shape);
+        refused = SaveRows(*database);
+        all.Commit();
+        done = true;
+    }
+    Suite.RecordTotal = static_cast<int>(heads.RecordCount());
+    for (const std::string& each : refused) Tell(each, Suite.DatabaseFile, Icon::Stop);
+    return refused.empty();
+}
+
+}  // namespace
+
+bool SaveTRCalc() {
+    Calc.Tag = std::string(Trim(Calc.Tag));
+    if (Calc.Tag.empty()) {
+        Tell("Each record must have a unique Tag number", Suite.DatabaseFile, Icon::Stop);
+        return false;
+    }
+    const std::string updated = Calc.RecordUpdated;
+    try {
+        FindWhatToSave();
+        ComposeCodes();
+        CheckFields();
+        if (WriteRecord()) {
+            TakeAsSaved();
+            return true;
+        }
+    } catch (const RuntimeError& error) {
+        Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
+    }
+    Calc.RecordUpdated = updated;  // the detection has dropped it, and the record is still to be saved
+    return false;
+}
+
+void SaveTRUnits(Database& database) { SaveRow(database, UnitsTable()); }
+void SaveTRDB(Database& database) { SaveRow(database, PressureDropTable()); }
+void SaveWHCalc(Database& database) { SaveRow(database, WaterhammerTable()); }
+void SaveFDCalc(Database& database) { SaveRow(database, FluidDataTable()); }
+void SaveMixture(Database& database) { SaveRow(database, MixtureTable()); }
+void SaveSettings(Database& database) { SaveRow(database, SettingsTable()); }
+
+void DeleteMixtureRow(Database& database) { DeleteRow(database, MixtureTable()); }
+
+}  // namespace quillmetra

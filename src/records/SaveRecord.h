@@ -1,0 +1,27 @@
+// Saves the record in hand under its tag: the head row, the units, the program's own row, the mixture and the
+// settings, in one transaction.
+#pragma once
+
+#include "platform/Database.h"
+
+namespace quillmetra {
+
+// Saves the record to Suite.DatabaseFile, which must exist. Every text is checked first, so that one that is
+// too long refuses the save, naming its field, with nothing written. A tag that is on file is overwritten
+// after a question. True when all is saved: the record then counts as unchanged, InCalculation is "Yes" and
+// Suite.RecordTotal tells the number of records. False after a refusal, which the user has been told of; the
+// record then still counts as changed. When a row beside the head is refused by the database the head stays.
+bool SaveTRCalc();
+
+// The row of each table, over the one of the same tag if there is one. Failures are RuntimeErrors.
+void SaveTRUnits(Database& database);
+void SaveTRDB(Database& database);    // line loss, programs 1 and 2
+void SaveWHCalc(Database& database);  // water hammer, program 3
+void SaveFDCalc(Database& database);  // fluid data, programs 4 and 5
+void SaveMixture(Database& database);
+void SaveSettings(Database& database);
+
+// Removes the mixture of the record in hand, if it has one.
+void DeleteMixtureRow(Database& database);
+
+}  // namespace quillmetra

@@ -1,0 +1,109 @@
+// The behaviour of recordsets that the suite relies on, and the order of keys.
+#include "platform/Database.h"
+
+#include "platform/KeyOrder.h"
+#include "tests/SuiteFixture.h"
+
+namespace quillmetra {
+namespace {
+
+constexpr DatabaseKind Kind = {.Application = 0x54455354, .Schema = 1};
+
+const TableShape Tanks = {"Odd \"name\"", {{"Tag", FieldType::Text, 10}, {"SG @ FTP", FieldType::Single}}};
+
+class DatabaseTest : public SuiteTest {
+protected:
+    DatabaseTest() { Database::Create(File(), Kind, {Tanks}); }
+
+    std::filesystem::path File() const { return Folder / "tanks.db"; }
+
+    static void Add(Recordset& rows, const std::string& tag, double value = 0) {
+        rows.AddNew();
+        rows.Set("Tag", tag);
+        rows.Set("SG @ FTP", value);
+        rows.Update();
+    }
+};
+
+TEST_F(DatabaseTest, MovesSeeksAndEdits) {
+    Database database(File(), Kind);
+    Recordset rows(database, Tanks);
+    EXPECT_TRUE(rows.AtEnd() && rows.AtStart());
+    EXPECT_THROW(rows.MoveFirst(), RuntimeError);
+    EXPECT_THROW(rows.MoveNext(), RuntimeError);
+    EXPECT_THROW(rows.Seek("T-1"), RuntimeError) << "no index yet";
+    EXPECT_THROW(rows.Index("Other"), RuntimeError);
+    rows.Index("Tag_Number");
+    EXPECT_FALSE(rows.Seek("T-1"));
+    EXPECT_TRUE(rows.NoMatch());
+    EXPECT_THROW(rows.Edit(), RuntimeError) << "no current record";
+    EXPECT_THROW(rows.Set("Tag", "x"), RuntimeError) << "neither AddNew nor Edit";
+
+    for (const char* tag : {"T-2", "t-1", "T-3"}) Add(rows, tag, 0.1);
+    EXPECT_EQ(rows.RecordCount(), 3);
+    EXPECT_THROW(Add(rows, "T-1"), RuntimeError) << "the key is taken";
+    rows.MoveFirst();
+    Add(rows, "T-9");
+    EXPECT_EQ(rows.Text("Tag"), "t-1") << "a new row leaves the former one current";
+    EXPECT_THROW(rows.Value("Level"), RuntimeError);
+    rows.MoveNext();
+    EXPECT_EQ(rows.Text("Tag"), "T-2");
+    EXPECT_EQ(rows.Number("SG @ FTP"), 0.1);
+    rows.Edit();
+    rows.Set("Tag", "T-8");
+    rows.MoveFirst();  // drops the edit
+    EXPECT_TRUE(rows.Seek("t-2"));
+    rows.Edit();
+    rows.Set("Tag", "T-8");
+    rows.Update();
+    EXPECT_EQ(rows.Keys(), (std::vector<std::string>{"t-1", "T-3", "T-8", "T-9"}));
+    rows.Delete();
+    EXPECT_THROW(rows.Text("Tag"), RuntimeError) << "the deleted row has no fields";
+    rows.MoveNext();
+    EXPECT_EQ(rows.Text("Tag"), "T-9");
+    rows.MoveNext();
+    EXPECT_TRUE(rows.AtEnd());
+    EXPECT_THROW(rows.MoveNext(), RuntimeError);
+    rows.MovePrevious();
+    EXPECT_EQ(rows.Text("Tag"), "T-9");
+}
+
+TEST_F(DatabaseTest, TransactionsNestAndUndo) {
+    Database database(File(), Kind);
+    Recordset rows(database, Tanks);
+    {
+        Transaction all(database);
+        Add(rows, "kept");
+        {
+            const Transaction inner(database);
+            Add(rows, "undone");
+        }
+        all.Commit();
+    }
+    {
+        const Transaction all(database);
+        Add(rows, "undone too");
+    }
+    EXPECT_EQ(rows.Keys(), std::vector<std::string>{"kept"});
+    EXPECT_FALSE(database.InTransaction());
+}
+
+TEST(KeyOrder, TakesNoNoticeOfCaseInAnyAlphabet) {
+    for (const auto& [a, b] : {std::pair{"abc-1", "ABC-1"}, std::pair{"\u00fcber", "\u00dcBER"},
+                               std::pair{"\u017elab", "\u017dLAB"}, std::pair{"\u00ff", "\u0178"},
+                               std::pair{"\u03c0", "\u03a0"}, std::pair{"\u0434\u0451", "\u0414\u0401"}}) {
+        EXPECT_EQ(CompareKeys(a, b), 0) << a;
+    }
+    // Each before the next, in both directions; with bytes that are no characters.
+    const std::vector<std::string> order = {"",   "-",      "1",      "10",     "2",    "a",   "A1",
+                                            "ab", "\u00d7", "\u00e9", "\u00f7", "\xc3", "\xff"};
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        for (std::size_t k = 0; k < order.size(); ++k) {
+            const int expected = i < k ? -1 : i > k ? 1 : 0;
+            EXPECT_EQ(CompareKeys(order[i], order[k]), expected) << order[i] << " and " << order[k];
+        }
+    }
+}
+
+}  // namespace
+}  // namespace quillmetra

@@ -1,0 +1,345 @@
+// The database file as a whole: foreign files, create, compact, repair, delete, copy, the browser's view and
+// the export.
+#include "records/RecordFiles.h"
+
+#include <sqlite3.h>
+
+#include "platform/NumberText.h"
+#include "records/RecordExport.h"
+#include "tests/records/RecordFixture.h"
+
+namespace quillmetra {
+namespace {
+
+namespace fs = std::filesystem;
+
+class RecordFilesTest : public RecordTest {
+protected:
+    RecordFilesTest() { Database::BusyMilliseconds = 20; }
+    ~RecordFilesTest() override { Database::BusyMilliseconds = 5000; }
+
+    std::string Bytes() const { return ReadBytes(SuitePath(File())); }
+
+    // Runs statements on the file behind the suite's back.
+    void Engine(const std::string& sql) const {
+        sqlite3* engine = nullptr;
+        sqlite3_open(File().c_str(), &engine);
+        sqlite3_create_collation(
+            engine, "KEYORDER", SQLITE_UTF8, nullptr, [](void*, int m, const void* a, int n, const void* b) {
+                return std::string_view(static_cast<const char*>(a), static_cast<std::size_t>(m))
+                    .compare({static_cast<const char*>(b), static_cast<std::size_t>(n)});
+            });
+        char* error = nullptr;
+        ASSERT_EQ(sqlite3_exec(engine, sql.c_str(), nullptr, nullptr, &error), SQLITE_OK) << error;
+        sqlite3_close(engine);
+    }
+
+    std::string OpenFailure() const {
+        try {
+            OpenRecords(Suite.DatabaseFile);
+        } catch (const RuntimeError& error) {
+            return error.Description;
+        }
+        return "";
+    }
+
+    std::vector<std::string> FilesBeside() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(DataFolder())) {
+            const std::string name = entry.path().filename().string();
+            if (name.starts_with("TRDB") || name.starts_with("Temp")) names.push_back(name);
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+};
+
+constexpr const char* Invalid = "Open failed (Database invalid)";
+
+TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
+    const std::string own = Bytes();
+    fs::remove(File());
+    EXPECT_EQ(OpenFailure(), Invalid) << "no file";
+    EXPECT_FALSE(fs::exists(File())) << "opening makes none";
+
+    std::string otherEngine("\0\1\0\0Standard Jet DB\0", 20);
+    otherEngine.resize(4096);
+    std::string otherKind = own;
+    otherKind[68] = 'X';
+    for (const std::string& bytes : {std::string(), std::string("tag,flow\r\n"), otherEngine, otherKind,
+                                     own.substr(0, 60), std::string(8192, '\xff')}) {
+        WriteData("TRDB.MDB", bytes);
+        EXPECT_EQ(OpenFailure(), Invalid);
+        TakeFilledRecord(1, 1, "P-1");
+        EXPECT_FALSE(SaveTRCalc());
+        EXPECT_EQ(User.LastText(), Invalid);
+        EXPECT_EQ(Bytes(), bytes);
+        EXPECT_EQ(FilesBeside(), std::vector<std::string>{"TRDB.MDB"});
+    }
+    std::string newer = own;
+    newer[63] = 2;
+    WriteData("TRDB.MDB", newer);
+    EXPECT_EQ(OpenFailure(), failure::DatabaseNewer().Description);
+    EXPECT_EQ(Bytes(), newer);
+
+    WriteData("TRDB.MDB", own);
+    Engine("DROP TABLE \"Units\"");
+    EXPECT_EQ(OpenFailure(), Invalid) << "a table is missing";
+    fs::remove(File());
+    fs::create_directory(File());
+    EXPECT_EQ(OpenFailure(), Invalid) << "a folder";
+}
+
+TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
+    SaveNew("P-1");
+    fs::permissions(File(), fs::perms::owner_read);
+    EXPECT_TRUE(Display("P-1"));
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_EQ(User.LastText(), "attempt to write a readonly database");
+    fs::permissions(File(), fs::perms::owner_read | fs::perms::owner_write);
+
+    sqlite3* other = nullptr;
+    sqlite3_open(File().c_str(), &other);
+    sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    TakeFilledRecord(1, 1, "P-2");
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_EQ(User.LastText(), "database is locked");
+    EXPECT_EQ(Calc.ChangedFlag, words::Yes) << "still to be saved";
+    sqlite3_close(other);
+    EXPECT_TRUE(SaveTRCalc());
+
+    const std::string whole = Bytes();
+    for (std::size_t length = 100; length < whole.size(); length += 4099) {
+        WriteData("TRDB.MDB", whole.substr(0, length));
+        try {
+            RecordView view(Suite.DatabaseFile);
+            Display("P-1");
+        } catch (const RuntimeError& error) {
+            EXPECT_NE(error.Description, "");
+        }
+    }
+}
+
+// A database without the table of settings, as one made elsewhere, opens and gets it with the first save.
+TEST_F(RecordFilesTest, SettingsTableComesWithTheFirstSave) {
+    Engine("DROP TABLE \"Calculation Settings\"");
+    SaveNew("P-1");
+    ASSERT_TRUE(Display("P-1"));
+    EXPECT_EQ(Calc.PressureDirection, 2);
+    EXPECT_EQ(Calc.DataMode, words::DensityData);
+    EXPECT_EQ(Calc.CaseInput[21][0], 68);
+}
+
+TEST_F(RecordFilesTest, NamesOfTheDatabase) {
+    for (const char* name : {"TRDB.MDB", "C:\\data\\trdb.mdb", "/x/TrDb.Mdb"})
+        EXPECT_TRUE(IsDatabaseName(name));
+    for (const char* name : {"", "OLDTRDB.MDB", "TRDB.BAK", "TRDB.MDB.txt"})
+        EXPECT_FALSE(IsDatabaseName(name));
+    EXPECT_EQ(FolderOf("/a/b\\TRDB.MDB"), "/a/b");
+}
+
+TEST_F(RecordFilesTest, CreateAsksAndReplaces) {
+    SaveNew("P-1");
+    Calc.MessageTitle = "Database TRDB.MDB";
+    User.Boxes.clear();
+    User.Answers = {Answer::No};
+    EXPECT_FALSE(CreateDB(false));
+    ASSERT_EQ(User.Boxes.size(), 1U);
+    EXPECT_EQ(User.Boxes[0].Text,
+              "New database will Replace Existing DataBase\n0n " + Suite.DatabasePath + "\n\nOK?");
+    EXPECT_EQ(User.Boxes[0].Title, "Create New Database File");
+    EXPECT_TRUE(HasRow(HeadTable(), "P-1"));
+    // What a crash left beside the former database must not be taken for the new one's.
+    WriteData("TRDB.MDB-journal", "left behind");
+    EXPECT_TRUE(CreateDB(true));
+    EXPECT_EQ(User.LastText(), "New database TRDB.MDB created\non " + Suite.DatabasePath);
+    EXPECT_FALSE(RecordView(Suite.DatabaseFile).HasRecord());
+    EXPECT_EQ(FilesBeside(), std::vector<std::string>{"TRDB.MDB"});
+}
+
+TEST_F(RecordFilesTest, CompactKeepsRecordsAndOneBackup) {
+    for (int i = 0; i < 40; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
+    for (int i = 10; i < 40; ++i) DeleteRecord(Suite.DatabaseFile, "P-" + std::to_string(i));
+    const std::vector<FieldValue> kept = AllValues("P-7");
+    const std::uintmax_t before = fs::file_size(File());
+    WriteData("Temp.mdb", "left behind");
+    WriteData("TRDB.BAK", "former backup");
+    CompactDB(Suite.DatabasePath);
+    EXPECT_LT(fs::file_size(File()), before);
+    EXPECT_EQ(fs::file_size(DataFolder() / "TRDB.BAK"), before);
+    EXPECT_EQ(FilesBeside(), (std::vector<std::string>{"TRDB.BAK", "TRDB.MDB"}));
+    EXPECT_EQ(AllValues("P-7"), kept);
+    EXPECT_EQ(RecordView(Suite.DatabaseFile).Count(), 10);
+    SaveNew("P-99");
+}
+
+// Pages of the file are overwritten one after the other: whatever can be read stays, the rest is named.
+TEST_F(RecordFilesTest, RepairKeepsWhatCanBeRead) {
+    EXPECT_FALSE(RepairDB(Suite.DatabasePath).WasDamaged);
+    EXPECT_EQ(RepairText({}), "");
+    constexpr int count = 60;
+    for (int i = 0; i < count; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
+    const std::string whole = Bytes();
+    constexpr std::size_t page = 4096;
+    int damagedFiles = 0;
+    for (std::size_t place = page; place < whole.size(); place += page) {
+        std::string damaged = whole;
+        damaged.replace(place, page, std::string(page, '\x5a'));
+        WriteData("TRDB.MDB", damaged);
+        RepairReport report;
+        try {
+            report = RepairDB(Suite.DatabasePath);
+        } catch (const RuntimeError&) {
+            EXPECT_EQ(Bytes(), damaged) << "nothing can be done, nothing is changed";
+            continue;
+        }
+        if (!report.WasDamaged) continue;
+        ++damagedFiles;
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        EXPECT_EQ(database->Fault(), "");
+        int missing = 0;
+        for (const RecordTable* table : RecordTables()) {
+            const auto rows = static_cast<int>(Recordset(*database, table->Shape).RecordCount());
+            const int full = table == &HeadTable() || table == &UnitsTable() || table == &SettingsTable()
+                                 ? count
+                             : table == &WaterhammerTable() ? count / 5
+                             : table == &MixtureTable()     ? 0
+                                                            : count * 2 / 5;
+            missing += full - rows;
+        }
+        // Lost rows are named one by one, or their whole table is.
+        EXPECT_EQ(missing > 0, !report.Lost.empty()) << RepairText(report);
+        EXPECT_EQ(ReadBytes(report.KeptAs), damaged);
+    }
+    EXPECT_GT(damagedFiles, 20);
+}
+
+TEST_F(RecordFilesTest, DeleteTakesAllRowsOfATag) {
+    EXPECT_FALSE(DeleteRecord(Suite.DatabaseFile, "P-1"));
+    EXPECT_EQ(User.LastText(), "Database is empty");
+    SaveNew("P-1", 3);
+    SaveNew("P-2", 5);  // the words of the record in hand tell of another program
+    EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "p-1"));
+    EXPECT_EQ(RowsWith("P-1"), "");
+    EXPECT_NE(RowsWith("P-2"), "");
+    EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "NONE")) << "passed over silently";
+    // Deleted under an open form, the record is written whole by its next save.
+    EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "P-2"));
+    EXPECT_TRUE(SaveTRCalc());
+    EXPECT_TRUE(HasRow(FluidDataTable(), "P-2"));
+}
+
+TEST_F(RecordFilesTest, SaveAsAndCopyToAnotherDatabase) {
+    SaveNew("P-1");
+    const std::vector<FieldValue> saved = AllValues("P-1");
+    const std::string home = Suite.DatabaseFile;
+    for (const char* folder : {"one", "two"}) {
+        fs::create_directory(Folder / folder);
+        Suite.DatabasePath = SuitePath(Folder / folder);
+        if (folder == std::string("one")) {
+            Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
+            EXPECT_FALSE(SaveTRCalc());
+            EXPECT_EQ(User.LastText(), Invalid) << "a save makes no database";
+        }
+        CreateDB(true);
+        folder == std::string("one") ? SaveTRCalc() : CopyRecord(home, "P-1", Suite.DatabaseFile);
+        EXPECT_EQ(AllValues("P-1"), saved) << folder;
+    }
+    EXPECT_FALSE(CopyRecord(home, "NONE", Suite.DatabaseFile));
+}
+
+TEST_F(RecordFilesTest, TheBrowsersView) {
+    RecordView empty(Suite.DatabaseFile);
+    empty.Next();
+    EXPECT_EQ(empty.Position(), 0);
+    for (const char* tag : {"b-2", "A-1", "\u00c4-1", "B-1", "\u00e4-2"}) SaveNew(tag);
+    RecordView view(Suite.DatabaseFile);
+    EXPECT_EQ(view.Tags(), (std::vector<std::string>{"A-1", "B-1", "b-2", "\u00c4-1", "\u00e4-2"}));
+    view.Previous();
+    EXPECT_EQ(view.Head().Tag, "A-1");
+    view.Next();
+    view.Next();
+    EXPECT_EQ(view.Head().Tag, "b-2");
+    EXPECT_EQ(view.Position(), 3);
+    EXPECT_EQ(view.Head().Calculation, "Pressure drop");
+    EXPECT_EQ(view.Head().CalcDate, "11/24/2026");
+    view.Last();
+    view.Next();
+    EXPECT_EQ(view.Head().Tag, "\u00e4-2");
+    EXPECT_TRUE(view.Find(" \u00e4-1"));
+    EXPECT_EQ(view.Position(), 4);
+    EXPECT_FALSE(view.Find("C"));
+    EXPECT_EQ(view.Head().Tag, "\u00c4-1") << "stays where it was";
+    EXPECT_EQ(view.StartingWith("b"), (std::pair<std::size_t, std::size_t>{1, 3}));
+    EXPECT_EQ(view.StartingWith("\u00c4"), (std::pair<std::size_t, std::size_t>{3, 5}));
+
+    SaveNew("C");
+    EXPECT_EQ(view.Count(), 6) << "others' saves are noticed";
+    for (const auto& [tag, next] : {std::pair{"B-1", "b-2"}, std::pair{"\u00e4-2", "\u00c4-1"}}) {
+        view.Find(tag);
+        DeleteRecord(Suite.DatabaseFile, tag);
+        view.LeaveDeleted();
+        EXPECT_EQ(view.Head().Tag, next);
+    }
+}
+
+TEST_F(RecordFilesTest, OutdatedRecords) {
+    struct Dates {
+        const char *Tag, *Data, *Calculated;
+    };
+    for (const Dates& each : {Dates{"1", "01/02/2026", "01/01/2026"}, Dates{"2", "", "01/01/2026"},
+                              Dates{"3", "01/02/2026", ""}, Dates{"4", "2/1/26", "12/31/25"},
+                              Dates{"5", "1/1/2026", "01/01/2026"}, Dates{"6", "someday", "01/01/2026"}}) {
+        TakeFilledRecord(1, 1, each.Tag);
+        Calc.CaseText[11] = each.Data;
+        Calc.CaseText[10] = each.Calculated;
+        ASSERT_TRUE(SaveTRCalc());
+    }
+    RecordView view(Suite.DatabaseFile);
+    std::string found;
+    for (bool start = true; view.NextOutdated(start); start = false) found += view.Head().Tag;
+    EXPECT_EQ(found, "14");
+    EXPECT_EQ(view.Head().Tag, "4");
+}
+
+TEST_F(RecordFilesTest, ExportForSpreadsheets) {
+    for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
+    TakeFilledRecord(1, 1, "odd, \"tag\"");
+    Calc.ResultsClearable.fill(words::No);
+    ASSERT_TRUE(SaveTRCalc());
+    const std::string file = SuitePath(Folder / "records.csv");
+    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, file), 6);
+
+    LineReader reader(file);
+    std::string line;
+    std::vector<std::string> lines;
+    while (reader.Next(line)) lines.push_back(line);
+    ASSERT_EQ(lines.size(), 7U);
+    const auto columns = std::count(lines[0].begin(), lines[0].end(), ',');
+    EXPECT_TRUE(lines[0].starts_with("Tag,Fluid Type,Program Number,"));
+    EXPECT_TRUE(lines[1].starts_with("\"odd, \"\"tag\"\"\",Liquid,101,"));
+    for (std::size_t i = 2; i < lines.size(); ++i) {
+        EXPECT_EQ(std::count(lines[i].begin(), lines[i].end(), ','), columns) << lines[i];
+    }
+    TakeFilledRecord(1, 1, "P1");
+    const std::string pressure = TrimmedStr(Calc.CaseResult[1][0]);
+    const auto itemOf = [&](const std::string& row, const char* name) {
+        std::size_t column = 0;
+        const std::string head = "," + lines[0];
+        column = static_cast<std::size_t>(
+            std::count(head.begin(), head.begin() + static_cast<std::ptrdiff_t>(head.find(name)), ','));
+        std::size_t start = 0;
+        for (std::size_t i = 1; i < column; ++i) start = row.find(',', start) + 1;
+        return row.substr(start, row.find(',', start) - start);
+    };
+    EXPECT_EQ(itemOf(lines[2], "Case 1 Final Pressure"), pressure);
+    EXPECT_EQ(itemOf(lines[2], "Critical Time"), "");
+    EXPECT_EQ(itemOf(lines[2], "Pressure Units"), "psig");
+    EXPECT_NE(itemOf(lines[4], "Critical Time"), "");
+    EXPECT_NE(itemOf(lines[5], "Case 3 Norm BP"), "");
+    EXPECT_EQ(itemOf(lines[2], "Calc Date"), "2026-11-24");
+    EXPECT_THROW(ExportRecords(SuitePath(Folder / "none.mdb"), file), RuntimeError);
+}
+
+}  // namespace
+}  // namespace quillmetra
