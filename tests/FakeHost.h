@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Host.h"
+#include "platform/Printer.h"
+#include "platform/RuntimeError.h"
 
 namespace quillmetra {
 
@@ -27,6 +28,10 @@ public:
     std::vector<MessageBox> Boxes;     // those shown so far, oldest first
     std::vector<std::string> Prompts;  // of input boxes
     std::vector<int> HelpTopics;
+    std::optional<PrinterChoice> Printing;  // the answer of a printer dialog
+    std::vector<PrintJob> Jobs;
+    std::vector<PrintedPage> Pages;  // of all prints
+    int PagesUntilFailure = -1;      // of the printer; negative for one that never fails
     bool EscapePressed = false;  // what Yield tells
     bool Ended = false;
 
@@ -53,9 +58,14 @@ public:
     }
 
     std::optional<std::string> FileDialog(const FileQuestion&) override { return std::nullopt; }
-    std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return std::nullopt; }
+    std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return Printing; }
     std::optional<FontChoice> FontDialog(const FontChoice&) override { return std::nullopt; }
     std::optional<unsigned> ColourDialog(unsigned) override { return std::nullopt; }
+    void PageSetupDialog() override {}
+    std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override {
+        Jobs.push_back(job);
+        return std::make_unique<Sheets>(*this);
+    }
     void ShowHelp(int topic) override { HelpTopics.push_back(topic); }
     void SetBusyPointer(bool) override {}
     bool Yield() override { return EscapePressed; }
@@ -69,6 +79,19 @@ public:
     void ProcessEnded() override { Ended = true; }
 
 private:
+    class Sheets : public Paper {
+    public:
+        explicit Sheets(FakeHost& host) : host_(host) {}
+        void Print(const PrintedPage& page) override {
+            if (host_.PagesUntilFailure-- == 0) throw failure::PrinterError();
+            host_.Pages.push_back(page);
+        }
+        void Finish() override {}
+
+    private:
+        FakeHost& host_;
+    };
+
     // A loop that asks until it gets a good answer would never end without a user.
     void CountBox() {
         if (Boxes.size() + Prompts.size() >= 1000) throw std::logic_error("more than 1000 boxes in a test");

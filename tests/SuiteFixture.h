@@ -32,6 +32,7 @@ protected:
         ResetForms();
         Calc = CalcRecord();
         Suite = SuiteState();
+        Printer = RecordingPrinter();
         std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
 
         std::string pattern = (std::filesystem::temp_directory_path() / "quillmetra-XXXXXX").string();

@@ -30,13 +30,14 @@ ALLOWED = {
     "tables": CALCULATION,
     "reports": CALCULATION | {"records", "tables"},
     "forms": CALCULATION | {"records", "tables", "reports"},
-    "desktop": SUITE,
-    "script": SUITE,
+    "paper": {"platform"},
+    "desktop": SUITE | {"paper"},
+    "script": SUITE | {"paper"},
 }
 
 # Outside libraries that only some folders of src/ may know: name, pattern of their headers, folders.
 RESTRICTED = [
-    ("Qt", re.compile(r"Qt?[A-Z]\w*(/.*)?|q\w+\.h"), {"desktop"}),
+    ("Qt", re.compile(r"Qt?[A-Z]\w*(/.*)?|q\w+\.h"), {"desktop", "paper"}),
     ("SQLite", re.compile(r"sqlite3(ext)?\.h"), {"platform"}),
 ]
 

@@ -117,9 +117,13 @@ bool ReadDefaultPaths() {
     }
 }
 
+namespace {
+std::string HeadingsFile() { return Suite.DefaultPaths[3] + "\\TRHDG.txt"; }
+}  // namespace
+
 void LoadHeadings() {
     try {
-        LineReader file(Suite.DefaultPaths[3] + "\\TRHDG.txt");
+        LineReader file(HeadingsFile());
         std::string line;
         for (std::size_t i = 1; i <= 7 && file.Next(line); ++i) {
             Calc.HeadingText[i] = line;
@@ -128,6 +132,12 @@ void LoadHeadings() {
     } catch (const RuntimeError&) {
         // headings stay empty
     }
+}
+
+void SaveHeadings() {
+    TextWriter file(HeadingsFile());
+    for (std::size_t i = 1; i <= 10; ++i) file.Line(Calc.HeadingText[i]);
+    file.Commit();
 }
 
 void ReadStandardConditions() {

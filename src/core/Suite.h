@@ -37,6 +37,8 @@ struct SuiteState {
     int RecordTotal = 0;                                       // records of DatabaseFile after the last save
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;
+    int PrintFromPage = 0, PrintToPage = 0;  // 0: all pages
+    int PrintCopies = 1;
     std::string TableKind;  // the table that the editor is to open: "Gas", "Liquid", ...
 };
 

@@ -7,12 +7,14 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QPrinter>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
 
 #include "desktop/FormWindow.h"
 #include "platform/Forms.h"
+#include "platform/Printer.h"
 
 namespace quillmetra {
 

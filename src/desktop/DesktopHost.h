@@ -13,6 +13,7 @@
 #include "platform/Host.h"
 
 class QEventLoop;
+class QPrinter;
 
 namespace quillmetra {
 
@@ -29,6 +30,8 @@ public:
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) override;
     std::optional<FontChoice> FontDialog(const FontChoice& preset) override;
     std::optional<unsigned> ColourDialog(unsigned preset) override;
+    void PageSetupDialog() override;
+    std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
     void SetBusyPointer(bool busy) override;
     bool Yield() override;
@@ -52,10 +55,12 @@ protected:
 private:
     FormWindow& Window(Form& form);
     void PutInPlace(FormWindow& window);
+    QPrinter& ThePrinter();
 
     std::unordered_map<const Form*, FormWindow*> windows_;
     std::unordered_map<const Form*, QEventLoop*> loops_;  // of the modal forms
     std::optional<QPoint> lastCentre_;                    // of the window that was hidden last
+    std::unique_ptr<QPrinter> printer_;                   // as its dialogs have set it up; made when needed
     bool yielding_ = false;
     bool escaped_ = false;
 };

@@ -10,14 +10,13 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QUrl>
 
 #include "core/Suite.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/Painting.h"
+#include "desktop/ReadyForUser.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -79,20 +78,6 @@ QMessageBox::Icon SignOf(Icon icon) {
     }
 }
 
-// An open menu would keep the mouse from a box, and a busy pointer would say that nobody waits for the user.
-class ReadyForUser {
-public:
-    ReadyForUser() {
-        while (QWidget* popup = QApplication::activePopupWidget()) {
-            if (!popup->close()) break;
-        }
-        QApplication::setOverrideCursor(Qt::ArrowCursor);
-    }
-    ~ReadyForUser() { QApplication::restoreOverrideCursor(); }
-    ReadyForUser(const ReadyForUser&) = delete;
-    ReadyForUser& operator=(const ReadyForUser&) = delete;
-};
-
 // "Access DB Files(TRDB.MDB)|TRDB.MDB" as the toolkit writes it: words, then patterns in brackets.
 QString FilterOf(const std::string& filter) {
     const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
@@ -145,22 +130,6 @@ std::optional<std::string> DesktopHost::FileDialog(const FileQuestion& question)
                                             : QFileDialog::getOpenFileName(over, title, folder, filter);
     if (name.isEmpty()) return std::nullopt;
     return SuitePath(name.toStdU16String());
-}
-
-std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& preset) {
-    const ReadyForUser ready;
-    QPrinter printer;
-    printer.setCopyCount(preset.Copies);
-    printer.setFromTo(preset.FromPage, preset.ToPage);
-    QPrintDialog dialog(&printer, QApplication::activeWindow());
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    PrinterChoice choice = preset;
-    choice.Copies = printer.copyCount();
-    if (printer.printRange() == QPrinter::PageRange) {
-        choice.FromPage = printer.fromPage();
-        choice.ToPage = printer.toPage();
-    }
-    return choice;
 }
 
 std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {

@@ -7,6 +7,7 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
+#include "forms/frmObxPrintCalc.h"
 #include "lineloss/PipeMaterials.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
@@ -70,12 +71,13 @@ CalculationForm::CalculationForm(const Names& names)
     mnuPrint.Shortcut = "Ctrl+P";
     mnuHelp.Shortcut = "F1";
     mnuHelp.StandsLast = true;
-    // Records, reports and the path finder are yet to come.
+    // Records and the path finder are yet to come; a print waits for results.
     for (Control* later : std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
                                                           &mnuPathUserUnitFile, &mnuPathPrintHdgs}) {
         later->SetEnabled(false);
     }
 
+    mnuPrint.Click = [this] { mnuPrint_Click(); };
     mnuNew.Click = [this] { mnuNew_Click(); };
     mnuProgram.Click = [this] { mnuProgram_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
@@ -245,6 +247,23 @@ void CalculationForm::EmptyForm() {
         if (control->Kind() == ControlKind::TextBox) static_cast<TextBox&>(*control).SetText("");
         if (control->Kind() == ControlKind::Plot) static_cast<Plot&>(*control).Clear();
     }
+}
+
+void CalculationForm::mnuPrint_Click() {
+    StoreForm();
+    if (Calc.DataOk == words::No) return;
+    if (Calc.RoundedFlag == words::No) {
+        Tell("Please round before printing", "Print Calculation", Icon::Stop);
+        return;
+    }
+    Calc.CaseUnitsText[1] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
+    Calc.CaseUnitsText[2] = txtBy.Text();
+    Calc.CaseUnitsText[3] = txtFluid.Text();
+    Calc.CaseUnitsText[4] = txtApprov.Text();
+    auto& printout = static_cast<frmObxPrintCalc&>(LoadForm("frmObxPrintCalc"));
+    printout.FillFromRecord();
+    printout.cmdOK.SetFocus();
+    ShowForm(printout.Name(), Modal::Yes);
 }
 
 void CalculationForm::mnuNew_Click() {

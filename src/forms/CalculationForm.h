@@ -84,6 +84,7 @@ public:
     void OpenPanel(const char* panel);
     void ReturnFromPanel();
 
+    void mnuPrint_Click();
     void mnuNew_Click();
     void mnuProgram_Click();
     void mnuExit_Click();

@@ -156,6 +156,7 @@ void LineLossForm::cmdCalculate_Click(int index) {
     if (!CalculateCase()) return;
     SnapshotRecord();
     ShowCalculation();
+    mnuPrint.SetEnabled(true);
     txtBy.SetFocus();
     Calc.CalculatedFlag = words::Yes;
 }

@@ -8,6 +8,7 @@
 #include "forms/frmGasLineLoss.h"
 #include "forms/frmLiqData.h"
 #include "forms/frmLiqLineLoss.h"
+#include "forms/frmObxPrintCalc.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
 #include "forms/frmTRProg.h"
@@ -37,6 +38,7 @@ constexpr FormEntry FormTable[] = {
     {"frmGasLineLoss", MakeForm<frmGasLineLoss>},
     {"frmLiqData", MakeForm<frmLiqData>},
     {"frmGasData", MakeForm<frmGasData>},
+    {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>},
     {"frmPipeSize", MakeForm<frmPipeSize>},
     {"frmWaterHammer", MakeForm<frmWaterHammer>},
     {"frmUnits", MakeForm<frmUnits>},

@@ -2,6 +2,7 @@
 // display. Forms and calculations reach it only through Dialogs.h and Forms.h.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -11,6 +12,7 @@ namespace quillmetra {
 
 class Control;
 class Form;
+class Paper;
 
 // What changed about a control, so that a host renews no more than that.
 enum class Aspect { Text, Checked, Enabled, Visible, Colours, ToolTip, Rows, Selection, SelectAll };
@@ -32,8 +34,18 @@ struct FontChoice {
 
 struct PrinterChoice {
     int Copies = 1;
-    int FromPage = 1;
-    int ToPage = 1;
+    int FromPage = 0;  // 0: from the first page
+    int ToPage = 0;    // 0: to the last
+};
+
+// Where pages go, see Printer.h.
+struct PrintJob {
+    enum class Target { Printer, Preview, Pdf };
+
+    Target To = Target::Printer;
+    std::string Path;  // of the PDF, in the suite's words
+    std::string Name;  // of the document, as print queues and viewers show it
+    int FromPage = 0, ToPage = 0;  // as in PrinterChoice
 };
 
 class Host {
@@ -47,6 +59,11 @@ public:
     virtual std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) = 0;
     virtual std::optional<FontChoice> FontDialog(const FontChoice& preset) = 0;
     virtual std::optional<unsigned> ColourDialog(unsigned preset) = 0;  // 0x00BBGGRR
+    // Size and margins of the sheets, kept by the host.
+    virtual void PageSetupDialog() = 0;
+    // The paper for the pages of a job; a printer is the one that the printer dialog chose last. Throws a
+    // RuntimeError when there is none to be had.
+    virtual std::unique_ptr<Paper> OpenPaper(const PrintJob& job) = 0;
     virtual void ShowHelp(int topic) = 0;
     virtual void SetBusyPointer(bool busy) = 0;
     // Lets the host breathe within a long calculation; true when the user pressed Escape.

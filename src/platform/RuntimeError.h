@@ -33,6 +33,8 @@ inline RuntimeError NoSuchElement(std::string_view name, int index) {
 inline RuntimeError NoSuchControl(std::string_view name) {
     return {423, "Control '" + std::string(name) + "' does not exist"};
 }
+inline RuntimeError PrinterError() { return {482, "Printer error"}; }
+inline RuntimeError NoPdf() { return {445, "This build of the program writes no PDF"}; }
 inline RuntimeError NoSuchForm(std::string_view name) {
     return {424, "Form '" + std::string(name) + "' does not exist"};
 }

@@ -89,11 +89,11 @@ void QueuePrinter(ScriptPlayer& player, const Arguments& arguments) {
 }
 
 void PrintToPdf(ScriptPlayer& player, const Arguments& arguments) {
-    player.NextPrint = {arguments[0].Text, false};
+    player.Host.NextPrint = {arguments[0].Text, false};
 }
 
 void PrintToText(ScriptPlayer& player, const Arguments& arguments) {
-    player.NextPrint = {arguments[0].Text, true};
+    player.Host.NextPrint = {arguments[0].Text, true};
 }
 
 void Quit(ScriptPlayer& player, const Arguments&) { player.Quit(); }

@@ -2,8 +2,10 @@
 #include "script/ScriptHost.h"
 
 #include <ostream>
+#include <sstream>
 #include <utility>
 
+#include "paper/PdfPaper.h"
 #include "platform/Form.h"
 #include "script/ScriptFailure.h"
 
@@ -19,6 +21,21 @@ bool Offers(const MessageBox& box, Answer answer) {
     }
     return false;
 }
+
+// Pages on the output, each of their lines marked as such.
+class OutputPaper : public Paper {
+public:
+    explicit OutputPaper(std::ostream& out) : out_(out) {}
+
+    void Print(const PrintedPage& page) override {
+        std::istringstream lines(PageAsText(page));
+        for (std::string line; std::getline(lines, line);) out_ << "page | " << line << '\n';
+    }
+    void Finish() override {}
+
+private:
+    std::ostream& out_;
+};
 
 }  // namespace
 
@@ -110,7 +127,9 @@ std::optional<std::string> ScriptHost::FileDialog(const FileQuestion& question) 
                             : "a dialog for opening a file came; its answer is queued by file"};
 }
 
-std::optional<PrinterChoice> ScriptHost::PrinterDialog(const PrinterChoice&) {
+// A script that told where its next print goes has foreseen the dialog.
+std::optional<PrinterChoice> ScriptHost::PrinterDialog(const PrinterChoice& preset) {
+    if (Dialogs.empty() && !NextPrint.Path.empty() && !closed_) return preset;
     return TakeDialog<PrinterChoice>("printer");
 }
 
@@ -126,6 +145,15 @@ std::optional<FontChoice> ScriptHost::FontDialog(const FontChoice& preset) {
 std::optional<unsigned> ScriptHost::ColourDialog(unsigned) {
     const auto answer = TakeDialog<ColourAnswer>("colour");
     return answer ? std::optional(answer->Colour) : std::nullopt;
+}
+
+std::unique_ptr<Paper> ScriptHost::OpenPaper(const PrintJob& job) {
+    const PrintTarget target = std::exchange(NextPrint, {});
+    if (target.Path.empty() && job.To != PrintJob::Target::Pdf) return std::make_unique<OutputPaper>(out_);
+    if (target.AsText) return std::make_unique<TextPaper>(target.Path);
+    PrintJob pdf = job;
+    if (!target.Path.empty()) pdf.Path = target.Path;
+    return OpenPdf(pdf);
 }
 
 void ScriptHost::ShowHelp(int topic) {

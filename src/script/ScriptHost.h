@@ -16,6 +16,12 @@ namespace quillmetra {
 // Line breaks as "\n", so that a text stays on one line of the output.
 std::string OnOneLine(const std::string& text);
 
+// Where a print goes.
+struct PrintTarget {
+    std::string Path;  // empty: its text goes to the script's output
+    bool AsText = false;
+};
+
 class ScriptHost : public Host {
 public:
     struct Cancelled {};
@@ -38,6 +44,7 @@ public:
     std::deque<Answer> Answers;
     std::deque<std::string> Inputs;
     std::deque<DialogAnswer> Dialogs;  // in the order in which the dialogs will come
+    PrintTarget NextPrint;             // taken by the next print
     std::deque<MessageBox> Unread;     // the message boxes that no expectation has read yet
     bool Strict = false;               // a question that nothing was queued for is a failure
     // Plays on while a form is shown modally; returns when it is shown no more.
@@ -57,6 +64,8 @@ public:
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) override;
     std::optional<FontChoice> FontDialog(const FontChoice& preset) override;
     std::optional<unsigned> ColourDialog(unsigned preset) override;
+    void PageSetupDialog() override {}
+    std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
     void SetBusyPointer(bool) override {}
     bool Yield() override { return false; }

@@ -17,12 +17,6 @@ namespace quillmetra {
 class Control;
 class Form;
 
-// Where the next print goes.
-struct PrintTarget {
-    std::string Path;  // empty: nowhere
-    bool AsText = false;
-};
-
 class ScriptPlayer {
 public:
     // What the suite says goes to out, the failure that ends the script to errors.
@@ -38,7 +32,6 @@ public:
     std::ostream& Out;
     ScriptHost Host;
     ScriptSource Source;
-    PrintTarget NextPrint;
 
     Form& FormInHand() const;
     // A control of the form in hand: "txtFlow", or "txtFlow(0)" for an element of an array.

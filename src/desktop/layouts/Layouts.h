@@ -10,6 +10,7 @@ Node frmGasData();
 Node frmGasLineLoss();
 Node frmLiqData();
 Node frmLiqLineLoss();
+Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmTRProg();

@@ -1,0 +1,91 @@
+// See Printing.h.
+#include "desktop/Printing.h"
+
+#include <QApplication>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+
+#include "desktop/DesktopHost.h"
+#include "desktop/Painting.h"
+#include "desktop/ReadyForUser.h"
+#include "paper/PagePainter.h"
+#include "paper/PdfPaper.h"
+#include "platform/RuntimeError.h"
+
+namespace quillmetra {
+
+PrinterPaper::PrinterPaper(QPrinter& printer, const std::string& name) : printer_(printer) {
+    printer_.setDocName(ToQt(name));
+    printer_.setFullPage(true);
+    printer_.setCopyCount(1);  // the pages come copy by copy
+}
+
+PrinterPaper::~PrinterPaper() {
+    if (!painter_.isActive()) return;
+    printer_.abort();
+    painter_.end();
+}
+
+void PrinterPaper::Print(const PrintedPage& page) {
+    const bool ready = painter_.isActive() ? printer_.newPage() : painter_.begin(&printer_);
+    if (!ready || printer_.printerState() == QPrinter::Error) throw failure::PrinterError();
+    PaintPage(painter_, printer_, page);
+}
+
+void PrinterPaper::Finish() {
+    if (!painter_.isActive()) return;
+    if (!painter_.end() || printer_.printerState() == QPrinter::Error) throw failure::PrinterError();
+}
+
+void PreviewPaper::Finish() {
+    printer_.setDocName(ToQt(name_));
+    printer_.setFullPage(true);
+    const ReadyForUser ready;
+    QPrintPreviewDialog dialog(&printer_, QApplication::activeWindow());
+    dialog.setWindowTitle(ToQt(name_));
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [this](QPrinter* printer) {
+        QPainter painter(printer);
+        for (std::size_t i = 0; i < pages_.size(); ++i) {
+            if (i > 0 && !printer->newPage()) return;
+            PaintPage(painter, *printer, pages_[i]);
+        }
+    });
+    dialog.exec();
+}
+
+QPrinter& DesktopHost::ThePrinter() {
+    if (printer_ == nullptr) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *printer_;
+}
+
+std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& preset) {
+    const ReadyForUser ready;
+    QPrinter& printer = ThePrinter();
+    printer.setCopyCount(preset.Copies);
+    printer.setFromTo(preset.FromPage, preset.ToPage);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    PrinterChoice choice{.Copies = printer.copyCount()};
+    if (printer.printRange() == QPrinter::PageRange) {
+        choice.FromPage = printer.fromPage();
+        choice.ToPage = printer.toPage();
+    }
+    return choice;
+}
+
+void DesktopHost::PageSetupDialog() {
+    const ReadyForUser ready;
+    QPageSetupDialog(&ThePrinter(), QApplication::activeWindow()).exec();
+}
+
+std::unique_ptr<Paper> DesktopHost::OpenPaper(const PrintJob& job) {
+    switch (job.To) {
+        case PrintJob::Target::Pdf: return OpenPdf(job);
+        case PrintJob::Target::Preview: return std::make_unique<PreviewPaper>(ThePrinter(), job.Name);
+        case PrintJob::Target::Printer: break;
+    }
+    return std::make_unique<PrinterPaper>(ThePrinter(), job.Name);
+}
+
+}  // namespace quillmetra

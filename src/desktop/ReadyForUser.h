@@ -1,0 +1,23 @@
+// Makes the screen ready for a question to the user, for as long as it lives.
+#pragma once
+
+#include <QApplication>
+#include <QWidget>
+
+namespace quillmetra {
+
+// An open menu would keep the mouse from a box, and a busy pointer would say that nobody waits for the user.
+class ReadyForUser {
+public:
+    ReadyForUser() {
+        while (QWidget* popup = QApplication::activePopupWidget()) {
+            if (!popup->close()) break;
+        }
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~ReadyForUser() { QApplication::restoreOverrideCursor(); }
+    ReadyForUser(const ReadyForUser&) = delete;
+    ReadyForUser& operator=(const ReadyForUser&) = delete;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,214 @@
+// See frmObxPrintCalc.h.
+#include "forms/frmObxPrintCalc.h"
+
+#include <algorithm>
+
+#include "core/CalcRecord.h"
+#include "core/StartUp.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "platform/Clock.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/Printer.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* ProblemOfPrinting = "Printing Problem";
+constexpr double SmallestFont = 8;   // points: below it a page is hard to read,
+constexpr double LargestFont = 12;   // above it lines run into each other
+constexpr std::size_t HeadingLength = 60;  // as the database keeps it
+
+bool IsBatch() { return Suite.BatchPrinting == words::Yes; }
+
+void TellProblem(const RuntimeError& error) {
+    Tell(error.Description + " (Error " + std::to_string(error.Number) + ")", ProblemOfPrinting, Icon::Stop);
+}
+
+}  // namespace
+
+frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
+    SetCaption("Calculation printout");
+    Fixed = true;
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdCancel;
+    for (const auto& [box, label] :
+         std::initializer_list<std::pair<TextBox*, Label*>>{{&txtTitle, &lblTitle},
+                                                            {&txtSubTitle, &lblSubTitle},
+                                                            {&txtProjectName, &lblProjectName},
+                                                            {&txtProjectNo, &lblProjectNo},
+                                                            {&txtManufacturer, &lblManufacturer},
+                                                            {&txtModel, &lblModel}}) {
+        box->Describe(label);
+        box->MaxLength = HeadingLength;
+    }
+    txtComments.Each([this](TextBox& box, int) {
+        box.Describe(&lblComments);
+        box.MaxLength = HeadingLength;
+    });
+    cmdDate.Describe(&lblDate);
+    cmdDate.SetToolTip("Takes today's date; Escape puts the former one back");
+    for (Control* control : Controls()) {
+        const ControlKind kind = control->Kind();
+        if (kind == ControlKind::TextBox) control->ColourGroup = 2;
+        if (kind == ControlKind::Label || kind == ControlKind::Frame) control->ColourGroup = 1;
+    }
+
+    cmdDate.Click = [this] { cmdDate_Click(); };
+    cmdDate.KeyPress = [this](Key& key) {
+        if (key.Name != "Escape") return;
+        cmdDate.SetCaption(Calc.CaseText[10]);
+        key.Handled = true;
+    };
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdSave.Click = [this] { cmdSave_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+    mnuPreview.Click = [this] { mnuPreview_Click(); };
+    mnuPageSetup.Click = [this] { mnuPageSetup_Click(); };
+    mnuPdf.Click = [this] { mnuPdf_Click(); };
+    mnuReload.Click = [this] { mnuReload_Click(); };
+    mnuPrinterFonts.Click = [this] { mnuPrinterFonts_Click(); };
+}
+
+void frmObxPrintCalc::Load() {
+    if (!IsBatch()) {
+        ApplyColours(*this);
+        return;
+    }
+    std::copy(Suite.ReportHeadings.begin(), Suite.ReportHeadings.end(), Calc.HeadingText.begin());
+    ShowHeadings(10);
+    cmdOK_Click();
+}
+
+void frmObxPrintCalc::FillFromRecord() {
+    ShowHeadings(10);
+    if (!Calc.CaseUnitsText[1].empty()) cmdDate.SetCaption(Calc.CaseUnitsText[1]);
+    txtComments.Each([](TextBox& box, int i) {
+        if (box.Text().empty()) box.SetText(Calc.NoteText[static_cast<std::size_t>(i) + 1]);
+    });
+}
+
+// Shows the heading lines 1 to last.
+void frmObxPrintCalc::ShowHeadings(std::size_t last) {
+    cmdDate.SetCaption(Calc.HeadingText[1]);
+    std::size_t line = 2;
+    for (TextBox* box : HeadingBoxes()) box->SetText(Calc.HeadingText[line++]);
+    txtComments.Each([&](TextBox& box, int) {
+        if (line <= last) box.SetText(Calc.HeadingText[line++]);
+    });
+}
+
+void frmObxPrintCalc::StoreHeadings() {
+    Calc.HeadingText[1] = cmdDate.Caption();
+    std::size_t line = 2;
+    for (const TextBox* box : HeadingBoxes()) Calc.HeadingText[line++] = box->Text();
+    txtComments.Each([&](const TextBox& box, int) { Calc.HeadingText[line++] = box.Text(); });
+}
+
+void frmObxPrintCalc::cmdDate_Click() { cmdDate.SetCaption(Today()); }
+
+void frmObxPrintCalc::cmdSave_Click() {
+    StoreHeadings();
+    for (Control* control : Controls()) {
+        if (control->Kind() == ControlKind::TextBox) {
+            control->SetColours(control->BackColour(), SlotColour(slot::InputText));
+        }
+    }
+    try {
+        SaveHeadings();
+    } catch (const RuntimeError& error) {
+        TellProblem(error);
+    }
+}
+
+void frmObxPrintCalc::mnuReload_Click() {
+    LoadHeadings();
+    ShowHeadings(7);
+}
+
+void frmObxPrintCalc::mnuPrinterFonts_Click() {
+    if (const auto font = CurrentHost()->FontDialog(Printer.Font)) Printer.Font = *font;
+}
+
+void frmObxPrintCalc::mnuPageSetup_Click() { CurrentHost()->PageSetupDialog(); }
+
+void frmObxPrintCalc::cmdCancel_Click() {
+    const bool stored = Calc.BrowserOpen == words::Yes;
+    if (!stored && Calc.CaseUnitsText[1].empty()) Calc.CaseUnitsText[1] = Calc.HeadingText[1];
+    UnloadForm(Name());
+}
+
+void frmObxPrintCalc::cmdOK_Click() {
+    StoreHeadings();
+    if (IsBatch()) {
+        // The run has opened the paper, and it tells of a printer that fails.
+        PrintCopies(std::max(Suite.PrintCopies, 1));
+        return;
+    }
+    const auto choice = CurrentHost()->PrinterDialog({});
+    if (!choice) return;
+    Suite.PrintFromPage = choice->FromPage;
+    Suite.PrintToPage = choice->ToPage;
+    Suite.PrintCopies = choice->Copies;
+    const PrintJob job{.FromPage = choice->FromPage, .ToPage = choice->ToPage};
+    if (Print(job, choice->Copies)) UnloadForm(Name());
+}
+
+void frmObxPrintCalc::mnuPreview_Click() {
+    StoreHeadings();
+    Print({.To = PrintJob::Target::Preview}, 1);
+}
+
+void frmObxPrintCalc::mnuPdf_Click() {
+    const auto path = CurrentHost()->FileDialog({.Title = "Save as PDF",
+                                                 .Filter = "PDF files(*.pdf)|*.pdf",
+                                                 .Folder = Suite.DefaultPaths[1],
+                                                 .ForSaving = true});
+    if (!path) return;
+    StoreHeadings();
+    Print({.To = PrintJob::Target::Pdf, .Path = *path}, 1);
+}
+
+// Prints the record in hand on a paper of its own; false after a failure, which is told.
+bool frmObxPrintCalc::Print(PrintJob job, int copies) {
+    job.Name = Calc.ProgramTitle + " " + Calc.Tag;
+    const BusyPointer busy;
+    try {
+        Printer.Open(job);
+        PrintCopies(copies);
+        Printer.Close();
+        return true;
+    } catch (const RuntimeError& error) {
+        Printer.Abandon();
+        TellProblem(error);
+        return false;
+    }
+}
+
+void frmObxPrintCalc::PrintCopies(int copies) {
+    Printer.Font.Size = std::clamp(Printer.Font.Size, SmallestFont, LargestFont);
+    const double base = Printer.Font.Size;
+    const ReportTexts texts{.Date = cmdDate.Caption(),
+                            .Title = txtTitle.Text(),
+                            .SubTitle = txtSubTitle.Text(),
+                            .ProjectName = txtProjectName.Text(),
+                            .ProjectNo = txtProjectNo.Text(),
+                            .Notes = {txtComments(0).Text(), txtComments(1).Text(), txtComments(2).Text()}};
+    try {
+        for (int copy = 1; copy <= copies; ++copy) PrintReportPage(texts, base);
+        if (IsBatch()) {
+            Printer.NewPage();
+        } else {
+            Printer.EndDoc();
+        }
+    } catch (const RuntimeError&) {
+        Printer.Font.Size = base;
+        throw;
+    }
+    if (Calc.BrowserOpen != words::Yes) Calc.CaseText[10] = Calc.HeadingText[1];
+}
+
+}  // namespace quillmetra
