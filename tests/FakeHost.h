@@ -32,7 +32,7 @@ public:
     std::vector<PrintJob> Jobs;
     std::vector<PrintedPage> Pages;  // of all prints
     int PagesUntilFailure = -1;      // of the printer; negative for one that never fails
-    bool EscapePressed = false;  // what Yield tells
+    bool EscapePressed = false;      // what Yield tells
     bool Ended = false;
 
     // The text of the last box; empty when none was shown.

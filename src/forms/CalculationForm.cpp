@@ -264,6 +264,7 @@ void CalculationForm::mnuPrint_Click() {
     printout.FillFromRecord();
     printout.cmdOK.SetFocus();
     ShowForm(printout.Name(), Modal::Yes);
+    if (!Calc.CaseText[10].empty()) cmdDate.SetCaption(Calc.CaseText[10]);  // the print has dated the record
 }
 
 void CalculationForm::mnuNew_Click() {

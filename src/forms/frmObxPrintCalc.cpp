@@ -18,8 +18,8 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* ProblemOfPrinting = "Printing Problem";
-constexpr double SmallestFont = 8;   // points: below it a page is hard to read,
-constexpr double LargestFont = 12;   // above it lines run into each other
+constexpr double SmallestFont = 8;         // points: below it a page is hard to read,
+constexpr double LargestFont = 12;         // above it lines run into each other
 constexpr std::size_t HeadingLength = 60;  // as the database keeps it
 
 bool IsBatch() { return Suite.BatchPrinting == words::Yes; }
@@ -145,16 +145,16 @@ void frmObxPrintCalc::cmdOK_Click() {
     StoreHeadings();
     if (IsBatch()) {
         // The run has opened the paper, and it tells of a printer that fails.
-        PrintCopies(std::max(Suite.PrintCopies, 1));
+        PrintCopies(Suite.PrintCopies);
         return;
     }
     const auto choice = CurrentHost()->PrinterDialog({});
     if (!choice) return;
     Suite.PrintFromPage = choice->FromPage;
     Suite.PrintToPage = choice->ToPage;
-    Suite.PrintCopies = choice->Copies;
+    Suite.PrintCopies = std::max(choice->Copies, 1);
     const PrintJob job{.FromPage = choice->FromPage, .ToPage = choice->ToPage};
-    if (Print(job, choice->Copies)) UnloadForm(Name());
+    if (Print(job, Suite.PrintCopies)) UnloadForm(Name());
 }
 
 void frmObxPrintCalc::mnuPreview_Click() {

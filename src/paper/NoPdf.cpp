@@ -1,6 +1,5 @@
 // In the place of PdfPaper.cpp where Qt is missing.
 #include "paper/PdfPaper.h"
-
 #include "platform/RuntimeError.h"
 
 namespace quillmetra {

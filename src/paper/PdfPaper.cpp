@@ -36,7 +36,7 @@ public:
     }
 
     ~PdfPaper() override {
-        painter_.end();  // before the file that it draws into
+        if (painter_.isActive()) painter_.end();  // before the file that it draws into
         file_.cancelWriting();
     }
 

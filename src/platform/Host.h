@@ -43,8 +43,8 @@ struct PrintJob {
     enum class Target { Printer, Preview, Pdf };
 
     Target To = Target::Printer;
-    std::string Path;  // of the PDF, in the suite's words
-    std::string Name;  // of the document, as print queues and viewers show it
+    std::string Path;              // of the PDF, in the suite's words
+    std::string Name;              // of the document, as print queues and viewers show it
     int FromPage = 0, ToPage = 0;  // as in PrinterChoice
 };
 

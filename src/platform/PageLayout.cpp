@@ -7,11 +7,11 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double LineHeight = 240;   // twips
-constexpr double Margin = 100;       // within the frame's borders, twips
-constexpr double Gap = 60;           // between two texts of a line, twips
-constexpr double Narrowest = 0.75;   // of the width of letters, before they get smaller
-constexpr double Baseline = 0.77;    // of the line height, so that letters of 12 points keep within it
+constexpr double LineHeight = 240;     // twips
+constexpr double Margin = 100;         // within the frame's borders, twips
+constexpr double Gap = 90;             // between two texts of a line, twips
+constexpr double Narrowest = 0.75;     // of the width of letters, before they get smaller
+constexpr double Baseline = 0.77;      // of the line height, so that letters of 12 points keep within it
 constexpr double SideShare = 1.0 / 3;  // of the frame's width, for a text at its right border
 
 // A text before it is fitted, with the room that it may take.
@@ -138,8 +138,6 @@ private:
 
 }  // namespace
 
-PageLayout LayOut(const PrintedPage& page, const TextMetric& metric) {
-    return Layouter(page, metric).Make();
-}
+PageLayout LayOut(const PrintedPage& page, const TextMetric& metric) { return Layouter(page, metric).Make(); }
 
 }  // namespace quillmetra

@@ -17,8 +17,8 @@ RecordingPrinter Printer;
 
 namespace {
 
-constexpr double LineHeight = 240;     // twips, of a line of the page as characters
-constexpr double TwipsPerPoint = 24;   // a line's advance under letters of that many points
+constexpr double LineHeight = 240;    // twips, of a line of the page as characters
+constexpr double TwipsPerPoint = 24;  // a line's advance under letters of that many points
 
 double GridWidth(const std::string& text) {
     return Paper::ColumnWidth * static_cast<double>(CharacterCount(text));

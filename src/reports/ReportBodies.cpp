@@ -68,8 +68,8 @@ constexpr Line ColumnHeads(const std::array<int, 4>& columns, const char* one, c
     return {Look::Bold, {{{columns[0], one}, {columns[1], two}, {columns[2], three}, {columns[3], "Units"}}}};
 }
 
-constexpr Line Cases(const std::array<int, 4>& columns, const char* label, const char* values, Shown unit = {},
-                     int advance = 1) {
+constexpr Line Cases(const std::array<int, 4>& columns, const char* label, const char* values,
+                     Shown unit = {}, int advance = 1) {
     return {Look::Plain,
             {{{6, "", {label}},
               {columns[0], "", {values, 0}},
@@ -87,9 +87,7 @@ constexpr Line Value(Cell label, Shown value, Shown unit = {}, const char* after
 constexpr Cell Labelled(const char* control) { return {0, "", {control}}; }
 constexpr Cell Worded(const char* text) { return {0, text}; }
 
-constexpr Line MixtureLine(const char* text) {
-    return {Look::Plain, {{{10, text}}}, 1, When::Mixture};
-}
+constexpr Line MixtureLine(const char* text) { return {Look::Plain, {{{10, text}}}, 1, When::Mixture}; }
 constexpr Line NameLine(const char* text) {
     return {Look::Plain, {{{6, text, {"txtFluid"}}}}, 2, When::PureFluid};
 }
@@ -110,7 +108,7 @@ constexpr auto Join(const std::array<Line, Sizes>&... tables) {
 
 // A number that is no material leaves the words of the last message in their place, as it always has.
 std::string MaterialWord() {
-    static constexpr const char* names[] = {"Steel",           "Tubing",   "Cast iron", "Galvanized iron",
+    static constexpr const char* names[] = {"Steel",          "Tubing",   "Cast iron", "Galvanized iron",
                                             "Asphalted iron", "Concrete", "Wood"};
     const int number = Calc.PipeMaterialNumber;
     if (number >= 1 && number <= static_cast<int>(std::size(names))) Calc.MessageText = names[number - 1];
@@ -200,106 +198,102 @@ constexpr auto LiquidLossLines =
          },
          LossOutput, std::array{Cases(Narrow, "lblReynoldsNum", "txtReynoldsNum", {}, 2)}, ClosingLines());
 
-constexpr auto GasLossLines =
-    Join(PipeLines("Pipe condition  : "),
-         std::array{
-             Head(6, "Fluid Data"),
-             MixtureLine("Gas mixture components"),
-             NameLine("Name   : "),
-             Head(25, "Variable Input Data"),
-             LossColumns,
-             Cases(Narrow, "lblFlow", "txtFlow", Units(0)),
-             Cases(Narrow, "lblTemp", "txtTemp", Units(2)),
-             Cases(Narrow, "lblPressure", "txtPressure", Units(3)),
-             Cases(Narrow, "lblMW", "txtMW"),
-             Cases(Narrow, "lblRatioSH", "txtRatioSH"),
-             Cases(Narrow, "lblViscosity", "txtViscosity", Units(13)),
-             Cases(Narrow, "lblCritTemp", "txtCritTemp", Units(12)),
-             Cases(Narrow, "lblCritPressure", "txtCritPressure", Units(11)),
-             Cases(Narrow, "lblEquip", "txtEquip", Units(4)),
-         },
-         LossOutput,
-         std::array{Cases(Narrow, "lblSonicVelocity", "txtSonicVelocity", {"unSonicVelocity"}, 2)},
-         ClosingLines());
+constexpr auto GasLossLines = Join(
+    PipeLines("Pipe condition  : "),
+    std::array{
+        Head(6, "Fluid Data"),
+        MixtureLine("Gas mixture components"),
+        NameLine("Name   : "),
+        Head(25, "Variable Input Data"),
+        LossColumns,
+        Cases(Narrow, "lblFlow", "txtFlow", Units(0)),
+        Cases(Narrow, "lblTemp", "txtTemp", Units(2)),
+        Cases(Narrow, "lblPressure", "txtPressure", Units(3)),
+        Cases(Narrow, "lblMW", "txtMW"),
+        Cases(Narrow, "lblRatioSH", "txtRatioSH"),
+        Cases(Narrow, "lblViscosity", "txtViscosity", Units(13)),
+        Cases(Narrow, "lblCritTemp", "txtCritTemp", Units(12)),
+        Cases(Narrow, "lblCritPressure", "txtCritPressure", Units(11)),
+        Cases(Narrow, "lblEquip", "txtEquip", Units(4)),
+    },
+    LossOutput, std::array{Cases(Narrow, "lblSonicVelocity", "txtSonicVelocity", {"unSonicVelocity"}, 2)},
+    ClosingLines());
 
-constexpr auto WaterHammerLines =
-    Join(std::array{
-             Head(25, "Input Data"),
-             MixtureLine("Liquid mixture components"),
-             Line{Look::Plain,
-                  {{{10, "", {"lblFluid"}}, {40, "", {"txtFluid"}}}},
-                  1,
-                  When::PureFluid},
-             Value(Labelled("lblMaxLiqFlow"), {"txtMaxLiqFlow"}, Units(1)),
-             Value(Labelled("lblFlowTemp"), {"txtFlowTemp"}, Units(2)),
-             Value(Labelled("lblOperPressure"), {"txtOperPressure"}, Units(3)),
-             Value(Labelled("lblSGFlow"), {"txtSGFlow"}),
-             Value(Labelled("lblBulkModulus"), {"txtBulkModulus"}, Units(27)),
-             Value(Labelled("lblLineLength"), {"txtLineLength"}, Units(25)),
-             Value(Worded("Pipe inside diameter"), {"txtPipeID"}, Units(18)),
-             Value(Labelled("lblPipeWall"), {"txtPipeWall"}, {"UnpipeWall"}),
-             Value(Labelled("lblPipeMatl"), {"txtPipeMatl"}),
-             Value(Labelled("lblLineModulus"), {"txtLineModulus"}, {"unLineModulus"}),
-             Value(Labelled("lblMaxAllowPressure"), {"txtMaxAllowPressure"}, {"unMaxAllowPressure"}),
-             Value(Worded("Selected closing time"), {"txtSelectedTime"}, {}, "  secs", 2),
-             SubHead(3000, "Output data", 2),
-             SubHead(1200, "Critical closing time conditons", 1),  // the word as it has always been printed
-             Value(Worded("Critical closing time"), {"txtCriticalTime"}, {}, "  secs"),
-             Value(Labelled("lblWaveVelocity"), {"txtWaveVelocity"}, {"unWaveVelocity"}),
-             Value(Labelled("lblPressureWave"), {"txtPressureWave"}, {"unPressureWave"}),
-             Value(Labelled("lblSupportForce"), {"txtSupportForce"}, {"unSupportForce"}, "", 2),
-             SubHead(1200, "Closing time for allowable pressure", 1),
-             Value(Worded("Minimum closing time"), {"txtCloseTime"}, {}, "  secs", 2),
-             SubHead(1200, "Selected closing time conditions", 1),
-             Value(Labelled("lblSelectedWave"), {"txtSelectedWave"}, {"unSelectedWave"}),
-             Value(Labelled("lblSelectedForce"), {"txtSelectedForce"}, {"unSelectedForce"}, "", 2),
-         },
-         ClosingLines());
+constexpr auto WaterHammerLines = Join(
+    std::array{
+        Head(25, "Input Data"),
+        MixtureLine("Liquid mixture components"),
+        Line{Look::Plain, {{{10, "", {"lblFluid"}}, {40, "", {"txtFluid"}}}}, 1, When::PureFluid},
+        Value(Labelled("lblMaxLiqFlow"), {"txtMaxLiqFlow"}, Units(1)),
+        Value(Labelled("lblFlowTemp"), {"txtFlowTemp"}, Units(2)),
+        Value(Labelled("lblOperPressure"), {"txtOperPressure"}, Units(3)),
+        Value(Labelled("lblSGFlow"), {"txtSGFlow"}),
+        Value(Labelled("lblBulkModulus"), {"txtBulkModulus"}, Units(27)),
+        Value(Labelled("lblLineLength"), {"txtLineLength"}, Units(25)),
+        Value(Worded("Pipe inside diameter"), {"txtPipeID"}, Units(18)),
+        Value(Labelled("lblPipeWall"), {"txtPipeWall"}, {"UnpipeWall"}),
+        Value(Labelled("lblPipeMatl"), {"txtPipeMatl"}),
+        Value(Labelled("lblLineModulus"), {"txtLineModulus"}, {"unLineModulus"}),
+        Value(Labelled("lblMaxAllowPressure"), {"txtMaxAllowPressure"}, {"unMaxAllowPressure"}),
+        Value(Worded("Selected closing time"), {"txtSelectedTime"}, {}, "  secs", 2),
+        SubHead(3000, "Output data", 2),
+        SubHead(1200, "Critical closing time conditons", 1),  // the word as it has always been printed
+        Value(Worded("Critical closing time"), {"txtCriticalTime"}, {}, "  secs"),
+        Value(Labelled("lblWaveVelocity"), {"txtWaveVelocity"}, {"unWaveVelocity"}),
+        Value(Labelled("lblPressureWave"), {"txtPressureWave"}, {"unPressureWave"}),
+        Value(Labelled("lblSupportForce"), {"txtSupportForce"}, {"unSupportForce"}, "", 2),
+        SubHead(1200, "Closing time for allowable pressure", 1),
+        Value(Worded("Minimum closing time"), {"txtCloseTime"}, {}, "  secs", 2),
+        SubHead(1200, "Selected closing time conditions", 1),
+        Value(Labelled("lblSelectedWave"), {"txtSelectedWave"}, {"unSelectedWave"}),
+        Value(Labelled("lblSelectedForce"), {"txtSelectedForce"}, {"unSelectedForce"}, "", 2),
+    },
+    ClosingLines());
 
-constexpr auto LiquidDataLines =
-    Join(std::array{
-             Head(6, "Fluid data"),
-             MixtureLine("Liquid mixture components"),
-             NameLine("Name  : "),
-             Head(25, "Process data"),
-             ColumnHeads(Wide, "Case 1", "Case 2", "Case 3"),
-             Cases(Wide, "lblTemp", "txtTemp", Units(2)),
-             Cases(Wide, "lblPressure", "txtPressure", Units(3)),
-             Cases(Wide, "lblMW", "txtMW"),
-             Cases(Wide, "lblSGFTP", "txtSGFTP"),
-             Cases(Wide, "lblSGBase", "txtSGBase"),
-             Cases(Wide, "lblCritPressure", "txtCritPressure", {"unCritPressure"}),
-             Cases(Wide, "lblCritTemp", "txtCritTemp", {"unCritTemp"}),
-             Cases(Wide, "lblDensity", "txtDensity", {"unDensity"}),
-             Cases(Wide, "lblNormalBP", "txtNormalBP", {"unNormalBP"}),
-             Cases(Wide, "lblViscosity", "txtViscosity", {"unViscosity"}),
-             Cases(Wide, "lblVapPressure", "txtVapPressure", {"unVapPressure"}),
-             Cases(Wide, "lblFlashpoint", "txtFlashpoint", {"unFlashPoint"}),
-             Cases(Wide, "lblBulkMod", "txtBulkModulus", {"unBulkMod"}),
-         },
-         ClosingLines("frmGasLineLoss"));
+constexpr auto LiquidDataLines = Join(
+    std::array{
+        Head(6, "Fluid data"),
+        MixtureLine("Liquid mixture components"),
+        NameLine("Name  : "),
+        Head(25, "Process data"),
+        ColumnHeads(Wide, "Case 1", "Case 2", "Case 3"),
+        Cases(Wide, "lblTemp", "txtTemp", Units(2)),
+        Cases(Wide, "lblPressure", "txtPressure", Units(3)),
+        Cases(Wide, "lblMW", "txtMW"),
+        Cases(Wide, "lblSGFTP", "txtSGFTP"),
+        Cases(Wide, "lblSGBase", "txtSGBase"),
+        Cases(Wide, "lblCritPressure", "txtCritPressure", {"unCritPressure"}),
+        Cases(Wide, "lblCritTemp", "txtCritTemp", {"unCritTemp"}),
+        Cases(Wide, "lblDensity", "txtDensity", {"unDensity"}),
+        Cases(Wide, "lblNormalBP", "txtNormalBP", {"unNormalBP"}),
+        Cases(Wide, "lblViscosity", "txtViscosity", {"unViscosity"}),
+        Cases(Wide, "lblVapPressure", "txtVapPressure", {"unVapPressure"}),
+        Cases(Wide, "lblFlashpoint", "txtFlashpoint", {"unFlashPoint"}),
+        Cases(Wide, "lblBulkMod", "txtBulkModulus", {"unBulkMod"}),
+    },
+    ClosingLines("frmGasLineLoss"));
 
-constexpr auto GasDataLines =
-    Join(std::array{
-             Head(6, "Fluid Data"),
-             MixtureLine("Gas mixture components"),
-             NameLine("Name   : "),
-             Head(25, "Process data"),
-             ColumnHeads(HeadColumns, "Case 1", "Case 2", "Case 3"),
-             Cases(Narrow, "lblTemp", "txtTemp", Units(2)),
-             Cases(Narrow, "lblPressure", "txtPressure", Units(3)),
-             Cases(Narrow, "lblMW", "txtMW"),
-             Cases(Narrow, "lblRatioSH", "txtRatioSH"),
-             Cases(Narrow, "lblNormalBP", "txtNormalBP", {"unNormalBP"}),
-             Cases(Narrow, "lblCritPressure", "txtCritPressure", {"unCritPressure"}),
-             Cases(Narrow, "lblCritTemp", "txtCritTemp", {"unCritTemp"}),
-             Cases(Narrow, "lblDensity", "txtDensity", {"unDensity"}),
-             Cases(Narrow, "lblCompFactor", "txtCompFactor"),
-             Cases(Narrow, "lblViscosity", "txtViscosity", {"unViscosity"}),
-             Cases(Narrow, "lblVapPressure", "txtVapPressure", {"unVapPressure"}),
-             Cases(Narrow, "lblReqdLatentHeat", "txtReqdLatentHeat", {"unReqdLatentHeat"}),
-         },
-         ClosingLines());
+constexpr auto GasDataLines = Join(
+    std::array{
+        Head(6, "Fluid Data"),
+        MixtureLine("Gas mixture components"),
+        NameLine("Name   : "),
+        Head(25, "Process data"),
+        ColumnHeads(HeadColumns, "Case 1", "Case 2", "Case 3"),
+        Cases(Narrow, "lblTemp", "txtTemp", Units(2)),
+        Cases(Narrow, "lblPressure", "txtPressure", Units(3)),
+        Cases(Narrow, "lblMW", "txtMW"),
+        Cases(Narrow, "lblRatioSH", "txtRatioSH"),
+        Cases(Narrow, "lblNormalBP", "txtNormalBP", {"unNormalBP"}),
+        Cases(Narrow, "lblCritPressure", "txtCritPressure", {"unCritPressure"}),
+        Cases(Narrow, "lblCritTemp", "txtCritTemp", {"unCritTemp"}),
+        Cases(Narrow, "lblDensity", "txtDensity", {"unDensity"}),
+        Cases(Narrow, "lblCompFactor", "txtCompFactor"),
+        Cases(Narrow, "lblViscosity", "txtViscosity", {"unViscosity"}),
+        Cases(Narrow, "lblVapPressure", "txtVapPressure", {"unVapPressure"}),
+        Cases(Narrow, "lblReqdLatentHeat", "txtReqdLatentHeat", {"unReqdLatentHeat"}),
+    },
+    ClosingLines());
 
 struct Body {
     std::span<const Line> Lines;
@@ -308,8 +302,8 @@ struct Body {
 
 // By program number, from 1.
 constexpr std::array Bodies = {
-    Body{LiquidLossLines, "Print Liquid Problem"},     Body{GasLossLines, "Print Gas Loss Problem"},
-    Body{WaterHammerLines, "Print WatHam Problem"},    Body{LiquidDataLines, "Print Liquid Problem"},
+    Body{LiquidLossLines, "Print Liquid Problem"},  Body{GasLossLines, "Print Gas Loss Problem"},
+    Body{WaterHammerLines, "Print WatHam Problem"}, Body{LiquidDataLines, "Print Liquid Problem"},
     Body{GasDataLines, "Print Gas Problem"},
 };
 
@@ -317,8 +311,7 @@ constexpr std::array Bodies = {
 
 std::string TextOf(const Shown& shown) {
     if (shown.Control == nullptr) return {};
-    const char* const form =
-        shown.Form != nullptr ? shown.Form : FindProgram(Calc.CurrentProgram)->Form;
+    const char* const form = shown.Form != nullptr ? shown.Form : FindProgram(Calc.CurrentProgram)->Form;
     return ControlOf(form, shown.Control, shown.Index).Text();
 }
 
