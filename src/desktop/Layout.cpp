@@ -13,10 +13,17 @@ struct Entry {
 };
 
 constexpr Entry Layouts[] = {
-    {"frmTRProg", frmTRProg},           {"frmObxProg", frmObxProg}, {"frmLiqLineLoss", frmLiqLineLoss},
-    {"frmGasLineLoss", frmGasLineLoss}, {"frmLiqData", frmLiqData}, {"frmGasData", frmGasData},
-    {"frmPipeSize", frmPipeSize},       {"frmUnits", frmUnits},     {"frmCalcOptions", frmCalcOptions},
+    {"frmTRProg", frmTRProg},
+    {"frmObxProg", frmObxProg},
+    {"frmLiqLineLoss", frmLiqLineLoss},
+    {"frmGasLineLoss", frmGasLineLoss},
+    {"frmLiqData", frmLiqData},
+    {"frmGasData", frmGasData},
+    {"frmPipeSize", frmPipeSize},
+    {"frmUnits", frmUnits},
+    {"frmCalcOptions", frmCalcOptions},
     {"frmWaterHammer", frmWaterHammer},
+    {"frmObxPrintCalc", frmObxPrintCalc},
 };
 }  // namespace
 

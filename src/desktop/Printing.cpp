@@ -5,6 +5,7 @@
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
+#include <QScreen>
 
 #include "desktop/DesktopHost.h"
 #include "desktop/Painting.h"
@@ -14,6 +15,10 @@
 #include "platform/RuntimeError.h"
 
 namespace quillmetra {
+
+namespace {
+constexpr double TwipsPerPoint = 20;
+}
 
 PrinterPaper::PrinterPaper(QPrinter& printer, const std::string& name) : printer_(printer) {
     printer_.setDocName(ToQt(name));
@@ -44,6 +49,7 @@ void PreviewPaper::Finish() {
     const ReadyForUser ready;
     QPrintPreviewDialog dialog(&printer_, QApplication::activeWindow());
     dialog.setWindowTitle(ToQt(name_));
+    dialog.resize(dialog.screen()->availableSize() * 0.85);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [this](QPrinter* printer) {
         QPainter painter(printer);
         for (std::size_t i = 0; i < pages_.size(); ++i) {
@@ -81,7 +87,13 @@ void DesktopHost::PageSetupDialog() {
 
 std::unique_ptr<Paper> DesktopHost::OpenPaper(const PrintJob& job) {
     switch (job.To) {
-        case PrintJob::Target::Pdf: return OpenPdf(job);
+        case PrintJob::Target::Pdf: {
+            const QSizeF sheet = ThePrinter().pageLayout().fullRect(QPageLayout::Point).size();
+            PrintJob sized = job;
+            sized.SheetWidth = sheet.width() * TwipsPerPoint;
+            sized.SheetHeight = sheet.height() * TwipsPerPoint;
+            return OpenPdf(sized);
+        }
         case PrintJob::Target::Preview: return std::make_unique<PreviewPaper>(ThePrinter(), job.Name);
         case PrintJob::Target::Printer: break;
     }

@@ -130,10 +130,10 @@ void frmObxPrintCalc::mnuReload_Click() {
 }
 
 void frmObxPrintCalc::mnuPrinterFonts_Click() {
-    if (const auto font = CurrentHost()->FontDialog(Printer.Font)) Printer.Font = *font;
+    if (const auto font = AskFont(Printer.Font)) Printer.Font = *font;
 }
 
-void frmObxPrintCalc::mnuPageSetup_Click() { CurrentHost()->PageSetupDialog(); }
+void frmObxPrintCalc::mnuPageSetup_Click() { AskPageSetup(); }
 
 void frmObxPrintCalc::cmdCancel_Click() {
     const bool stored = Calc.BrowserOpen == words::Yes;
@@ -148,7 +148,7 @@ void frmObxPrintCalc::cmdOK_Click() {
         PrintCopies(Suite.PrintCopies);
         return;
     }
-    const auto choice = CurrentHost()->PrinterDialog({});
+    const auto choice = AskPrinter();
     if (!choice) return;
     Suite.PrintFromPage = choice->FromPage;
     Suite.PrintToPage = choice->ToPage;
@@ -163,10 +163,10 @@ void frmObxPrintCalc::mnuPreview_Click() {
 }
 
 void frmObxPrintCalc::mnuPdf_Click() {
-    const auto path = CurrentHost()->FileDialog({.Title = "Save as PDF",
-                                                 .Filter = "PDF files(*.pdf)|*.pdf",
-                                                 .Folder = Suite.DefaultPaths[1],
-                                                 .ForSaving = true});
+    const auto path = AskFile({.Title = "Save as PDF",
+                               .Filter = "PDF files(*.pdf)|*.pdf",
+                               .Folder = Suite.DefaultPaths[1],
+                               .ForSaving = true});
     if (!path) return;
     StoreHeadings();
     Print({.To = PrintJob::Target::Pdf, .Path = *path}, 1);

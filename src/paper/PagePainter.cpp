@@ -40,6 +40,7 @@ QFont UnitFont(const FontChoice& choice) {
     font.setItalic(choice.Italic);
     font.setUnderline(choice.Underline);
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::PreferNoShaping);  // ligatures would keep "fi" from being found in a PDF
     return font;
 }
 

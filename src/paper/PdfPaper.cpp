@@ -14,6 +14,8 @@ namespace quillmetra {
 
 namespace {
 
+constexpr double TwipsPerPoint = 20;
+
 // Letters need an application; a program without windows gets one that needs no display.
 void EnsureApplication() {
     if (QCoreApplication::instance() != nullptr) return;
@@ -32,6 +34,10 @@ public:
         if (!file_.open(QIODevice::WriteOnly)) throw failure::PathAccess();
         writer_.setTitle(QString::fromStdString(job.Name));
         writer_.setCreator(QStringLiteral("Quillmetra"));
+        if (job.SheetWidth > 0 && job.SheetHeight > 0) {
+            const QSizeF sheet(job.SheetWidth / TwipsPerPoint, job.SheetHeight / TwipsPerPoint);
+            writer_.setPageSize(QPageSize(sheet, QPageSize::Point));
+        }
         writer_.setPageMargins(QMarginsF());
     }
 

@@ -47,6 +47,26 @@ std::string AskText(const std::string& prompt, const std::string& title) {
     return RequiredHost().InputBox(prompt, title).value_or("");
 }
 
+std::optional<std::string> AskFile(const FileQuestion& question) {
+    ++ShownBoxes;
+    return RequiredHost().FileDialog(question);
+}
+
+std::optional<FontChoice> AskFont(const FontChoice& preset) {
+    ++ShownBoxes;
+    return RequiredHost().FontDialog(preset);
+}
+
+std::optional<PrinterChoice> AskPrinter(const PrinterChoice& preset) {
+    ++ShownBoxes;
+    return RequiredHost().PrinterDialog(preset);
+}
+
+void AskPageSetup() {
+    ++ShownBoxes;
+    RequiredHost().PageSetupDialog();
+}
+
 void ShowHelpTopic(int topic) { RequiredHost().ShowHelp(topic); }
 
 bool UserWantsToStop() { return InstalledHost != nullptr && InstalledHost->Yield(); }

@@ -19,6 +19,28 @@ struct MessageBox {
     std::optional<Answer> Default = {};
 };
 
+// The dialogs of the host, and what comes of them.
+struct FileQuestion {
+    std::string Title;
+    std::string Filter;  // "Access DB Files(TRDB.MDB)|TRDB.MDB"
+    std::string Folder;
+    bool ForSaving = false;
+};
+
+struct FontChoice {
+    std::string Name;
+    double Size = 10;  // points
+    bool Bold = false;
+    bool Italic = false;
+    bool Underline = false;
+};
+
+struct PrinterChoice {
+    int Copies = 1;
+    int FromPage = 0;  // 0: from the first page
+    int ToPage = 0;    // 0: to the last
+};
+
 // The default answer of a box when it names none: OK or Yes.
 Answer DefaultAnswer(const MessageBox& box);
 
@@ -34,6 +56,13 @@ bool AskYesNo(const std::string& text, const std::string& title, Icon sign = Ico
 
 // Asks for one line of text; empty when cancelled.
 std::string AskText(const std::string& prompt, const std::string& title);
+
+// The dialogs for a file, a font and a printer; nothing when the user cancels.
+std::optional<std::string> AskFile(const FileQuestion& question);
+std::optional<FontChoice> AskFont(const FontChoice& preset);
+std::optional<PrinterChoice> AskPrinter(const PrinterChoice& preset = {});
+// Size and margins of the sheets; the host keeps them.
+void AskPageSetup();
 
 // Shows a topic of the help by its number.
 void ShowHelpTopic(int topic);

@@ -17,35 +17,15 @@ class Paper;
 // What changed about a control, so that a host renews no more than that.
 enum class Aspect { Text, Checked, Enabled, Visible, Colours, ToolTip, Rows, Selection, SelectAll };
 
-struct FileQuestion {
-    std::string Title;
-    std::string Filter;  // "Access DB Files(TRDB.MDB)|TRDB.MDB"
-    std::string Folder;
-    bool ForSaving = false;
-};
-
-struct FontChoice {
-    std::string Name;
-    double Size = 10;  // points
-    bool Bold = false;
-    bool Italic = false;
-    bool Underline = false;
-};
-
-struct PrinterChoice {
-    int Copies = 1;
-    int FromPage = 0;  // 0: from the first page
-    int ToPage = 0;    // 0: to the last
-};
-
 // Where pages go, see Printer.h.
 struct PrintJob {
     enum class Target { Printer, Preview, Pdf };
 
     Target To = Target::Printer;
-    std::string Path;              // of the PDF, in the suite's words
-    std::string Name;              // of the document, as print queues and viewers show it
-    int FromPage = 0, ToPage = 0;  // as in PrinterChoice
+    std::string Path;                        // of the PDF, in the suite's words
+    std::string Name;                        // of the document, as print queues and viewers show it
+    double SheetWidth = 0, SheetHeight = 0;  // of the PDF, twips; 0: A4
+    int FromPage = 0, ToPage = 0;            // as in PrinterChoice
 };
 
 class Host {

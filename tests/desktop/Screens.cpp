@@ -125,6 +125,18 @@ void ShootLiquidLine() {
     Shoot("line-changed");
     for (int i = 0; i < 3; ++i) Click("frmLiqLineLoss", "cmdCalculate", i);
     Shoot("line-results");
+    Within([] {
+        TypeText(ControlOf("frmObxPrintCalc", "txtTitle"), "Northfield Terminal");
+        TypeText(ControlOf("frmObxPrintCalc", "txtSubTitle"), "Unit 200 line sizing");
+        Shoot("printout");
+        Within([] {
+            Shoot("preview");
+            QApplication::activeModalWidget()->close();
+        });
+        Click("frmObxPrintCalc", "mnuPreview");
+        Click("frmObxPrintCalc", "cmdCancel");
+    });
+    Click("frmLiqLineLoss", "mnuPrint");
     Click("frmLiqLineLoss", "cmdFormLayout");
     Shoot("options");
     Click("frmCalcOptions", "cmdCancelOptions");

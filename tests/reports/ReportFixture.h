@@ -2,7 +2,8 @@
 // else of the form.
 #pragma once
 
-#include <fstream>
+#include <cmath>
+#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -44,11 +45,7 @@ private:
     std::vector<std::unique_ptr<Control>> controls_;
 };
 
-inline std::string ReadFile(const std::filesystem::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
+inline std::string ReadFile(const std::filesystem::path& path) { return ReadBytes(SuitePath(path)); }
 
 // Lines of a page: number, places of the texts with b for bold, h and s for large and small letters, and the
 // characters; then what is drawn.
@@ -66,7 +63,9 @@ inline std::string Listing(const PrintedPage& page) {
         if (op.What != PrintOp::Kind::Text || bare || line < 1) continue;
         std::string& mark = marks[line];
         mark += (mark.empty() ? "" : "+") + number(op.Y) + (op.FontBold ? "B" : "") +
-                (op.FontSize > page.Font.Size ? "h" : op.FontSize < page.Font.Size ? "s" : "");
+                (op.FontSize > page.Font.Size   ? "h"
+                 : op.FontSize < page.Font.Size ? "s"
+                                                : "");
     }
     std::istringstream lines(PageAsText(page));
     std::string listing;

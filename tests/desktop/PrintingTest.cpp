@@ -1,0 +1,40 @@
+// The paper of the toolkit's printer.
+#include "desktop/Printing.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+
+#include "platform/RuntimeError.h"
+
+namespace quillmetra {
+namespace {
+
+PrintedPage SamplePage() {
+    PrintedPage page{.Font = {.Name = RecordingPrinter::DefaultFont, .Size = 10}};
+    page.Ops = {{.Y = 240, .FontSize = 10, .Cells = {{6, "Flow"}, {35, " 1500"}}},
+                {.What = PrintOp::Kind::Line, .X = 0, .Y = 480, .StepX = 9000}};
+    return page;
+}
+
+TEST(PrinterPaper, PrintsToAFileAndTellsWhenItCannot) {
+    const QTemporaryDir folder;
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath("page.pdf"));
+    {
+        PrinterPaper paper(printer, "sample");
+        paper.Print(SamplePage());
+        paper.Print(SamplePage());
+        paper.Finish();
+    }
+    EXPECT_GT(std::filesystem::file_size(folder.filePath("page.pdf").toStdString()), 1000U);
+
+    printer.setOutputFileName(folder.filePath("no/such/folder/page.pdf"));
+    PrinterPaper paper(printer, "sample");
+    EXPECT_THROW(paper.Print(SamplePage()), RuntimeError);
+}
+
+}  // namespace
+}  // namespace quillmetra
