@@ -24,7 +24,9 @@ void EnsureApplication() {
     static char option[] = "-platform";
     static char platform[] = "offscreen";
     static char* words[] = {name, option, platform, nullptr};
-    static const QGuiApplication application(count, words);
+    // Never destroyed: what it would clean up may have gone before it when the process ends.
+    static const auto* const application = new QGuiApplication(count, words);
+    static_cast<void>(application);
 }
 
 class PdfPaper : public Paper {

@@ -1,9 +1,9 @@
 // What keeps a page legible when texts are longer than their places.
+#include "platform/PageLayout.h"
+
 #include <algorithm>
 
 #include <gtest/gtest.h>
-
-#include "platform/PageLayout.h"
 
 namespace quillmetra {
 namespace {
@@ -40,9 +40,9 @@ PageLayout LayOut(std::vector<PrintOp> ops) {
 }
 
 TEST(PageLayout, KeepsColumnsAndFitsWhatIsTooWide) {
-    const PageLayout page = LayOut({Text(2400, {{6, std::string(60, 'a')}, {35, "12"}, {80, "lb/h"}}),
-                                    Text(2640, {{6, std::string(200, 'b')}}),
-                                    Text(2880, {{6, "plain"}}, 12)});
+    const PageLayout page =
+        LayOut({Text(2400, {{6, std::string(60, 'a')}, {35, "12"}, {80, "lb/h"}}),
+                Text(2640, {{6, std::string(200, 'b')}}), Text(2880, {{6, "plain"}}, 12)});
     ASSERT_EQ(page.Texts.size(), 5U);
     const PlacedText& label = page.Texts[0];
     EXPECT_EQ(label.X, 480);
@@ -60,11 +60,10 @@ TEST(PageLayout, KeepsColumnsAndFitsWhatIsTooWide) {
 
 TEST(PageLayout, NothingLeavesTheFrame) {
     const std::string longText(300, 'w');
-    const PageLayout page = LayOut({Placed(9000 - 96 * 300 - 200, 240, longText, Anchor::Right, 9),
-                                    Centred(90, longText, 12), Centred(1680, longText, 12),
-                                    Placed(-20000, 1680, longText, Anchor::Right),
-                                    Placed(500, 9000, longText, Anchor::Left),
-                                    Text(9240, {{80, longText}})});
+    const PageLayout page =
+        LayOut({Placed(9000 - 96 * 300 - 200, 240, longText, Anchor::Right, 9), Centred(90, longText, 12),
+                Centred(1680, longText, 12), Placed(-20000, 1680, longText, Anchor::Right),
+                Placed(500, 9000, longText, Anchor::Left), Text(9240, {{80, longText}})});
     ASSERT_EQ(page.Texts.size(), 6U);
     for (const PlacedText& text : page.Texts) {
         EXPECT_GE(text.X, 100) << text.Baseline;
@@ -80,10 +79,8 @@ TEST(PageLayout, NothingLeavesTheFrame) {
 }
 
 TEST(PageLayout, HeadingMovesDownToTheEndOfATextCloseAboveIt) {
-    const PageLayout page = LayOut({Text(2880, {{10, "last of a mixture"}}),
-                                    Text(2970, {{6, "Heading"}}, 12),
-                                    Text(3600, {{6, "plain"}}),
-                                    Text(3930, {{6, "Heading"}}, 12)});
+    const PageLayout page = LayOut({Text(2880, {{10, "last of a mixture"}}), Text(2970, {{6, "Heading"}}, 12),
+                                    Text(3600, {{6, "plain"}}), Text(3930, {{6, "Heading"}}, 12)});
     EXPECT_GE(page.Texts[1].Baseline - page.Texts[0].Baseline, 240);
     EXPECT_DOUBLE_EQ(page.Texts[3].Baseline, 3930 + 12 * 18);
 }

@@ -8,9 +8,9 @@ namespace quillmetra {
 namespace {
 
 const std::vector<std::pair<double, std::string>> EightGases = {
-    {72.5, "Methane"},     {10.25, "Ethane"},       {6, "Propane"},    {3.25, "n-Butane"},
-    {2.25, "i-Butane"},    {3, "Carbon dioxide"},   {1.5, "Nitrogen"}, {0.75, "Hydrogen sulfide"},
-    {0.5, "Air"}};
+    {72.5, "Methane"},  {10.25, "Ethane"},          {6, "Propane"},
+    {3.25, "n-Butane"}, {2.25, "i-Butane"},         {3, "Carbon dioxide"},
+    {1.5, "Nitrogen"},  {0.75, "Hydrogen sulfide"}, {0.5, "Air"}};
 
 struct PageCase {
     const char* Page;
@@ -42,19 +42,19 @@ TEST_P(ReportPages, AreAsTheyHaveAlwaysBeen) {
     EXPECT_EQ(Calc.NoteText[2], Texts.Notes[1]);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Each, ReportPages,
-    ::testing::Values(PageCase{"liquid-loss", "liquid-loss", 1, "P-101A", false, 4, 0},
-                      PageCase{"gas-loss", "gas-loss", 2, "FG-2301", false, 1, 10},
-                      PageCase{"gas-loss-mixture", "gas-loss", 2, "FG-2301", true, 1, 10},
-                      PageCase{"water-hammer", "water-hammer", 3, "HV-330", false, 1, 0},
-                      PageCase{"liquid-data", "liquid-data", 4, "LD-12", false, 1, 0},
-                      PageCase{"gas-data", "gas-data", 5, "FD-7", true, 1, 0}),
-    [](const auto& each) {
-        std::string name = each.param.Page;
-        std::erase(name, '-');
-        return name;
-    });
+INSTANTIATE_TEST_SUITE_P(Each, ReportPages,
+                         ::testing::Values(PageCase{"liquid-loss", "liquid-loss", 1, "P-101A", false, 4, 0},
+                                           PageCase{"gas-loss", "gas-loss", 2, "FG-2301", false, 1, 10},
+                                           PageCase{"gas-loss-mixture", "gas-loss", 2, "FG-2301", true, 1,
+                                                    10},
+                                           PageCase{"water-hammer", "water-hammer", 3, "HV-330", false, 1, 0},
+                                           PageCase{"liquid-data", "liquid-data", 4, "LD-12", false, 1, 0},
+                                           PageCase{"gas-data", "gas-data", 5, "FD-7", true, 1, 0}),
+                         [](const auto& each) {
+                             std::string name = each.param.Page;
+                             std::erase(name, '-');
+                             return name;
+                         });
 
 TEST_F(ReportTest, PromptsOfTheTwoNamesPrintNothing) {
     UseProgram(2, "gas-loss");
@@ -127,7 +127,10 @@ TEST_F(ReportTest, MixtureLinesWrapAtAHundredCharacters) {
         {{{0, "Methane"}, {-1, "Ethane"}}, {}},
         // A last line of exactly 100 characters is left out, and of 99 not.
         {std::vector<std::pair<double, std::string>>(5, {20, "Ethyl acetate"}), {}},
-        {{{20, "Ethyl acetate"}, {20, "Ethyl acetate"}, {20, "Ethyl acetate"}, {20, "Ethyl acetate"},
+        {{{20, "Ethyl acetate"},
+          {20, "Ethyl acetate"},
+          {20, "Ethyl acetate"},
+          {20, "Ethyl acetate"},
           {2, "Ethyl acetate"}},
          {"20% Ethyl acetate,  20% Ethyl acetate,  20% Ethyl acetate,  20% Ethyl acetate,  "
           "2% Ethyl acetate,  "}},

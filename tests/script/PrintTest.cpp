@@ -55,12 +55,12 @@ TEST(Print, PdfHasAPageForEachCopyAndItsLettersInIt) {
 TEST(Print, FileThatCannotBeWrittenIsTold) {
     const TemporaryFolder folder;
     for (const std::string kind : {"pdf ", "text "}) {
-        const Outcome outcome = Play("print-liquid-english.qs",
-                                     kind + folder.Path().string() +
-                                         "/no/such/folder/page\nclick cmdOK\nexpect-box \"Printing Problem\" "
-                                         "\"Path/File access error (Error 75)\" OK Stop\n"
-                                         "expect-form frmObxPrintCalc\nclick cmdOK\nclick cmdCancel\n"
-                                         "expect-form frmLiqLineLoss\nexpect txtDestPress(1) 90.31\n");
+        const Outcome outcome =
+            Play("print-liquid-english.qs",
+                 kind + folder.Path().string() + "/no/such/folder/page\nanswer OK\nclick cmdOK\n" +
+                     "expect-box \"Printing Problem\" \"Path/File access error (Error 75)\" OK Stop\n"
+                     "expect-form frmObxPrintCalc\nprinter 1 1 1\nclick cmdOK\n"
+                     "expect-form frmLiqLineLoss\nexpect txtDestPress(1) 90.31\n");
         EXPECT_EQ(outcome.Code, 0) << outcome.Errors;
     }
 }
