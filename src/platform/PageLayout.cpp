@@ -7,11 +7,14 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double LineHeight = 240;     // twips
-constexpr double Margin = 100;         // within the frame's borders, twips
-constexpr double Gap = 90;             // between two texts of a line, twips
-constexpr double Narrowest = 0.75;     // of the width of letters, before they get smaller
-constexpr double Baseline = 0.77;      // of the line height, so that letters of 12 points keep within it
+constexpr double LineHeight = 240;  // twips
+constexpr double Margin = 100;      // within the frame's borders, twips
+constexpr double Gap = 90;          // between two texts of a line, twips
+constexpr double Narrowest = 0.75;  // of the width of letters, before they get smaller
+// The baseline within a line, at most: plain letters of 12 points keep within their row, and a heading has
+// room below it.
+constexpr double Baseline = 0.77;
+constexpr double HeadingBaseline = 0.85;
 constexpr double SideShare = 1.0 / 3;  // of the frame's width, for a text at its right border
 
 // A text before it is fitted, with the room that it may take.
@@ -81,6 +84,10 @@ private:
 
     double Height(const Run& run) const { return LineHeight * run.Text.Font.Size / page_.Font.Size; }
 
+    double Lowest(const Run& run) const {
+        return run.Text.Font.Size > page_.Font.Size ? HeadingBaseline : Baseline;
+    }
+
     // A heading may be planned less than half a line under a text: it moves down to that text's end.
     void LowerHeadings() {
         for (std::size_t i = 1; i < runs_.size(); ++i) {
@@ -115,7 +122,7 @@ private:
         const double to = run.Fit == Anchor::Right ? run.At : run.To;
         const double room = std::max(to - from, 1.0);
         // The size of the letters changes, their line does not.
-        text.Baseline = run.Top + std::min(metric_.Ascent(text.Font), Baseline * Height(run));
+        text.Baseline = run.Top + std::min(metric_.Ascent(text.Font), Lowest(run) * Height(run));
         if (text.Width > room) {
             const double share = room / text.Width;
             text.Stretch = std::max(share, Narrowest);
