@@ -249,6 +249,12 @@ void CalculationForm::EmptyForm() {
     }
 }
 
+void CalculationForm::ShowCalculated() {
+    SnapshotRecord();
+    ShowCalculation();
+    mnuPrint.SetEnabled(true);
+}
+
 void CalculationForm::mnuPrint_Click() {
     StoreForm();
     if (Calc.DataOk == words::No) return;

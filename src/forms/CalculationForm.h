@@ -111,6 +111,8 @@ protected:
     // form has drawn of them goes.
     virtual void ResultsBlanked(int) {}
 
+    // Ends a calculation whose results stand in the record: they are marked and shown, and can be printed.
+    void ShowCalculated();
     // Asks whether to save what has changed, and sets SaveAnswer.
     void SaveChanges();
     // The same for an act that gives the record up; false when it must stop.

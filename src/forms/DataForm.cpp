@@ -7,7 +7,6 @@
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
-#include "reports/FormRefresh.h"
 #include "units/Rounding.h"
 #include "units/Temperature.h"
 
@@ -105,8 +104,7 @@ void DataForm::PropertiesTaken() {
     Calc.DataOk = words::Yes;
     Calc.CalculatedFlag = words::Yes;
     Calc.ResultsClearable[ThisCase()] = words::Yes;
-    SnapshotRecord();
-    ShowCalculation();
+    ShowCalculated();
 }
 
 void DataForm::FluidTaken() { txtBy.SetFocus(); }

@@ -154,9 +154,7 @@ void LineLossForm::cmdCalculate_Click(int index) {
     if (!CheckData()) return;
     Calc.PipeIndex = 1;
     if (!CalculateCase()) return;
-    SnapshotRecord();
-    ShowCalculation();
-    mnuPrint.SetEnabled(true);
+    ShowCalculated();
     txtBy.SetFocus();
     Calc.CalculatedFlag = words::Yes;
 }

@@ -151,8 +151,7 @@ void frmWaterHammer::ShowResults(bool selected) {
     }
     Calc.ResultsClearable[0] = words::Yes;
     DrawClosing(selected);
-    SnapshotRecord();
-    ShowCalculation();
+    ShowCalculated();
 }
 
 void frmWaterHammer::DrawClosing(bool selected) {
