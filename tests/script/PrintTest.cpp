@@ -30,7 +30,8 @@ Outcome Play(const std::string& name, const std::string& more) {
 
 // Each script ends with a calculated form; its page must stand as a file of tests/reports/pages has it.
 TEST(Print, PagesOfTheRealForms) {
-    for (const std::string name : {"liquid-english", "liquid-si", "gas-mixture"}) {
+    for (const std::string name :
+         {"liquid-english", "liquid-si", "gas-mixture", "hammer", "liquid-data", "gas-data"}) {
         const TemporaryFolder folder;
         const std::string page = folder.Path().string() + "/page.txt";
         const Outcome outcome = Play("print-" + name + ".qs", "text " + page + "\nclick cmdOK\n");
