@@ -13,17 +13,12 @@ struct Entry {
 };
 
 constexpr Entry Layouts[] = {
-    {"frmTRProg", frmTRProg},
-    {"frmObxProg", frmObxProg},
-    {"frmLiqLineLoss", frmLiqLineLoss},
-    {"frmGasLineLoss", frmGasLineLoss},
-    {"frmLiqData", frmLiqData},
-    {"frmGasData", frmGasData},
-    {"frmPipeSize", frmPipeSize},
-    {"frmUnits", frmUnits},
-    {"frmCalcOptions", frmCalcOptions},
-    {"frmWaterHammer", frmWaterHammer},
-    {"frmObxPrintCalc", frmObxPrintCalc},
+    {"frmTRProg", frmTRProg},           {"frmObxProg", frmObxProg},
+    {"frmLiqLineLoss", frmLiqLineLoss}, {"frmGasLineLoss", frmGasLineLoss},
+    {"frmLiqData", frmLiqData},         {"frmGasData", frmGasData},
+    {"frmPipeSize", frmPipeSize},       {"frmUnits", frmUnits},
+    {"frmCalcOptions", frmCalcOptions}, {"FindDialog", FindDialog},
+    {"frmWaterHammer", frmWaterHammer}, {"frmObxPrintCalc", frmObxPrintCalc},
 };
 }  // namespace
 

@@ -14,7 +14,10 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/Plot.h"
+#include "platform/TextFiles.h"
 #include "records/ChangeDetection.h"
+#include "records/RecordFiles.h"
+#include "records/SaveRecord.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "tables/PipeSizes.h"
@@ -27,6 +30,7 @@ namespace {
 
 constexpr const char* CaseCaptions[CaseCount] = {"&Maximum", "&Normal", "M&inimum"};
 constexpr const char* DatePrompt = "Date";
+constexpr const char* DatabaseTitle = "Database TRDB.MDB";
 
 // The longest texts that the database keeps.
 constexpr std::size_t TagLength = 30;
@@ -71,14 +75,16 @@ CalculationForm::CalculationForm(const Names& names)
     mnuPrint.Shortcut = "Ctrl+P";
     mnuHelp.Shortcut = "F1";
     mnuHelp.StandsLast = true;
-    // Records and the path finder are yet to come; a print waits for results.
-    for (Control* later : std::initializer_list<Control*>{&mnuSave, &mnuSaveAs, &mnuPrint, &mnuPathDataFile,
-                                                          &mnuPathUserUnitFile, &mnuPathPrintHdgs}) {
+    // The path finder is yet to come; a print waits for results.
+    for (Control* later : std::initializer_list<Control*>{&mnuPrint, &mnuPathDataFile, &mnuPathUserUnitFile,
+                                                          &mnuPathPrintHdgs}) {
         later->SetEnabled(false);
     }
 
     mnuPrint.Click = [this] { mnuPrint_Click(); };
     mnuNew.Click = [this] { mnuNew_Click(); };
+    mnuSave.Click = [this] { mnuSave_Click(); };
+    mnuSaveAs.Click = [this] { mnuSaveAs_Click(); };
     mnuProgram.Click = [this] { mnuProgram_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuHelp.Click = [this] { mnuHelp_Click(); };
@@ -138,9 +144,12 @@ void CalculationForm::Load() {
     {
         const Filling filling;
         ApplyColours(*this);
-        if (Calc.InCalculation != words::Yes) {
+        if (Calc.InCalculation == words::Yes) {
+            ReopenRecord();
+        } else {
             ApplyUnits();
             BeginRecord();
+            TakeAsNew();
         }
         ComposeHeading();
         if (Calc.PipeMaterialNumber <= 0) Calc.PipeMaterialNumber = 1;
@@ -228,13 +237,12 @@ int CalculationForm::InputSlot(const Control& box) const {
 
 void CalculationForm::SaveChanges() {
     StoreForm();
-    if (!mnuSave.Enabled()) return Calc.SaveAnswer.clear();  // nothing can be saved yet
     DetectChanges();
     Calc.SaveAnswer.clear();
-    if (Calc.RecordChanged == words::Yes) {
-        Calc.SavePrompt = "Save changes?";
-        Calc.SaveAnswer = AskYesNo(Calc.SavePrompt, Calc.ProgramTitle) ? words::Yes : words::No;
-    }
+    if (Calc.RecordChanged != words::Yes) return;
+    Calc.SavePrompt = "Save changes?";
+    Calc.SaveAnswer = words::No;
+    if (AskYesNo(Calc.SavePrompt, Calc.ProgramTitle)) Calc.SaveAnswer = Save() ? words::Yes : words::ExitSub;
 }
 
 bool CalculationForm::MayLeaveRecord() {
@@ -288,7 +296,57 @@ void CalculationForm::mnuNew_Click() {
     ApplyColours(*this);
     ComposeHeading();
     ShowChoices();
+    TakeAsNew();
     txtTagNum.SetFocus();
+}
+
+// What a fresh record begins with is no change of it, and it belongs to no database.
+void CalculationForm::TakeAsNew() {
+    TakeSaved();
+    Calc.LoadedDatabaseFile.clear();
+}
+
+// --- Saving ----------------------------------------------------------------------------------------------
+
+bool CalculationForm::SaveTo(const std::string& databaseFile) {
+    Suite.DatabaseFile = databaseFile;
+    Suite.DatabasePath = FolderOf(databaseFile);
+    Calc.TagChanged = words::Yes;
+    if (!FileExists(databaseFile)) {
+        if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", DatabaseTitle)) {
+            return false;
+        }
+        Calc.MessageTitle = DatabaseTitle;
+        if (!CreateDB(true)) return false;
+    }
+    if (!SaveTRCalc()) return false;
+    ShowCalculation();
+    SetStatus("Saved as " + Calc.Tag);
+    return true;
+}
+
+bool CalculationForm::Save() {
+    if (Suite.DefaultPaths[1].empty()) {
+        Tell("You must create the default path first", DatabaseTitle);
+        return false;
+    }
+    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]));
+}
+
+void CalculationForm::mnuSave_Click() {
+    StoreForm();
+    Save();
+}
+
+void CalculationForm::mnuSaveAs_Click() {
+    StoreForm();
+    const auto file = AskFile({.Title = DatabaseTitle,
+                               .Filter = "Access DB Files(TRDB.MDB)|TRDB.MDB",
+                               .Folder = Suite.DatabasePath,
+                               .ForSaving = true});
+    if (!file || file->empty()) return;
+    if (!IsDatabaseName(*file)) return Tell("Must find file named TRDB.MDB", "Database file");
+    SaveTo(*file);
 }
 
 void CalculationForm::mnuProgram_Click() {

@@ -86,12 +86,16 @@ public:
 
     void mnuPrint_Click();
     void mnuNew_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
     void mnuProgram_Click();
     void mnuExit_Click();
     void mnuHelp_Click();
     void cmdDate_Click();
 
 protected:
+    // Before the first refresh of a saved record.
+    virtual void ReopenRecord() {}
     // What a fresh record of the form begins with, beside what all have.
     virtual void BeginRecord() {}
     // The buttons that show the units of the rows and open the unit window.
@@ -113,7 +117,8 @@ protected:
 
     // Ends a calculation whose results stand in the record: they are marked and shown, and can be printed.
     void ShowCalculated();
-    // Asks whether to save what has changed, and sets SaveAnswer.
+    // Asks whether to save what has changed, and does so on Yes. Sets SaveAnswer: "Yes" when it is saved,
+    // "Exit Sub" when the save was refused.
     void SaveChanges();
     // The same for an act that gives the record up; false when it must stop.
     bool MayLeaveRecord();
@@ -122,6 +127,10 @@ protected:
     void EmptyForm();
 
 private:
+    void TakeAsNew();
+    // Saves to the database on the default path; false, after a message, when it was refused.
+    bool Save();
+    bool SaveTo(const std::string& databaseFile);
     void BlankResults(int caseIndex);
     void SetCalculateButtons(bool enabled);
 

@@ -9,6 +9,7 @@
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
+#include "fluids/SteamTables.h"
 #include "forms/ColourSchemes.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
@@ -150,6 +151,33 @@ void FluidForm::mnuCase_Click(int index) {
 }
 
 void FluidForm::TellNeedsState(int) { Tell("Need Pressure and Temperature to continue", "Fluid Properties"); }
+
+// A temperature of zero that was typed shows as one.
+void FluidForm::ReopenRecord() {
+    if (Entries.front().Saturated != nullptr) FindSteamKind();
+    for (std::size_t i = 0; i < Entries.size(); ++i) {
+        if (Calc.CaseInput[TemperatureRow][i] == 0 && Calc.TemperatureBlank[i] == 0) {
+            TemperatureBox(static_cast<int>(i)).SetText("0");
+        }
+    }
+}
+
+// A record of an earlier version says "steam" in its fluid name alone: the normal case tells whether it is at
+// saturation. The pressure is taken as a gauge pressure at sea level; it only chooses the word.
+void FluidForm::FindSteamKind() {
+    constexpr std::size_t normal = 1;
+    constexpr double seaLevel = 14.7;
+    const double pressure = Calc.CaseInput[PressureRow][normal];
+    if (!Calc.SteamKind.empty() || pressure <= 0) return;
+    if (LowerCase(Calc.FluidName).find("steam") == std::string::npos) return;
+    Calc.SteamFindMode = words::FindSaturation;
+    Calc.FlowPressure = pressure * Calc.UnitFactor[PressureRow] + seaLevel;
+    if (LookupSaturatedSteam()) {
+        const bool same = Int(Calc.SaturationTemperature) == Int(Calc.CaseInput[TemperatureRow][normal]);
+        Calc.SteamKind = same ? words::Saturated : words::Superheated;
+    }
+    Calc.SteamFindMode.clear();
+}
 
 // --- What a fluid changes on the form ----------------------------------------------------------------------
 

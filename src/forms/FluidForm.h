@@ -59,6 +59,7 @@ protected:
     virtual std::string TitleTail() const { return Calc.SteamKind.empty() ? "" : " - Saturated Steam"; }
     // The case in hand has properties of its fluid.
     virtual void PropertiesTaken() {}
+    void ReopenRecord() override;
     // A fluid was picked for the case in hand.
     virtual void FluidTaken() {}
     // Calculates the case in hand anew when it had results: a mixture does so.
@@ -106,6 +107,8 @@ private:
     void EnterState(TextBox& box);
     // A temperature or a pressure was left with a new number: offers to renew the fluid's properties.
     void LeaveState(int caseIndex, std::size_t row, TextBox& box, bool otherEntered, const char* title);
+
+    static void FindSteamKind();
 
     FluidChoice before_;
     std::string titleTail_;            // what ProgramTitle ends with for the fluid in hand

@@ -3,6 +3,7 @@
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
+#include "forms/FindDialog.h"
 #include "forms/frmCalcOptions.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
@@ -39,6 +40,7 @@ constexpr FormEntry FormTable[] = {
     {"frmLiqData", MakeForm<frmLiqData>},
     {"frmGasData", MakeForm<frmGasData>},
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>},
+    {"FindDialog", MakeForm<FindDialog>},
     {"frmPipeSize", MakeForm<frmPipeSize>},
     {"frmWaterHammer", MakeForm<frmWaterHammer>},
     {"frmUnits", MakeForm<frmUnits>},

@@ -61,6 +61,8 @@ void frmObxProg::cmdOK_Click() {
         Calc.CurrentProgram = program.Number;
         Calc.FluidType = program.FluidType;
     }
+    // A report of another program may have loaded the form hidden.
+    if (const Program* program = FindProgram(Calc.CurrentProgram)) UnloadForm(program->Form);
     ShowCalculation();
     OpenProgram();
 }

@@ -46,17 +46,18 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);
     fraTags.SetVisible(false);
-    // The database, printing, paths, colours and the conversion of old data are yet to come.
+    // Printing, paths, colours and the conversion of old data are yet to come.
     for (Control* control : Controls()) {
-        const bool isEntry = control->Kind() == ControlKind::MenuItem && control->Container() != nullptr;
-        const bool isDatabase = control->Kind() == ControlKind::CommandButton;
-        if (isEntry || isDatabase) control->SetEnabled(false);
+        if (control->Kind() == ControlKind::MenuItem && control->Container() != nullptr) {
+            control->SetEnabled(false);
+        }
     }
     optBrouseDB.SetEnabled(false);
-    for (Control* control :
-         std::initializer_list<Control*>{&cmdOK, &mnuExit, &mnuDoNotShow, &mnuHelp, &mnuAbout}) {
-        control->SetEnabled(true);
+    for (MenuItem* entry : {&mnuCreateDB, &mnuCompactDB, &mnuRepairDB, &mnuExport, &mnuExit, &mnuDoNotShow,
+                            &mnuHelp, &mnuAbout}) {
+        entry->SetEnabled(true);
     }
+    HookDatabase();
     cmdOK.Click = [this] { cmdOK_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuHelp.Click = [] { ShowHelpTopic(BrowserHelpTopic); };
@@ -69,17 +70,7 @@ void frmTRProg::Load() {
     ApplyColours(*this);
     SetCaption(Suite.VersionText + SuiteName);
     LoadDefaults();
-    ShowNoDatabase();
-}
-
-// With no database open the fields of the record and the counters are hidden.
-void frmTRProg::ShowNoDatabase() {
-    for (Control* control : Controls()) {
-        if (control->Container() != &fraRecord) continue;
-        const ControlKind kind = control->Kind();
-        if (kind == ControlKind::TextBox || kind == ControlKind::Label) control->SetVisible(false);
-    }
-    optDefaultDB.SetChecked(true);
+    CloseView();
 }
 
 void frmTRProg::cmdOK_Click() {

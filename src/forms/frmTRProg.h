@@ -2,7 +2,10 @@
 // calculation for one of them, and starts new calculations.
 #pragma once
 
+#include <memory>
+
 #include "forms/SuiteForm.h"
+#include "records/RecordView.h"
 
 namespace quillmetra {
 
@@ -11,12 +14,15 @@ public:
     frmTRProg();
 
     void Load() override;
+    // Comes back to the record that was worked on.
+    void Activated() override;
     void CloseBox() override { mnuExit_Click(); }
 
     MenuItem mnuFile{*this, "mnuFile", "&File"};
     MenuItem mnuCreateDB{mnuFile, "mnuCreateDB", "Create database"};
     MenuItem mnuCompactDB{mnuFile, "mnuCompactDB", "Compact database"};
     MenuItem mnuRepairDB{mnuFile, "mnuRepairDB", "Repair database"};
+    MenuItem mnuExport{mnuFile, "mnuExport", "E&xport records..."};
     MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
     MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
     MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
@@ -79,6 +85,8 @@ public:
     CommandButton cmdDisplayCalc{fraRecord, "cmdDisplayCalc", "Display Calculation"};
 
     Frame fraTags{*this, "fraTags", "Tag numbers"};
+    Label lblSearchTag{fraTags, "lblSearchTag", "Starts with"};
+    TextBox txtSearchTag{fraTags, "txtSearchTag"};
     ListBox lstTags{fraTags, "lstTags"};
     CommandButton cmdSelect{fraTags, "cmdSelect", "&Select"};
     CommandButton cmdCancel{fraTags, "cmdCancel", "Cancel"};
@@ -91,8 +99,43 @@ public:
     void mnuAbout_Click();
     void mnuExit_Click();
 
+    // The database, in RecordBrowser.cpp
+    void cmdDBOpen_Click();
+    void cmdDBClose_Click();
+    void cmdFirst_Click();
+    void cmdLast_Click();
+    void cmdNext_Click();
+    void cmdPrev_Click();
+    void cmdBrowse_Click();
+    void cmdSelect_Click();
+    void cmdCancel_Click();
+    void lstTags_Click();
+    void txtSearchTag_Change();
+    void cmdFind_Click();
+    void cmdDelete_Click();
+    void cmdSearchDate_Click();
+    void cmdDisplayCalc_Click();
+
+    // The file as a whole, in DatabaseFileMenu.cpp
+    void mnuCreateDB_Click();
+    void mnuCompactDB_Click();
+    void mnuRepairDB_Click();
+    void mnuExport_Click();
+
 private:
-    void ShowNoDatabase();
+    void HookDatabase();
+    // Sets Suite.DatabasePath and DatabaseFile from the chosen path; false, after a message, when there is
+    // none.
+    bool ChooseDatabase();
+    bool OpenView();
+    void CloseView();
+    void ShowRecord();
+    void ShowFields(bool visible);
+    void ShowTags(bool visible);
+    void DisplayRecord();
+
+    std::unique_ptr<RecordView> view_;  // null while no database is open
+    int shownTags_ = 0;
 };
 
 }  // namespace quillmetra

@@ -21,6 +21,8 @@ public:
 
     // Runs once, after the constructor and before the form is first shown.
     virtual void Load() {}
+    // Runs each time that the form is shown.
+    virtual void Activated() {}
     // The close box of the window.
     virtual void CloseBox() = 0;
     // The title of a message that tells of a failure which nobody caught.

@@ -143,7 +143,10 @@ private:
     }
 
     static void StartFocus(Form& form) {
-        form.Dispatch([&form] { form.Focus.Start(); });
+        form.Dispatch([&form] {
+            form.Focus.Start();
+            form.Activated();
+        });
     }
 
     std::vector<std::unique_ptr<Form>> loaded_;

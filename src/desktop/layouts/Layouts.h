@@ -5,6 +5,7 @@
 
 namespace quillmetra::layout {
 
+Node FindDialog();
 Node frmCalcOptions();
 Node frmGasData();
 Node frmGasLineLoss();

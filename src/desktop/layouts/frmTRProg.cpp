@@ -26,7 +26,8 @@ Node Record() {
 }
 
 Node Tags() {
-    return Frame("fraTags", Column({Item("lstTags").Wide(34).Tall(12), Buttons({"cmdSelect", "cmdCancel"})}));
+    return Frame("fraTags", Column({Row({"lblSearchTag", Item("txtSearchTag").Wide(22).Grow()}),
+                                    Item("lstTags").Wide(34).Tall(12), Buttons({"cmdSelect", "cmdCancel"})}));
 }
 
 }  // namespace

@@ -1,0 +1,102 @@
+// See frmTRProg.h: the database file as a whole. A calculation with unsaved changes is never open here, since
+// the browser shows only when none is.
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "forms/frmTRProg.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "records/RecordExport.h"
+#include "records/RecordFiles.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* DatabaseTitle = "Database TRDB.MDB";
+constexpr const char* CreateTitle = "Create New Database File";
+constexpr const char* DatabaseFilter = "Access DB Files(TRDB.MDB)|TRDB.MDB";
+
+// Asks for a database and takes it as the one in hand; false when the user cancels or picks another file.
+bool AskDatabase() {
+    const auto file =
+        AskFile({.Title = DatabaseTitle, .Filter = DatabaseFilter, .Folder = Suite.DatabasePath});
+    if (!file || file->empty()) return false;
+    if (!IsDatabaseName(*file)) {
+        Tell("Must find file named TRDB.MDB", "Database file");
+        return false;
+    }
+    Suite.DatabaseFile = *file;
+    Suite.DatabasePath = FolderOf(*file);
+    return true;
+}
+
+}  // namespace
+
+void frmTRProg::mnuCreateDB_Click() {
+    cmdDBClose_Click();
+    if (Suite.BrowsePath.empty()) {
+        Tell("First, use option 'Browse for DB Path' to determine path", DatabaseTitle);
+        return;
+    }
+    if (!AskYesNo("If existing, the TRDB.MDB DataBase on\n" + Suite.BrowsePath + "\nWill be destroyed\nOK?",
+                  CreateTitle)) {
+        Suite.BrowsePath.clear();
+        return;
+    }
+    Suite.DatabasePath = Suite.BrowsePath;
+    Calc.MessageTitle = CreateTitle;
+    const BusyPointer busy;
+    CreateDB(true);
+}
+
+void frmTRProg::mnuCompactDB_Click() {
+    if (!AskYesNo(
+            "This procedure will recover the space of deleted\nrecords and re-sort the database\nDo you "
+            "wish to proceed?",
+            "Compact database")) {
+        return;
+    }
+    cmdDBClose_Click();
+    if (!AskDatabase()) return;
+    {
+        const BusyPointer busy;
+        CompactDB(Suite.DatabasePath);
+    }
+    Tell("Compacting complete", DatabaseTitle);
+}
+
+void frmTRProg::mnuRepairDB_Click() {
+    cmdDBClose_Click();
+    if (!AskDatabase()) return;
+    if (!AskYesNo("Repair the Process Data database?", DatabaseTitle)) return;
+    std::string report;
+    {
+        const BusyPointer busy;
+        report = RepairText(RepairDB(Suite.DatabasePath));
+    }
+    if (!report.empty()) Tell(report, DatabaseTitle, Icon::Exclamation);
+    Tell("End of repair procedure!", DatabaseTitle);
+}
+
+// For people who live in spreadsheets: all records of the open database in one file.
+void frmTRProg::mnuExport_Click() {
+    constexpr const char* title = "Export records";
+    if (view_ == nullptr) {
+        Tell("Open the database first", title);
+        return;
+    }
+    const auto file = AskFile({.Title = title,
+                               .Filter = "Comma separated values(*.csv)|*.csv",
+                               .Folder = Suite.DatabasePath,
+                               .ForSaving = true});
+    if (!file || file->empty()) return;
+    int count = 0;
+    {
+        const BusyPointer busy;
+        count = ExportRecords(Suite.DatabaseFile, *file);
+    }
+    Tell(std::to_string(count) + (count == 1 ? " record" : " records") + " written to\n" + *file, title);
+}
+
+}  // namespace quillmetra

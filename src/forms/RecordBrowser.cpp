@@ -1,0 +1,314 @@
+// See frmTRProg.h: the records of the database, one after the other, by their tags, and by their dates.
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/StartUp.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/FindDialog.h"
+#include "forms/frmTRProg.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "platform/TextCase.h"
+#include "records/LoadRecord.h"
+#include "records/RecordFiles.h"
+#include "reports/FormRefresh.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* DatabaseTitle = "Database TRDB.MDB";
+constexpr const char* OutdatedTitle = "Outdated Calculations";
+constexpr const char* PrintoutForm = "frmObxPrintCalc";
+
+void CloseCalculations() {
+    for (const Program& program : Programs) UnloadForm(program.Form);
+    UnloadForm(PrintoutForm);
+}
+
+}  // namespace
+
+void frmTRProg::HookDatabase() {
+    cmdDBOpen.Click = [this] { cmdDBOpen_Click(); };
+    cmdDBClose.Click = [this] { cmdDBClose_Click(); };
+    cmdFirst.Click = [this] { cmdFirst_Click(); };
+    cmdLast.Click = [this] { cmdLast_Click(); };
+    cmdNext.Click = [this] { cmdNext_Click(); };
+    cmdPrev.Click = [this] { cmdPrev_Click(); };
+    cmdBrowse.Click = [this] { cmdBrowse_Click(); };
+    cmdSelect.Click = [this] { cmdSelect_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+    lstTags.Click = [this] { lstTags_Click(); };
+    lstTags.DoubleClick = [this] { cmdSelect_Click(); };
+    txtSearchTag.Describe(&lblSearchTag);
+    txtSearchTag.Change = [this] { txtSearchTag_Change(); };
+    cmdFind.Click = [this] { cmdFind_Click(); };
+    cmdDelete.Click = [this] { cmdDelete_Click(); };
+    cmdSearchDate.Click = [this] { cmdSearchDate_Click(); };
+    cmdDisplayCalc.Click = [this] { cmdDisplayCalc_Click(); };
+    mnuCreateDB.Click = [this] { mnuCreateDB_Click(); };
+    mnuCompactDB.Click = [this] { mnuCompactDB_Click(); };
+    mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
+    mnuExport.Click = [this] { mnuExport_Click(); };
+}
+
+// --- Open and close ----------------------------------------------------------------------------------------
+
+bool frmTRProg::ChooseDatabase() {
+    if (optBrouseDB.Checked() && SameName(Suite.BrowsePath, Suite.DefaultPaths[1])) {
+        optDefaultDB.SetChecked(true);
+        Suite.BrowsePath.clear();
+    }
+    if (optDefaultDB.Checked()) ReadDefaultPaths();  // without the file those in force stand
+    const std::string& folder = optDefaultDB.Checked() ? Suite.DefaultPaths[1] : Suite.BrowsePath;
+    if (folder.empty()) {
+        Tell("You must create the default path first", DatabaseTitle);
+        return false;
+    }
+    Suite.DatabasePath = folder;
+    Suite.DatabaseFile = DatabaseFileOf(folder);
+    return true;
+}
+
+bool frmTRProg::OpenView() {
+    const BusyPointer busy;
+    try {
+        view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
+        return true;
+    } catch (const RuntimeError& error) {
+        Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
+        return false;
+    }
+}
+
+void frmTRProg::cmdDBOpen_Click() {
+    CloseView();
+    if (!ChooseDatabase() || !OpenView()) return;
+    Suite.DefaultPaths[1] = Suite.DatabasePath;  // new calculations go to the database on the screen
+    lblPath(0).SetCaption(Suite.DatabaseFile);
+    ShowRecord();
+    if (view_->HasRecord()) {
+        cmdDisplayCalc.SetFocus();
+    } else {
+        Tell("The database is empty!\nUse New Calculation Options to prepare and save records",
+             Suite.DatabaseFile, Icon::Stop);
+    }
+}
+
+void frmTRProg::cmdDBClose_Click() {
+    CloseCalculations();
+    CloseView();
+    optDefaultDB.SetChecked(true);
+}
+
+void frmTRProg::CloseView() {
+    ShowTags(false);
+    view_.reset();
+    lblPath(0).SetCaption("");
+    ShowFields(false);
+}
+
+// The record that a calculation has left, which may be new.
+void frmTRProg::Activated() {
+    if (view_ == nullptr) return;
+    if (!Calc.Tag.empty()) view_->Find(Calc.Tag);
+    if (!view_->HasRecord()) view_->First();
+    ShowRecord();
+}
+
+// --- The record in hand ------------------------------------------------------------------------------------
+
+// With no record the fields, the counters and what works on a record are not to be had.
+void frmTRProg::ShowFields(bool visible) {
+    for (Control* control : Controls()) {
+        if (control->Container() != &fraRecord) continue;
+        if (control->Kind() == ControlKind::CommandButton) {
+            control->SetEnabled(visible);
+        } else {
+            control->SetVisible(visible);
+        }
+    }
+    cmdDBClose.SetEnabled(view_ != nullptr);
+}
+
+void frmTRProg::ShowRecord() {
+    const bool any = view_->HasRecord();
+    ShowFields(any);
+    Suite.RecordTotal = view_->Count();
+    if (!any) return;
+    const RecordHead& head = view_->Head();
+    TakeFluidType(head.FluidType, head.ProgramNumber);
+    Calc.Tag = head.Tag;
+    txtTagNum.SetText(head.Tag);
+    txtFluidType.SetText(head.FluidType);
+    txtTRCalc.SetText(head.Calculation);
+    txtCalcBy.SetText(std::string(Trim(head.CalcBy)));
+    txtDataDate.SetText(head.DataDate);
+    txtCalcDate.SetText(head.CalcDate);
+    lblCurrentRecord.SetCaption(std::to_string(view_->Position()));
+    lblNumRecords.SetCaption(std::to_string(view_->Count()));
+}
+
+void frmTRProg::cmdFirst_Click() {
+    UnloadForm(PrintoutForm);
+    view_->First();
+    ShowRecord();
+}
+
+void frmTRProg::cmdLast_Click() {
+    UnloadForm(PrintoutForm);
+    view_->Last();
+    ShowRecord();
+}
+
+void frmTRProg::cmdNext_Click() {
+    view_->Next();
+    ShowRecord();
+}
+
+void frmTRProg::cmdPrev_Click() {
+    view_->Previous();
+    ShowRecord();
+}
+
+// --- Tags --------------------------------------------------------------------------------------------------
+
+void frmTRProg::ShowTags(bool visible) {
+    fraTags.SetVisible(visible);
+    for (Control* control : std::initializer_list<Control*>{&fraPrograms, &fraDatabase, &fraRecord, &cmdOK}) {
+        control->SetEnabled(!visible);
+    }
+    DefaultButton = visible ? &cmdSelect : &cmdOK;
+    CancelButton = visible ? &cmdCancel : nullptr;
+    if (!visible) lstTags.Clear();
+}
+
+void frmTRProg::cmdBrowse_Click() {
+    ShowTags(true);
+    cmdSelect.SetEnabled(false);
+    txtSearchTag.SetText("");
+    lstTags.SetRows(view_->Tags());
+    lstTags.Preselect(view_->Position() - 1);
+    lblNumRecords.SetCaption(std::to_string(view_->Count()));
+    txtSearchTag.SetFocus();
+}
+
+void frmTRProg::lstTags_Click() { cmdSelect.SetEnabled(lstTags.Selected() >= 0); }
+
+// The first tag that starts with what is typed.
+void frmTRProg::txtSearchTag_Change() {
+    if (!fraTags.Visible() || txtSearchTag.Text().empty()) return;
+    const auto [first, end] = view_->StartingWith(txtSearchTag.Text());
+    SetStatus(first == end ? "No tag number starts with " + txtSearchTag.Text() : "");
+    if (first != end) lstTags.Select(static_cast<int>(first));
+    cmdSelect.SetEnabled(first != end);
+}
+
+void frmTRProg::cmdSelect_Click() {
+    const int row = lstTags.Selected();
+    if (row < 0) return;
+    const std::string tag = lstTags.Row(row);
+    ShowTags(false);
+    if (!view_->Find(tag)) Tell("Not found", Suite.DatabaseFile);
+    ShowRecord();
+    if (view_->HasRecord()) cmdDisplayCalc.SetFocus();
+}
+
+void frmTRProg::cmdCancel_Click() {
+    ShowTags(false);
+    SetStatus("");
+    cmdBrowse.SetFocus();
+}
+
+void frmTRProg::cmdFind_Click() {
+    ShowForm("FindDialog", Modal::Yes);
+    const std::string tag(Trim(static_cast<TextBox&>(ControlOf("FindDialog", "txtFind")).Text()));
+    if (tag.empty()) return;
+    if (!view_->Find(tag)) {
+        Tell("Cannot find " + tag, "Tag Number Search", Icon::Stop);
+        return;
+    }
+    ShowRecord();
+    cmdDisplayCalc.SetFocus();
+}
+
+void frmTRProg::cmdDelete_Click() {
+    const std::string tag = view_->Head().Tag;
+    if (!AskYesNo("Delete Tag Number:  " + tag + "\n\nAre you sure?", "Confirm Record Delete", Icon::None,
+                  Answer::No)) {
+        return;
+    }
+    if (!DeleteRecord(Suite.DatabaseFile, tag)) Tell("Database is empty", Suite.DatabaseFile);
+    if (SameName(Calc.TagSaved, tag)) {
+        // What is in hand is in no database any more: its next save writes every row.
+        Calc.TagSaved.clear();
+        Calc.LoadedDatabaseFile.clear();
+    }
+    view_->LeaveDeleted();
+    ShowRecord();
+}
+
+// Shows the records whose process data are later than their calculation, one after the other.
+void frmTRProg::cmdSearchDate_Click() {
+    if (!AskYesNo("This will find records where the process data\ndate is later than the calculation "
+                  "date.\nContinue",
+                  OutdatedTitle)) {
+        return;
+    }
+    bool any = false;
+    for (;;) {
+        bool found;
+        {
+            const BusyPointer busy;
+            found = view_->NextOutdated(!any);
+        }
+        if (!found) break;
+        any = true;
+        ShowRecord();
+        if (!AskYesNo("Continue search?", "Outdated Calculation")) return;
+    }
+    Tell(any ? "No other outdated records were found"
+             : "The calculation date is later than the process data\nfor all records",
+         OutdatedTitle);
+}
+
+// --- Display -----------------------------------------------------------------------------------------------
+
+void frmTRProg::cmdDisplayCalc_Click() {
+    if (txtTagNum.Text().empty()) return;
+    if (Calc.Tag.empty()) {
+        Tell("Record must have a tag number", "Display Record", Icon::Stop);
+        return;
+    }
+    const BusyPointer busy;
+    DisplayRecord();
+}
+
+void frmTRProg::DisplayRecord() {
+    const RecordHead head = view_->Head();
+    ResetRecord();
+    LoadHeadings();
+    Suite.DatabaseFile = lblPath(0).Caption();
+    Suite.DatabasePath = Suite.DefaultPaths[1] = FolderOf(Suite.DatabaseFile);
+    Calc.LoadedDatabaseFile = Suite.DatabaseFile;
+    Calc.Tag = head.Tag;
+    TakeFluidType(head.FluidType, head.ProgramNumber);
+    if (!GetTRCalc()) return ShowRecord();
+    Calc.InCalculation = words::Yes;
+    Calc.BrowserOpen = words::Yes;
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    if (program == nullptr) {
+        Tell("Not found", Suite.DatabaseFile);
+        return;
+    }
+    UnloadForm(program->Form);
+    LoadForm(program->Form);
+    Calc.DataOk = words::Yes;
+    Calc.FormLoading = words::Yes;
+    ShowCalculation();
+    ShowForm(program->Form);
+    HideForm(Name());
+}
+
+}  // namespace quillmetra
