@@ -75,6 +75,7 @@ BaseConditions::BaseConditions(CalculationForm& form)
 
 void BaseConditions::Open() {
     if (fraSTP.Visible()) return;
+    form_.CloseOverlays();
     RestoreStandardConditions();
     systemBefore_ = Calc.UnitSystem;
     ApplySystem(IsSI());

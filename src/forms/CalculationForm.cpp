@@ -110,6 +110,7 @@ CalculationForm::CalculationForm(const Names& names)
         // A name typed by hand is no longer the table's fluid: neither its row nor its vapour pressure hold.
         Calc.FluidDataSource.clear();
         Calc.CaseInput[8].fill(0);
+        FluidTyped();
         ClearAllCases();
     };
 }
@@ -246,6 +247,7 @@ void CalculationForm::SaveChanges() {
 }
 
 bool CalculationForm::MayLeaveRecord() {
+    CloseOverlays();
     SaveChanges();
     return Calc.SaveAnswer != words::ExitSub && Calc.SaveAnswer != words::Yes;
 }
@@ -264,6 +266,7 @@ void CalculationForm::ShowCalculated() {
 }
 
 void CalculationForm::mnuPrint_Click() {
+    CloseOverlays();
     StoreForm();
     if (Calc.DataOk == words::No) return;
     if (Calc.RoundedFlag == words::No) {
@@ -312,7 +315,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
     Suite.DatabaseFile = databaseFile;
     Suite.DatabasePath = FolderOf(databaseFile);
     Calc.TagChanged = words::Yes;
-    if (!FileExists(databaseFile)) {
+    if (!Calc.Tag.empty() && !FileExists(databaseFile)) {
         if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", DatabaseTitle)) {
             return false;
         }
@@ -334,11 +337,13 @@ bool CalculationForm::Save() {
 }
 
 void CalculationForm::mnuSave_Click() {
+    CloseOverlays();
     StoreForm();
     Save();
 }
 
 void CalculationForm::mnuSaveAs_Click() {
+    CloseOverlays();
     StoreForm();
     const auto file = AskFile({.Title = DatabaseTitle,
                                .Filter = "Access DB Files(TRDB.MDB)|TRDB.MDB",

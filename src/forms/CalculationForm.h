@@ -93,6 +93,9 @@ public:
     void mnuHelp_Click();
     void cmdDate_Click();
 
+    // Gives up what is open over the inputs, before an act that takes the record as it is.
+    virtual void CloseOverlays() {}
+
 protected:
     // Before the first refresh of a saved record.
     virtual void ReopenRecord() {}
@@ -111,6 +114,8 @@ protected:
     // The calculate button of a case, null when there is none.
     virtual Control* CalculateButton(int) { return nullptr; }
     int InputSlot(const Control& box) const override;
+    // The fluid's name was typed over.
+    virtual void FluidTyped() {}
     // The results of a case no longer stand as they were calculated: blanked, or in other units. What the
     // form has drawn of them goes.
     virtual void ResultsBlanked(int) {}

@@ -18,6 +18,14 @@ bool RefuseData(const std::string& message, Control& box, Icon icon) {
     return false;
 }
 
+bool TellNoResult(const RuntimeError& error) {
+    const int number = error.Number;
+    if (number != failure::Overflow().Number && number != failure::DivisionByZero().Number) return false;
+    Tell(error.Description + ": there is no result.\nA value is far too large or far too small",
+         "Data checking", Icon::Stop);
+    return true;
+}
+
 bool CheckPressure(TextBox& box, const TempPressureRules& rules) {
     RestoreStandardConditions();
     const auto i = static_cast<std::size_t>(Calc.CaseIndex);

@@ -6,6 +6,7 @@
 
 #include "platform/Controls.h"
 #include "platform/Dialogs.h"
+#include "platform/RuntimeError.h"
 
 namespace quillmetra {
 
@@ -13,6 +14,10 @@ class CalculationForm;
 
 // Tells a failed check and moves the focus; returns false for the caller to return.
 bool RefuseData(const std::string& message, Control& box, Icon icon = Icon::Stop);
+
+// For a failure in a calculation: tells that data which passed the checks give no number, and where to look.
+// False, with nothing told, for any other failure, which the caller throws on.
+bool TellNoResult(const RuntimeError& error);
 
 // The boxes of the case in hand that the temperature and pressure check leads to.
 struct TempPressureBoxes {

@@ -13,6 +13,7 @@
 #include "forms/ColourSchemes.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "platform/TextCase.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 
@@ -151,6 +152,19 @@ void FluidForm::mnuCase_Click(int index) {
 }
 
 void FluidForm::TellNeedsState(int) { Tell("Need Pressure and Temperature to continue", "Fluid Properties"); }
+
+void FluidForm::CloseOverlays() {
+    if (Fluids.IsOpen()) cmdCancel_Click();
+}
+
+// A fluid of the user's own is no mixture and no steam.
+void FluidForm::FluidTyped() {
+    if (Calc.MixtureFlag != words::Yes && Calc.SteamKind.empty()) return;
+    Calc.MixtureFlag = words::No;
+    Calc.SteamKind.clear();
+    ShowTitle();
+    TickEntries();
+}
 
 // A temperature of zero that was typed shows as one.
 void FluidForm::ReopenRecord() {

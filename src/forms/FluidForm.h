@@ -23,6 +23,8 @@ public:
     void cmdCalcPseudo_Click();
     void cmdClear_Click();
 
+    void CloseOverlays() override;
+
 protected:
     // The menu entries of a case, null for what the form does not offer.
     struct FluidEntries {
@@ -60,6 +62,7 @@ protected:
     // The case in hand has properties of its fluid.
     virtual void PropertiesTaken() {}
     void ReopenRecord() override;
+    void FluidTyped() override;
     // A fluid was picked for the case in hand.
     virtual void FluidTaken() {}
     // Calculates the case in hand anew when it had results: a mixture does so.
@@ -99,7 +102,7 @@ private:
     void PickPure();
     void PickComponent();
     void PickSteam(int caseIndex, const char* kind);
-    bool TakeSteam();
+    bool TakeSteam(bool wasSteam);
     bool CheckForNewFluid();
     void TickEntries();
     void InstallFluid(const std::string& name, bool isAnother);

@@ -81,8 +81,9 @@ void MixturePanel::Show(int place) {
 void MixturePanel::ShowComponents() {
     const int count = ComponentCount();
     for (int i = 0; i < MostComponents; ++i) {
-        const std::string row = FirstCharacters(Calc.FluidData[static_cast<std::size_t>(i)], NameLength);
-        lblComponent(i).SetCaption(std::string(Trim(row)));
+        // A row that comes from the database has lost the blanks behind its name.
+        const std::string_view name = FluidRowName(Calc.FluidData[static_cast<std::size_t>(i)]);
+        lblComponent(i).SetCaption(FirstCharacters(name, NameLength));
         lblComponent(i).SetVisible(i < count);
         txtPercent(i).SetVisible(i < count);
     }
@@ -103,6 +104,16 @@ void MixturePanel::StorePercents() const {
     for (int i = 0; i < ComponentCount(); ++i) {
         Calc.FluidPercent[static_cast<std::size_t>(i)] = Val(txtPercent(i).Text());
     }
+}
+
+bool MixturePanel::CheckPercents() const {
+    const auto& percents = Calc.FluidPercent;
+    const bool negative = std::any_of(percents.begin(), percents.end(), [](double each) { return each < 0; });
+    const bool any = std::any_of(percents.begin(), percents.end(), [](double each) { return each > 0; });
+    if (any && !negative) return true;
+    Tell(negative ? "A percentage must not be less than zero" : "Sum of percentages must equal 100",
+         "Mixture Calculation");
+    return false;
 }
 
 void MixturePanel::ClearPercents() {

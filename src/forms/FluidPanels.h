@@ -21,7 +21,7 @@ public:
 };
 
 // The components of a mixture, which stand beside the open list of fluids, and their percentages. A component
-// is shown by the first 20 characters of its table row.
+// is shown by the first 20 characters of its name.
 class MixturePanel {
 public:
     explicit MixturePanel(CalculationForm& form);
@@ -34,6 +34,8 @@ public:
     // Takes the percentages of the boxes into the record.
     void StorePercents() const;
     void ClearPercents();
+    // False, after a message, when no component has a percentage or one has less than none.
+    bool CheckPercents() const;
 
     Frame fraComponent;
     ControlArray<Label> lblComponent;

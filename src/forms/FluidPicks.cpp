@@ -89,7 +89,7 @@ void FluidForm::UpdateFluidProperties() {
     if (!Calc.SteamKind.empty()) {
         const bool saturated = Calc.SteamKind == words::Saturated;
         StoreForm();
-        if ((saturated ? CheckPressureAlone() : CheckState()) && TakeSteam()) {
+        if ((saturated ? CheckPressureAlone() : CheckState()) && TakeSteam(true)) {
             InstallFluid(SteamName, false);
         }
         return;
@@ -134,6 +134,7 @@ void FluidForm::cmdClear_Click() { Mixture.ClearPercents(); }
 
 void FluidForm::cmdCalcPseudo_Click() {
     Mixture.StorePercents();
+    if (!Mixture.CheckPercents()) return;
     const FluidChoice components = ChoiceInForce();
     const std::string oldSteam = std::exchange(Calc.SteamKind, "");
     if (!CalcMixture()) {
@@ -159,10 +160,11 @@ void FluidForm::PickSteam(int caseIndex, const char* kind) {
     if (!(kind == std::string_view(words::Saturated) ? CheckPressureAlone() : CheckState())) return;
     before_ = ChoiceInForce();
     const std::string oldName = Calc.FluidName;
+    const bool wasSteam = !Calc.SteamKind.empty();
     Calc.SteamKind = kind;
     Calc.MixtureFlag = words::No;
     Calc.FluidOk = words::FluidPicked;
-    if (!TakeSteam()) {
+    if (!TakeSteam(wasSteam)) {
         Restore(before_);
         return;
     }
@@ -171,13 +173,19 @@ void FluidForm::PickSteam(int caseIndex, const char* kind) {
     FluidTaken();
 }
 
-bool FluidForm::TakeSteam() {
+// Steam that is not to be had clears the properties of steam before it, but not those of another fluid.
+bool FluidForm::TakeSteam(bool wasSteam) {
+    const auto inputs = Calc.CaseInput;
     BeginSteam();
     const SteamOutcome outcome = GetSteamData();
     {
         const Filling filling;
         txtFluid.SetText(Calc.FluidName);
         if (outcome == SteamOutcome::NoPressure || outcome == SteamOutcome::Refused) return false;
+        if (outcome == SteamOutcome::Cleared && !wasSteam) {
+            Calc.CaseInput = inputs;
+            return false;
+        }
         ShowSteam();
     }
     StateIsDealtWith(Calc.CaseIndex);

@@ -153,7 +153,12 @@ void LineLossForm::cmdCalculate_Click(int index) {
     StoreForm();
     if (!CheckData()) return;
     Calc.PipeIndex = 1;
-    if (!CalculateCase()) return;
+    try {
+        if (!CalculateCase()) return;
+    } catch (const RuntimeError& error) {
+        if (!TellNoResult(error)) throw;
+        return;
+    }
     ShowCalculated();
     txtBy.SetFocus();
     Calc.CalculatedFlag = words::Yes;

@@ -10,6 +10,7 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
+#include "platform/TextFiles.h"
 #include "records/LoadRecord.h"
 #include "records/RecordFiles.h"
 #include "reports/FormRefresh.h"
@@ -77,7 +78,10 @@ bool frmTRProg::OpenView() {
         view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
         return true;
     } catch (const RuntimeError& error) {
-        Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
+        const char* const hint = FileExists(Suite.DatabaseFile)
+                                     ? ""
+                                     : "\nThere is none yet: the first calculation that is saved makes it";
+        Tell(error.Description + hint, Suite.DatabaseFile, Icon::Stop);
         return false;
     }
 }

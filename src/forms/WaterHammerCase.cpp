@@ -127,8 +127,13 @@ void frmWaterHammer::cmdCalculateliq_Click() {
     lblLiqTestBasis.SetCaption(Calc.LiquidBasis);
     if (!CheckHammerData()) return;
     const bool selected = txtSelectedTime.Visible();
-    CalcCriticalClosing();
-    if (selected) CalcSelectedClosing();
+    try {
+        CalcCriticalClosing();
+        if (selected) CalcSelectedClosing();
+    } catch (const RuntimeError& error) {
+        if (!TellNoResult(error)) throw;
+        return;
+    }
     ShowResults(selected);
     ShowSelectedTime(true);
     txtBy.SetFocus();

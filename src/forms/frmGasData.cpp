@@ -43,6 +43,11 @@ frmGasData::frmGasData()
     Assemble();
 }
 
+void frmGasData::CloseOverlays() {
+    if (Base.fraSTP.Visible()) Base.cmdCancelSTP_Click();
+    DataForm::CloseOverlays();
+}
+
 void frmGasData::ShowChoices() {
     Base.Close();
     DataForm::ShowChoices();

@@ -37,6 +37,8 @@ public:
     Label unLatentHeatBP{Picture1, "unLatentHeatBP"};
     BaseConditions Base{*this};
 
+    void CloseOverlays() override;
+
 protected:
     bool CheckState() override;
     bool CheckPressureAlone() override;

@@ -1,6 +1,8 @@
 // See frmGasLineLoss.h.
 #include "forms/frmGasLineLoss.h"
 
+#include <algorithm>
+
 #include "core/Filling.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
@@ -32,9 +34,14 @@ public:
         next_ = station.Part + 1.0 / Stations;
     }
 
-    // In the units shown. A line calculated from its end is walked from there.
+    // In the units shown, from the source on: a line calculated from its end was walked from there.
     PlotDrawing Drawing() {
         if (last_.Part > next_ - 1.0 / Stations) Add(last_);  // the step that stopped the march
+        if (Calc.PressureDirection == 2) {
+            for (auto* values : {&lengths_, &pressures_, &velocities_, &sonic_}) {
+                std::reverse(values->begin(), values->end());
+            }
+        }
         return {.Title = {},
                 .Bottom = {"Length", Calc.UnitName[25]},
                 .Left = {"Pressure", Calc.UnitName[3]},
@@ -81,6 +88,11 @@ frmGasLineLoss::frmGasLineLoss()
 std::vector<LineLossForm::CaseBoxes> frmGasLineLoss::BoxesOfACase() const {
     return {&txtFlow,     &txtTemp,         &txtPressure,  &txtMW,   &txtRatioSH,
             &txtCritTemp, &txtCritPressure, &txtViscosity, &txtEquip};
+}
+
+void frmGasLineLoss::CloseOverlays() {
+    if (Base.fraSTP.Visible()) Base.cmdCancelSTP_Click();
+    LineLossForm::CloseOverlays();
 }
 
 void frmGasLineLoss::ShowChoices() {

@@ -37,6 +37,8 @@ public:
     Label unSonicVelocity{Picture1, "unSonicVelocity"};
     BaseConditions Base{*this};
 
+    void CloseOverlays() override;
+
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
     bool CheckState() override;

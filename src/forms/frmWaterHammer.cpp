@@ -87,6 +87,11 @@ void frmWaterHammer::StoreOwn() {
     Calc.PipeMaterial = Calc.CaseText[5] = Calc.CaseUnitsText[5] = txtPipeMatl.Text();
 }
 
+void frmWaterHammer::CloseOverlays() {
+    Moduli.Close();
+    FluidForm::CloseOverlays();
+}
+
 void frmWaterHammer::ShowChoices() {
     Calc.CaseIndex = 0;
     if (Calc.MixtureFlag != words::Yes) Calc.FluidOk = words::FluidPicked;  // not "OK", as the others have it

@@ -84,6 +84,7 @@ public:
 
     PickList Moduli;
 
+    void CloseOverlays() override;
     void cmdCalculateliq_Click();
     void cmdPipeMatl_Click();
     void cmdSelectModulus_Click();

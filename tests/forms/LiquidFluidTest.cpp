@@ -90,6 +90,7 @@ TEST_F(LiquidFluid, AnotherFluidsVapourPressureStopsNoCase) {
 TEST_F(LiquidFluid, NewInTheMiddleOfAListLeavesAFreshForm) {
     EnterState(0, "100", "50");
     ClickControl(Form().mnuPureLiquid1);
+    User.Answers = {Answer::No};  // to "Save changes?"
     ClickControl(Form().mnuNew);
     EXPECT_FALSE(Form().Fluids.IsOpen());
     EXPECT_EQ(Form().Focus.Current(), &Form().txtTagNum);

@@ -157,6 +157,7 @@ TEST_F(LiquidForm, DrawsTheLineOfTheLastCalculatedCase) {
     EXPECT_TRUE(form.pltLine.IsEmpty()) << "its figures are gauge pressures";
     Calculate(1);
     EXPECT_NE(form.pltLine.Text().find("psia"), std::string::npos) << form.pltLine.Text();
+    User.Answers = {Answer::No};  // to "Save changes?"
     ClickControl(form.mnuNew);
     EXPECT_TRUE(form.pltLine.IsEmpty());
 }
@@ -266,6 +267,7 @@ TEST_F(LiquidForm, NewEmptiesTheFormAndKeepsTheUnits) {
     Type(Form().txtTagNum, "  FT-101 ");
     Calculate(0);
     EXPECT_EQ(Form().txtTagNum.Text(), "FT-101");
+    User.Answers = {Answer::No};  // to "Save changes?"
     ClickControl(Form().mnuNew);
     for (const FormRow& row : FormRows(1))
         EXPECT_TRUE(RowControl(Form(), row, 0).Text().empty()) << row.Control;

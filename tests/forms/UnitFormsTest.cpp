@@ -23,6 +23,7 @@ protected:
     static double Number(const Control& control) { return Val(control.Text()); }
 
     void OpenLiquidAnew() {
+        User.Answers = {Answer::No};  // to "Save changes?"
         CloseWindow(Form());
         OpenLiquid();
     }

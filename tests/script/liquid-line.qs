@@ -51,6 +51,8 @@ type txtFlow(0) 90000
 expect txtDestPress(0) ""
 expect pltLine ""
 
+answer No
 click mnuExit
+expect-message Save changes?
 expect-form none
 quit

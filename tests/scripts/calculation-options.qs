@@ -155,7 +155,9 @@ expect-box "New boot up Configuration for Liquid" "Use the the current unit disp
 click cmdCancelOptions
 expect cmdUnits(3) psig
 expect-state cmdUnits(6) hidden
+answer No
 click mnuProgram
+expect-message Save changes?
 new 1
 expect cmdUnits(25) ft
 expect-state cmdUnits(6) visible

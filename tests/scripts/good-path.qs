@@ -3,7 +3,6 @@ set-date 2026-11-24
 start
 expect-form frmTRProg
 expect-state cmdOK enabled
-expect-state cmdDBOpen disabled
 expect-state txtTagNum hidden
 click cmdOK
 expect-form frmObxProg
@@ -134,7 +133,9 @@ pick lstMatl Concrete
 doubleclick lstMatl
 expect cmdMatl Concrete
 expect txtDestPress(0) ""
+answer No
 click mnuNew
+expect-message Save changes?
 expect cmdMatl Steel
 expect txtFlow(0) ""
 expect cmdUnits(1) lb/h

@@ -128,7 +128,9 @@ expect lblRemaining 70
 key txtPercent(0) R
 click cmdCalcPseudo
 expect txtFluid Mixture
+answer No
 click mnuProgram
+expect-message Save changes?
 
 # --- The liquid form -------------------------------------------------------------------------------------------
 new 1

@@ -71,7 +71,7 @@ expect-focus txtPipeID
 # What is no number of this world is told, and leaves the form usable.
 type txtPipeID 1e-200
 click cmdCalculateliq
-expect-box "Water Hammer  - Liquid flow" "Overflow" OK
+expect-box "Data checking" "Overflow: there is no result.\nA value is far too large or far too small" OK
 expect txtWaveVelocity ""
 type txtPipeID 6.065
 click cmdCalculateliq
@@ -83,7 +83,7 @@ expect txtWaveVelocity 4381
 expect txtSelectedWave ""
 type txtSelectedTime 1e-310
 click cmdCalculateliq
-expect-box "Water Hammer  - Liquid flow" "Overflow" OK
+expect-box "Data checking" "Overflow: there is no result.\nA value is far too large or far too small" OK
 type txtSelectedTime 4
 click cmdCalculateliq
 expect txtSelectedForce 4311

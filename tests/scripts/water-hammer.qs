@@ -155,7 +155,9 @@ expect txtSelectedForce 1955
 expect txtOperPressure 114.698
 
 # --- The tables --------------------------------------------------------------------------------------------
+answer No
 click mnuNew
+expect-message Save changes?
 expect txtMaxLiqFlow ""
 expect txtSelectedTime ""
 expect-state txtSelectedTime hidden
@@ -276,6 +278,8 @@ click cmdCalcPseudo
 expect-box "Data checking" "Bulk modulus must be greater than zero" OK None
 expect txtBulkModulus ""
 expect-focus txtBulkModulus
+answer No
 close
+expect-message Save changes?
 expect-form frmTRProg
 quit

@@ -1,0 +1,230 @@
+# Records kept under their tags: saved, overwritten, walked, found, browsed, displayed, deleted, with each
+# message of the browser and both answers.
+strict on
+set-date 2026-11-24
+start
+expect-state cmdDBClose disabled
+expect-state cmdFirst disabled
+expect-state txtTagNum hidden
+answer OK
+click cmdDBOpen
+expect-message Open failed (Database invalid)
+new 1
+
+# --- Saving ------------------------------------------------------------------------------------------------
+include good-case.qs
+answer No
+click cmdCalculate(1)
+expect-message Transition
+answer OK
+click mnuSave
+expect-message Each record must have a unique Tag number
+type txtTagNum "  P-102 "
+answer No
+click mnuSave
+expect-message Create it?
+answer Yes
+answer OK
+click mnuSave
+expect-message Create it?
+expect-message New database TRDB.MDB created
+expect txtTagNum P-102
+click cmdDate
+# Saved again, it asks before it writes over what is there.
+answer No
+click mnuSave
+expect-box "Calculation Save" "Tag Number is on file\nOverwrite the existing record?" YesNo
+answer Yes
+click mnuSave
+expect-message Overwrite
+# What is saved may be left without a question; a change asks, and a refusal stays.
+type txtFlow(1) 90000
+answer Yes
+answer No
+click mnuNew
+expect-box "Line Loss  - Liquid flow" "Save changes?" YesNo
+expect-message Overwrite
+expect txtTagNum P-102
+type txtTagNum P-103
+click cmdCalculate(1)
+answer Yes
+click mnuProgram
+expect-message Save changes?
+expect-form frmLiqLineLoss
+click mnuProgram
+expect-form frmTRProg
+
+# The other programs, a record each.
+new 2
+type txtTagNum G-1
+type txtTemp(0) 80
+type txtPressure(0) 150
+click mnuMixtures1
+pick lstFluid "Methane "
+click cmdSelect
+type txtPercent(0) 80
+pick lstFluid "Ethane "
+click cmdSelect
+key txtPercent(1) R
+click cmdCalcPseudo
+type txtFlow(0) 5000
+type txtInletPipeLen 320
+type txtInletPipeID 6.065
+click cmdCalculate(0)
+click mnuSave
+click mnuProgram
+new 4
+type txtTagNum L-1
+type txtTemp(0) 80
+type txtPressure(0) 100
+click mnuLiquid1
+pick lstFluid "Toluene "
+click cmdSelect
+click mnuSave
+click mnuProgram
+new 5
+type txtTagNum S-1
+type txtPressure(1) 100
+leave
+click mnuSatSteam2
+click mnuSave
+click mnuProgram
+new 3
+type txtTagNum W-1
+type txtMaxLiqFlow 400000
+type txtFlowTemp 68
+type txtOperPressure 100
+type txtLineLength 2500
+click mnuSave
+click mnuProgram
+
+# --- Walking ---------------------------------------------------------------------------------------------------
+click cmdDBOpen
+expect-focus cmdDisplayCalc
+expect lblNumRecords 6
+expect txtTagNum G-1
+expect txtTRCalc "Pressure drop"
+expect txtFluidType Gas
+click cmdPrev
+expect lblCurrentRecord 1
+click cmdLast
+expect txtTagNum W-1
+expect txtTRCalc Waterhammer
+expect lblCurrentRecord 6
+click cmdNext
+expect lblCurrentRecord 6
+click cmdPrev
+expect txtTagNum S-1
+expect txtTRCalc "Fluid data"
+click cmdFirst
+expect lblCurrentRecord 1
+
+click cmdBrowse
+expect-state fraTags visible
+expect-state cmdSelect disabled
+expect-state cmdOK disabled
+expect-count lstTags 6
+type txtSearchTag p-
+expect lstTags P-102
+type txtSearchTag q
+expect-state cmdSelect disabled
+click cmdCancel
+expect-state fraTags hidden
+expect txtTagNum G-1
+click cmdBrowse
+type txtSearchTag p-10
+doubleclick lstTags
+expect txtTagNum P-102
+expect txtCalcDate 11/24/2026
+
+answer OK
+click cmdFind
+type txtFind X-9
+click cmdFind
+expect-box "Tag Number Search" "Cannot find X-9" OK Stop
+click cmdFind
+expect txtFind X-9
+click cmdCancel
+expect txtTagNum P-102
+click cmdFind
+type txtFind g-1
+click cmdFind
+expect txtTagNum G-1
+
+answer No
+click cmdSearchDate
+expect-box "Outdated Calculations" "This will find records where the process data\ndate is later than the calculation date.\nContinue" YesNo
+answer Yes
+answer OK
+click cmdSearchDate
+expect-message Continue
+expect-box "Outdated Calculations" "The calculation date is later than the process data\nfor all records" OK
+
+# --- Display -----------------------------------------------------------------------------------------------------
+# A mixture comes back with its components, and renews itself.
+click cmdDisplayCalc
+expect-form frmGasLineLoss
+expect-title Ver.6.0.0.  Line Loss  - Gas Flow
+expect txtFluid Mixture
+expect txtMW(0) 18.85
+expect txtDestPress(0) 149.9
+expect-state mnuMixtures1 checked
+click mnuMixtures1
+expect lblComponent(1) Ethane
+expect txtPercent(1) 20
+click cmdCancel
+click mnuProgram
+expect txtTagNum G-1
+click cmdNext
+click cmdDisplayCalc
+expect-form frmLiqData
+expect txtFluid Toluene
+expect txtSGFTP(0) 0.8615
+click mnuProgram
+click cmdLast
+click cmdDisplayCalc
+expect-form frmWaterHammer
+expect txtMaxLiqFlow 400000
+click mnuProgram
+click cmdPrev
+click cmdDisplayCalc
+expect-form frmGasData
+expect txtDensity(1) 0.2563
+expect-state mnuSatSteam1 checked
+expect-title Ver.6.0.0.  Gas properties at pressure and temperature - Saturated Steam
+click mnuProgram
+
+# --- Delete ------------------------------------------------------------------------------------------------------
+answer No
+click cmdDelete
+expect-box "Confirm Record Delete" "Delete Tag Number:  S-1\n\nAre you sure?" YesNo None No
+expect lblNumRecords 6
+answer Yes
+click cmdDelete
+expect-message Are you sure?
+expect lblNumRecords 5
+expect txtTagNum W-1
+answer Yes
+click cmdDelete
+expect-message Are you sure?
+expect txtTagNum P-103
+
+# --- The file ----------------------------------------------------------------------------------------------------
+answer No
+click mnuCompactDB
+expect-box "Compact database" "This procedure will recover the space of deleted\nrecords and re-sort the database\nDo you wish to proceed?" YesNo
+answer Yes
+answer OK
+file OLDTRDB.MDB
+click mnuCompactDB
+expect-message wish to proceed?
+expect-box "Database file" "Must find file named TRDB.MDB" OK
+expect-state cmdFirst disabled
+answer OK
+click mnuCreateDB
+expect-box "Database TRDB.MDB" "First, use option 'Browse for DB Path' to determine path" OK
+click cmdDBOpen
+expect lblNumRecords 4
+click cmdDBClose
+expect-state txtTagNum hidden
+quit
