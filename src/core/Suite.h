@@ -34,6 +34,7 @@ struct SuiteState {
     UnitList PressureStem{};          // pressure units without the ending "g" or "a"
     std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded
     std::string DatabaseFile, DatabasePath, BrowsePath;        // full name of the file; its folder
+    std::string RecoveryFile;  // where unsaved work is kept against a crash; empty where nobody would ask for it
     int RecordTotal = 0;                                       // records of DatabaseFile after the last save
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;

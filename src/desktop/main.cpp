@@ -1,17 +1,22 @@
 // The desktop program.
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <QTimer>
 
 #include "core/StartUp.h"
+#include "core/Suite.h"
 #include "core/Version.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/OneInstance.h"
 #include "desktop/Painting.h"
 #include "desktop/StartTime.h"
 #include "forms/RegisterForms.h"
+#include "forms/UnsavedWork.h"
 #include "platform/Forms.h"
 #include "platform/TextFiles.h"
 
@@ -59,8 +64,16 @@ int main(int argc, char** argv) {
     const std::string home = parser.isSet(folder)
                                  ? quillmetra::SuitePath(parser.value(folder).toStdU16String())
                                  : quillmetra::ProgramFolder();
+    quillmetra::OneInstance instance(home);
+    if (instance.AnotherRuns()) return 0;
+    instance.Listen();
     quillmetra::SeedShippedData(home);
+    quillmetra::Suite.RecoveryFile = home + "\\TRRECOV.MDB";
     quillmetra::StartUp(home);
+    QTimer minute;
+    QObject::connect(&minute, &QTimer::timeout, [] { quillmetra::KeepUnsavedWork(); });
+    minute.start(std::chrono::minutes(1));
+    QTimer::singleShot(0, [] { quillmetra::OfferRecovery(); });
     const int result = quillmetra::ProcessHasEnded() ? 0 : QApplication::exec();
     quillmetra::ResetForms();
     return result;

@@ -17,6 +17,7 @@
 #include "platform/TextFiles.h"
 #include "records/ChangeDetection.h"
 #include "records/RecordFiles.h"
+#include "records/Recovery.h"
 #include "records/SaveRecord.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
@@ -249,7 +250,9 @@ void CalculationForm::SaveChanges() {
 bool CalculationForm::MayLeaveRecord() {
     CloseOverlays();
     SaveChanges();
-    return Calc.SaveAnswer != words::ExitSub && Calc.SaveAnswer != words::Yes;
+    if (Calc.SaveAnswer == words::ExitSub || Calc.SaveAnswer == words::Yes) return false;
+    DropRecovery();
+    return true;
 }
 
 void CalculationForm::EmptyForm() {
@@ -263,6 +266,7 @@ void CalculationForm::ShowCalculated() {
     SnapshotRecord();
     ShowCalculation();
     mnuPrint.SetEnabled(true);
+    KeepRecovery();
 }
 
 void CalculationForm::mnuPrint_Click() {
@@ -323,6 +327,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
         if (!CreateDB(true)) return false;
     }
     if (!SaveTRCalc()) return false;
+    DropRecovery();
     ShowCalculation();
     SetStatus("Saved as " + Calc.Tag);
     return true;

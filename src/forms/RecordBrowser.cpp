@@ -6,6 +6,7 @@
 #include "core/Words.h"
 #include "forms/FindDialog.h"
 #include "forms/frmTRProg.h"
+#include "forms/UnsavedWork.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
@@ -13,7 +14,6 @@
 #include "platform/TextFiles.h"
 #include "records/LoadRecord.h"
 #include "records/RecordFiles.h"
-#include "reports/FormRefresh.h"
 
 namespace quillmetra {
 
@@ -299,20 +299,8 @@ void frmTRProg::DisplayRecord() {
     Calc.Tag = head.Tag;
     TakeFluidType(head.FluidType, head.ProgramNumber);
     if (!GetTRCalc()) return ShowRecord();
-    Calc.InCalculation = words::Yes;
     Calc.BrowserOpen = words::Yes;
-    const Program* const program = FindProgram(Calc.CurrentProgram);
-    if (program == nullptr) {
-        Tell("Not found", Suite.DatabaseFile);
-        return;
-    }
-    UnloadForm(program->Form);
-    LoadForm(program->Form);
-    Calc.DataOk = words::Yes;
-    Calc.FormLoading = words::Yes;
-    ShowCalculation();
-    ShowForm(program->Form);
-    HideForm(Name());
+    ShowLoadedRecord();
 }
 
 }  // namespace quillmetra

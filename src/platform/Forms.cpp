@@ -193,6 +193,8 @@ bool TakesInput(const Form& form) {
 
 void SetAfterAct(Handler afterAct) { Registry().AfterAct = std::move(afterAct); }
 
+bool UserActRuns() { return !events::Idle(); }
+
 void RunAfterAct() {
     if (Registry().AfterAct) Registry().AfterAct();
 }

@@ -37,6 +37,9 @@ Form* TopModalForm();
 // A form takes input when it is visible and enabled and no other form is shown modally over it.
 bool TakesInput(const Form& form);
 
+// Whether an act of the user is on its way, at any level.
+bool UserActRuns();
+
 // What runs when the outermost act of a user has ended.
 void SetAfterAct(Handler afterAct);
 

@@ -159,6 +159,14 @@ std::unique_ptr<Database> OpenRecords(const std::string& file) {
     return database;
 }
 
+void MakeEmptyDatabase(const std::string& name) {
+    const fs::path file = MachinePath(name);
+    const Scratch beside(InFolder(FolderOf(name), "TRDB.new"));
+    Database::Create(beside.File, Kind, Shapes());
+    ForgetJournal(file);
+    MoveOver(beside.File, file);
+}
+
 bool CreateDB(bool agreed) {
     const std::string& folder = Suite.DatabasePath;
     Suite.DatabaseFile = DatabaseFileOf(folder);
@@ -170,10 +178,7 @@ bool CreateDB(bool agreed) {
     }
     {
         const BusyPointer busy;
-        const Scratch beside(InFolder(folder, "TRDB.new"));
-        Database::Create(beside.File, Kind, Shapes());
-        ForgetJournal(file);
-        MoveOver(beside.File, file);
+        MakeEmptyDatabase(Suite.DatabaseFile);
     }
     Tell("New database TRDB.MDB created\non " + folder, Calc.MessageTitle);
     return true;

@@ -26,6 +26,9 @@ std::string FolderOf(const std::string& file);
 // damaged one are refused in words of their own.
 std::unique_ptr<Database> OpenRecords(const std::string& file);
 
+// Makes an empty database under a name, in place of one that is there, without a word.
+void MakeEmptyDatabase(const std::string& file);
+
 // Makes an empty database in Suite.DatabasePath and tells so with the title Calc.MessageTitle; sets
 // Suite.DatabaseFile. A database that is there already is replaced without a question when the user has
 // agreed and it may be written; else the user is asked. False when the user said No.

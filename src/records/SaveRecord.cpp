@@ -239,6 +239,17 @@ bool SaveTRCalc() {
     return false;
 }
 
+void WriteWholeRecord(Database& database) {
+    MarkEverything();
+    ComposeCodes();
+    Transaction all(database);
+    Recordset heads(database, HeadTable().Shape);
+    heads.Index("Tag_Number");
+    WriteRow(heads, HeadTable());
+    for (const std::string& each : SaveRows(database)) throw RuntimeError(3163, each);
+    all.Commit();
+}
+
 void SaveTRUnits(Database& database) { SaveRow(database, UnitsTable()); }
 void SaveTRDB(Database& database) { SaveRow(database, PressureDropTable()); }
 void SaveWHCalc(Database& database) { SaveRow(database, WaterhammerTable()); }

@@ -13,6 +13,9 @@ namespace quillmetra {
 // record then still counts as changed. When a row beside the head is refused by the database the head stays.
 bool SaveTRCalc();
 
+// Writes all rows of the record in hand to an empty database, under its tag, without a question or a word.
+void WriteWholeRecord(Database& database);
+
 // The row of each table, over the one of the same tag if there is one. Failures are RuntimeErrors.
 void SaveTRUnits(Database& database);
 void SaveTRDB(Database& database);    // line loss, programs 1 and 2

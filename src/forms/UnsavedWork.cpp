@@ -1,0 +1,64 @@
+// See UnsavedWork.h.
+#include "forms/UnsavedWork.h"
+
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/Words.h"
+#include "forms/CalculationForm.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "records/Recovery.h"
+#include "reports/FormRefresh.h"
+
+namespace quillmetra {
+
+namespace {
+
+CalculationForm* OpenCalculation() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    Form* const form = program == nullptr ? nullptr : LoadedForm(program->Form);
+    return form == nullptr || !form->Visible() ? nullptr : dynamic_cast<CalculationForm*>(form);
+}
+
+}  // namespace
+
+void KeepUnsavedWork() {
+    CalculationForm* const form = OpenCalculation();
+    if (form == nullptr || UserActRuns() || Calc.ChangedFlag.empty()) return;
+    // A panel or a list has the record half changed, and a tag in the making must not be trimmed.
+    const std::string& tag = form->txtTagNum.Text();
+    if (!form->Enabled() || !form->Picture1.Enabled() || Trim(tag).size() != tag.size()) return;
+    form->StoreForm();
+    KeepRecovery();
+}
+
+void OfferRecovery() {
+    if (!HasRecovery()) return;
+    const bool wanted =
+        AskYesNo("The suite did not end properly.\nRecover the calculation that was not saved?", "Recovery",
+                 Icon::Question);
+    if (wanted && TakeRecovery()) {
+        DropRecovery();
+        ShowLoadedRecord();
+        KeepRecovery();
+        return;
+    }
+    DropRecovery();
+    if (wanted) Tell("The calculation cannot be recovered", "Recovery", Icon::Exclamation);
+}
+
+void ShowLoadedRecord() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    if (program == nullptr) return;
+    Calc.InCalculation = words::Yes;
+    UnloadForm(program->Form);
+    LoadForm(program->Form);
+    Calc.DataOk = words::Yes;
+    Calc.FormLoading = words::Yes;
+    ShowCalculation();
+    ShowForm(program->Form);
+    HideForm("frmTRProg");
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,84 @@
+// What a crash leaves, and what the next start makes of it.
+#include "forms/UnsavedWork.h"
+
+#include "records/Recovery.h"
+#include "tests/forms/LiquidFormFixture.h"
+
+namespace quillmetra {
+namespace {
+
+class UnsavedWork : public LiquidForm {
+protected:
+    UnsavedWork() {
+        Suite.RecoveryFile = SuitePath(Folder / "TRRECOV.MDB");
+        Suite.HideFlowStatus = words::Yes;
+    }
+
+    // The process ends without a word and starts again.
+    void Crash() {
+        ResetForms();
+        Calc = CalcRecord();
+        const std::string file = Suite.RecoveryFile;
+        Suite = SuiteState();
+        Suite.RecoveryFile = file;
+        RegisterForms();
+        StartUp(SuitePath(Folder));
+        User.Boxes.clear();
+    }
+};
+
+TEST_F(UnsavedWork, ComesBackAfterACrashOnce) {
+    FillGoodCase(1);
+    Type(Form().txtTagNum, "P-7");
+    Calculate(1);
+    const std::string pressure = Form().txtDestPress(1).Text();
+    Type(Form().txtFlow(0), "123");
+    KeepUnsavedWork();  // the minute
+    Crash();
+    ASSERT_TRUE(HasRecovery());
+    User.Answers = {Answer::Yes};
+    OfferRecovery();
+    ASSERT_NE(LoadedForm("frmLiqLineLoss"), nullptr) << User.LastText();
+    EXPECT_EQ(Form().txtTagNum.Text(), "P-7");
+    EXPECT_EQ(Form().txtDestPress(1).Text(), pressure);
+    EXPECT_EQ(Form().txtFlow(0).Text(), " 123");
+    // It is still to be saved; given up, it is gone for good.
+    User.Answers = {Answer::No};
+    ClickControl(Form().mnuProgram);
+    EXPECT_EQ(User.LastText(), "Save changes?");
+    EXPECT_FALSE(HasRecovery());
+    Crash();
+    OfferRecovery();
+    EXPECT_TRUE(User.Boxes.empty());
+}
+
+TEST_F(UnsavedWork, IsNotOfferedTwiceAndADamagedOneDoesNoHarm) {
+    FillGoodCase(0);
+    Calculate(0);
+    Crash();
+    User.Answers = {Answer::No};
+    OfferRecovery();
+    EXPECT_FALSE(HasRecovery());
+    std::ofstream(Folder / "TRRECOV.MDB") << "no database";
+    User.Answers = {Answer::Yes};
+    OfferRecovery();
+    EXPECT_EQ(User.LastText(), "The calculation cannot be recovered");
+    EXPECT_FALSE(HasRecovery());
+    EXPECT_TRUE(LoadedForm("frmTRProg")->Visible());
+}
+
+TEST_F(UnsavedWork, ASaveNeedsNoRecovery) {
+    FillGoodCase(0);
+    Type(Form().txtTagNum, "P-8");
+    Calculate(0);
+    EXPECT_TRUE(HasRecovery());
+    Suite.DefaultPaths[1] = SuitePath(Folder);
+    User.Answers = {Answer::Yes};  // create the database
+    ClickControl(Form().mnuSave);
+    EXPECT_FALSE(HasRecovery());
+    KeepUnsavedWork();
+    EXPECT_FALSE(HasRecovery()) << "nothing has changed since";
+}
+
+}  // namespace
+}  // namespace quillmetra
