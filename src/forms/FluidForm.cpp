@@ -169,6 +169,10 @@ void FluidForm::FluidTyped() {
 // A temperature of zero that was typed shows as one.
 void FluidForm::ReopenRecord() {
     if (Entries.front().Saturated != nullptr) FindSteamKind();
+    if (!Calc.SteamKind.empty() && !Calc.ProgramTitle.ends_with(TitleTail())) {
+        Calc.ProgramTitle += TitleTail();  // the database has no room for it
+        Calc.ProgramTitleSaved = Calc.ProgramTitle;
+    }
     for (std::size_t i = 0; i < Entries.size(); ++i) {
         if (Calc.CaseInput[TemperatureRow][i] == 0 && Calc.TemperatureBlank[i] == 0) {
             TemperatureBox(static_cast<int>(i)).SetText("0");

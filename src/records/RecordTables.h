@@ -35,6 +35,7 @@ enum class Made {
     LiquidWord,     // "Liquid" whatever the record says
     ProgramNumber,  // program x 100 + unit set
     BasisInUse,     // of the fluid type
+    Title,          // of the program; the word of steam at its end goes where the field is too short for it
     OptionCodes,    // "XXXXXXXX" for none
     Temperature,    // of a case; a box left empty is no zero
     NumberAsText,   // a number of CaseInput kept as text

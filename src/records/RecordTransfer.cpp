@@ -8,6 +8,7 @@
 #include "core/Words.h"
 #include "platform/Clock.h"
 #include "platform/NumberText.h"
+#include "platform/Utf8.h"
 
 namespace quillmetra {
 
@@ -83,6 +84,13 @@ std::optional<FieldValue> ValueOfCell(const RecordField& field, const Cell& cell
     return OrBlank(cell.Of == Group::FluidData ? CompactFluidRow(text) : text);
 }
 
+// The kind of steam is kept in the option codes, and the form puts its word back.
+std::string TitleToFit(std::size_t size) {
+    const std::size_t tail = Calc.ProgramTitle.rfind(" - ");
+    const bool tooLong = !Calc.SteamKind.empty() && CharacterCount(Calc.ProgramTitle) > size;
+    return tooLong && tail != std::string::npos ? Calc.ProgramTitle.substr(0, tail) : Calc.ProgramTitle;
+}
+
 std::optional<FieldValue> ValueOfMade(const RecordField& field, Made made) {
     const bool hammer = Calc.CurrentProgram == 3;
     switch (made) {
@@ -90,6 +98,7 @@ std::optional<FieldValue> ValueOfMade(const RecordField& field, Made made) {
         case Made::LiquidWord: return words::Liquid;
         case Made::ProgramNumber: return static_cast<double>(StoredProgramNumber());
         case Made::BasisInUse: return OrBlank(BasisInUse());
+        case Made::Title: return OrBlank(TitleToFit(At(field.Shape.Size)));
         case Made::OptionCodes: return Calc.OtherCalcs.empty() ? words::NoCodes : Calc.OtherCalcs;
         case Made::Temperature: {
             const double value = Calc.CaseInput[2][At(field.Case)];
@@ -146,6 +155,7 @@ void TakeMade(const RecordField& field, Made made, const FieldValue& value) {
         case Made::LiquidWord: break;
         case Made::ProgramNumber: SplitProgramNumber(static_cast<int>(NumberOf(value))); break;
         case Made::BasisInUse: BasisInUse() = text == words::Volume ? words::Volume : words::Mass; break;
+        case Made::Title: Calc.ProgramTitle = text; break;
         case Made::OptionCodes: Calc.OtherCalcs = text.empty() ? words::NoCodes : text; break;
         case Made::Temperature:
             Calc.CaseInput[2][At(field.Case)] = NumberOf(value);

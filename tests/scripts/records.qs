@@ -88,6 +88,15 @@ type txtPressure(1) 100
 leave
 click mnuSatSteam2
 click mnuSave
+# The longest of all titles.
+type txtTagNum S-2
+type txtTemp(0) 600
+answer No
+type txtPressure(0) 100
+leave
+expect-message Update Fluid Properties?
+click mnuSupersteam1
+click mnuSave
 click mnuProgram
 new 3
 type txtTagNum W-1
@@ -101,7 +110,7 @@ click mnuProgram
 # --- Walking ---------------------------------------------------------------------------------------------------
 click cmdDBOpen
 expect-focus cmdDisplayCalc
-expect lblNumRecords 6
+expect lblNumRecords 7
 expect txtTagNum G-1
 expect txtTRCalc "Pressure drop"
 expect txtFluidType Gas
@@ -110,11 +119,11 @@ expect lblCurrentRecord 1
 click cmdLast
 expect txtTagNum W-1
 expect txtTRCalc Waterhammer
-expect lblCurrentRecord 6
+expect lblCurrentRecord 7
 click cmdNext
-expect lblCurrentRecord 6
+expect lblCurrentRecord 7
 click cmdPrev
-expect txtTagNum S-1
+expect txtTagNum S-2
 expect txtTRCalc "Fluid data"
 click cmdFirst
 expect lblCurrentRecord 1
@@ -123,7 +132,7 @@ click cmdBrowse
 expect-state fraTags visible
 expect-state cmdSelect disabled
 expect-state cmdOK disabled
-expect-count lstTags 6
+expect-count lstTags 7
 type txtSearchTag p-
 expect lstTags P-102
 type txtSearchTag q
@@ -188,6 +197,11 @@ expect txtMaxLiqFlow 400000
 click mnuProgram
 click cmdPrev
 click cmdDisplayCalc
+expect-title Ver.6.0.0.  Gas properties at pressure and temperature - Superheated Steam
+expect-state mnuSupersteam1 checked
+click mnuProgram
+click cmdPrev
+click cmdDisplayCalc
 expect-form frmGasData
 expect txtDensity(1) 0.2563
 expect-state mnuSatSteam1 checked
@@ -198,16 +212,17 @@ click mnuProgram
 answer No
 click cmdDelete
 expect-box "Confirm Record Delete" "Delete Tag Number:  S-1\n\nAre you sure?" YesNo None No
+expect lblNumRecords 7
+answer Yes
+click cmdDelete
+expect-message Are you sure?
 expect lblNumRecords 6
+expect txtTagNum S-2
+click cmdLast
 answer Yes
 click cmdDelete
 expect-message Are you sure?
-expect lblNumRecords 5
-expect txtTagNum W-1
-answer Yes
-click cmdDelete
-expect-message Are you sure?
-expect txtTagNum P-103
+expect txtTagNum S-2
 
 # --- The file ----------------------------------------------------------------------------------------------------
 answer No
@@ -224,7 +239,7 @@ answer OK
 click mnuCreateDB
 expect-box "Database TRDB.MDB" "First, use option 'Browse for DB Path' to determine path" OK
 click cmdDBOpen
-expect lblNumRecords 4
+expect lblNumRecords 5
 click cmdDBClose
 expect-state txtTagNum hidden
 quit
