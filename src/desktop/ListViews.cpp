@@ -305,7 +305,10 @@ public:
         // All rows of one height, so that none has to be measured.
         table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
         table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
-        connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) { Chosen(cell); });
+        // Later, as the grid first takes the focus of the mouse, which its click may pass on.
+        connect(
+            table_, &QTableView::clicked, this, [this](const QModelIndex& cell) { Chosen(cell); },
+            Qt::QueuedConnection);
         connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex& cell) { Reached(cell); });
     }

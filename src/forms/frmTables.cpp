@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include "core/Suite.h"
@@ -45,8 +46,10 @@ private:
 
 }  // namespace
 
-void EditTable(std::string_view keyWord) {
+void EditTable(std::string_view keyWord, const TableVariant& variant) {
     Suite.TableKind = keyWord;
+    Suite.TableFileName = variant.FileName;
+    Suite.TableModel = variant.Model;
     const auto& editor = static_cast<const frmTables&>(LoadForm("frmTables"));
     if (editor.HasTable()) {
         ShowForm("frmTables", Modal::Yes);
@@ -103,18 +106,19 @@ TableVariant frmTables::Variant() const {
 }
 
 void frmTables::ShowHeadings() {
-    const int columns = table_ == nullptr ? 0 : table_->ColumnCount();
+    std::span<const TableColumn> columns;
+    if (table_ != nullptr) {
+        columns = table_->Columns;
+        SetCaption(TableTitle(*table_, Variant()));
+        lblHeading.SetCaption(TableHeading(*table_, Variant()));
+    }
     txtHole.Each([&](TextBox& box, int index) {
-        const bool exists = index <= columns;
+        const auto column = static_cast<std::size_t>(index - 1);
+        const bool exists = column < columns.size();
         box.SetVisible(exists);
         lblColumn(index).SetVisible(exists);
-        if (exists)
-            lblColumn(index).SetCaption(
-                std::string(table_->Columns[static_cast<std::size_t>(index - 1)].Name));
+        if (exists) lblColumn(index).SetCaption(std::string(columns[column].Name));
     });
-    if (table_ == nullptr) return;
-    SetCaption(TableTitle(*table_, Variant()));
-    lblHeading.SetCaption(TableHeading(*table_, Variant()));
 }
 
 // Without a table there is nothing to do but to try again or to leave.

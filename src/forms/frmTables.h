@@ -17,7 +17,7 @@ namespace quillmetra {
 
 // Shows the editor with a table, by its key word, until the user leaves it. A table that cannot be read is
 // told and not shown.
-void EditTable(std::string_view keyWord);
+void EditTable(std::string_view keyWord, const TableVariant& variant = {});
 
 class frmTables : public SuiteForm {
 public:

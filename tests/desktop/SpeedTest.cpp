@@ -52,6 +52,10 @@ TEST_F(WindowSpeedTest, ALargeTableIsEditedAtOnce) {
     grid.scrollToBottom();
     Settle();
     EXPECT_LT(since(start), 0.2);
+    const QPoint cell(grid.columnViewportPosition(2) + 5, grid.viewport()->height() / 2);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell);
+    Settle();
+    EXPECT_EQ(form.Focus.Current(), form.Find("txtHole", 3)) << "a click on a cell goes on to its box";
     const int place = grid.verticalScrollBar()->value();
     double quickest = 1;
     for (int i = 0; i < 5; ++i) {

@@ -242,6 +242,7 @@ TEST_F(WindowTest, CombosAndGrids) {
     EXPECT_EQ(table.model()->index(1, 1).data().toString(), "b");
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
                       table.visualRect(table.model()->index(0, 0)).center());
+    Settle();
     EXPECT_EQ(Sample->grdCells.Selected(), 1);
     EXPECT_EQ(Sample->grdCells.Text(), "a");
     // The arrow keys go from cell to cell, Enter picks.

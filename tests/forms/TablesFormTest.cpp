@@ -59,6 +59,19 @@ TEST_F(TablesForm, ATableThatCannotBeReadIsToldAndNotShown) {
     EXPECT_TRUE(fs::exists(DataFolder() / "Liquid.txt"));
 }
 
+TEST_F(TablesForm, ACallerMayNameTheFile) {
+    WriteData("An45.txt", "Size,K\r\n4,0.65,120,90,300,\r\n");
+    EditTable("Annubar", {.FileName = "An45.txt", .Model = AnnubarModels[4]});
+    auto& annubar = static_cast<frmTables&>(LoadForm("frmTables"));
+    EXPECT_EQ(annubar.Caption(), "Annubar Data File  An45.txt");
+    EXPECT_EQ(annubar.lblHeading.Caption(), "Values of Data for Annubar Models 45 and 46");
+    PickCell(annubar.grdTable, 1, 1);
+    EXPECT_EQ(annubar.lblNote2.Caption(), "For Annubar Models 45 and 46");
+    ClickControl(annubar.cmdCancelGrid);
+    frmTables& gas = Open("Gas");
+    EXPECT_EQ(gas.TableFile, Suite.DefaultPaths[4] + "\\Gas.txt") << "the file of another call is forgotten";
+}
+
 TEST_F(TablesForm, AFailedSaveKeepsTheFormAndTheFile) {
     frmTables& form = Open("Pipe");
     const std::string before = Bytes("W-PIPE.TXT");
