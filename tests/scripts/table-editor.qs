@@ -23,6 +23,15 @@ expect-focus txtHole(2)
 expect txtHole(2) 80S
 expect-state picValveNotes visible
 expect lblNote1 "Enter the Pipe Schedule"
+# The arrow keys look for a row, Enter takes it.
+key grdTable Down
+expect lblRowNum 3
+key grdTable Enter
+expect lblRowNum 4
+expect-focus txtHole(2)
+key grdTable Up
+key grdTable Enter
+expect lblRowNum 3
 focus txtHole(3)
 expect lblNote1 "Enter the Pipe Inside Diameter in inches"
 click cmdCancel

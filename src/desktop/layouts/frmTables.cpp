@@ -26,7 +26,7 @@ Node Notes() {
 
 Node frmTables() {
     return Column(
-        {Panel("", Column({"lblHeading", Item("grdTable").Wide(110).Tall(16).Grow()})).Grow(),
+        {Panel("", Column({"lblHeading", Item("grdTable").Wide(110).Tall(21).Grow()})).Grow(),
          Panel("", Column({Strip(1, 8), Strip(9, 17)})), Over(Column({}), {Notes()}).Tall(5),
          Panel("", Row({"lblRecall", Item("txtRecall").Wide(8), "cmdRecall", "cmdLoadRow", "cmdInsertRow",
                         "cmdDeleteRow", Stretch(), "lblRow", Item("lblRowNum").Wide(6), "cmdClear"})),
