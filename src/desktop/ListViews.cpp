@@ -248,9 +248,21 @@ public:
         return grid_.FixedColumns == 0 ? QVariant() : ToQt(grid_.Cell(section + grid_.FixedRows, 0));
     }
 
-    void Renew() {
-        SetSize(std::max(0, grid_.RowCount() - grid_.FixedRows),
-                std::max(0, grid_.ColumnCount() - grid_.FixedColumns));
+    // True when the columns are others than before. Else the view keeps its place: a row more or less is told
+    // as one at the end, and all cells as changed, of which the view fetches those that are seen.
+    bool Renew() {
+        const int columns = std::max(0, grid_.ColumnCount() - grid_.FixedColumns);
+        const int rows = std::max(0, grid_.RowCount() - grid_.FixedRows);
+        if (columns != columns_) {
+            SetSize(rows, columns);
+            return true;
+        }
+        SetRowCount(rows);
+        if (rows > 0 && columns > 0) {
+            emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
+            emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
+        }
+        return false;
     }
 
     void Empty() { SetSize(0, 0); }
@@ -261,6 +273,18 @@ private:
         rows_ = rows;
         columns_ = columns;
         endResetModel();
+    }
+
+    void SetRowCount(int rows) {
+        if (rows > rows_) {
+            beginInsertRows({}, rows_, rows - 1);
+            rows_ = rows;
+            endInsertRows();
+        } else if (rows < rows_) {
+            beginRemoveRows({}, rows, rows_ - 1);
+            rows_ = rows;
+            endRemoveRows();
+        }
     }
 
     const Grid& grid_;
@@ -278,7 +302,15 @@ public:
         table_->setTabKeyNavigation(false);
         table_->horizontalHeader()->setVisible(grid.FixedRows > 0);
         table_->verticalHeader()->setVisible(grid.FixedColumns > 0);
-        connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) { Chosen(cell); });
+        // All rows of one height, so that none has to be measured.
+        table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+        // Later, as the grid first takes the focus of the mouse, which its click may pass on.
+        connect(
+            table_, &QTableView::clicked, this, [this](const QModelIndex& cell) { Chosen(cell); },
+            Qt::QueuedConnection);
+        connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex& cell) { Reached(cell); });
     }
 
     QWidget* MouseTarget() const override { return table_->viewport(); }
@@ -294,16 +326,30 @@ protected:
     }
 
     void RenewRows() override {
-        cells_->Renew();
+        renewing_ = true;
+        if (cells_->Renew()) table_->resizeColumnsToContents();
+        renewing_ = false;
         RenewSelection();
     }
 
     void RenewSelection() override {
-        table_->setCurrentIndex(
-            cells_->index(grid_.Selected() - grid_.FixedRows, grid_.SelectedColumn() - grid_.FixedColumns));
+        const QModelIndex cell =
+            cells_->index(grid_.Selected() - grid_.FixedRows, grid_.SelectedColumn() - grid_.FixedColumns);
+        if (cell == table_->currentIndex()) return;
+        renewing_ = true;
+        table_->setCurrentIndex(cell);
+        renewing_ = false;
     }
 
 private:
+    // By the arrow keys; a press of the mouse is told when it is a click.
+    void Reached(const QModelIndex& cell) {
+        if (Model() == nullptr || renewing_ || !cell.isValid() ||
+            QApplication::mouseButtons() != Qt::NoButton)
+            return;
+        MoveToCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
+    }
+
     void Chosen(const QModelIndex& cell) {
         if (Model() == nullptr) return;
         PickCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
@@ -312,6 +358,7 @@ private:
     Grid& grid_;
     QTableView* table_;
     CellsModel* cells_;
+    bool renewing_ = false;  // the view follows the model, not the user
 };
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "forms/frmObxPrintCalc.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
+#include "forms/frmTables.h"
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
 #include "forms/frmWaterHammer.h"
@@ -42,6 +43,7 @@ constexpr FormEntry FormTable[] = {
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>},
     {"FindDialog", MakeForm<FindDialog>},
     {"frmPipeSize", MakeForm<frmPipeSize>},
+    {"frmTables", MakeForm<frmTables>},
     {"frmWaterHammer", MakeForm<frmWaterHammer>},
     {"frmUnits", MakeForm<frmUnits>},
     {"frmCalcOptions", MakeForm<frmCalcOptions>},

@@ -6,6 +6,7 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
+#include "forms/frmTables.h"
 #include "forms/LoadDefaults.h"
 #include "forms/RegisterForms.h"
 #include "platform/Dialogs.h"
@@ -23,9 +24,12 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
     DefaultButton = &cmdOK;
     CancelButton = &cmdCancel;
     mnuHelp.Shortcut = "F1";
-    // The table editor is yet to come, and with it the way to the tables.
-    for (MenuItem* table : {&mnuGasTable, &mnuLiquidTable, &mnuMaterialTable, &mnuPipeSizes}) {
-        table->SetEnabled(false);
+    const std::pair<MenuItem*, const TableDescription*> tables[] = {{&mnuGasTable, &table::Gas},
+                                                                    {&mnuLiquidTable, &table::Liquid},
+                                                                    {&mnuMaterialTable, &table::Material},
+                                                                    {&mnuPipeSizes, &table::Pipe}};
+    for (const auto& [entry, table] : tables) {
+        entry->Click = [keyWord = table->KeyWord] { EditTable(keyWord); };
     }
     fraProgram.ColourGroup = 1;
     for (const Program& program : Programs) {

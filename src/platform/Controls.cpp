@@ -5,6 +5,7 @@
 
 #include "platform/Form.h"
 #include "platform/Forms.h"
+#include "platform/NumberText.h"
 
 namespace quillmetra {
 
@@ -196,12 +197,58 @@ const std::string& Grid::Cell(int row, int column) const {
 void Grid::SetSize(int rows, int columns) {
     columns_ = std::max(columns, 0);
     cells_.resize(static_cast<std::size_t>(std::max(rows, 0)));
-    for (auto& row : cells_) row.resize(static_cast<std::size_t>(columns_));
-    if (selected_ >= RowCount() || selectedColumn_ >= columns_) {
-        selected_ = -1;
-        selectedColumn_ = 0;
-    }
+    MendRows(0);
+    KeepSelectionInside();
     Notify(Aspect::Rows);
+}
+
+void Grid::SetRows(std::vector<Cells> rows, int columns) {
+    columns_ = std::max(columns, 0);
+    cells_ = std::move(rows);
+    MendRows(0);
+    selected_ = -1;
+    selectedColumn_ = 0;
+    Notify(Aspect::Rows);
+}
+
+void Grid::SetRow(int row, Cells cells) {
+    if (row < 0 || row >= RowCount()) throw failure::SubscriptOutOfRange();
+    cells_[static_cast<std::size_t>(row)] = std::move(cells);
+    MendRow(row);
+    Notify(Aspect::Rows);
+}
+
+void Grid::InsertRow(int row, Cells cells) {
+    if (row < 0 || row > RowCount()) throw failure::SubscriptOutOfRange();
+    cells_.insert(cells_.begin() + row, std::move(cells));
+    MendRows(row);
+    if (selected_ >= row) ++selected_;
+    Notify(Aspect::Rows);
+}
+
+void Grid::RemoveRow(int row) {
+    if (row < 0 || row >= RowCount()) throw failure::SubscriptOutOfRange();
+    cells_.erase(cells_.begin() + row);
+    MendRows(row);
+    if (selected_ > row) --selected_;
+    KeepSelectionInside();
+    Notify(Aspect::Rows);
+}
+
+void Grid::MendRows(int from) {
+    for (int row = from; row < RowCount(); ++row) MendRow(row);
+}
+
+void Grid::MendRow(int row) {
+    Cells& cells = cells_[static_cast<std::size_t>(row)];
+    cells.resize(static_cast<std::size_t>(columns_));
+    if (NumbersRows && columns_ > 0) cells[0] = TrimmedStr(row);
+}
+
+void Grid::KeepSelectionInside() {
+    if (selected_ < RowCount() && selectedColumn_ < columns_) return;
+    selected_ = -1;
+    selectedColumn_ = 0;
 }
 
 void Grid::SetCell(int row, int column, const std::string& text) {
@@ -211,12 +258,15 @@ void Grid::SetCell(int row, int column, const std::string& text) {
 }
 
 void Grid::Select(int row, int column) {
-    Cell(row, column);
+    Preselect(row, column);
+    if (Click) Click();
+}
+
+void Grid::Preselect(int row, int column) {
+    text_ = Cell(row, column);
     selected_ = row;
     selectedColumn_ = column;
-    text_ = Cell(row, column);
     Notify(Aspect::Selection);
-    if (Click) Click();
 }
 
 }  // namespace quillmetra

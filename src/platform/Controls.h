@@ -275,15 +275,32 @@ public:
     const std::string& Cell(int row, int column) const;  // throws outside of the grid
     void SetSize(int rows, int columns);
     void SetCell(int row, int column, const std::string& text);
+    // Whole rows, each in one call whatever the size of the grid. Missing cells are empty, those past the
+    // last column are left out. InsertRow puts the row before that of its number, or last.
+    using Cells = std::vector<std::string>;
+    void SetRows(std::vector<Cells> rows, int columns);
+    void SetRow(int row, Cells cells);
+    void InsertRow(int row, Cells cells);
+    void RemoveRow(int row);
+
     int Selected() const { return selected_; }
     int SelectedColumn() const { return selectedColumn_; }
     void Select(int row, int column);
+    // As Select, without the event.
+    void Preselect(int row, int column);
 
     int FixedRows = 1;
     int FixedColumns = 1;
+    // Column 0 shows the number of its row, whatever is put there.
+    bool NumbersRows = false;
 
 private:
-    std::vector<std::vector<std::string>> cells_;
+    // Brings the rows from one on, or one alone, to the width of the grid and to their numbers.
+    void MendRows(int from);
+    void MendRow(int row);
+    void KeepSelectionInside();
+
+    std::vector<Cells> cells_;
     int columns_ = 0;
     int selected_ = -1;
     int selectedColumn_ = 0;

@@ -75,6 +75,14 @@ bool MoveInList(ListBox& list, const std::string& key) {
     return wanted != row && PickRow(list, wanted);
 }
 
+bool MoveInGrid(Grid& grid, const std::string& key) {
+    int row = std::max(grid.Selected(), grid.FixedRows - 1);
+    if (key == "Up") --row;
+    if (key == "Down") ++row;
+    const bool moves = (key == "Up" || key == "Down") && row >= grid.FixedRows;
+    return moves && MoveToCell(grid, row, std::max(grid.SelectedColumn(), grid.FixedColumns));
+}
+
 bool EditByKey(TextBox& box, const std::string& key) {
     if (key == "Delete") return TypeText(box, "");
     if (key == "Backspace") return TypeText(box, WithoutLastCharacter(box.Text()));
@@ -84,6 +92,10 @@ bool EditByKey(TextBox& box, const std::string& key) {
 bool PressEnter(Control& control) {
     Form& form = control.Owner();
     if (control.Kind() == ControlKind::CommandButton) return ClickControl(control);
+    if (control.Kind() == ControlKind::Grid) {
+        auto& grid = static_cast<Grid&>(control);
+        return PickCell(grid, grid.Selected(), grid.SelectedColumn());
+    }
     if (form.DefaultButton != nullptr && CanAct(*form.DefaultButton))
         return ClickControl(*form.DefaultButton);
     if (!form.EnterMovesOn) return false;
@@ -103,6 +115,7 @@ bool PressPlainKey(Control& control, const std::string& key) {
         case ControlKind::TextBox: return EditByKey(static_cast<TextBox&>(control), key);
         case ControlKind::ListBox:
         case ControlKind::ComboBox: return MoveInList(static_cast<ListBox&>(control), key);
+        case ControlKind::Grid: return MoveInGrid(static_cast<Grid&>(control), key);
         case ControlKind::CommandButton:
         case ControlKind::OptionButton:
         case ControlKind::CheckBox: return key == " " && ClickControl(control);
@@ -208,6 +221,14 @@ bool PickCell(Grid& grid, int row, int column) {
         grid.Owner().Focus.UserMoves(grid);
         if (CanAct(grid) && row < grid.RowCount() && column < grid.ColumnCount()) grid.Select(row, column);
     });
+    return true;
+}
+
+bool MoveToCell(Grid& grid, int row, int column) {
+    if (!CanAct(grid) || row < 0 || row >= grid.RowCount() || column < 0 || column >= grid.ColumnCount()) {
+        return false;
+    }
+    grid.Owner().Dispatch([&] { grid.Preselect(row, column); });
     return true;
 }
 

@@ -28,6 +28,8 @@ bool OpenMenu(MenuItem& head);
 bool PickRow(ListBox& list, int row);
 bool UnpickRow(ListBox& list, int row);
 bool PickCell(Grid& grid, int row, int column);
+// The cell in hand goes elsewhere by the arrow keys; Enter then picks it.
+bool MoveToCell(Grid& grid, int row, int column);
 
 // The control's own KeyPress alone, for a host whose widgets edit by themselves. True when used up.
 bool OfferKey(Control& control, const std::string& key);

@@ -6,22 +6,17 @@
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
+#include "platform/Utf8.h"
 
 namespace quillmetra {
 
-namespace {
-
-// Characters of a UTF-8 text: bytes that do not continue one.
-int CharacterCount(std::string_view text) {
-    return static_cast<int>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+TableFields SplitTableLine(const TableDescription& table, std::string_view line) {
+    if (static_cast<int>(CharacterCount(line)) <= table.SplitLimit) return {};
+    return SplitFields(table, line);
 }
 
-}  // namespace
-
-TableFields SplitTableLine(const TableDescription& table, std::string_view line) {
+TableFields SplitFields(const TableDescription& table, std::string_view line) {
     TableFields fields;
-    if (CharacterCount(line) <= table.SplitLimit) return fields;
     const std::size_t count = std::min(table.Columns.size(), MostFields);
     std::size_t start = 0;
     for (std::size_t i = 0; i < count && start <= line.size(); ++i) {
@@ -41,7 +36,7 @@ std::vector<std::string> ReadTable(const TableDescription& table, const TableVar
     if (!file.Next(line)) throw failure::InputPastEnd();
     std::vector<std::string> rows;
     while (file.Next(line)) {
-        if (CharacterCount(line) >= table.MinimumLength) rows.push_back(std::move(line));
+        if (static_cast<int>(CharacterCount(line)) >= table.MinimumLength) rows.push_back(std::move(line));
     }
     return rows;
 }

@@ -19,6 +19,8 @@ using TableFields = std::array<std::string, MostFields>;
 // Splits a line at its commas. Missing fields read empty, text past the last column is left out, and a line
 // not longer than the table's limit gives empty fields.
 TableFields SplitTableLine(const TableDescription& table, std::string_view line);
+// The same for a line that is split whatever its length, as the heading is.
+TableFields SplitFields(const TableDescription& table, std::string_view line);
 
 // The text before the first comma, without the blanks around it: what a row is found by.
 std::string_view RowName(std::string_view line);

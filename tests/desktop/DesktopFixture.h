@@ -44,6 +44,7 @@ protected:
         for (const Program& program : Programs) {
             if (SameName(program.Form, name)) Calc.CurrentProgram = program.Number;
         }
+        Suite.TableKind = "Liquid";  // the table of most columns
         ShowForm(name);
         Form& form = LoadForm(name);
         EXPECT_TRUE(QTest::qWaitForWindowActive(Screen.WindowOf(form)));

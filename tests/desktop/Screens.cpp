@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include "core/StartUp.h"
+#include "core/Suite.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Painting.h"
@@ -221,6 +222,24 @@ void ShootFluidData(int program, const char* name, const char* entry, const char
     Shoot(form);
 }
 
+// The editor runs until it is left, so its pictures are taken from within its loop.
+void ShootTable(const char* entry, int row) {
+    QTimer::singleShot(0, qApp, [row] {
+        PickCell(static_cast<Grid&>(ControlOf("frmTables", "grdTable")), row, 2);
+        Shoot(Suite.TableKind.c_str());
+        Click("frmTables", "cmdCancelGrid");
+    });
+    Click("frmObxProg", entry);
+}
+
+void ShootTables() {
+    Click("frmTRProg", "cmdOK");
+    for (const char* entry : {"mnuGasTable", "mnuLiquidTable", "mnuMaterialTable", "mnuPipeSizes"}) {
+        ShootTable(entry, 12);
+    }
+    Click("frmObxProg", "cmdCancel");
+}
+
 void ShootLiquidData() { ShootFluidData(4, "frmLiqData", "mnuLiquid", "Toluene "); }
 void ShootGasData() { ShootFluidData(5, "frmGasData", "mnuPureGases", "Methane "); }
 
@@ -245,6 +264,7 @@ int main(int argc, char** argv) {
     Click("frmTRProg", "cmdOK");
     Shoot("selector");
     Click("frmObxProg", "cmdCancel");
+    ShootTables();
     for (const auto& shoot : {ShootLiquidLine, ShootGasLine, ShootHammer, ShootLiquidData, ShootGasData}) {
         shoot();
         Click(Calculation, "mnuProgram");

@@ -242,8 +242,23 @@ TEST_F(WindowTest, CombosAndGrids) {
     EXPECT_EQ(table.model()->index(1, 1).data().toString(), "b");
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
                       table.visualRect(table.model()->index(0, 0)).center());
+    Settle();
     EXPECT_EQ(Sample->grdCells.Selected(), 1);
     EXPECT_EQ(Sample->grdCells.Text(), "a");
+    // The arrow keys go from cell to cell, Enter picks.
+    int picked = 0;
+    Sample->grdCells.Click = [&] { picked = Sample->grdCells.Selected(); };
+    QTest::keyClick(&table, Qt::Key_Down);
+    EXPECT_EQ(Sample->grdCells.Selected(), 2);
+    EXPECT_EQ(picked, 0);
+    QTest::keyClick(&table, Qt::Key_Return);
+    EXPECT_EQ(picked, 2);
+    Sample->grdCells.InsertRow(1, {"", "new", ""});
+    EXPECT_EQ(table.model()->index(0, 0).data().toString(), "new");
+    EXPECT_EQ(table.currentIndex().row(), 2) << "the selected row moves along";
+    Sample->grdCells.RemoveRow(1);
+    EXPECT_EQ(table.model()->rowCount(), 2);
+    EXPECT_EQ(table.currentIndex().row(), 1);
     Sample->grdCells.SetSize(1, 1);
     EXPECT_EQ(table.model()->rowCount(), 0);
 }

@@ -7,7 +7,7 @@ expect-state txtTagNum hidden
 click cmdOK
 expect-form frmObxProg
 expect-state optProgram(1) checked
-expect-state mnuLiquidTable disabled
+expect-state mnuLiquidTable enabled
 click cmdCancel
 expect-form frmTRProg
 new 1

@@ -15,6 +15,7 @@ Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmTRProg();
+Node frmTables();
 Node frmUnits();
 Node frmWaterHammer();
 

@@ -1,0 +1,36 @@
+// Where the controls of the table editor stand.
+#include "desktop/layouts/Layouts.h"
+
+namespace quillmetra::layout {
+
+namespace {
+
+// The boxes of some columns side by side, each below its name. The first is that of the row's name.
+Node Strip(int first, int last) {
+    std::vector<Node> names;
+    std::vector<Node> boxes;
+    for (int i = first; i <= last; ++i) {
+        names.push_back(Item("lblColumn", i));
+        boxes.push_back(Item("txtHole", i).Wide(i == 1 ? 28 : 9));
+    }
+    return Row({Table({std::move(names), std::move(boxes)}), Stretch()});
+}
+
+Node Notes() {
+    return Frame("picValveNotes",
+                 Row({Column({"lblNote1", "lblNote2", "lblNote3"}).Grow(), Column({"cmdCancel", Stretch()})}))
+        .Grow();
+}
+
+}  // namespace
+
+Node frmTables() {
+    return Column(
+        {Panel("", Column({"lblHeading", Item("grdTable").Wide(110).Tall(21).Grow()})).Grow(),
+         Panel("", Column({Strip(1, 8), Strip(9, 17)})), Over(Column({}), {Notes()}).Tall(5),
+         Panel("", Row({"lblRecall", Item("txtRecall").Wide(8), "cmdRecall", "cmdLoadRow", "cmdInsertRow",
+                        "cmdDeleteRow", Stretch(), "lblRow", Item("lblRowNum").Wide(6), "cmdClear"})),
+         Buttons({"cmdSaveGrid", "cmdReloadGrid", "cmdCancelGrid"})});
+}
+
+}  // namespace quillmetra::layout

@@ -1,0 +1,377 @@
+// See frmTables.h.
+#include "forms/frmTables.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+#include <utility>
+
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
+#include "platform/Utf8.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr int FewestRows = 5;
+constexpr std::size_t ToldLines = 10;
+constexpr std::size_t ToldCharacters = 40;
+constexpr double MostRows = 1e9;  // more than any grid has; keeps a typed number in the range of a row
+
+constexpr const char* ChangedTitle = "Data Changed";
+constexpr const char* SizeTitle = "File Size";
+constexpr const char* SaveTitle = "Save a New File";
+// Records of calculations name a pipe material by its row.
+constexpr const char* FiledTitle = "Data is filed under Row Number";
+
+constexpr const char* StoreQuestion = "Load Input Data in row ";
+
+// Sets a flag for its life.
+class ScopedTrue {
+public:
+    explicit ScopedTrue(bool& flag) : flag_(flag) { flag_ = true; }
+    ~ScopedTrue() { flag_ = false; }
+    ScopedTrue(const ScopedTrue&) = delete;
+    ScopedTrue& operator=(const ScopedTrue&) = delete;
+
+private:
+    bool& flag_;
+};
+
+}  // namespace
+
+void EditTable(std::string_view keyWord, const TableVariant& variant) {
+    Suite.TableKind = keyWord;
+    Suite.TableFileName = variant.FileName;
+    Suite.TableModel = variant.Model;
+    const auto& editor = static_cast<const frmTables&>(LoadForm("frmTables"));
+    if (editor.HasTable()) {
+        ShowForm("frmTables", Modal::Yes);
+    } else {
+        UnloadForm("frmTables");
+    }
+}
+
+frmTables::frmTables() : SuiteForm("frmTables") {
+    SetCaption("Data tables");
+    DefaultButton = &cmdRecall;
+    CancelButton = &cmdCancelGrid;
+    cmdCancel.TabStop = false;  // a press of it must not take the focus, which would hide it under the mouse
+    picValveNotes.SetVisible(false);
+    grdTable.NumbersRows = true;
+    grdTable.Describe(&lblHeading);
+    txtRecall.Describe(&lblRecall);
+    for (Label* label : {&lblHeading, &lblNote1, &lblNote2, &lblNote3, &lblRecall, &lblRow, &lblRowNum}) {
+        label->ColourGroup = 1;
+    }
+    txtRecall.ColourGroup = 2;
+    grdTable.ColourGroup = 4;
+    grdTable.Click = [this] { grdTable_Click(); };
+    txtHole.Each([this](TextBox& box, int index) {
+        lblColumn(index).ColourGroup = 1;
+        box.ColourGroup = 2;
+        box.Describe(&lblColumn(index));
+        box.Change = [this, index] { txtHole_Change(index); };
+        box.KeyPress = [this, index](Key& key) { txtHole_KeyPress(index, key); };
+        box.GotFocus = [this, index] { txtHole_GotFocus(index); };
+        box.LostFocus = [this] { txtHole_LostFocus(); };
+    });
+    cmdRecall.Click = [this] { cmdRecall_Click(); };
+    cmdLoadRow.Click = [this] { cmdLoadRow_Click(); };
+    cmdClear.Click = [this] { cmdClear_Click(); };
+    cmdInsertRow.Click = [this] { cmdInsertRow_Click(); };
+    cmdDeleteRow.Click = [this] { cmdDeleteRow_Click(); };
+    cmdSaveGrid.Click = [this] { cmdSaveGrid_Click(); };
+    cmdReloadGrid.Click = [this] { cmdReloadGrid_Click(); };
+    cmdCancelGrid.Click = [this] { cmdCancelGrid_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+void frmTables::Load() {
+    ApplyColours(*this);
+    table_ = FindTable(Suite.TableKind);
+    ShowHeadings();
+    EnableWork(table_ != nullptr && ReadTableFile());
+    txtRecall.SetFocus();
+}
+
+TableVariant frmTables::Variant() const {
+    return {.FileName = Suite.TableFileName, .Model = Suite.TableModel};
+}
+
+void frmTables::ShowHeadings() {
+    std::span<const TableColumn> columns;
+    if (table_ != nullptr) {
+        columns = table_->Columns;
+        SetCaption(TableTitle(*table_, Variant()));
+        lblHeading.SetCaption(TableHeading(*table_, Variant()));
+    }
+    txtHole.Each([&](TextBox& box, int index) {
+        const auto column = static_cast<std::size_t>(index - 1);
+        const bool exists = column < columns.size();
+        box.SetVisible(exists);
+        lblColumn(index).SetVisible(exists);
+        if (exists) lblColumn(index).SetCaption(std::string(columns[column].Name));
+    });
+}
+
+// Without a table there is nothing to do but to try again or to leave.
+void frmTables::EnableWork(bool works) {
+    for (CommandButton* button :
+         {&cmdRecall, &cmdLoadRow, &cmdClear, &cmdInsertRow, &cmdDeleteRow, &cmdSaveGrid}) {
+        button->SetEnabled(works);
+    }
+}
+
+// Reads the file into the grid; false, with a message and the grid as it was, when it cannot be read.
+bool frmTables::ReadTableFile() {
+    const std::string path = TablePath(*table_, Variant());
+    try {
+        const BusyPointer busy;
+        ShowTable(LoadTable(*table_, Variant()));
+    } catch (const RuntimeError& error) {
+        Tell("File " + path.substr(path.rfind('\\') + 1) + "\n" + error.Description, Caption());
+        return false;
+    }
+    TableFile = path;
+    return true;
+}
+
+void frmTables::ShowTable(const TableSheet& sheet) {
+    const auto columns = static_cast<std::size_t>(table_->ColumnCount());
+    std::vector<Grid::Cells> rows(std::max<std::size_t>(FewestRows, sheet.Rows.size()));
+    for (std::size_t i = 0; i < sheet.Rows.size(); ++i) {
+        rows[i].resize(columns + 1);
+        std::copy_n(sheet.Rows[i].begin(), columns, rows[i].begin() + 1);
+    }
+    grdTable.SetRows(std::move(rows), table_->ColumnCount() + 1);
+    lost_ = sheet.Lost;
+    ClearBoxes();
+    CurrentRow = static_cast<int>(sheet.Rows.size());
+    RowEdited.clear();
+    FileEdited.clear();
+    GridChanged.clear();
+}
+
+int frmTables::TypedRow() const {
+    return static_cast<int>(std::nearbyint(std::clamp(Val(txtRecall.Text()), 0.0, MostRows)));
+}
+
+std::optional<int> frmTables::RowOfGrid() const {
+    const int row = TypedRow();
+    if (row < RowCount()) return row;
+    Tell("Maximum row number is " + Str(RowCount() - 1), SizeTitle);
+    return std::nullopt;
+}
+
+void frmTables::TakeInHand(int row) {
+    CurrentRow = row;
+    lblRowNum.SetCaption(TrimmedStr(row));
+}
+
+void frmTables::ShowRow(int row) {
+    TakeInHand(row);
+    const ScopedTrue copying(copying_);
+    txtHole.Each([&](TextBox& box, int index) {
+        if (index < grdTable.ColumnCount()) box.SetText(grdTable.Cell(row, index));
+    });
+}
+
+void frmTables::ClearBoxes() {
+    const ScopedTrue copying(copying_);
+    txtHole.Each([](TextBox& box, int) { box.SetText(""); });
+    lblRowNum.SetCaption("");
+}
+
+Grid::Cells frmTables::CellsOfBoxes() const {
+    Grid::Cells cells(static_cast<std::size_t>(grdTable.ColumnCount()));
+    for (int i = 1; i < grdTable.ColumnCount(); ++i) cells[static_cast<std::size_t>(i)] = txtHole(i).Text();
+    return cells;
+}
+
+void frmTables::StoreRow() {
+    if (CurrentRow < RowCount()) {
+        grdTable.SetRow(CurrentRow, CellsOfBoxes());
+    } else {
+        grdTable.InsertRow(CurrentRow, CellsOfBoxes());
+    }
+    RowEdited.clear();
+    GridChanged = words::Yes;
+}
+
+void frmTables::StorePending(const std::string& row, const char* ending) {
+    if (RowEdited != words::Yes) return;
+    if (AskYesNo(StoreQuestion + row + ending, ChangedTitle)) StoreRow();
+}
+
+void frmTables::grdTable_Click() {
+    const int row = grdTable.Selected();
+    ShowRow(row);
+    txtRecall.SetText(TrimmedStr(row));
+    txtHole(std::max(1, grdTable.SelectedColumn())).SetFocus();
+}
+
+void frmTables::txtHole_Change(int index) {
+    if (copying_) return;
+    RowEdited = words::Yes;
+    FileEdited = words::Yes;
+    const bool parts = txtHole(index).Text().find(',') != std::string::npos;
+    SetStatus(parts ? "A comma ends a field: what follows it is the next column when the file is read again"
+                    : "");
+}
+
+void frmTables::txtHole_KeyPress(int index, Key& key) {
+    if (key.Name != "Enter") return;
+    key.Handled = true;
+    if (!HasTable()) return;
+    if (CurrentRow == RowCount()) grdTable.InsertRow(CurrentRow, {});
+    grdTable.SetCell(CurrentRow, index, txtHole(index).Text());
+    GridChanged = words::Yes;
+}
+
+void frmTables::txtHole_GotFocus(int index) {
+    NoteColumn = index;
+    const NoteLines notes = table_ == nullptr ? NoteLines{} : TableNotes(*table_, NoteColumn, Variant());
+    lblNote1.SetCaption(notes[0]);
+    lblNote2.SetCaption(notes[1]);
+    lblNote3.SetCaption(notes[2]);
+    picValveNotes.SetVisible(true);
+    CancelButton = &cmdCancel;
+}
+
+void frmTables::txtHole_LostFocus() {
+    picValveNotes.SetVisible(false);
+    CancelButton = &cmdCancelGrid;
+}
+
+void frmTables::cmdCancel_Click() {
+    txtHole_LostFocus();
+    txtRecall.SetFocus();
+}
+
+void frmTables::cmdRecall_Click() {
+    StorePending(Str(CurrentRow), " OK?");
+    const std::optional<int> row = RowOfGrid();
+    if (!row) return;
+    ShowRow(*row);
+    grdTable.Preselect(*row, 1);
+    RowEdited.clear();
+    if (GridChanged != words::Yes) FileEdited.clear();
+}
+
+void frmTables::cmdLoadRow_Click() {
+    const std::optional<int> row = RowOfGrid();
+    if (!row) return;
+    TakeInHand(*row);
+    StorePending(TrimmedStr(*row), " OK?");
+}
+
+void frmTables::cmdClear_Click() {
+    StorePending(Str(CurrentRow), " OK?");
+    ClearBoxes();
+    RowEdited.clear();
+}
+
+void frmTables::AddRow(int row) {
+    grdTable.InsertRow(row, CellsOfBoxes());
+    grdTable.Preselect(row, 1);
+    TakeInHand(row);
+    RowEdited.clear();
+    GridChanged = words::Yes;
+}
+
+void frmTables::cmdInsertRow_Click() {
+    if (table_ == &table::Material) {
+        if (AskYesNo("Rows can only be added at end.  OK?", FiledTitle)) AddRow(RowCount());
+        return;
+    }
+    StorePending(Str(CurrentRow), ". OK?");
+    const int typed = TypedRow();
+    if (typed == 0) return;  // the heading stays the first line
+    const int row = std::min(typed, RowCount());
+    if (typed > row) Tell("Next row number to add is " + Str(row), SizeTitle);
+    if (AskYesNo("Insert a new row" + Str(row) + ". OK?", "Insert Row")) AddRow(row);
+}
+
+// The boxes keep what they hold, so that a row deleted here can be inserted elsewhere.
+void frmTables::cmdDeleteRow_Click() {
+    if (table_ == &table::Material) return Tell("Rows cannot be deleted", FiledTitle);
+    StorePending(Str(CurrentRow), " OK?");
+    const std::optional<int> row = RowOfGrid();
+    if (!row || *row == 0) return;
+    if (!AskYesNo("Delete row" + Str(*row) + " OK?", "Delete Row")) return;
+    grdTable.RemoveRow(*row);
+    GridChanged = words::Yes;
+    if (CurrentRow == *row) {  // no other row may take what the boxes hold
+        CurrentRow = RowCount();
+        lblRowNum.SetCaption("");
+    } else if (CurrentRow > *row) {
+        --CurrentRow;
+        if (!lblRowNum.Caption().empty()) TakeInHand(CurrentRow);
+    }
+}
+
+std::vector<TableFields> frmTables::FieldsOfGrid() const {
+    std::vector<TableFields> rows(static_cast<std::size_t>(RowCount()));
+    for (int row = 0; row < RowCount(); ++row) {
+        TableFields& fields = rows[static_cast<std::size_t>(row)];
+        for (int i = 1; i < grdTable.ColumnCount(); ++i)
+            fields[static_cast<std::size_t>(i - 1)] = grdTable.Cell(row, i);
+    }
+    return rows;
+}
+
+void frmTables::TellLostLines() const {
+    if (lost_.empty()) return;
+    std::string text =
+        "These lines of the file are too short or too long for the table.\n"
+        "What the grid does not show of them is lost when the file is saved:\n";
+    for (std::size_t i = 0; i < std::min(lost_.size(), ToldLines); ++i) {
+        text +=
+            "\nline " + TrimmedStr(lost_[i].Number) + ":  " + FirstCharacters(lost_[i].Text, ToldCharacters);
+    }
+    if (lost_.size() > ToldLines)
+        text += "\nand " + TrimmedStr(static_cast<double>(lost_.size() - ToldLines)) + " more";
+    Tell(text, SaveTitle, Icon::Exclamation);
+}
+
+bool frmTables::Save() {
+    StorePending(Str(CurrentRow), " OK?");
+    TellLostLines();
+    if (!AskYesNo("Save the new file and destroy the old file?", SaveTitle)) return true;
+    try {
+        const BusyPointer busy;
+        SaveTable(*table_, FieldsOfGrid(), Variant());
+    } catch (const RuntimeError& error) {
+        Tell(error.Description, Caption());
+        return false;
+    }
+    lost_.clear();
+    FileEdited.clear();
+    GridChanged.clear();
+    return true;
+}
+
+void frmTables::cmdSaveGrid_Click() { Save(); }
+
+void frmTables::cmdReloadGrid_Click() {
+    if (table_ != nullptr && ReadTableFile()) EnableWork(true);
+}
+
+// A save that failed keeps the form with what it holds.
+void frmTables::cmdCancelGrid_Click() {
+    const bool changed = FileEdited == words::Yes || GridChanged == words::Yes;
+    if (changed && HasTable() && AskYesNo("Save the new file?", ChangedTitle) && !Save()) return;
+    FileEdited.clear();
+    RowEdited.clear();
+    GridChanged.clear();
+    UnloadForm(Name());
+}
+
+}  // namespace quillmetra
