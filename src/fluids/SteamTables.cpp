@@ -204,14 +204,6 @@ double& CaseRow(std::size_t row) { return Calc.CaseInput[row][static_cast<std::s
 
 constexpr std::array<std::size_t, 6> SteamRows = {5, 7, 9, 10, 11, 12};
 
-// The kinematic unit's figure from cp at the density of a gas by the suite's rule, which takes the molecular
-// weight for it.
-double ViscosityShown(double viscosity) {
-    const double shown = viscosity / Calc.UnitFactor[7];
-    const double centistokes = CentistokesPerUnit(Calc.UnitName[7]);
-    return centistokes == 0 ? shown : shown * MolarViscosity / SteamMolecularWeight / centistokes;
-}
-
 double CritTemperatureShown() {
     struct Shown {
         std::string_view Unit;
@@ -230,7 +222,7 @@ void Store(const Steam& steam) {
     // In the order of SteamRows.
     const std::array<double, SteamRows.size()> shown = {
         SteamMolecularWeight,
-        CheckFinite(RoundedFour(ViscosityShown(steam.Viscosity))),
+        CheckFinite(RoundedFour(GasViscosityShown(steam.Viscosity, SteamMolecularWeight))),
         CheckFinite(RoundedFour(1 / steam.SpecificVolume / factor[9])),
         CheckFinite(RoundedFour(steam.RatioOfHeats)),
         CheckFinite(SteamCritPressure / factor[11]),

@@ -12,6 +12,14 @@
 
 namespace quillmetra {
 
+// The menu entries of a case, null for what the form does not offer.
+struct FluidEntries {
+    MenuItem* Pure = nullptr;
+    MenuItem* Mixture = nullptr;
+    MenuItem* Saturated = nullptr;
+    MenuItem* Superheated = nullptr;
+};
+
 class FluidForm : public CalculationForm {
 public:
     using CalculationForm::CalculationForm;
@@ -26,13 +34,6 @@ public:
     void CloseOverlays() override;
 
 protected:
-    // The menu entries of a case, null for what the form does not offer.
-    struct FluidEntries {
-        MenuItem* Pure = nullptr;
-        MenuItem* Mixture = nullptr;
-        MenuItem* Saturated = nullptr;
-        MenuItem* Superheated = nullptr;
-    };
     // Case by case; to be filled before HookFluid.
     std::vector<FluidEntries> Entries;
 
@@ -47,12 +48,9 @@ protected:
     virtual bool CheckState() = 0;
     // The same for the pressure alone, of saturated steam.
     virtual bool CheckPressureAlone() { return CheckState(); }
-    // Parses FluidRow.
-    virtual void ParseFluid() = 0;
-    // The pseudo properties of the mixture in hand.
-    virtual bool CalcMixture() = 0;
-    // Fills the case in hand with the properties of what was parsed; false when it was given up.
-    virtual bool FillFluid() = 0;
+    // Rounds the properties of the fluid in hand into the case in hand. Throws, with nothing stored, when one
+    // of them is not finite in the unit shown.
+    virtual void FillCase() = 0;
     // A look-up of steam begins.
     virtual void BeginSteam() {}
     // Shows the rows of the case that steam, found or cleared, has left in the record.
@@ -102,6 +100,10 @@ private:
     void PickPure();
     void PickComponent();
     void PickSteam(int caseIndex, const char* kind);
+    static void ParseFluid();  // FluidRow
+    static bool CalcMixture();
+    // The properties of what was parsed or mixed, in the case in hand; false when it was given up.
+    bool FillFluid();
     bool TakeSteam(bool wasSteam);
     bool CheckForNewFluid();
     void TickEntries();

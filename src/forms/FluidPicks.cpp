@@ -4,10 +4,13 @@
 #include "core/Filling.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
+#include "fluids/GasData.h"
+#include "fluids/LiquidData.h"
 #include "fluids/Mixtures.h"
 #include "fluids/SteamTables.h"
 #include "forms/FluidForm.h"
 #include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
 
 namespace quillmetra {
 
@@ -56,6 +59,31 @@ void FluidForm::cmdSelect_Click() {
 void FluidForm::cmdCancel_Click() {
     CloseFluids();
     Restore(before_);
+}
+
+// --- Properties ------------------------------------------------------------------------------------------
+
+namespace {
+bool IsGas() { return Calc.FluidType == words::Gas; }
+}  // namespace
+
+void FluidForm::ParseFluid() { IsGas() ? ParseGasRow() : ParseLiquidRow(); }
+
+bool FluidForm::CalcMixture() {
+    constexpr int gasData = 5;
+    if (!IsGas()) return CalcLiquidMixture();
+    return Calc.CurrentProgram == gasData ? CalcGasMixtureForData() : CalcGasMixtureForLine();
+}
+
+bool FluidForm::FillFluid() {
+    if (!(IsGas() ? ProcessGasData() : ProcessLiquidData())) return false;
+    try {
+        const Filling filling;
+        FillCase();
+    } catch (const RuntimeError&) {
+        return IsGas() ? TellGasNotCalculated() : TellNotCalculated();
+    }
+    return true;
 }
 
 // --- Pure fluids -------------------------------------------------------------------------------------------

@@ -4,11 +4,7 @@
 #include "core/Filling.h"
 #include "core/StartUp.h"
 #include "core/Words.h"
-#include "fluids/FluidTables.h"
-#include "fluids/GasData.h"
-#include "fluids/Mixtures.h"
 #include "forms/DataCheck.h"
-#include "platform/RuntimeError.h"
 #include "reports/FormRefresh.h"
 #include "units/Temperature.h"
 #include "units/Viscosity.h"
@@ -21,12 +17,6 @@ namespace {
 // before, whatever it was. It stands so.
 constexpr double SkippedTemperature = 1;
 
-double ViscosityShown() {
-    const double viscosity = Calc.FluidViscosity / Calc.UnitFactor[7];
-    const double kinematic = CentistokesPerUnit(Calc.UnitName[7]);
-    return kinematic > 0 ? viscosity * MolarViscosity / Calc.MolecularWeight / kinematic : viscosity;
-}
-
 }  // namespace
 
 frmGasData::frmGasData()
@@ -34,11 +24,10 @@ frmGasData::frmGasData()
                 .Form = "frmGasData",
                 .FluidMenu = "mnuFluidProp",
                 .ListFrame = "fraGasData",
-                .ListCaption = "Gases"}) {
+                .ListCaption = "Gases"}),
+      GasEntries(mnuCase) {
     SetCaption("Gas properties at temperature and pressure");
-    Entries = {{&mnuPureGases1, &mnuMixtures1, &mnuSatSteam1, &mnuSupersteam1},
-               {&mnuPureGases2, &mnuMixtures2, &mnuSatSteam2, &mnuSuperSteam2},
-               {&mnuPureGases3, &mnuMixtures3, &mnuSatSteam3, &mnuSuperSteam3}};
+    Entries = ByCase();
     Base.Changed = [this] { ClearAllCases(); };
     Assemble();
 }
@@ -80,31 +69,21 @@ bool frmGasData::IsTemperatureEntered(int caseIndex) {
 
 // --- The gas -----------------------------------------------------------------------------------------------
 
-void frmGasData::ParseFluid() { ParseGasRow(); }
-
-bool frmGasData::CalcMixture() { return CalcGasMixtureForData(); }
-
-bool frmGasData::FillFluid() {
-    const double mixtureHeat = Calc.CaseInput[13][ThisCase()];  // as the mixture rule has left it
-    if (!ProcessGasData()) return false;
+// The mixture rule has left a mixture's latent heat in its row.
+void frmGasData::FillCase() {
     const bool mixture = Calc.MixtureFlag == words::Yes;
     const UnitFactors& factor = Calc.UnitFactor;
-    try {
-        Store({{4, TemperatureShown(Calc.NormalBoilingPoint)},
-               {16, Calc.LatentHeatBP / factor[16]},
-               {13, mixture ? mixtureHeat : Calc.LatentHeatAtFlow / factor[16]},
-               {8, Calc.VaporPressure / factor[8]},
-               {10, Calc.RatioSpecificHeats},
-               {5, Calc.MolecularWeight},
-               {7, ViscosityShown()},
-               {11, Calc.CritPressure / factor[11]},
-               {12, CritTemperatureShown(Calc.CritTemperature)},
-               {9, Calc.Density / factor[9]},
-               {0, Calc.CompressFactor}});
-    } catch (const RuntimeError&) {
-        return TellGasNotCalculated();
-    }
-    return true;
+    Store({{4, TemperatureShown(Calc.NormalBoilingPoint)},
+           {16, Calc.LatentHeatBP / factor[16]},
+           {13, mixture ? Calc.CaseInput[13][ThisCase()] : Calc.LatentHeatAtFlow / factor[16]},
+           {8, Calc.VaporPressure / factor[8]},
+           {10, Calc.RatioSpecificHeats},
+           {5, Calc.MolecularWeight},
+           {7, GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight)},
+           {11, Calc.CritPressure / factor[11]},
+           {12, CritTemperatureShown(Calc.CritTemperature)},
+           {9, Calc.Density / factor[9]},
+           {0, Calc.CompressFactor}});
 }
 
 // --- Steam -------------------------------------------------------------------------------------------------

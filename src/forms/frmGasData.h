@@ -4,25 +4,13 @@
 #include "forms/BaseConditions.h"
 #include "forms/BasisLabels.h"
 #include "forms/DataForm.h"
+#include "forms/GasEntries.h"
 
 namespace quillmetra {
 
-class frmGasData : public DataForm {
+class frmGasData : public DataForm, public GasEntries {
 public:
     frmGasData();
-
-    MenuItem mnuPureGases1{mnuCase(0), "mnuPureGases1", "&Pure gas"};
-    MenuItem mnuPureGases2{mnuCase(1), "mnuPureGases2", "&Pure gas"};
-    MenuItem mnuPureGases3{mnuCase(2), "mnuPureGases3", "&Pure gas"};
-    MenuItem mnuMixtures1{mnuCase(0), "mnuMixtures1", "&Mixture"};
-    MenuItem mnuMixtures2{mnuCase(1), "mnuMixtures2", "&Mixture"};
-    MenuItem mnuMixtures3{mnuCase(2), "mnuMixtures3", "&Mixture"};
-    MenuItem mnuSatSteam1{mnuCase(0), "mnuSatSteam1", "&Saturated steam"};
-    MenuItem mnuSatSteam2{mnuCase(1), "mnuSatSteam2", "&Saturated steam"};
-    MenuItem mnuSatSteam3{mnuCase(2), "mnuSatSteam3", "&Saturated steam"};
-    MenuItem mnuSupersteam1{mnuCase(0), "mnuSupersteam1", "Super&heated steam"};
-    MenuItem mnuSuperSteam2{mnuCase(1), "mnuSuperSteam2", "Super&heated steam"};
-    MenuItem mnuSuperSteam3{mnuCase(2), "mnuSuperSteam3", "Super&heated steam"};
 
     BasisLabels Basis{Picture1};
     Label lblRatioSH{Picture1, "lblRatioSH", "Ratio of specific heats"};
@@ -43,9 +31,7 @@ protected:
     bool CheckState() override;
     bool CheckPressureAlone() override;
     bool IsTemperatureEntered(int caseIndex) override;
-    void ParseFluid() override;
-    bool CalcMixture() override;
-    bool FillFluid() override;
+    void FillCase() override;
     void BeginSteam() override;
     void ShowSteam() override;
     std::string TitleTail() const override;

@@ -5,9 +5,6 @@
 
 #include "core/Filling.h"
 #include "core/Words.h"
-#include "fluids/FluidTables.h"
-#include "fluids/GasData.h"
-#include "fluids/Mixtures.h"
 #include "forms/DataCheck.h"
 #include "platform/Arithmetic.h"
 #include "platform/NumberText.h"
@@ -77,10 +74,9 @@ frmGasLineLoss::frmGasLineLoss()
                     .FluidMenu = "mnuFluidProp",
                     .ListFrame = "fraGasData",
                     .ListCaption = "Gases"},
-                   {0, 2, 3, 4, 11, 12, 13, 18, 25}) {
-    Entries = {{&mnuPureGases1, &mnuMixtures1, &mnuSatSteam1, &mnuSupersteam1},
-               {&mnuPureGases2, &mnuMixtures2, &mnuSatSteam2, &mnuSupersteam2},
-               {&mnuPureGases3, &mnuMixtures3, &mnuSatSteam3, &mnuSupersteam3}};
+                   {0, 2, 3, 4, 11, 12, 13, 18, 25}),
+      GasEntries(mnuCase) {
+    Entries = ByCase();
     Base.Changed = [this] { ClearAllCases(); };
     Assemble();
 }
@@ -190,34 +186,14 @@ void frmGasLineLoss::ShowResults(const GasLineResults& results) {
 
 // --- The gas -----------------------------------------------------------------------------------------------
 
-void frmGasLineLoss::ParseFluid() { ParseGasRow(); }
-
-bool frmGasLineLoss::CalcMixture() { return CalcGasMixtureForLine(); }
-
-bool frmGasLineLoss::FillFluid() {
-    if (!ProcessGasData()) return false;
-    try {
-        FillCase();
-    } catch (const RuntimeError&) {
-        return TellGasNotCalculated();
-    }
-    return true;
-}
-
-// Rounds the gas's properties into the case in hand, in the units shown. Nothing is stored when one of them
-// is not finite in its unit.
+// Rounds the gas's properties into the case in hand, in the units shown.
 void frmGasLineLoss::FillCase() {
-    const Filling filling;
     const std::size_t i = ThisCase();
     const UnitFactors& factor = Calc.UnitFactor;
     const auto shown = [](double value) { return CheckFinite(RoundedFour(value)); };
     Calc.RatioSpecificHeats = shown(Calc.RatioSpecificHeats);
-    double viscosity = Calc.FluidViscosity / factor[7];
-    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
-        viscosity = viscosity * MolarViscosity / Calc.MolecularWeight / kinematic;
-    }
     const double weight = CheckFinite(Calc.MolecularWeight);
-    viscosity = shown(viscosity);
+    const double viscosity = shown(GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight));
     const double critPressure = shown(Calc.CritPressure / factor[11]);
     const double critTemperature = shown(FromDegR(Calc.UnitName[12], Calc.CritTemperature, factor[12]));
     const double density = shown(Calc.Density / factor[9]);

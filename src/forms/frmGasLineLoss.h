@@ -2,27 +2,15 @@
 #pragma once
 
 #include "forms/BaseConditions.h"
+#include "forms/GasEntries.h"
 #include "forms/LineLossForm.h"
 #include "lineloss/GasLineLoss.h"
 
 namespace quillmetra {
 
-class frmGasLineLoss : public LineLossForm {
+class frmGasLineLoss : public LineLossForm, public GasEntries {
 public:
     frmGasLineLoss();
-
-    MenuItem mnuPureGases1{mnuCase(0), "mnuPureGases1", "&Pure gas"};
-    MenuItem mnuPureGases2{mnuCase(1), "mnuPureGases2", "&Pure gas"};
-    MenuItem mnuPureGases3{mnuCase(2), "mnuPureGases3", "&Pure gas"};
-    MenuItem mnuMixtures1{mnuCase(0), "mnuMixtures1", "&Mixture"};
-    MenuItem mnuMixtures2{mnuCase(1), "mnuMixtures2", "&Mixture"};
-    MenuItem mnuMixtures3{mnuCase(2), "mnuMixtures3", "&Mixture"};
-    MenuItem mnuSatSteam1{mnuCase(0), "mnuSatSteam1", "&Saturated steam"};
-    MenuItem mnuSatSteam2{mnuCase(1), "mnuSatSteam2", "&Saturated steam"};
-    MenuItem mnuSatSteam3{mnuCase(2), "mnuSatSteam3", "&Saturated steam"};
-    MenuItem mnuSupersteam1{mnuCase(0), "mnuSupersteam1", "Super&heated steam"};
-    MenuItem mnuSupersteam2{mnuCase(1), "mnuSupersteam2", "Super&heated steam"};
-    MenuItem mnuSupersteam3{mnuCase(2), "mnuSupersteam3", "Super&heated steam"};
 
     Label lblMW{Picture1, "lblMW", "Molecular weight"};
     ControlArray<TextBox> txtMW{Picture1, "txtMW", {0, 1, 2}};
@@ -46,15 +34,12 @@ protected:
     bool CheckSourcePressure() override;
     bool CheckFluid() override;
     bool CalculateCase() override;
-    void ParseFluid() override;
-    bool CalcMixture() override;
-    bool FillFluid() override;
+    void FillCase() override;
     void ShowSteam() override;
     void ShowChoices() override;
 
 private:
     void ShowResults(const GasLineResults& results);
-    void FillCase();
     void ShowFluidRows();
 };
 

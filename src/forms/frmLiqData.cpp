@@ -2,11 +2,7 @@
 #include "forms/frmLiqData.h"
 
 #include "core/Words.h"
-#include "fluids/FluidTables.h"
 #include "fluids/LiquidCorrelations.h"
-#include "fluids/LiquidData.h"
-#include "fluids/Mixtures.h"
-#include "platform/RuntimeError.h"
 #include "units/Conversion.h"
 #include "units/Viscosity.h"
 
@@ -18,12 +14,6 @@ namespace {
 double GravityShown(double gravity) {
     const bool density = Calc.LiquidDensityMode == words::Density;
     return density ? gravity / Calc.UnitFactor[5] * WaterDensity : gravity;
-}
-
-double ViscosityShown() {
-    const double viscosity = Calc.FluidViscosity / Calc.UnitFactor[7];
-    const double kinematic = CentistokesPerUnit(Calc.UnitName[7]);
-    return kinematic > 0 ? viscosity / Calc.FlowingSG / kinematic : viscosity;
 }
 
 // A value that is not above 0 is not known, and its box stays blank.
@@ -42,30 +32,20 @@ frmLiqData::frmLiqData()
     Assemble();
 }
 
-void frmLiqData::ParseFluid() { ParseLiquidRow(); }
-
-bool frmLiqData::CalcMixture() { return CalcLiquidMixture(); }
-
-bool frmLiqData::FillFluid() {
-    if (!ProcessLiquidData()) return false;
+void frmLiqData::FillCase() {
     const UnitFactors& factor = Calc.UnitFactor;
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
-    try {
-        Store({{8, Known(Calc.VaporPressure / factor[8])},
-               {4, TemperatureShown(Calc.NormalBoilingPoint)},
-               {12, CritTemperatureShown(Calc.CritTemperature)},
-               {27, Known(Calc.BulkModulus / factor[27])},
-               {1, Calc.FlashPoint > 0 ? TemperatureShown(Calc.FlashPoint) : 0},
-               {5, GravityShown(Calc.SGAtStandard)},
-               {0, Calc.MolecularWeight},
-               {6, GravityShown(Calc.FlowingSG)},
-               {9, WaterDensity * Calc.FlowingSG / factor[5]},
-               {7, ViscosityShown()},
-               {11, Calc.CritPressure / factor[11]}});
-    } catch (const RuntimeError&) {
-        return TellNotCalculated();
-    }
-    return true;
+    Store({{8, Known(Calc.VaporPressure / factor[8])},
+           {4, TemperatureShown(Calc.NormalBoilingPoint)},
+           {12, CritTemperatureShown(Calc.CritTemperature)},
+           {27, Known(Calc.BulkModulus / factor[27])},
+           {1, Calc.FlashPoint > 0 ? TemperatureShown(Calc.FlashPoint) : 0},
+           {5, GravityShown(Calc.SGAtStandard)},
+           {0, Calc.MolecularWeight},
+           {6, GravityShown(Calc.FlowingSG)},
+           {9, WaterDensity * Calc.FlowingSG / factor[5]},
+           {7, LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)},
+           {11, Calc.CritPressure / factor[11]}});
 }
 
 }  // namespace quillmetra

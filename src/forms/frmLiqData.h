@@ -28,9 +28,7 @@ public:
     Label unBulkMod{Picture1, "unBulkMod"};
 
 protected:
-    void ParseFluid() override;
-    bool CalcMixture() override;
-    bool FillFluid() override;
+    void FillCase() override;
 };
 
 }  // namespace quillmetra

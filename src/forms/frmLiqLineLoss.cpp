@@ -3,9 +3,6 @@
 
 #include "core/Filling.h"
 #include "core/Words.h"
-#include "fluids/FluidTables.h"
-#include "fluids/LiquidData.h"
-#include "fluids/Mixtures.h"
 #include "forms/DataCheck.h"
 #include "lineloss/Friction.h"
 #include "lineloss/LiquidLineLoss.h"
@@ -110,24 +107,8 @@ void frmLiqLineLoss::ShowResults() {
     Calc.ResultsClearable[ThisCase()] = words::Yes;
 }
 
-void frmLiqLineLoss::ParseFluid() { ParseLiquidRow(); }
-
-bool frmLiqLineLoss::CalcMixture() { return CalcLiquidMixture(); }
-
-bool frmLiqLineLoss::FillFluid() {
-    if (!ProcessLiquidData()) return false;
-    try {
-        FillCase();
-    } catch (const RuntimeError&) {
-        return TellNotCalculated();
-    }
-    return true;
-}
-
-// Rounds the liquid's properties into the case in hand, in the units shown. Nothing is stored when one of
-// them is not finite in its unit.
+// Rounds the liquid's properties into the case in hand, in the units shown.
 void frmLiqLineLoss::FillCase() {
-    const Filling filling;
     const std::size_t i = ThisCase();
     const int caseIndex = Calc.CaseIndex;
     double vaporPressure = 0;
@@ -139,11 +120,8 @@ void frmLiqLineLoss::FillCase() {
     const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
                                            ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[5] * WaterDensity)
                                            : Calc.FlowingSG);
-    double viscosity = Calc.FluidViscosity / Calc.UnitFactor[7];
-    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
-        viscosity = viscosity / Calc.FlowingSG / kinematic;
-    }
-    Calc.CaseInput[7][i] = CheckFinite(RoundedFour(viscosity));
+    Calc.CaseInput[7][i] =
+        CheckFinite(RoundedFour(LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)));
     Calc.CaseInput[8][i] = vaporPressure;
     Calc.CaseInput[6][i] = gravity;
     Calc.Viscosity = Calc.FluidViscosity;

@@ -27,14 +27,11 @@ protected:
     bool CheckSourcePressure() override;
     bool CalculateCase() override;
     bool CheckState() override;
-    void ParseFluid() override;
-    bool CalcMixture() override;
-    bool FillFluid() override;
+    void FillCase() override;
 
 private:
     void ShowResults();
     void DrawPressure();
-    void FillCase();
 };
 
 }  // namespace quillmetra

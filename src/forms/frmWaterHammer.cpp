@@ -3,10 +3,7 @@
 
 #include "core/Filling.h"
 #include "core/Words.h"
-#include "fluids/FluidTables.h"
 #include "fluids/LiquidCorrelations.h"
-#include "fluids/LiquidData.h"
-#include "fluids/Mixtures.h"
 #include "hammer/PipeModulus.h"
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
@@ -113,24 +110,9 @@ void frmWaterHammer::TellNeedsState(int) {
 
 // --- The liquid ------------------------------------------------------------------------------------------
 
-void frmWaterHammer::ParseFluid() { ParseLiquidRow(); }
-
-bool frmWaterHammer::CalcMixture() { return CalcLiquidMixture(); }
-
-bool frmWaterHammer::FillFluid() {
-    if (!ProcessLiquidData()) return false;
-    try {
-        FillCase();
-    } catch (const RuntimeError&) {
-        return TellNotCalculated();
-    }
-    return true;
-}
-
 // Gravity and bulk modulus, rounded, in the units shown. A liquid whose modulus is not known leaves its box
 // blank.
 void frmWaterHammer::FillCase() {
-    const Filling filling;
     Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
     const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
                                            ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[6] * WaterDensity)

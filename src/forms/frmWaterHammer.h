@@ -93,9 +93,7 @@ protected:
     TextBox& TemperatureBox(int) override { return txtFlowTemp; }
     TextBox& PressureBox(int) override { return txtOperPressure; }
     bool CheckState() override { return CheckTempPressure(); }
-    void ParseFluid() override;
-    bool CalcMixture() override;
-    bool FillFluid() override;
+    void FillCase() override;
     void FluidTaken() override;
     void Recalculate() override;
     void TellNeedsState(int caseIndex) override;
@@ -108,7 +106,6 @@ protected:
 
 private:
     void OrderTabs();
-    void FillCase();
     void ShowSelectedTime(bool visible);
 
     // Takes FlowTemperature, EnteredPressure and FlowPressure, and sets TempPressureOk.

@@ -75,7 +75,7 @@ expect txtReqdLatentHeat(0) 131
 type txtPressure(1) 100
 leave
 expect-state mnuSatSteam2 enabled
-expect-state mnuSuperSteam2 disabled
+expect-state mnuSupersteam2 disabled
 click mnuSatSteam2
 expect txtFluid Steam
 expect txtTemp(1) 337.791
@@ -99,7 +99,7 @@ type txtTemp(2) 600
 answer No
 leave
 expect-message Update Fluid Properties?
-click mnuSuperSteam3
+click mnuSupersteam3
 expect txtDensity(2) 0.1844
 expect txtReqdLatentHeat(2) ""
 expect-title Ver.6.0.0.  Gas properties at pressure and temperature - Superheated Steam
