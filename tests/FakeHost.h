@@ -28,6 +28,7 @@ public:
     std::vector<MessageBox> Boxes;     // those shown so far, oldest first
     std::vector<std::string> Prompts;  // of input boxes
     std::vector<int> HelpTopics;
+    std::string Copied;
     std::optional<PrinterChoice> Printing;  // the answer of a printer dialog
     std::vector<PrintJob> Jobs;
     std::vector<PrintedPage> Pages;  // of all prints
@@ -67,6 +68,7 @@ public:
         return std::make_unique<Sheets>(*this);
     }
     void ShowHelp(int topic) override { HelpTopics.push_back(topic); }
+    void CopyText(const std::string& text) override { Copied = text; }
     void SetBusyPointer(bool) override {}
     bool Yield() override { return EscapePressed; }
     void FormShown(Form&) override {}

@@ -13,8 +13,10 @@
 #include <QWindow>
 
 #include "desktop/FormWindow.h"
+#include "desktop/WindowPlaces.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
+#include "platform/TextFiles.h"
 
 namespace quillmetra {
 
@@ -26,6 +28,10 @@ DesktopHost::~DesktopHost() {
         window->Forget();
         delete window;
     }
+}
+
+void DesktopHost::RememberPlaces(const std::string& suitePath) {
+    places_ = std::make_unique<WindowPlaces>(QString::fromStdU16String(MachinePath(suitePath).u16string()));
 }
 
 FormWindow* DesktopHost::WindowOf(const Form& form) const {
@@ -67,6 +73,7 @@ void DesktopHost::RunModal(Form& form) {
 
 // A window opens where the one that led to it stands or stood, and gives its place back the same way.
 void DesktopHost::PutInPlace(FormWindow& window) {
+    if (places_ != nullptr && places_->Restore(window, window.objectName())) return;
     const QWidget* const under = QApplication::activeWindow();
     const QRect room = window.screen()->availableGeometry();
     QPoint centre = room.center();
@@ -87,6 +94,7 @@ void DesktopHost::FormHidden(Form& form) {
     const auto loop = loops_.find(&form);
     if (FormWindow* window = WindowOf(form)) {
         if (loop == loops_.end()) lastCentre_ = window->frameGeometry().center();
+        if (places_ != nullptr && window->isVisible()) places_->Keep(*window, window->objectName());
         window->hide();
     }
     if (loop != loops_.end()) loop->second->quit();
@@ -114,7 +122,10 @@ void DesktopHost::FocusMoved(Form& form) {
 }
 
 void DesktopHost::ProcessEnded() {
-    for (const auto& [form, window] : windows_) window->hide();
+    for (const auto& [form, window] : windows_) {
+        if (places_ != nullptr && window->isVisible()) places_->Keep(*window, window->objectName());
+        window->hide();
+    }
     for (const auto& [form, loop] : loops_) loop->quit();
     QCoreApplication::quit();
 }

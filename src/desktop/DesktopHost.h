@@ -18,6 +18,7 @@ class QPrinter;
 namespace quillmetra {
 
 class FormWindow;
+class WindowPlaces;
 
 class DesktopHost : public QObject, public Host {
 public:
@@ -33,6 +34,7 @@ public:
     void PageSetupDialog() override;
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
+    void CopyText(const std::string& text) override;
     void SetBusyPointer(bool busy) override;
     bool Yield() override;
 
@@ -44,6 +46,9 @@ public:
     void ControlChanged(Control& control, Aspect aspect) override;
     void FocusMoved(Form& form) override;
     void ProcessEnded() override;
+
+    // Windows open where they stood in the last run, from now on. Until then each opens over the one before.
+    void RememberPlaces(const std::string& suitePath);
 
     // Null for a form that was not shown yet.
     FormWindow* WindowOf(const Form& form) const;
@@ -59,6 +64,7 @@ private:
 
     std::unordered_map<const Form*, FormWindow*> windows_;
     std::unordered_map<const Form*, QEventLoop*> loops_;  // of the modal forms
+    std::unique_ptr<WindowPlaces> places_;                // null while places are not remembered
     std::optional<QPoint> lastCentre_;                    // of the window that was hidden last
     std::unique_ptr<QPrinter> printer_;                   // as its dialogs have set it up; made when needed
     bool yielding_ = false;

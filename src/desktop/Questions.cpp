@@ -2,6 +2,7 @@
 #include <array>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QDesktopServices>
@@ -153,6 +154,8 @@ std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset) {
     return static_cast<unsigned>(colour.red()) | static_cast<unsigned>(colour.green()) << 8U |
            static_cast<unsigned>(colour.blue()) << 16U;
 }
+
+void DesktopHost::CopyText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
 
 void DesktopHost::ShowHelp(int) {
     if (FileExists(Suite.HelpFile)) {

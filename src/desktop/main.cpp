@@ -69,6 +69,7 @@ int main(int argc, char** argv) {
     instance.Listen();
     quillmetra::SeedShippedData(home);
     quillmetra::Suite.RecoveryFile = home + "\\TRRECOV.MDB";
+    host.RememberPlaces(home + "\\TRWIN.ini");
     quillmetra::StartUp(home);
     QTimer minute;
     QObject::connect(&minute, &QTimer::timeout, [] { quillmetra::KeepUnsavedWork(); });

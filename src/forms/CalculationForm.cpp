@@ -21,6 +21,7 @@
 #include "records/SaveRecord.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
+#include "reports/ResultsTable.h"
 #include "tables/PipeSizes.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
@@ -74,6 +75,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuNew.Shortcut = "Ctrl+N";
     mnuSave.Shortcut = "Ctrl+S";
     mnuPrint.Shortcut = "Ctrl+P";
+    mnuCopyResults.Shortcut = "Ctrl+Shift+C";
     mnuHelp.Shortcut = "F1";
     mnuHelp.StandsLast = true;
     // The path finder is yet to come; a print waits for results.
@@ -88,6 +90,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuSaveAs.Click = [this] { mnuSaveAs_Click(); };
     mnuProgram.Click = [this] { mnuProgram_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
+    mnuCopyResults.Click = [this] { mnuCopyResults_Click(); };
     mnuHelp.Click = [this] { mnuHelp_Click(); };
     cmdFormLayout.Click = [this] { OpenPanel("frmCalcOptions"); };
     cmdDate.Click = [this] { cmdDate_Click(); };
@@ -407,6 +410,11 @@ void CalculationForm::SetCalculateButtons(bool enabled) {
     for (int i = 0; i < CaseCount; ++i) {
         if (Control* button = CalculateButton(i)) button->SetEnabled(enabled);
     }
+}
+
+void CalculationForm::mnuCopyResults_Click() {
+    CopyText(ResultsTable(*this, program_));
+    SetStatus("Inputs and results can be pasted into a spreadsheet");
 }
 
 void CalculationForm::mnuHelp_Click() {

@@ -52,6 +52,8 @@ public:
     MenuItem mnuPrint{mnuFile, "mnuPrint", "&Print..."};
     MenuItem mnuProgram{mnuFile, "mnuProgram", "Pro&gram"};
     MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
+    MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    MenuItem mnuCopyResults{mnuEdit, "mnuCopyResults", "&Copy inputs and results"};
     MenuItem mnuFluiProp;
     ControlArray<MenuItem> mnuCase;
     MenuItem mnuDefPath{*this, "mnuDefPath", "Default pa&ths"};
@@ -90,6 +92,7 @@ public:
     void mnuSaveAs_Click();
     void mnuProgram_Click();
     void mnuExit_Click();
+    void mnuCopyResults_Click();
     void mnuHelp_Click();
     void cmdDate_Click();
 

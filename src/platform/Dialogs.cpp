@@ -69,6 +69,8 @@ void AskPageSetup() {
 
 void ShowHelpTopic(int topic) { RequiredHost().ShowHelp(topic); }
 
+void CopyText(const std::string& text) { RequiredHost().CopyText(text); }
+
 bool UserWantsToStop() { return InstalledHost != nullptr && InstalledHost->Yield(); }
 
 int BoxesShown() { return ShownBoxes; }

@@ -67,6 +67,9 @@ void AskPageSetup();
 // Shows a topic of the help by its number.
 void ShowHelpTopic(int topic);
 
+// Puts a text where other programs paste from.
+void CopyText(const std::string& text);
+
 // Lets the host breathe within a long calculation; true when the user pressed Escape to end it.
 bool UserWantsToStop();
 

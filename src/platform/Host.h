@@ -45,6 +45,7 @@ public:
     // RuntimeError when there is none to be had.
     virtual std::unique_ptr<Paper> OpenPaper(const PrintJob& job) = 0;
     virtual void ShowHelp(int topic) = 0;
+    virtual void CopyText(const std::string& text) = 0;
     virtual void SetBusyPointer(bool busy) = 0;
     // Lets the host breathe within a long calculation; true when the user pressed Escape.
     virtual bool Yield() = 0;

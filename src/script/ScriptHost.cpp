@@ -156,6 +156,12 @@ std::unique_ptr<Paper> ScriptHost::OpenPaper(const PrintJob& job) {
     return OpenPdf(pdf);
 }
 
+void ScriptHost::CopyText(const std::string& text) {
+    if (closed_) return;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) out_ << "copy | " << line << '\n';
+}
+
 void ScriptHost::ShowHelp(int topic) {
     if (!closed_) out_ << "help | " << topic << '\n';
 }

@@ -67,6 +67,7 @@ public:
     void PageSetupDialog() override {}
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
+    void CopyText(const std::string& text) override;
     void SetBusyPointer(bool) override {}
     bool Yield() override { return false; }
     void FormShown(Form& form) override;

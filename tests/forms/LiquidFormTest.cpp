@@ -309,5 +309,15 @@ TEST_F(LiquidForm, LeavesForTheBrowserAndComesBack) {
     EXPECT_TRUE(ProcessHasEnded());
 }
 
+TEST_F(LiquidForm, CopiesInputsAndResultsForASpreadsheet) {
+    FillGoodCase(1);
+    Calculate(1);
+    ClickControl(Form().mnuCopyResults);
+    EXPECT_NE(User.Copied.find("\tMaximum\tNormal\tMinimum\tUnit\n"), std::string::npos);
+    EXPECT_NE(User.Copied.find("\nFlow\t\t100000\t\tlb/h\n"), std::string::npos) << User.Copied;
+    EXPECT_NE(User.Copied.find("\nDestination pressure\t\t90.31\t\tpsig\n"), std::string::npos);
+    EXPECT_EQ(User.Copied.find("Gate"), std::string::npos) << "a row without a value";
+}
+
 }  // namespace
 }  // namespace quillmetra
