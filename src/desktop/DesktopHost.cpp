@@ -136,6 +136,14 @@ bool DesktopHost::Yield() {
     return escaped_;
 }
 
+// A search asks at every folder; the screen need not be looked at more often than anybody sees.
+void DesktopHost::ServeUser() {
+    constexpr qint64 pause = 20;  // ms
+    if (served_.isValid() && served_.elapsed() < pause) return;
+    QCoreApplication::processEvents();
+    served_.start();
+}
+
 bool DesktopHost::eventFilter(QObject*, QEvent* event) {
     if (!yielding_) return false;
     switch (event->type()) {

@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPoint>
 
@@ -29,12 +30,13 @@ public:
     std::optional<std::string> FileDialog(const FileQuestion& question) override;
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) override;
     std::optional<FontChoice> FontDialog(const FontChoice& preset) override;
-    std::optional<unsigned> ColourDialog(unsigned preset) override;
+    std::optional<unsigned> ColourDialog(unsigned preset, const std::string& title) override;
     void PageSetupDialog() override;
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
     void SetBusyPointer(bool busy) override;
     bool Yield() override;
+    void ServeUser() override;
 
     void FormShown(Form& form) override;
     void RunModal(Form& form) override;
@@ -63,6 +65,7 @@ private:
     std::unique_ptr<QPrinter> printer_;                   // as its dialogs have set it up; made when needed
     bool yielding_ = false;
     bool escaped_ = false;
+    QElapsedTimer served_;  // since the user was last let in
 };
 
 }  // namespace quillmetra

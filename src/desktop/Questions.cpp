@@ -146,9 +146,10 @@ std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {
                       font.underline()};
 }
 
-std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset) {
+std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset, const std::string& title) {
     const ReadyForUser ready;
-    const QColor colour = QColorDialog::getColor(ToQt(Colour{preset}), QApplication::activeWindow());
+    const QColor colour =
+        QColorDialog::getColor(ToQt(Colour{preset & 0xFFFFFFU}), QApplication::activeWindow(), ToQt(title));
     if (!colour.isValid()) return std::nullopt;
     return static_cast<unsigned>(colour.red()) | static_cast<unsigned>(colour.green()) << 8U |
            static_cast<unsigned>(colour.blue()) << 16U;

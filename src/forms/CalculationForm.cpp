@@ -8,6 +8,7 @@
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
 #include "forms/frmObxPrintCalc.h"
+#include "forms/WinSeek.h"
 #include "lineloss/PipeMaterials.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
@@ -76,11 +77,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuPrint.Shortcut = "Ctrl+P";
     mnuHelp.Shortcut = "F1";
     mnuHelp.StandsLast = true;
-    // The path finder is yet to come; a print waits for results.
-    for (Control* later : std::initializer_list<Control*>{&mnuPrint, &mnuPathDataFile, &mnuPathUserUnitFile,
-                                                          &mnuPathPrintHdgs}) {
-        later->SetEnabled(false);
-    }
+    mnuPrint.SetEnabled(false);  // a print waits for results
 
     mnuPrint.Click = [this] { mnuPrint_Click(); };
     mnuNew.Click = [this] { mnuNew_Click(); };
@@ -89,6 +86,9 @@ CalculationForm::CalculationForm(const Names& names)
     mnuProgram.Click = [this] { mnuProgram_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuHelp.Click = [this] { mnuHelp_Click(); };
+    mnuPathDataFile.Click = [] { FindDefaultPath(1); };
+    mnuPathUserUnitFile.Click = [] { FindDefaultPath(2); };
+    mnuPathPrintHdgs.Click = [] { FindDefaultPath(3); };
     cmdFormLayout.Click = [this] { OpenPanel("frmCalcOptions"); };
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
