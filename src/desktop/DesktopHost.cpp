@@ -13,6 +13,7 @@
 #include <QWindow>
 
 #include "desktop/FormWindow.h"
+#include "desktop/HelpWindow.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
 
@@ -115,6 +116,7 @@ void DesktopHost::FocusMoved(Form& form) {
 
 void DesktopHost::ProcessEnded() {
     for (const auto& [form, window] : windows_) window->hide();
+    if (help_ != nullptr) help_->hide();
     for (const auto& [form, loop] : loops_) loop->quit();
     QCoreApplication::quit();
 }

@@ -15,6 +15,7 @@
 
 #include "core/Suite.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/HelpWindow.h"
 #include "desktop/Painting.h"
 #include "desktop/ReadyForUser.h"
 #include "platform/TextFiles.h"
@@ -155,7 +156,13 @@ std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset, const std::st
            static_cast<unsigned>(colour.blue()) << 16U;
 }
 
-void DesktopHost::ShowHelp(int) {
+// The topics as shipped; without them, a help file that an office put into the program's folder.
+void DesktopHost::ShowHelp(int topic) {
+    if (help_ == nullptr) {
+        std::vector<HelpTopic> topics = ReadHelpTopics(HelpFolder());
+        if (!topics.empty()) help_ = std::make_unique<HelpWindow>(std::move(topics));
+    }
+    if (help_ != nullptr) return help_->ShowTopic(topic);
     if (FileExists(Suite.HelpFile)) {
         const QString file = QString::fromStdU16String(MachinePath(Suite.HelpFile).u16string());
         QDesktopServices::openUrl(QUrl::fromLocalFile(file));

@@ -257,6 +257,16 @@ void ShootPathFinder() {
     Click("frmTRProg", "mnuPathTables");
 }
 
+void ShootHelp() {
+    Click("frmTRProg", "mnuHelp");
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() != "help") continue;
+        Settle();
+        window->grab().save(Folder + "/help.png");
+        window->close();
+    }
+}
+
 // A form in each of the shipped schemes.
 void ShootSchemes() {
     const auto former = Suite.Colours;
@@ -294,6 +304,7 @@ int main(int argc, char** argv) {
     Click("frmTRProg", "cmdOK");
     Shoot("selector");
     Click("frmObxProg", "cmdCancel");
+    ShootHelp();
     ShootTables();
     ShootPathFinder();
     ShootSchemes();
