@@ -2,6 +2,7 @@
 #include "forms/WinSeek.h"
 
 #include <cctype>
+#include <utility>
 
 #include "core/StartUp.h"
 #include "core/Suite.h"
@@ -32,6 +33,8 @@ constexpr PathEntry PathEntries[] = {
     {"Tables default path", "Liquid.txt"},
 };
 
+bool Accepted = false;  // by the finder that was closed last
+
 constexpr const char* ResetCaption = "&Reset";
 constexpr const char* SearchCaption = "&Search";
 constexpr const char* ExitCaption = "E&xit";
@@ -39,13 +42,14 @@ constexpr const char* StopCaption = "Cancel";
 
 }  // namespace
 
-void FindDefaultPath(int slot, const std::string& title) {
+bool FindDefaultPath(int slot, const std::string& title) {
     const PathEntry& entry = PathEntries[slot - 1];
     Calc.MessageTitle = title.empty() ? entry.Title : title;
     Calc.MessageText = entry.Pattern;
     UnloadForm(FormName);
     static_cast<WinSeek&>(LoadForm(FormName)).Begin(slot, Calc.MessageTitle, Calc.MessageText);
     ShowForm(FormName, Modal::Yes);
+    return std::exchange(Accepted, false);
 }
 
 WinSeek::WinSeek() : SuiteForm(FormName) {
@@ -148,7 +152,9 @@ bool WinSeek::AcceptPath() {
 }
 
 void WinSeek::cmdOK_Click() {
-    if (AcceptPath() && SaveRequested != words::Yes) UnloadForm(Name());
+    if (!AcceptPath() || SaveRequested == words::Yes) return;
+    Accepted = true;
+    UnloadForm(Name());
 }
 
 void WinSeek::cmdSave_Click() {

@@ -13,8 +13,8 @@
 namespace quillmetra {
 
 // Opens the path finder over the form in hand for default path 1 to 4. The title is that of the path's menu
-// entry unless another one is given.
-void FindDefaultPath(int slot, const std::string& title = {});
+// entry unless another one is given. False when the user cancelled.
+bool FindDefaultPath(int slot, const std::string& title = {});
 
 class WinSeek : public SuiteForm {
 public:

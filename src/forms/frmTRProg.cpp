@@ -50,7 +50,6 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     // Printing of many records and the conversion of old data are yet to come.
     mnuPrinting.SetEnabled(false);
     mnuConvertRandom.SetEnabled(false);
-    optBrouseDB.SetEnabled(false);
     HookDatabase();
     cmdOK.Click = [this] { cmdOK_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };

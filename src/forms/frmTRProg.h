@@ -103,6 +103,7 @@ public:
     void mnuExit_Click();
 
     // The database, in RecordBrowser.cpp
+    void optBrouseDB_Click();
     void cmdDBOpen_Click();
     void cmdDBClose_Click();
     void cmdFirst_Click();

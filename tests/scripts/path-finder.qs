@@ -90,6 +90,29 @@ click cmdOK
 expect-no-message
 expect-form frmTRProg
 
+# --- A database elsewhere: cancelled there is none, and the default stays.
+click optBrouseDB
+expect-title "Data file "
+click cmdCancel
+expect-state optDefaultDB checked
+click optBrouseDB
+answer OK
+key txtPath \
+expect-message Path
+key txtPath V
+answer Yes
+click cmdOK
+expect-message Create a new path?
+expect-state optBrouseDB checked
+answer No
+click mnuCreateDB
+expect-message "TRData\\V\nWill be destroyed"
+click mnuPathDataFile
+answer OK
+key txtPath :
+expect-message TRData:
+click cmdCancel
+
 # --- The same finder from a calculation form.
 new 1
 click mnuPathPrintHdgs
