@@ -62,7 +62,7 @@ private:
 
     std::unordered_map<const Form*, FormWindow*> windows_;
     std::unordered_map<const Form*, QEventLoop*> loops_;  // of the modal forms
-    std::unique_ptr<HelpWindow> help_;  // null until it is asked for
+    std::unique_ptr<HelpWindow> help_;                    // null until it is asked for
     std::optional<QPoint> lastCentre_;                    // of the window that was hidden last
     std::unique_ptr<QPrinter> printer_;                   // as its dialogs have set it up; made when needed
     bool yielding_ = false;
