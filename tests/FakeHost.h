@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -24,6 +25,7 @@ public:
     // is cancelled.
     std::deque<Answer> Answers;
     std::deque<std::string> Inputs;
+    std::deque<std::optional<unsigned>> Colours;  // of colour dialogs; cancelled when there is none
 
     std::vector<MessageBox> Boxes;     // those shown so far, oldest first
     std::vector<std::string> Prompts;  // of input boxes
@@ -35,6 +37,7 @@ public:
     int PagesUntilFailure = -1;      // of the printer; negative for one that never fails
     bool EscapePressed = false;      // what Yield tells
     bool Ended = false;
+    std::function<void()> WhileServed;  // what the user does when a search lets him
 
     // The text of the last box; empty when none was shown.
     std::string LastText() const { return Boxes.empty() ? "" : Boxes.back().Text; }
@@ -61,7 +64,12 @@ public:
     std::optional<std::string> FileDialog(const FileQuestion&) override { return std::nullopt; }
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return Printing; }
     std::optional<FontChoice> FontDialog(const FontChoice&) override { return std::nullopt; }
-    std::optional<unsigned> ColourDialog(unsigned) override { return std::nullopt; }
+    std::optional<unsigned> ColourDialog(unsigned, const std::string&) override {
+        if (Colours.empty()) return std::nullopt;
+        const std::optional<unsigned> colour = Colours.front();
+        Colours.pop_front();
+        return colour;
+    }
     void PageSetupDialog() override {}
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override {
         Jobs.push_back(job);
@@ -71,6 +79,9 @@ public:
     void CopyText(const std::string& text) override { Copied = text; }
     void SetBusyPointer(bool) override {}
     bool Yield() override { return EscapePressed; }
+    void ServeUser() override {
+        if (WhileServed) WhileServed();
+    }
     void FormShown(Form&) override {}
     void RunModal(Form&) override {}
     void FormHidden(Form&) override {}

@@ -2,11 +2,14 @@
 #include "core/StartUp.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <system_error>
 
 #include "core/Suite.h"
 #include "core/Version.h"
 #include "platform/Forms.h"
+#include "platform/NumberText.h"
 #include "platform/ProgramPlaces.h"
 #include "platform/TextFiles.h"
 
@@ -28,7 +31,8 @@ constexpr std::array ShippedFiles = {
     ShippedFile{"Liquid.txt", "\\TRData\\"},  ShippedFile{"Gas.txt", "\\TRData\\"},
     ShippedFile{"W-PIPE.TXT", "\\TRData\\"},  ShippedFile{"Modulus.txt", "\\TRData\\"},
     ShippedFile{"MaTLDAT.TXT", "\\TRData\\"}, ShippedFile{"STEAM.txt", "\\"},
-    ShippedFile{"Stm07.Dat", "\\"},
+    ShippedFile{"Stm07.Dat", "\\"},           ShippedFile{"High contrast.txt", "\\TRData\\"},
+    ShippedFile{"Dark.txt", "\\TRData\\"},
 };
 
 void UseDefaultColours() {
@@ -37,15 +41,21 @@ void UseDefaultColours() {
 
 void ReadColours() {
     try {
-        ItemReader file(Suite.DefaultPaths[4] + "\\TRColr.txt");
-        for (std::size_t slot = 1; slot <= 12; ++slot) {
-            const double packed = file.NextNumber();
-            Suite.Colours[slot] = packed >= 0 && packed <= 0xFFFFFF ? static_cast<std::uint32_t>(packed)
-                                                                    : DefaultColours[slot - 1];
-        }
+        ReadColourFile(Suite.DefaultPaths[4] + "\\TRColr.txt");
     } catch (const RuntimeError&) {
         UseDefaultColours();
     }
+}
+
+// A colour of the file: a whole number of 32 bits with its sign.
+std::uint32_t ColourFrom(const std::string& item) {
+    if (item.empty() || !ValReadsAll(item)) throw failure::TypeMismatch();
+    const double packed = std::nearbyint(Val(item));
+    if (packed < std::numeric_limits<std::int32_t>::min() ||
+        packed > std::numeric_limits<std::int32_t>::max()) {
+        throw failure::Overflow();
+    }
+    return static_cast<std::uint32_t>(static_cast<std::int32_t>(packed));
 }
 
 struct StandardCondition {
@@ -115,6 +125,33 @@ bool ReadDefaultPaths() {
     } catch (const RuntimeError&) {
         return false;
     }
+}
+
+void SaveDefaultPaths() {
+    TextWriter file(Suite.DefaultPaths[5] + "\\TRDRV.txt");
+    for (std::size_t i = 1; i <= 4; ++i) {
+        const std::string& path = Suite.DefaultPaths[i];
+        const bool readsBack =
+            path.find_first_of("\"\r\n\x1A") == std::string::npos && Utf8From1252(Code1252From(path)) == path;
+        if (!readsBack) throw failure::BadFileName();
+        file.Quoted(path);
+    }
+    file.Commit();
+}
+
+void ReadColourFile(const std::string& name) {
+    ItemReader file(name);
+    auto colours = Suite.Colours;
+    for (std::size_t slot = 1; slot <= 12; ++slot) colours[slot] = ColourFrom(file.NextText());
+    Suite.Colours = colours;
+}
+
+void SaveColours() {
+    TextWriter file(Suite.DefaultPaths[4] + "\\TRcolr.txt");
+    for (std::size_t slot = 1; slot <= 12; ++slot) {
+        file.Line(TrimmedStr(static_cast<std::int32_t>(Suite.Colours[slot])));
+    }
+    file.Commit();
 }
 
 namespace {

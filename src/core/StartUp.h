@@ -29,6 +29,18 @@ void Boot(const std::string& programFolder);
 // with the paths left as they were.
 bool ReadDefaultPaths();
 
+// Writes TRDRV.txt, four quoted lines. Throws, with nothing written, when a path cannot be held by such a
+// file.
+void SaveDefaultPaths();
+
+// Reads twelve numbers from a colour file into the colours; throws, with nothing changed, when the file is
+// missing or short or holds a word. A number is kept as it stands there, though only its 24 bits of colour
+// are shown.
+void ReadColourFile(const std::string& file);
+
+// Writes TRColr.txt to the data files' folder, one number a line, slot 1 first.
+void SaveColours();
+
 // Reads up to seven lines of TRHDG.txt into HeadingText; a file error ends it with what was read.
 void LoadHeadings();
 

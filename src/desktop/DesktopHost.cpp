@@ -13,6 +13,7 @@
 #include <QWindow>
 
 #include "desktop/FormWindow.h"
+#include "desktop/HelpWindow.h"
 #include "desktop/WindowPlaces.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
@@ -126,6 +127,7 @@ void DesktopHost::ProcessEnded() {
         if (places_ != nullptr && window->isVisible()) places_->Keep(*window, window->objectName());
         window->hide();
     }
+    if (help_ != nullptr) help_->hide();
     for (const auto& [form, loop] : loops_) loop->quit();
     QCoreApplication::quit();
 }
@@ -145,6 +147,14 @@ bool DesktopHost::Yield() {
     QCoreApplication::processEvents();
     qApp->removeEventFilter(this);
     return escaped_;
+}
+
+// A search asks at every folder; the screen need not be looked at more often than anybody sees.
+void DesktopHost::ServeUser() {
+    constexpr qint64 pause = 20;  // ms
+    if (served_.isValid() && served_.elapsed() < pause) return;
+    QCoreApplication::processEvents();
+    served_.start();
 }
 
 bool DesktopHost::eventFilter(QObject*, QEvent* event) {

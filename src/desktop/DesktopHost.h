@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPoint>
 
@@ -19,6 +20,7 @@ namespace quillmetra {
 
 class FormWindow;
 class WindowPlaces;
+class HelpWindow;
 
 class DesktopHost : public QObject, public Host {
 public:
@@ -30,13 +32,14 @@ public:
     std::optional<std::string> FileDialog(const FileQuestion& question) override;
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) override;
     std::optional<FontChoice> FontDialog(const FontChoice& preset) override;
-    std::optional<unsigned> ColourDialog(unsigned preset) override;
+    std::optional<unsigned> ColourDialog(unsigned preset, const std::string& title) override;
     void PageSetupDialog() override;
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
     void CopyText(const std::string& text) override;
     void SetBusyPointer(bool busy) override;
     bool Yield() override;
+    void ServeUser() override;
 
     void FormShown(Form& form) override;
     void RunModal(Form& form) override;
@@ -65,10 +68,12 @@ private:
     std::unordered_map<const Form*, FormWindow*> windows_;
     std::unordered_map<const Form*, QEventLoop*> loops_;  // of the modal forms
     std::unique_ptr<WindowPlaces> places_;                // null while places are not remembered
+    std::unique_ptr<HelpWindow> help_;                    // null until it is asked for
     std::optional<QPoint> lastCentre_;                    // of the window that was hidden last
     std::unique_ptr<QPrinter> printer_;                   // as its dialogs have set it up; made when needed
     bool yielding_ = false;
     bool escaped_ = false;
+    QElapsedTimer served_;  // since the user was last let in
 };
 
 }  // namespace quillmetra

@@ -181,6 +181,7 @@ void FormWindow::Renew(const Control& control, Aspect aspect) {
                 for (ControlView* each : views_) {
                     if (IsIn(*each->Model(), control)) each->Renew(Aspect::Visible);
                 }
+                if (form_->FitsFrames) TakeFirstSize();
             }
             FollowFocusSoon();
             break;

@@ -16,6 +16,7 @@
 
 #include "core/Suite.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/HelpWindow.h"
 #include "desktop/Painting.h"
 #include "desktop/ReadyForUser.h"
 #include "platform/TextFiles.h"
@@ -147,9 +148,10 @@ std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {
                       font.underline()};
 }
 
-std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset) {
+std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset, const std::string& title) {
     const ReadyForUser ready;
-    const QColor colour = QColorDialog::getColor(ToQt(Colour{preset}), QApplication::activeWindow());
+    const QColor colour =
+        QColorDialog::getColor(ToQt(Colour{preset & 0xFFFFFFU}), QApplication::activeWindow(), ToQt(title));
     if (!colour.isValid()) return std::nullopt;
     return static_cast<unsigned>(colour.red()) | static_cast<unsigned>(colour.green()) << 8U |
            static_cast<unsigned>(colour.blue()) << 16U;
@@ -157,7 +159,13 @@ std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset) {
 
 void DesktopHost::CopyText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
 
-void DesktopHost::ShowHelp(int) {
+// The topics as shipped; without them, a help file that an office put into the program's folder.
+void DesktopHost::ShowHelp(int topic) {
+    if (help_ == nullptr) {
+        std::vector<HelpTopic> topics = ReadHelpTopics(HelpFolder());
+        if (!topics.empty()) help_ = std::make_unique<HelpWindow>(std::move(topics));
+    }
+    if (help_ != nullptr) return help_->ShowTopic(topic);
     if (FileExists(Suite.HelpFile)) {
         const QString file = QString::fromStdU16String(MachinePath(Suite.HelpFile).u16string());
         QDesktopServices::openUrl(QUrl::fromLocalFile(file));

@@ -8,6 +8,7 @@
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
 #include "forms/frmObxPrintCalc.h"
+#include "forms/WinSeek.h"
 #include "lineloss/PipeMaterials.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
@@ -78,11 +79,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuCopyResults.Shortcut = "Ctrl+Shift+C";
     mnuHelp.Shortcut = "F1";
     mnuHelp.StandsLast = true;
-    // The path finder is yet to come; a print waits for results.
-    for (Control* later : std::initializer_list<Control*>{&mnuPrint, &mnuPathDataFile, &mnuPathUserUnitFile,
-                                                          &mnuPathPrintHdgs}) {
-        later->SetEnabled(false);
-    }
+    mnuPrint.SetEnabled(false);  // a print waits for results
 
     mnuPrint.Click = [this] { mnuPrint_Click(); };
     mnuNew.Click = [this] { mnuNew_Click(); };
@@ -92,6 +89,9 @@ CalculationForm::CalculationForm(const Names& names)
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuCopyResults.Click = [this] { mnuCopyResults_Click(); };
     mnuHelp.Click = [this] { mnuHelp_Click(); };
+    mnuPathDataFile.Click = [] { FindDefaultPath(1); };
+    mnuPathUserUnitFile.Click = [] { FindDefaultPath(2); };
+    mnuPathPrintHdgs.Click = [] { FindDefaultPath(3); };
     cmdFormLayout.Click = [this] { OpenPanel("frmCalcOptions"); };
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {

@@ -3,6 +3,8 @@
 // data, 6 the box that has the focus.
 #pragma once
 
+#include <string>
+
 #include "platform/Form.h"
 
 namespace quillmetra {
@@ -17,9 +19,24 @@ inline constexpr int SelectedBack = 11;
 inline constexpr int SelectedText = 12;
 }  // namespace slot
 
+// Only the 24 bits of colour of what the slot holds.
 Colour SlotColour(int slot);
 
 // Paints every control of the form that has a group, and the form itself.
 void ApplyColours(Form& form);
+
+// Paints the controls of one group anew, and the form itself for group 5.
+void RepaintGroup(Form& form, int group);
+
+// Asks for the colour of a slot and repaints its group; false when cancelled, with the slot as it was.
+bool PickColour(Form& form, int slot, int group, const std::string& title);
+
+// Asks for one form background after the other, tries each on the form, and writes those that the user
+// wants to keep to Background.TXT, a number a line. The file of before stays unless the user closes the new
+// one.
+void ListBackgrounds(Form& form, const std::string& title);
+
+// Takes the colours of a file that the user chooses; tells when it holds no twelve colours.
+void LoadColourScheme(Form& form);
 
 }  // namespace quillmetra

@@ -7,6 +7,7 @@
 #include "forms/FindDialog.h"
 #include "forms/frmTRProg.h"
 #include "forms/UnsavedWork.h"
+#include "forms/WinSeek.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
@@ -31,6 +32,7 @@ void CloseCalculations() {
 }  // namespace
 
 void frmTRProg::HookDatabase() {
+    optBrouseDB.Click = [this] { optBrouseDB_Click(); };
     cmdDBOpen.Click = [this] { cmdDBOpen_Click(); };
     cmdDBClose.Click = [this] { cmdDBClose_Click(); };
     cmdFirst.Click = [this] { cmdFirst_Click(); };
@@ -55,6 +57,14 @@ void frmTRProg::HookDatabase() {
 }
 
 // --- Open and close ----------------------------------------------------------------------------------------
+
+// The finder works on the default path; what it finds is a path to look at, and the default stays.
+void frmTRProg::optBrouseDB_Click() {
+    const std::string defaultPath = Suite.DefaultPaths[1];
+    if (FindDefaultPath(1, "Data file ")) Suite.BrowsePath = Suite.DefaultPaths[1];
+    Suite.DefaultPaths[1] = defaultPath;
+    if (Suite.BrowsePath.empty()) optDefaultDB.SetChecked(true);
+}
 
 bool frmTRProg::ChooseDatabase() {
     if (optBrouseDB.Checked() && SameName(Suite.BrowsePath, Suite.DefaultPaths[1])) {

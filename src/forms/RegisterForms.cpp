@@ -16,6 +16,7 @@
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
 #include "forms/frmWaterHammer.h"
+#include "forms/WinSeek.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
 
@@ -47,6 +48,7 @@ constexpr FormEntry FormTable[] = {
     {"frmWaterHammer", MakeForm<frmWaterHammer>},
     {"frmUnits", MakeForm<frmUnits>},
     {"frmCalcOptions", MakeForm<frmCalcOptions>},
+    {"WinSeek", MakeForm<WinSeek>},
 };
 
 // Routines that fill a form leave FormLoading at "Yes"; the end of the user's act puts it back, so that the

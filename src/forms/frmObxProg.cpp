@@ -16,7 +16,7 @@
 namespace quillmetra {
 
 namespace {
-constexpr int SelectorHelpTopic = 400;
+constexpr int SelectorHelpTopic = 410;
 }
 
 frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {

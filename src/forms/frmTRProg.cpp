@@ -7,6 +7,7 @@
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
 #include "forms/LoadDefaults.h"
+#include "forms/WinSeek.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 
@@ -46,17 +47,9 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);
     fraTags.SetVisible(false);
-    // Printing, paths, colours and the conversion of old data are yet to come.
-    for (Control* control : Controls()) {
-        if (control->Kind() == ControlKind::MenuItem && control->Container() != nullptr) {
-            control->SetEnabled(false);
-        }
-    }
-    optBrouseDB.SetEnabled(false);
-    for (MenuItem* entry : {&mnuCreateDB, &mnuCompactDB, &mnuRepairDB, &mnuExport, &mnuExit, &mnuDoNotShow,
-                            &mnuHelp, &mnuAbout}) {
-        entry->SetEnabled(true);
-    }
+    // Printing of many records and the conversion of old data are yet to come.
+    mnuPrinting.SetEnabled(false);
+    mnuConvertRandom.SetEnabled(false);
     HookDatabase();
     cmdOK.Click = [this] { cmdOK_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
@@ -64,6 +57,38 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     mnuAbout.Click = [this] { mnuAbout_Click(); };
     mnuOptions.Click = [this] { mnuDoNotShow.SetChecked(PromptsAreHidden()); };
     mnuDoNotShow.Click = [this] { mnuDoNotShow_Click(); };
+    mnuPathDataFile.Click = [] { FindDefaultPath(1); };
+    mnuPathUserUnitFile.Click = [] { FindDefaultPath(2); };
+    mnuPathPrintHdgs.Click = [] { FindDefaultPath(3); };
+    mnuPathTables.Click = [] { FindDefaultPath(4); };
+    HookColours();
+}
+
+std::array<MenuItem*, 12> frmTRProg::ColourEntries() {
+    return {&mnuColInputFrame, &mnuColInputFrameText, &mnuColInputBack,   &mnuColInputText,
+            &mnuColOptsFrame,  &mnuColOptsFrameText,  &mnuColOptsBack,    &mnuColOptsText,
+            &mnuBackground,    &mnuChangeData,        &mnuColorOptsSelBG, &mnuColorOptsSelFG};
+}
+
+// The entries stand in the order of the slots, two to a group: what is behind and what is in front.
+void frmTRProg::HookColours() {
+    int slot = 0;
+    for (MenuItem* entry : ColourEntries()) {
+        ++slot;
+        entry->Click = [this, entry, slot] {
+            ClearColourChecks();
+            PickColour(*this, slot, (slot + 1) / 2, entry->Caption());
+            entry->SetChecked(true);
+        };
+    }
+    mnuLoadColor.SeparatorBefore = true;
+    mnuLoadColor.Click = [this] { LoadColourScheme(*this); };
+    mnuSaveColor.Click = [] { SaveColours(); };
+    mnuBackgroundList.Click = [this] { ListBackgrounds(*this, mnuBackground.Caption()); };
+}
+
+void frmTRProg::ClearColourChecks() {
+    for (MenuItem* entry : ColourEntries()) entry->SetChecked(false);
 }
 
 void frmTRProg::Load() {

@@ -2,6 +2,7 @@
 // calculation for one of them, and starts new calculations.
 #pragma once
 
+#include <array>
 #include <memory>
 
 #include "forms/SuiteForm.h"
@@ -44,6 +45,7 @@ public:
     MenuItem mnuChangeData{mnuColours, "mnuChangeData", "Changed data"};
     MenuItem mnuColorOptsSelBG{mnuColours, "mnuColorOptsSelBG", "Selected field background"};
     MenuItem mnuColorOptsSelFG{mnuColours, "mnuColorOptsSelFG", "Selected field text"};
+    MenuItem mnuLoadColor{mnuColours, "mnuLoadColor", "Load colour scheme..."};
     MenuItem mnuSaveColor{mnuColours, "mnuSaveColor", "Save colours"};
     MenuItem mnuBackgroundList{mnuColours, "mnuBackgroundList", "Background list"};
     MenuItem mnuOptions{*this, "mnuOptions", "&Options"};
@@ -95,11 +97,13 @@ public:
     CommandButton cmdOK{fraPrograms, "cmdOK", "&Go to Menu"};
 
     void cmdOK_Click();
+    void ClearColourChecks();
     void mnuDoNotShow_Click();
     void mnuAbout_Click();
     void mnuExit_Click();
 
     // The database, in RecordBrowser.cpp
+    void optBrouseDB_Click();
     void cmdDBOpen_Click();
     void cmdDBClose_Click();
     void cmdFirst_Click();
@@ -136,6 +140,8 @@ private:
 
     std::unique_ptr<RecordView> view_;  // null while no database is open
     int shownTags_ = 0;
+    std::array<MenuItem*, 12> ColourEntries();
+    void HookColours();
 };
 
 }  // namespace quillmetra

@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include "platform/Events.h"
 #include "platform/Host.h"
 
 namespace quillmetra {
@@ -72,6 +73,23 @@ void ShowHelpTopic(int topic) { RequiredHost().ShowHelp(topic); }
 void CopyText(const std::string& text) { RequiredHost().CopyText(text); }
 
 bool UserWantsToStop() { return InstalledHost != nullptr && InstalledHost->Yield(); }
+
+std::optional<unsigned> AskColour(unsigned preset, const std::string& title) {
+    return RequiredHost().ColourDialog(preset, title);
+}
+
+std::optional<std::string> AskFile(const std::string& title, const std::string& filter,
+                                   const std::string& folder) {
+    return RequiredHost().FileDialog({.Title = title, .Filter = filter, .Folder = folder});
+}
+
+// The acts that come in have an event level of their own: the focus moves that they ask for do not wait for
+// the end of the search.
+void ServeUser() {
+    if (InstalledHost == nullptr) return;
+    const events::ModalLevel level;
+    InstalledHost->ServeUser();
+}
 
 int BoxesShown() { return ShownBoxes; }
 

@@ -73,6 +73,17 @@ void CopyText(const std::string& text);
 // Lets the host breathe within a long calculation; true when the user pressed Escape to end it.
 bool UserWantsToStop();
 
+// Asks for a colour, 0x00BBGGRR; nothing when cancelled.
+std::optional<unsigned> AskColour(unsigned preset, const std::string& title);
+
+// Asks for a file to open by the filter of Host.h, from a folder; nothing when cancelled.
+std::optional<std::string> AskFile(const std::string& title, const std::string& filter,
+                                   const std::string& folder);
+
+// Lets the user act within a long search, as by its Stop button. What must not run a second time meanwhile
+// is to be switched off before.
+void ServeUser();
+
 // How many boxes were shown since the start: a menu head that put one up keeps its entries shut.
 int BoxesShown();
 

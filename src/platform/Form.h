@@ -64,6 +64,7 @@ public:
     CommandButton* CancelButton = nullptr;   // pressed by Escape
     bool EnterMovesOn = false;               // Enter goes to the next box, as on the calculation forms
     bool Fixed = false;                      // a dialog whose size the user does not change
+    bool FitsFrames = false;                 // its window grows and shrinks with the frames that show
 
 private:
     friend class Control;

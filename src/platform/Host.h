@@ -38,7 +38,8 @@ public:
     virtual std::optional<std::string> FileDialog(const FileQuestion& question) = 0;
     virtual std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) = 0;
     virtual std::optional<FontChoice> FontDialog(const FontChoice& preset) = 0;
-    virtual std::optional<unsigned> ColourDialog(unsigned preset) = 0;  // 0x00BBGGRR
+    virtual std::optional<unsigned> ColourDialog(unsigned preset,  // 0x00BBGGRR
+                                                 const std::string& title) = 0;
     // Size and margins of the sheets, kept by the host.
     virtual void PageSetupDialog() = 0;
     // The paper for the pages of a job; a printer is the one that the printer dialog chose last. Throws a
@@ -49,6 +50,8 @@ public:
     virtual void SetBusyPointer(bool busy) = 0;
     // Lets the host breathe within a long calculation; true when the user pressed Escape.
     virtual bool Yield() = 0;
+    // Lets the user act on the forms within a long search, which has switched off what must not run twice.
+    virtual void ServeUser() {}
 
     virtual void FormShown(Form& form) = 0;
     // Shows a form over all others and returns when it is hidden or unloaded.

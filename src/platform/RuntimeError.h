@@ -21,10 +21,15 @@ namespace failure {
 inline RuntimeError Overflow() { return {6, "Overflow"}; }
 inline RuntimeError SubscriptOutOfRange() { return {9, "Subscript out of range"}; }
 inline RuntimeError DivisionByZero() { return {11, "Division by zero"}; }
+inline RuntimeError TypeMismatch() { return {13, "Type mismatch"}; }
+inline RuntimeError BadFileName() { return {52, "Bad file name or number"}; }
 inline RuntimeError FileNotFound() { return {53, "File not found"}; }
 inline RuntimeError DeviceError() { return {57, "Device I/O error"}; }
 inline RuntimeError InputPastEnd() { return {62, "Input past end of file"}; }
+inline RuntimeError DiskFull() { return {61, "Disk full"}; }
+inline RuntimeError NoDevice() { return {68, "Device unavailable"}; }
 inline RuntimeError PathAccess() { return {75, "Path/File access error"}; }
+inline RuntimeError PathNotFound() { return {76, "Path not found"}; }
 inline RuntimeError Unloaded() { return {364, "Object was unloaded"}; }
 inline RuntimeError NoSuchElement(std::string_view name, int index) {
     return {340, "Control array element '" + std::string(name) + "(" + std::to_string(index) +

@@ -142,7 +142,7 @@ std::optional<FontChoice> ScriptHost::FontDialog(const FontChoice& preset) {
     return font;
 }
 
-std::optional<unsigned> ScriptHost::ColourDialog(unsigned) {
+std::optional<unsigned> ScriptHost::ColourDialog(unsigned, const std::string&) {
     const auto answer = TakeDialog<ColourAnswer>("colour");
     return answer ? std::optional(answer->Colour) : std::nullopt;
 }

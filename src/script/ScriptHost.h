@@ -63,7 +63,7 @@ public:
     std::optional<std::string> FileDialog(const FileQuestion& question) override;
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice& preset) override;
     std::optional<FontChoice> FontDialog(const FontChoice& preset) override;
-    std::optional<unsigned> ColourDialog(unsigned preset) override;
+    std::optional<unsigned> ColourDialog(unsigned preset, const std::string& title) override;
     void PageSetupDialog() override {}
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;

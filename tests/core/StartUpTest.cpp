@@ -86,12 +86,17 @@ TEST_F(StartUpTest, ColoursComeFromTwelveLinesOnly) {
     Start();
     EXPECT_EQ(Suite.Colours[1], 1U);
     EXPECT_EQ(Suite.Colours[12], 12U);
-    WriteData("TRcolr.txt", "-1\n1e300\n16777216\n" + eleven);
+    WriteData("TRcolr.txt", "1,2,3,4,5,6,7,8,9,10,11,-1,13\n");
     Start();
-    for (std::size_t slot = 1; slot <= 3; ++slot) {
-        EXPECT_EQ(Suite.Colours[slot], DefaultColours[slot - 1]) << "no colour, slot " << slot;
+    EXPECT_EQ(Suite.Colours[12], 0xFFFFFFFFU) << "kept as it stands";
+    SaveColours();
+    Start();
+    EXPECT_EQ(Suite.Colours[12], 0xFFFFFFFFU);
+    for (const char* last : {"red", "1e300", ""}) {
+        WriteData("TRcolr.txt", eleven + last + "\r\n");
+        Start();
+        EXPECT_EQ(Suite.Colours[1], DefaultColours[0]) << last;
     }
-    EXPECT_EQ(Suite.Colours[4], 1U);
 }
 
 TEST_F(StartUpTest, StandardConditionsAreReadAsFarAsTheyGo) {

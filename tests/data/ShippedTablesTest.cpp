@@ -273,8 +273,9 @@ std::string FileBytes(const std::filesystem::path& path) {
 
 TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
     const std::filesystem::path program = Folder / "fresh";
-    const char* files[] = {"TRData/Liquid.txt",  "TRData/Gas.txt", "TRData/W-PIPE.TXT", "TRData/Modulus.txt",
-                           "TRData/MaTLDAT.TXT", "STEAM.txt",      "Stm07.Dat"};
+    const char* files[] = {"TRData/Liquid.txt",  "TRData/Gas.txt",           "TRData/W-PIPE.TXT",
+                           "TRData/Modulus.txt", "TRData/MaTLDAT.TXT",       "STEAM.txt",
+                           "Stm07.Dat",          "TRData/High contrast.txt", "TRData/Dark.txt"};
     // A file of the user's own stays, also an empty one and one whose name differs by case.
     std::filesystem::create_directories(program / "TRData");
     std::ofstream(program / "TRData" / "Gas.txt") << "mine";

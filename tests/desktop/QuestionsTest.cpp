@@ -1,4 +1,8 @@
 // Message boxes: what they say, which buttons they have, and that a question wants an answer.
+#include <QListWidget>
+#include <QTextBrowser>
+
+#include "desktop/HelpWindow.h"
 #include "tests/desktop/DesktopFixture.h"
 
 namespace quillmetra {
@@ -86,6 +90,21 @@ TEST_F(QuestionsTest, ABoxOverABusyPointerShowsTheArrow) {
     });
     Tell("Done", "Done");
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+}
+
+TEST_F(QuestionsTest, HelpOpensItsTopicAndFollowsLinks) {
+    HelpWindow help({{401, "Line", "# Line\n\nSee [Method](420)."}, {420, "Method", "# Method\n\nDarcy."}});
+    auto* const list = help.findChild<QListWidget*>("topics");
+    auto* const text = help.findChild<QTextBrowser*>("text");
+    help.ShowTopic(401);
+    EXPECT_EQ(text->toPlainText(), "Line\nSee Method.");
+    emit text->anchorClicked(QUrl("420"));
+    EXPECT_EQ(text->toPlainText(), "Method\nDarcy.");
+    EXPECT_EQ(list->currentItem()->text(), "Method");
+    help.ShowTopic(999);
+    EXPECT_EQ(list->currentRow(), 0);
+    list->setCurrentRow(1);
+    EXPECT_EQ(text->toPlainText(), "Method\nDarcy.");
 }
 
 }  // namespace

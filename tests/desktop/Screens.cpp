@@ -243,6 +243,46 @@ void ShootTables() {
 void ShootLiquidData() { ShootFluidData(4, "frmLiqData", "mnuLiquid", "Toluene "); }
 void ShootGasData() { ShootFluidData(5, "frmGasData", "mnuPureGases", "Methane "); }
 
+// The finder on a folder with something to find, folded up and open.
+void ShootPathFinder() {
+    Within([] {
+        Shoot("path-finder");
+        Click("WinSeek", "cmdBrouse");
+        Click("WinSeek", "cmdSearch");
+        Shoot("path-finder-found");
+        Click("WinSeek", "cmdExit");
+        Shoot("path-finder-folded");
+        Click("WinSeek", "cmdCancel");
+    });
+    Click("frmTRProg", "mnuPathTables");
+}
+
+void ShootHelp() {
+    Click("frmTRProg", "mnuHelp");
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() != "help") continue;
+        Settle();
+        window->grab().save(Folder + "/help.png");
+        window->close();
+    }
+}
+
+// A form in each of the shipped schemes.
+void ShootSchemes() {
+    const auto former = Suite.Colours;
+    for (const char* scheme : {"High contrast", "Dark"}) {
+        ReadColourFile(Suite.DefaultPaths[4] + "\\" + scheme + ".txt");
+        Open(1, "frmLiqLineLoss");
+        FillLine();
+        Click(Calculation, "cmdCalculate", 0);
+        Type("txtInletPipeLen", Control::NoIndex, "1300");
+        MoveFocus(ControlOf(Calculation, "txtInletPipeID"));
+        Shoot(scheme);
+        Click(Calculation, "mnuProgram");
+    }
+    Suite.Colours = former;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -264,7 +304,10 @@ int main(int argc, char** argv) {
     Click("frmTRProg", "cmdOK");
     Shoot("selector");
     Click("frmObxProg", "cmdCancel");
+    ShootHelp();
     ShootTables();
+    ShootPathFinder();
+    ShootSchemes();
     for (const auto& shoot : {ShootLiquidLine, ShootGasLine, ShootHammer, ShootLiquidData, ShootGasData}) {
         shoot();
         Click(Calculation, "mnuProgram");

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QTableView>
 
+#include "forms/WinSeek.h"
 #include "tests/desktop/DesktopFixture.h"
 #include "tests/desktop/SampleForm.h"
 
@@ -302,6 +303,27 @@ TEST_F(WindowTest, EscapeIsHeardWithinALongCalculationAndNothingElse) {
     QCoreApplication::postEvent(&Edit(Sample->txtOne), new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
     EXPECT_TRUE(Screen.Yield());
     EXPECT_EQ(Sample->txtOne.Text(), "");
+}
+
+TEST_F(WindowTest, ASearchForFilesIsStoppedByTheMouse) {
+    auto& finder = static_cast<WinSeek&>(Show("WinSeek"));
+    const QSize folded = WindowOf(finder).size();
+    ClickControl(finder.cmdBrouse);
+    EXPECT_GT(WindowOf(finder).height(), folded.height());
+    finder.txtSearchSpec.SetText("*");
+    QTimer::singleShot(0, qApp, [&] {
+        EXPECT_FALSE(ViewOf(finder.cmdOK).Widget()->isEnabled());
+        QTest::mouseClick(ViewOf(finder.cmdStop).Widget(), Qt::LeftButton);
+    });
+    ClickControl(finder.cmdSearch);
+    EXPECT_EQ(finder.lblSearch.Caption(), "Search Complete");
+    EXPECT_EQ(finder.lblCount.Caption(), "0");
+
+    ClickControl(finder.cmdExit);
+    Settle();
+    EXPECT_EQ(WindowOf(finder).size(), folded);
+    CloseWindow(finder);
+    EXPECT_FALSE(IsFormLoaded("WinSeek"));
 }
 
 }  // namespace

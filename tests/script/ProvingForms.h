@@ -68,7 +68,7 @@ public:
             lblResult.SetCaption(CurrentHost()->FontDialog({}).value_or(FontChoice{}).Name);
         };
         cmdColour.Click = [this] {
-            lblResult.SetCaption(std::to_string(CurrentHost()->ColourDialog(0).value_or(0)));
+            lblResult.SetCaption(std::to_string(CurrentHost()->ColourDialog(0, "Colour").value_or(0)));
         };
         cmdPrinter.Click = [this] {
             lblResult.SetCaption(

@@ -6,6 +6,7 @@
 namespace quillmetra::layout {
 
 Node FindDialog();
+Node WinSeek();
 Node frmCalcOptions();
 Node frmGasData();
 Node frmGasLineLoss();

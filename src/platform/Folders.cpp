@@ -1,0 +1,187 @@
+// See Folders.h.
+#include "platform/Folders.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+
+#include "platform/RuntimeError.h"
+#include "platform/TextCase.h"
+#include "platform/TextFiles.h"
+
+namespace quillmetra {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool IsDrive(std::string_view path) { return path.size() == 2 && path[1] == ':'; }
+
+RuntimeError FailureOf(const std::error_code& error) {
+    const std::error_condition kind = error.default_error_condition();
+    if (kind == std::errc::no_such_file_or_directory || kind == std::errc::not_a_directory) {
+        return failure::PathNotFound();
+    }
+    if (kind == std::errc::filename_too_long || kind == std::errc::invalid_argument) {
+        return failure::BadFileName();
+    }
+    if (kind == std::errc::no_space_on_device) return failure::DiskFull();
+    if (kind == std::errc::no_such_device || kind == std::errc::no_such_device_or_address) {
+        return failure::NoDevice();
+    }
+    return failure::PathAccess();
+}
+
+bool CanBeWritten(const std::string& name) {
+    return std::none_of(name.begin(), name.end(),
+                        [](char c) { return c == '\\' || (c >= '\0' && c < ' ') || c == '\x7F'; });
+}
+
+void SortByName(std::vector<std::string>& names) {
+    std::vector<std::pair<std::string, std::string>> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names) keyed.emplace_back(LowerCase(name), std::move(name));
+    std::sort(keyed.begin(), keyed.end());
+    std::transform(keyed.begin(), keyed.end(), names.begin(),
+                   [](auto& each) { return std::move(each.second); });
+}
+
+// The usual matching of one pattern by going back to the last "*".
+bool MatchesOne(std::string_view name, std::string_view pattern) {
+    std::size_t n = 0;
+    std::size_t p = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t resume = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == '*') {
+            star = p++;
+            resume = n;
+        } else if (p < pattern.size() && (pattern[p] == '?' || LowerCase(pattern[p]) == LowerCase(name[n]))) {
+            ++p;
+            ++n;
+        } else if (star != std::string_view::npos) {
+            p = star + 1;
+            n = ++resume;
+        } else {
+            return false;
+        }
+    }
+    return std::all_of(pattern.begin() + static_cast<std::ptrdiff_t>(p), pattern.end(),
+                       [](char c) { return c == '*'; });
+}
+
+}  // namespace
+
+std::string ShownPath(const fs::path& path) {
+    std::string text = path.string();
+    std::replace(text.begin(), text.end(), '/', '\\');
+    return text;
+}
+
+fs::path MachineFolder(std::string_view suitePath) {
+    std::string name(suitePath);
+    if (IsDrive(name)) name += '\\';
+    return MachinePath(name);
+}
+
+std::string Joined(const std::string& path, const std::string& name) {
+    return path.ends_with('\\') ? path + name : path + "\\" + name;
+}
+
+FolderContents ListFolder(std::string_view suitePath) {
+    FolderContents contents;
+    std::error_code error;
+    fs::directory_iterator entry(MachineFolder(suitePath), error);
+    if (error) throw FailureOf(error);
+    for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+        std::string name = entry->path().filename().string();
+        if (!CanBeWritten(name)) continue;
+        std::error_code unknown;
+        const bool isLink = entry->is_symlink(unknown);
+        if (!isLink && entry->is_directory(unknown)) {
+            contents.Folders.push_back(std::move(name));
+        } else if (entry->is_regular_file(unknown)) {
+            contents.Files.push_back(std::move(name));
+        }
+    }
+    SortByName(contents.Folders);
+    SortByName(contents.Files);
+    return contents;
+}
+
+bool MatchesPattern(std::string_view name, std::string_view patterns) {
+    while (true) {
+        const std::size_t end = std::min(patterns.find(';'), patterns.size());
+        std::string_view one = patterns.substr(0, end);
+        while (one.starts_with(' ')) one.remove_prefix(1);
+        while (one.ends_with(' ')) one.remove_suffix(1);
+        if (!one.empty() && MatchesOne(name, one)) return true;
+        if (end == patterns.size()) return false;
+        patterns.remove_prefix(end + 1);
+    }
+}
+
+void RequireFolder(std::string_view suitePath) {
+    const fs::path path = MachineFolder(suitePath);
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) {
+        throw IsDrive(suitePath) ? failure::NoDevice() : failure::PathNotFound();
+    }
+    if (error) throw FailureOf(error);
+    if (!fs::is_directory(status)) throw failure::PathAccess();
+}
+
+void MakeFolder(std::string_view suitePath) {
+    std::error_code error;
+    fs::create_directory(MachineFolder(suitePath), error);
+    if (error) throw FailureOf(error);
+}
+
+void TryToWrite(std::string_view suitePath) {
+    const fs::path folder = MachineFolder(suitePath);
+    for (int number = 0; number < 1000; ++number) {
+        const fs::path test = folder / (number == 0 ? "TEST" : "TEST" + std::to_string(number));
+        errno = 0;
+        // Never opens what is there already.
+        std::FILE* const file = std::fopen(test.string().c_str(), "wx");
+        if (file == nullptr && errno == EEXIST) continue;
+        if (file == nullptr) throw FailureOf({errno, std::generic_category()});
+        std::fclose(file);
+        std::error_code error;
+        fs::remove(test, error);
+        if (error) throw FailureOf(error);
+        return;
+    }
+    throw failure::PathAccess();
+}
+
+std::string CurrentFolder() {
+    std::error_code error;
+    const fs::path path = fs::current_path(error);
+    return error ? "\\" : ShownPath(path);
+}
+
+std::vector<std::string> Drives() {
+    std::vector<std::string> drives;
+    std::error_code error;
+#ifdef _WIN32
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        if (fs::exists(std::string(1, letter) + ":\\", error))
+            drives.push_back(std::string(1, letter) + ":\\");
+    }
+#else
+    drives.emplace_back("\\");
+    for (const char* place : {"\\media", "\\mnt", "\\Volumes"}) {
+        try {
+            for (const std::string& name : ListFolder(place).Folders) drives.push_back(Joined(place, name));
+        } catch (const RuntimeError&) {
+            // this machine has no such place
+        }
+    }
+#endif
+    return drives;
+}
+
+}  // namespace quillmetra

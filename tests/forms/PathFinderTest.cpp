@@ -1,0 +1,123 @@
+// The path finder at work: a search that the user stops or closes, and what lands in memory and on disk.
+#include "core/Words.h"
+#include "forms/RegisterForms.h"
+#include "forms/WinSeek.h"
+#include "platform/Folders.h"
+#include "platform/UserActs.h"
+#include "tests/SuiteFixture.h"
+
+namespace quillmetra {
+namespace {
+
+class PathFinderTest : public SuiteTest {
+protected:
+    PathFinderTest() {
+        RegisterForms();
+        StartUp(SuitePath(Folder));
+        for (const char* name : {"a", "b", "c"}) {
+            std::filesystem::create_directories(DataFolder() / name);
+            std::ofstream(DataFolder() / name / "TRDB.MDB");
+        }
+        Open(1);
+    }
+
+    void Open(int slot) {
+        FindDefaultPath(slot);
+        Finder = static_cast<WinSeek*>(&LoadForm("WinSeek"));
+    }
+
+    std::string FileOfPaths() const {
+        std::ifstream file(Folder / "TRDRV.txt", std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    WinSeek* Finder = nullptr;
+    const std::string Before = SuitePath(Folder) + "\\TRData";
+};
+
+TEST_F(PathFinderTest, WhileItSearchesOnlyStopAndCancelAnswer) {
+    ClickControl(Finder->cmdBrouse);
+    EXPECT_EQ(Finder->cmdSearch.Caption(), "F&ind TRDB.MDB");
+    int visits = 0;
+    User.WhileServed = [&] {
+        ++visits;
+        EXPECT_EQ(Finder->lblSearch.Caption(), "Searching");
+        for (Control* control :
+             {static_cast<Control*>(&Finder->cmdOK), static_cast<Control*>(&Finder->cmdSave),
+              static_cast<Control*>(&Finder->cmdSearch), static_cast<Control*>(&Finder->dirList),
+              static_cast<Control*>(&Finder->drvList)}) {
+            EXPECT_FALSE(ClickControl(*control)) << control->Name();
+        }
+        if (visits == 3) {
+            EXPECT_TRUE(ClickControl(Finder->cmdStop));
+        }
+    };
+    ClickControl(Finder->cmdSearch);
+    EXPECT_EQ(visits, 3);
+    EXPECT_EQ(Finder->lblCount.Caption(), "1");
+    EXPECT_EQ(Finder->lblSearch.Caption(), "Search Complete");
+    EXPECT_EQ(Finder->cmdSearch.Caption(), "&Reset");
+    EXPECT_EQ(Finder->Focus.Current(), &Finder->lstFoundFiles);
+    EXPECT_TRUE(Finder->cmdOK.Works());
+
+    ClickControl(Finder->cmdSearch);
+    EXPECT_EQ(Finder->cmdSearch.Caption(), "&Search");
+    EXPECT_EQ(Finder->lblCount.Caption(), "0");
+    EXPECT_EQ(Finder->dirList.Path(), CurrentFolder());
+}
+
+TEST_F(PathFinderTest, ClosingTheWindowStopsTheSearchFirst) {
+    ClickControl(Finder->cmdBrouse);
+    int visits = 0;
+    User.WhileServed = [&] {
+        if (++visits == 2) CloseWindow(*Finder);
+    };
+    ClickControl(Finder->cmdSearch);
+    EXPECT_EQ(visits, 2);
+    EXPECT_FALSE(IsFormLoaded("WinSeek"));
+    EXPECT_EQ(Suite.DefaultPaths[1], Before);
+}
+
+TEST_F(PathFinderTest, OkKeepsInMemorySaveOnDiskAndCancelTakesBackTheSlot) {
+    ClickControl(Finder->cmdBrouse);
+    ClickControl(Finder->cmdSearch);
+    ASSERT_EQ(Finder->lstFoundFiles.RowCount(), 3);
+    PickRow(Finder->lstFoundFiles, 1);
+    ClickControl(Finder->cmdSelect);
+    const std::string found = ShownPath(DataFolder() / "b");
+    EXPECT_EQ(Finder->txtPath.Text(), found);
+
+    TypeText(Finder->txtPath, found + "\\");
+    ClickControl(Finder->cmdSave);
+    EXPECT_EQ(Suite.DefaultPaths[1], found);
+    EXPECT_EQ(FileOfPaths(),
+              '"' + found + "\"\r\n\"" + Before + "\"\r\n\"" + Before + "\"\r\n\"" + Before + "\"\r\n");
+    ClickControl(Finder->cmdCancel);
+    EXPECT_EQ(Suite.DefaultPaths[1], Before);
+    EXPECT_NE(FileOfPaths().find(found), std::string::npos);
+
+    const std::string saved = FileOfPaths();
+    Open(4);
+    TypeText(Finder->txtPath, found);
+    ClickControl(Finder->cmdOK);
+    EXPECT_EQ(Suite.DefaultPaths[4], found);
+    EXPECT_FALSE(IsFormLoaded("WinSeek"));
+    EXPECT_EQ(FileOfPaths(), saved);
+}
+
+// A path that the file of paths would give back as another one is refused before anything is written.
+TEST_F(PathFinderTest, APathThatDoesNotReadBackIsNotSaved) {
+    const std::string name = "\xD0\x9F\xD0\xB5\xD1\x82";  // Cyrillic, which code page 1252 does not have
+    for (const std::string& folder : {name, std::string("a\"b")}) {
+        std::filesystem::create_directory(DataFolder() / folder);
+        Open(2);
+        TypeText(Finder->txtPath, ShownPath(DataFolder() / folder));
+        ClickControl(Finder->cmdSave);
+        EXPECT_EQ(User.LastText(), "Bad file name or number occurred Path " + Finder->txtPath.Text());
+        EXPECT_EQ(FileOfPaths(), "");
+        ClickControl(Finder->cmdCancel);
+    }
+}
+
+}  // namespace
+}  // namespace quillmetra
