@@ -29,6 +29,7 @@ public:
     std::vector<std::string> Prompts;  // of input boxes
     std::vector<int> HelpTopics;
     std::optional<PrinterChoice> Printing;  // the answer of a printer dialog
+    std::optional<std::string> ChosenFile;  // the answer of a file dialog
     std::vector<PrintJob> Jobs;
     std::vector<PrintedPage> Pages;  // of all prints
     int PagesUntilFailure = -1;      // of the printer; negative for one that never fails
@@ -57,7 +58,7 @@ public:
         return text;
     }
 
-    std::optional<std::string> FileDialog(const FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> FileDialog(const FileQuestion&) override { return ChosenFile; }
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return Printing; }
     std::optional<FontChoice> FontDialog(const FontChoice&) override { return std::nullopt; }
     std::optional<unsigned> ColourDialog(unsigned) override { return std::nullopt; }

@@ -19,7 +19,7 @@ constexpr Entry Layouts[] = {
     {"frmPipeSize", frmPipeSize},       {"frmUnits", frmUnits},
     {"frmCalcOptions", frmCalcOptions}, {"FindDialog", FindDialog},
     {"frmWaterHammer", frmWaterHammer}, {"frmObxPrintCalc", frmObxPrintCalc},
-    {"frmTables", frmTables},
+    {"frmTables", frmTables},           {"frmPrintControl", frmPrintControl},
 };
 }  // namespace
 

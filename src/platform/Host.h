@@ -46,7 +46,7 @@ public:
     virtual std::unique_ptr<Paper> OpenPaper(const PrintJob& job) = 0;
     virtual void ShowHelp(int topic) = 0;
     virtual void SetBusyPointer(bool busy) = 0;
-    // Lets the host breathe within a long calculation; true when the user pressed Escape.
+    // Lets the host breathe within a long act; true when the user pressed Escape or a cancel button.
     virtual bool Yield() = 0;
 
     virtual void FormShown(Form& form) = 0;

@@ -14,6 +14,7 @@ Node frmLiqLineLoss();
 Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
+Node frmPrintControl();
 Node frmTRProg();
 Node frmTables();
 Node frmUnits();
