@@ -300,13 +300,11 @@ void frmTRProg::DisplayRecord() {
 
 // --- Printing ----------------------------------------------------------------------------------------------
 
-// Prints from the database that is open, else from that on the chosen path.
+// Opens the database first, as its button does, when none is open.
 void frmTRProg::mnuPrinting_Click() {
-    if (view_ != nullptr) {
-        Suite.DatabaseFile = lblPath(0).Caption();
-    } else if (!ChooseDatabase()) {
-        return;
-    }
+    if (view_ == nullptr) cmdDBOpen_Click();
+    if (view_ == nullptr) return;
+    Suite.DatabaseFile = lblPath(0).Caption();
     ReadHeadingLines(std::span(Suite.DefaultHeadings).first<8>());
     CloseCalculations();
     UnloadForm("frmPrintControl");  // so that its load lists the records as they now are

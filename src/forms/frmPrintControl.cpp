@@ -50,6 +50,7 @@ frmPrintControl::frmPrintControl() : SuiteForm("frmPrintControl") {
     CancelButton = &cmdCancelPrint;
     lstTags.Multiple = true;
     lstTags.Describe(&fraTags);
+    barProgress.Describe(&fraTags);
     barProgress.SetVisible(false);
     const struct {
         TextBox& Box;
@@ -106,11 +107,11 @@ void frmPrintControl::Load() {
 void frmPrintControl::cmdNone_Click() {
     lstTags.Clear();
     ClearPrintData();
+    view_.reset();
     try {
-        view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
-        lstTags.SetRows(view_->Tags());
+        if (!Suite.DatabaseFile.empty()) view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
+        if (view_ != nullptr) lstTags.SetRows(view_->Tags());
     } catch (const RuntimeError& error) {
-        view_.reset();
         Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
     }
     lblNumRecords.SetCaption(std::to_string(lstTags.RowCount()));

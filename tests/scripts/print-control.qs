@@ -5,9 +5,6 @@ start
 answer OK
 click mnuPrinting
 expect-message Open failed (Database invalid)
-expect-form frmPrintControl
-expect lblNumRecords 0
-click cmdCancelPrint
 expect-form frmTRProg
 include print-run.qs
 

@@ -7,12 +7,12 @@ namespace {
 
 Node Records() {
     return Frame("fraTags",
-                 Column({Item("lstTags").Wide(28).Tall(18).Grow(),
+                 Column({Item("lstTags").Wide(22).Tall(18).Grow(),
                          Row({"cmdAll", "cmdNone", Stretch(), "lblNumRecords", Words("records")})}));
 }
 
 Node Record() {
-    const auto box = [](const char* name) { return Item(name).Wide(18).Grow(); };
+    const auto box = [](const char* name) { return Item(name).Wide(12).Grow(); };
     return Frame("fraRecord", Table({
                                   {"lblTagNum", box("txtTagNum"), "lblTRCalc", box("txtTRCalc")},
                                   {"lblFluidType", box("txtFluidType"), "lblCalcBy", box("txtCalcBy")},
@@ -23,7 +23,7 @@ Node Record() {
 
 Node Headings() {
     const auto line = [](const char* label, const char* box) {
-        return std::vector<Node>{label, Item(box).Wide(40).Grow()};
+        return std::vector<Node>{label, Item(box).Wide(30).Grow()};
     };
     return Frame(
         "fraHeadings",
@@ -33,7 +33,7 @@ Node Headings() {
                     line("lblSubTitle", "txtSubTitle"),
                     line("lblProjectName", "txtProjectName"),
                     line("lblProjectNo", "txtProjectNo")}),
-             Row({"chkUse", Stretch(), "cmdTitleDefault", "cmdDefaultTitles", "cmdSaveInDb"})}));
+             "chkUse", Row({Stretch(), "cmdTitleDefault", "cmdDefaultTitles", "cmdSaveInDb"})}));
 }
 
 }  // namespace
