@@ -44,6 +44,8 @@ click mnuPureLiquid3
 pick lstFluid "Water "
 click cmdSelect
 
+type txtBy Process
+type txtComments(0) Cooling water supply, sheet 4.
 type txtFlow(0) 150000
 type txtFlow(1) 100000
 type txtFlow(2) 40000
@@ -62,4 +64,14 @@ show txtVelocity(1)
 show txtDestPress(2)
 show txtVelocity(2)
 show txtEquivLen
+
+# The report, beside where the player was started.
+click mnuPrint
+click cmdDate
+type txtTitle Northfield Terminal
+type txtSubTitle Unit 200
+type txtProjectNo 4471
+type txtProjectName Tank farm revamp
+pdf liquid-line.pdf
+click cmdOK
 quit

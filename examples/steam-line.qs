@@ -43,4 +43,14 @@ type txtFlow(2) 25000
 click cmdCalculate(2)
 expect txtDestPress(2) ""
 show txtVelocity(2)
+
+# The report, beside where the player was started.
+click mnuPrint
+click cmdDate
+type txtTitle Northfield Terminal
+type txtSubTitle Unit 200
+type txtProjectNo 4471
+type txtProjectName Tank farm revamp
+pdf steam-line.pdf
+click cmdOK
 quit

@@ -40,4 +40,14 @@ click cmdCalculateliq
 show txtSelectedWave
 show txtSelectedForce
 show pltClosing
+
+# The report, beside where the player was started.
+click mnuPrint
+click cmdDate
+type txtTitle Northfield Terminal
+type txtSubTitle Unit 200
+type txtProjectNo 4471
+type txtProjectName Tank farm revamp
+pdf water-hammer.pdf
+click cmdOK
 quit

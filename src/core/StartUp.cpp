@@ -158,22 +158,25 @@ namespace {
 std::string HeadingsFile() { return Suite.DefaultPaths[3] + "\\TRHDG.txt"; }
 }  // namespace
 
-void LoadHeadings() {
+std::size_t ReadHeadingLines(std::span<std::string> lines) {
+    std::size_t read = 0;
     try {
         LineReader file(HeadingsFile());
-        std::string line;
-        for (std::size_t i = 1; i <= 7 && file.Next(line); ++i) {
-            Calc.HeadingText[i] = line;
-            Calc.HeadingTextSaved[i] = line;
-        }
+        for (std::string line; read + 1 < lines.size() && file.Next(line);) lines[++read] = line;
     } catch (const RuntimeError&) {
-        // headings stay empty
+        // the others stay as they were
     }
+    return read;
 }
 
-void SaveHeadings() {
+void LoadHeadings() {
+    const std::size_t read = ReadHeadingLines(std::span(Calc.HeadingText).first<8>());
+    std::copy_n(Calc.HeadingText.begin() + 1, read, Calc.HeadingTextSaved.begin() + 1);
+}
+
+void SaveHeadings(std::span<const std::string> lines) {
     TextWriter file(HeadingsFile());
-    for (std::size_t i = 1; i <= 10; ++i) file.Line(Calc.HeadingText[i]);
+    for (std::size_t i = 1; i <= 10; ++i) file.Line(lines[i]);
     file.Commit();
 }
 

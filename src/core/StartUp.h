@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace quillmetra {
@@ -44,8 +45,12 @@ void SaveColours();
 // Reads up to seven lines of TRHDG.txt into HeadingText; a file error ends it with what was read.
 void LoadHeadings();
 
-// Writes the ten lines of HeadingText to TRHDG.txt. Throws a RuntimeError where they cannot be written.
-void SaveHeadings();
+// Reads the lines of TRHDG.txt into their places, the first line at 1, as far as there is room and file.
+// Returns how many were read.
+std::size_t ReadHeadingLines(std::span<std::string> lines);
+
+// Writes ten lines to TRHDG.txt, the first from place 1. Throws a RuntimeError where they cannot be written.
+void SaveHeadings(std::span<const std::string> lines);
 
 // Reads TRSTP.TXT: standard temperature (degF), standard pressure (psia), barometric pressure (psia), in
 // this order, and replaces what is missing by 60, 14.7 and 14.7. A file that cannot be opened changes

@@ -52,6 +52,9 @@ inline constexpr const char* FindSaturation = "FindStm";
 inline constexpr const char* PipeLiquidLoss = "LLoss";
 inline constexpr const char* PipeGasLoss = "GLoss";
 inline constexpr const char* PipeWaterHammer = "WaterHammer";
+// How the list of the print control is moved, in MessageText
+inline constexpr const char* Bypass = "Bypass";  // without reading the record
+inline constexpr const char* Select = "Select";
 
 // The initial text of the option codes of a record.
 inline constexpr const char* NoCodes = "XXXXXXXX";

@@ -21,6 +21,16 @@
 
 namespace quillmetra {
 
+namespace {
+
+bool IsCancelButton(const QObject& widget) {
+    const auto* const part = qobject_cast<const QWidget*>(&widget);
+    const auto* const window = part == nullptr ? nullptr : dynamic_cast<const FormWindow*>(part->window());
+    return window != nullptr && window->IsCancelButton(*part);
+}
+
+}  // namespace
+
 DesktopHost::DesktopHost() { InstallHost(this); }
 
 DesktopHost::~DesktopHost() {
@@ -157,7 +167,7 @@ void DesktopHost::ServeUser() {
     served_.start();
 }
 
-bool DesktopHost::eventFilter(QObject*, QEvent* event) {
+bool DesktopHost::eventFilter(QObject* watched, QEvent* event) {
     if (!yielding_) return false;
     switch (event->type()) {
         case QEvent::KeyPress:
@@ -166,9 +176,12 @@ bool DesktopHost::eventFilter(QObject*, QEvent* event) {
             return true;
         case QEvent::KeyRelease:
         case QEvent::Shortcut:
-        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
+            if (IsCancelButton(*watched)) escaped_ = true;
+            [[fallthrough]];
+        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
+            return !watched->isWindowType();  // on to its widget, and no further
         case QEvent::Wheel:
         case QEvent::ContextMenu: return true;
         case QEvent::Close: event->ignore(); return true;

@@ -57,7 +57,7 @@ public:
     FormWindow* WindowOf(const Form& form) const;
 
 protected:
-    // While a calculation breathes, the user can press Escape and nothing else.
+    // While a long act breathes, the user can press Escape or the form's cancel button and nothing else.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -163,6 +163,13 @@ ControlView* FormWindow::ViewOf(const Control& control) const {
     return found == byControl_.end() ? nullptr : found->second;
 }
 
+bool FormWindow::IsCancelButton(const QWidget& widget) const {
+    const CommandButton* const button = form_ == nullptr ? nullptr : form_->CancelButton;
+    if (button == nullptr || !button->Works()) return false;
+    const ControlView* const view = ViewOf(*button);
+    return view != nullptr && view->Widget() == &widget;
+}
+
 void FormWindow::Renew(const Control& control, Aspect aspect) {
     ControlView* const view = ViewOf(control);
     if (view == nullptr) return;

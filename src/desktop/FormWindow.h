@@ -35,6 +35,8 @@ public:
 
     // Null for a control of another form.
     ControlView* ViewOf(const Control& control) const;
+    // The widget of the form's cancel button, as long as that works.
+    bool IsCancelButton(const QWidget& widget) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -13,13 +13,21 @@ struct Entry {
 };
 
 constexpr Entry Layouts[] = {
-    {"frmTRProg", frmTRProg},           {"frmObxProg", frmObxProg},
-    {"frmLiqLineLoss", frmLiqLineLoss}, {"frmGasLineLoss", frmGasLineLoss},
-    {"frmLiqData", frmLiqData},         {"frmGasData", frmGasData},
-    {"frmPipeSize", frmPipeSize},       {"frmUnits", frmUnits},
-    {"frmCalcOptions", frmCalcOptions}, {"FindDialog", FindDialog},
-    {"frmWaterHammer", frmWaterHammer}, {"frmObxPrintCalc", frmObxPrintCalc},
-    {"frmTables", frmTables},           {"WinSeek", WinSeek},
+    {"frmTRProg", frmTRProg},
+    {"frmObxProg", frmObxProg},
+    {"frmLiqLineLoss", frmLiqLineLoss},
+    {"frmGasLineLoss", frmGasLineLoss},
+    {"frmLiqData", frmLiqData},
+    {"frmGasData", frmGasData},
+    {"frmPipeSize", frmPipeSize},
+    {"frmUnits", frmUnits},
+    {"frmCalcOptions", frmCalcOptions},
+    {"FindDialog", FindDialog},
+    {"frmWaterHammer", frmWaterHammer},
+    {"frmObxPrintCalc", frmObxPrintCalc},
+    {"frmTables", frmTables},
+    {"WinSeek", WinSeek},
+    {"frmPrintControl", frmPrintControl},
 };
 }  // namespace
 

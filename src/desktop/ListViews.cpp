@@ -113,11 +113,7 @@ protected:
         if (!list_.Multiple) {
             selection->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect);
         } else {
-            QItemSelection picked;
-            for (int i = 0; i < list_.RowCount(); ++i) {
-                if (list_.IsPicked(i)) picked.select(rows_->index(i), rows_->index(i));
-            }
-            selection->select(picked, QItemSelectionModel::ClearAndSelect);
+            selection->select(Picked(), QItemSelectionModel::ClearAndSelect);
             selection->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
         }
         if (row.isValid()) view_->scrollTo(row);
@@ -139,6 +135,19 @@ private:
             }
         }
         if (Model() != nullptr) RenewSelection();
+    }
+
+    // Rows that follow one another are one range, so that a long list with all picked costs little.
+    QItemSelection Picked() const {
+        QItemSelection picked;
+        for (int first = 0; first < list_.RowCount(); ++first) {
+            if (!list_.IsPicked(first)) continue;
+            int last = first;
+            while (list_.IsPicked(last + 1)) ++last;
+            picked.append(QItemSelectionRange(rows_->index(first), rows_->index(last)));
+            first = last;
+        }
+        return picked;
     }
 
     // The differences are gathered first: each pick that is passed on shows the model's selection again.

@@ -1,7 +1,10 @@
-// Views of boxes, labels and frames.
+// Views of boxes, labels, frames and progress bars.
+#include <algorithm>
+
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
@@ -72,12 +75,31 @@ private:
     Panel* panel_;
 };
 
+class ProgressView : public ControlView {
+public:
+    ProgressView(ProgressBar& bar, QProgressBar* widget)
+        : ControlView(bar, widget), bar_(bar), widget_(widget) {}
+
+protected:
+    void RenewText() override {
+        widget_->setRange(0, std::max(bar_.Total(), 1));
+        widget_->setValue(bar_.Done());
+        widget_->setFormat(ToQt(bar_.Text()));
+    }
+
+private:
+    ProgressBar& bar_;
+    QProgressBar* widget_;
+};
+
 }  // namespace
 
 ControlView* MakeTextView(Control& control, QWidget* parent) {
     switch (control.Kind()) {
         case ControlKind::TextBox: return new BoxView(static_cast<TextBox&>(control), new QLineEdit(parent));
         case ControlKind::Frame: return new FrameView(static_cast<Frame&>(control), new Panel(parent));
+        case ControlKind::ProgressBar:
+            return new ProgressView(static_cast<ProgressBar&>(control), new QProgressBar(parent));
         default: return new LabelView(static_cast<Label&>(control), new QLabel(parent));
     }
 }

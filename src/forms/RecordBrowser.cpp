@@ -6,6 +6,7 @@
 #include "core/Words.h"
 #include "forms/FindDialog.h"
 #include "forms/frmTRProg.h"
+#include "forms/RecordInHand.h"
 #include "forms/UnsavedWork.h"
 #include "forms/WinSeek.h"
 #include "platform/Dialogs.h"
@@ -54,6 +55,7 @@ void frmTRProg::HookDatabase() {
     mnuCompactDB.Click = [this] { mnuCompactDB_Click(); };
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
+    mnuPrinting.Click = [this] { mnuPrinting_Click(); };
 }
 
 // --- Open and close ----------------------------------------------------------------------------------------
@@ -301,16 +303,24 @@ void frmTRProg::cmdDisplayCalc_Click() {
 
 void frmTRProg::DisplayRecord() {
     const RecordHead head = view_->Head();
-    ResetRecord();
-    LoadHeadings();
     Suite.DatabaseFile = lblPath(0).Caption();
     Suite.DatabasePath = Suite.DefaultPaths[1] = FolderOf(Suite.DatabaseFile);
-    Calc.LoadedDatabaseFile = Suite.DatabaseFile;
-    Calc.Tag = head.Tag;
-    TakeFluidType(head.FluidType, head.ProgramNumber);
-    if (!GetTRCalc()) return ShowRecord();
-    Calc.BrowserOpen = words::Yes;
+    if (!TakeRecord(head)) return ShowRecord();
     ShowLoadedRecord();
+}
+
+// --- Printing ----------------------------------------------------------------------------------------------
+
+// Opens the database first, as its button does, when none is open.
+void frmTRProg::mnuPrinting_Click() {
+    if (view_ == nullptr) cmdDBOpen_Click();
+    if (view_ == nullptr) return;
+    Suite.DatabaseFile = lblPath(0).Caption();
+    ReadHeadingLines(std::span(Suite.DefaultHeadings).first<8>());
+    CloseCalculations();
+    UnloadForm("frmPrintControl");  // so that its load lists the records as they now are
+    ShowForm("frmPrintControl");
+    HideForm(Name());
 }
 
 }  // namespace quillmetra

@@ -12,6 +12,7 @@
 #include "forms/frmObxPrintCalc.h"
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
+#include "forms/frmPrintControl.h"
 #include "forms/frmTables.h"
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
@@ -44,6 +45,7 @@ constexpr FormEntry FormTable[] = {
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>},
     {"FindDialog", MakeForm<FindDialog>},
     {"frmPipeSize", MakeForm<frmPipeSize>},
+    {"frmPrintControl", MakeForm<frmPrintControl>},
     {"frmTables", MakeForm<frmTables>},
     {"frmWaterHammer", MakeForm<frmWaterHammer>},
     {"frmUnits", MakeForm<frmUnits>},

@@ -5,11 +5,11 @@
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
+#include "forms/RecordInHand.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "records/Recovery.h"
-#include "reports/FormRefresh.h"
 
 namespace quillmetra {
 
@@ -46,19 +46,6 @@ void OfferRecovery() {
     }
     DropRecovery();
     if (wanted) Tell("The calculation cannot be recovered", "Recovery", Icon::Exclamation);
-}
-
-void ShowLoadedRecord() {
-    const Program* const program = FindProgram(Calc.CurrentProgram);
-    if (program == nullptr) return;
-    Calc.InCalculation = words::Yes;
-    UnloadForm(program->Form);
-    LoadForm(program->Form);
-    Calc.DataOk = words::Yes;
-    Calc.FormLoading = words::Yes;
-    ShowCalculation();
-    ShowForm(program->Form);
-    HideForm("frmTRProg");
 }
 
 }  // namespace quillmetra

@@ -10,7 +10,4 @@ void KeepUnsavedWork();
 // After the start: offers the calculation that a crash has left, once.
 void OfferRecovery();
 
-// Opens the form of the record that was just loaded, in place of the browser.
-void ShowLoadedRecord();
-
 }  // namespace quillmetra

@@ -118,7 +118,7 @@ void frmObxPrintCalc::cmdSave_Click() {
         }
     }
     try {
-        SaveHeadings();
+        SaveHeadings(Calc.HeadingText);
     } catch (const RuntimeError& error) {
         TellProblem(error);
     }

@@ -47,9 +47,7 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);
     fraTags.SetVisible(false);
-    // Printing of many records and the conversion of old data are yet to come.
-    mnuPrinting.SetEnabled(false);
-    mnuConvertRandom.SetEnabled(false);
+    mnuConvertRandom.SetEnabled(false);  // yet to come
     HookDatabase();
     cmdOK.Click = [this] { cmdOK_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };

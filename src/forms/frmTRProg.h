@@ -119,6 +119,7 @@ public:
     void cmdDelete_Click();
     void cmdSearchDate_Click();
     void cmdDisplayCalc_Click();
+    void mnuPrinting_Click();
 
     // The file as a whole, in DatabaseFileMenu.cpp
     void mnuCreateDB_Click();

@@ -37,6 +37,7 @@ const char* Word(ControlKind kind) {
         case ControlKind::MenuItem: return "MenuItem";
         case ControlKind::Grid: return "Grid";
         case ControlKind::Plot: return "Plot";
+        case ControlKind::ProgressBar: return "ProgressBar";
     }
     return "";
 }
@@ -178,6 +179,18 @@ void ListBox::Pick(int row, bool picked) {
     text_ = Row(row);
     Notify(Aspect::Selection);
     if (Click) Click();
+}
+
+void ListBox::PickAll() {
+    if (rows_.empty()) return;
+    picked_.assign(rows_.size(), true);
+    Pick(RowCount() - 1, true);
+}
+
+void ProgressBar::SetProgress(int done, int total) {
+    done_ = done;
+    total_ = total;
+    SetCaption(std::to_string(done) + " of " + std::to_string(total));
 }
 
 void ComboBox::SetText(const std::string& text) {

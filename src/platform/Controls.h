@@ -39,7 +39,8 @@ enum class ControlKind {
     Frame,
     MenuItem,
     Grid,
-    Plot
+    Plot,
+    ProgressBar
 };
 const char* Word(ControlKind kind);
 
@@ -234,6 +235,8 @@ public:
 
     bool IsPicked(int row) const;
     void Pick(int row, bool picked);  // in a list of several selections
+    // Picks every row in one call with one Click, and goes to the last.
+    void PickAll();
 
     bool Multiple = false;
 
@@ -260,6 +263,21 @@ class Frame : public Control {
 public:
     Frame(const Parent& parent, std::string name, std::string caption = {}, int index = NoIndex)
         : Control(parent, ControlKind::Frame, std::move(name), std::move(caption), index) {}
+};
+
+// How far a long run has come; its text says so in words ("12 of 40").
+class ProgressBar : public Control {
+public:
+    ProgressBar(const Parent& parent, std::string name, int index = NoIndex)
+        : Control(parent, ControlKind::ProgressBar, std::move(name), {}, index) {}
+
+    int Done() const { return done_; }
+    int Total() const { return total_; }
+    void SetProgress(int done, int total);
+
+private:
+    int done_ = 0;
+    int total_ = 0;
 };
 
 // Rows and columns of text with a row in hand.

@@ -13,6 +13,7 @@ namespace {
 Host* InstalledHost = nullptr;
 int ShownBoxes = 0;
 int BusyDepth = 0;
+HeldMessages* Holding = nullptr;
 
 Host& RequiredHost() {
     if (InstalledHost == nullptr) throw std::logic_error("a question to the user without a host");
@@ -29,6 +30,10 @@ Answer DefaultAnswer(const MessageBox& box) {
 }
 
 Answer ShowMessage(const MessageBox& box) {
+    if (Holding != nullptr && box.Choice == Buttons::Ok) {
+        Holding->texts_.push_back(box.Text);
+        return Answer::Ok;
+    }
     ++ShownBoxes;
     return RequiredHost().ShowMessageBox(box);
 }
@@ -119,6 +124,9 @@ const char* Word(Answer answer) {
         default: return "OK";
     }
 }
+
+HeldMessages::HeldMessages() : outer_(Holding) { Holding = this; }
+HeldMessages::~HeldMessages() { Holding = outer_; }
 
 BusyPointer::BusyPointer() {
     if (++BusyDepth == 1 && InstalledHost != nullptr) InstalledHost->SetBusyPointer(true);

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillmetra {
 
@@ -70,7 +71,8 @@ void ShowHelpTopic(int topic);
 // Puts a text where other programs paste from.
 void CopyText(const std::string& text);
 
-// Lets the host breathe within a long calculation; true when the user pressed Escape to end it.
+// Lets the host breathe within a long act; true when the user pressed Escape, or the cancel button of the
+// form, to end it.
 bool UserWantsToStop();
 
 // Asks for a colour, 0x00BBGGRR; nothing when cancelled.
@@ -91,6 +93,23 @@ int BoxesShown();
 const char* Word(Buttons buttons);
 const char* Word(Icon icon);
 const char* Word(Answer answer);
+
+// Keeps what the user would only be told (a box with OK alone) from the screen for its life: a run over many
+// records tells at its end. Questions are asked all the same. It nests.
+class HeldMessages {
+public:
+    HeldMessages();
+    ~HeldMessages();
+    HeldMessages(const HeldMessages&) = delete;
+    HeldMessages& operator=(const HeldMessages&) = delete;
+
+    const std::vector<std::string>& Texts() const { return texts_; }
+
+private:
+    friend Answer ShowMessage(const MessageBox& box);
+    HeldMessages* outer_;
+    std::vector<std::string> texts_;
+};
 
 // Shows the busy pointer for its life; it nests, and every way out restores the pointer.
 class BusyPointer {

@@ -76,16 +76,13 @@ public:
 
     // A handler of any form may hold on to what it unloaded, so nothing is destroyed before the act ends.
     void Bury() {
-        if (!events::Idle()) return;
-        for (std::size_t i = 0; i < unloaded_.size();) {
-            if (unloaded_[i]->holds_ > 0) {
-                ++i;
-                continue;
-            }
-            const std::unique_ptr<Form> form = std::move(unloaded_[i]);
-            unloaded_.erase(unloaded_.begin() + static_cast<std::ptrdiff_t>(i));
-            if (Host* host = CurrentHost()) host->FormGone(*form);
-        }
+        if (events::Idle()) BuryWhere([](const Form&) { return true; });
+    }
+
+    void Discard(std::string_view name) {
+        const Form* const form = Loaded(name);
+        Unload(name);
+        BuryWhere([form](const Form& each) { return &each == form; });
     }
 
     Form* TopModal() const {
@@ -149,6 +146,19 @@ private:
         });
     }
 
+    template <typename Wanted>
+    void BuryWhere(Wanted wanted) {
+        for (std::size_t i = 0; i < unloaded_.size();) {
+            if (unloaded_[i]->holds_ > 0 || !wanted(*unloaded_[i])) {
+                ++i;
+                continue;
+            }
+            const std::unique_ptr<Form> form = std::move(unloaded_[i]);
+            unloaded_.erase(unloaded_.begin() + static_cast<std::ptrdiff_t>(i));
+            if (Host* host = CurrentHost()) host->FormGone(*form);
+        }
+    }
+
     std::vector<std::unique_ptr<Form>> loaded_;
     std::vector<std::unique_ptr<Form>> unloaded_;
     std::vector<Form*> modal_;
@@ -177,6 +187,7 @@ void HideForm(std::string_view name) {
 }
 
 void UnloadForm(std::string_view name) { Registry().Unload(name); }
+void DiscardForm(std::string_view name) { Registry().Discard(name); }
 
 Control& ControlOf(std::string_view form, std::string_view control, int index) {
     Control* const found = LoadForm(form).Find(control, index);

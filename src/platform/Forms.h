@@ -28,6 +28,9 @@ void HideForm(std::string_view name);
 // Takes effect at once for names; the object lives until the user's act in hand has ended. Unloading what is
 // not loaded does nothing.
 void UnloadForm(std::string_view name);
+// As UnloadForm, and the object is gone at once where nothing of it is under way: for a run that loads a form
+// many times within one act. The caller and those that it has called keep no reference to it.
+void DiscardForm(std::string_view name);
 
 // A control of a form by their names; loads the form when need be, throws when there is no such control.
 Control& ControlOf(std::string_view form, std::string_view control, int index = Control::NoIndex);

@@ -48,7 +48,7 @@ public:
     virtual void ShowHelp(int topic) = 0;
     virtual void CopyText(const std::string& text) = 0;
     virtual void SetBusyPointer(bool busy) = 0;
-    // Lets the host breathe within a long calculation; true when the user pressed Escape.
+    // Lets the host breathe within a long act; true when the user pressed Escape or a cancel button.
     virtual bool Yield() = 0;
     // Lets the user act on the forms within a long search, which has switched off what must not run twice.
     virtual void ServeUser() {}

@@ -47,6 +47,8 @@ public:
     TextBox txtShort{*this, "txtShort"};
     TextBox txtResult{*this, "txtResult"};
     CommandButton cmdGo{*this, "cmdGo", "&Go"};
+    CommandButton cmdStop{*this, "cmdStop", "&Stop"};
+    ProgressBar barRun{*this, "barRun"};
     Frame fraOptions{*this, "fraOptions", "Options"};
     OptionButton optA{fraOptions, "optA", "A"};
     OptionButton optB{fraOptions, "optB", "B"};

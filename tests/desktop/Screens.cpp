@@ -283,6 +283,20 @@ void ShootSchemes() {
     Suite.Colours = former;
 }
 
+void ShootPrintControl() {
+    Click("frmTRProg", "mnuPrinting");
+    auto& tags = static_cast<ListBox&>(ControlOf("frmPrintControl", "lstTags"));
+    PickRow(tags, 0);
+    PickRow(tags, 2);
+    static_cast<TextBox&>(ControlOf("frmPrintControl", "txtTitle")).SetText("Northfield Terminal");
+    Shoot("print-control");
+    auto& bar = static_cast<ProgressBar&>(ControlOf("frmPrintControl", "barProgress"));
+    bar.SetVisible(true);
+    bar.SetProgress(1, 2);
+    Shoot("print-control-running");
+    Click("frmPrintControl", "cmdCancelPrint");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -310,8 +324,10 @@ int main(int argc, char** argv) {
     ShootSchemes();
     for (const auto& shoot : {ShootLiquidLine, ShootGasLine, ShootHammer, ShootLiquidData, ShootGasData}) {
         shoot();
+        Click(Calculation, "mnuSave");
         Click(Calculation, "mnuProgram");
     }
+    ShootPrintControl();
     ResetForms();
     return 0;
 }

@@ -5,6 +5,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QTableView>
 
 #include "forms/WinSeek.h"
@@ -324,6 +325,32 @@ TEST_F(WindowTest, ASearchForFilesIsStoppedByTheMouse) {
     EXPECT_EQ(WindowOf(finder).size(), folded);
     CloseWindow(finder);
     EXPECT_FALSE(IsFormLoaded("WinSeek"));
+}
+
+// The mouse comes by the window, as from the screen.
+TEST_F(WindowTest, CancelButtonIsHeardWithinALongRunAndNoOther) {
+    Sample->CancelButton = &Sample->cmdStop;
+    const auto clickWithin = [this](const Control& button) {
+        QWidget& widget = WidgetOf(button);
+        QTimer::singleShot(0, qApp, [&widget] {
+            QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {},
+                              widget.mapTo(widget.window(), widget.rect().center()));
+        });
+        return Screen.Yield();
+    };
+    EXPECT_FALSE(clickWithin(Sample->cmdGo));
+    EXPECT_TRUE(clickWithin(Sample->cmdStop));
+    Sample->cmdStop.SetEnabled(false);
+    EXPECT_FALSE(clickWithin(Sample->cmdStop));
+    EXPECT_TRUE(Sample->Events.empty());
+}
+
+TEST_F(WindowTest, ProgressShows) {
+    Sample->barRun.SetProgress(12, 40);
+    const auto& bar = static_cast<const QProgressBar&>(WidgetOf(Sample->barRun));
+    EXPECT_EQ(bar.value(), 12);
+    EXPECT_EQ(bar.maximum(), 40);
+    EXPECT_EQ(bar.text(), "12 of 40");
 }
 
 }  // namespace

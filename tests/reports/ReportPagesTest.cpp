@@ -2,6 +2,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/PageLayout.h"
 #include "tests/reports/ReportFixture.h"
 
 namespace quillmetra {
@@ -154,6 +155,50 @@ TEST_F(ReportTest, MixtureLinesWrapAtAHundredCharacters) {
         }
         EXPECT_EQ(lines, each.Lines);
     }
+}
+
+// About the letters of the page: 0.55 of their size wide.
+class UsualLetters : public TextMetric {
+public:
+    double Width(const std::string& text, const FontChoice& font) const override {
+        return static_cast<double>(text.size()) * AverageWidth(font);
+    }
+    double AverageWidth(const FontChoice& font) const override { return font.Size * 11; }
+    double Ascent(const FontChoice& font) const override { return font.Size * 18; }
+};
+
+// The most that a record can hold: sixteen components, and texts far longer than their places.
+TEST_F(ReportTest, FullestPageStaysInItsFrameAndNothingOverlaps) {
+    const std::string longText(200, 'w');
+    Texts = {"03/14/2025", longText, longText, longText, longText, {longText, longText, longText}};
+    for (const int program : {1, 2, 3, 4, 5}) {
+        const char* const forms[] = {"liquid-loss", "gas-loss", "water-hammer", "liquid-data", "gas-data"};
+        UseProgram(program, forms[program - 1]);
+        if (program == 4) {
+            FormOf(2).Add("lblSetupSelections=");
+            FormOf(2).Add("lblCalcSource=");
+        }
+        ControlOf(FindProgram(program)->Form, "txtBy").SetCaption(longText);
+        ControlOf(FindProgram(program)->Form, "cmdUnits", 2).SetCaption("a unit far too wide");
+        Calc.Tag = longText;
+        UseMixture(std::vector<std::pair<double, std::string>>(16, {6.25, "2-Methyl-3-ethylpentane"}));
+        const PrintedPage& page = Print();
+        const std::string text = PageAsText(page);
+        std::size_t named = 0;
+        for (std::size_t at = 0; (at = text.find("6.25% 2-M", at)) != std::string::npos; ++at) ++named;
+        EXPECT_EQ(named, 16U);
+        const PageLayout layout = LayOut(page, UsualLetters());
+        for (const PlacedText& one : layout.Texts) {
+            EXPECT_GE(one.X, 0) << one.Text;
+            EXPECT_LE(one.X + one.Width, page.FrameWidth) << one.Text;
+            for (const PlacedText& other : layout.Texts) {
+                if (one.Baseline != other.Baseline || other.X <= one.X) continue;
+                EXPECT_LE(one.X + one.Width, other.X) << one.Text << " | " << other.Text;
+            }
+        }
+        ResetForms();
+    }
+    EXPECT_TRUE(User.Boxes.empty());
 }
 
 }  // namespace

@@ -28,17 +28,83 @@ Outcome Play(const std::string& name, const std::string& more) {
     return {code, out.str(), errors.str()};
 }
 
-// Each script ends with a calculated form; its page must stand as a file of tests/reports/pages has it.
+// A script that ends at the printout of a calculated form, and how its record is changed before the print.
+struct PageCase {
+    const char* Page;               // a file of tests/reports/pages
+    const char* Script;             // of tests/scripts
+    const char* Mixture = nullptr;  // the menu entry, for a mixture of the two
+    const char* One = "";
+    const char* Other = "";
+    const char* Unit = nullptr;  // the option of the units
+};
+
+// Back from the printout and to it again.
+std::string Changes(const PageCase& each) {
+    std::string lines = "strict off\nclick cmdCancel\n";
+    if (each.Mixture != nullptr) {
+        lines += std::string("click ") + each.Mixture + "\npick lstFluid \"" + each.One +
+                 " \"\nclick cmdSelect\ntype txtPercent(0) 80\npick lstFluid \"" + each.Other +
+                 " \"\nclick cmdSelect\nkey txtPercent(1) R\nclick cmdCalcPseudo\n";
+        if (std::string(each.Page).starts_with("hammer")) lines += "click cmdCalculateliq\n";
+    }
+    if (each.Unit != nullptr) {
+        lines += std::string("click cmdFormLayout\nanswer Yes\ndoubleclick ") + each.Unit + "\n";
+    }
+    return lines + "click mnuPrint\nexpect-form frmObxPrintCalc\n";
+}
+
+constexpr const char* SI = "optMassSIUnits";
+
+// Each program in English and in SI units, of one fluid and of a mixture.
 TEST(Print, PagesOfTheRealForms) {
-    for (const std::string name :
-         {"liquid-english", "liquid-si", "gas-mixture", "hammer", "liquid-data", "gas-data"}) {
+    const PageCase cases[] = {
+        {"liquid-english", "liquid-english"},
+        {"liquid-si", "liquid-si"},
+        {"liquid-mixture", "liquid-english", "mnuMixture2", "Toluene", "Benzene"},
+        {"liquid-mixture-si", "liquid-english", "mnuMixture2", "Toluene", "Benzene", SI},
+        {"gas", "gas"},
+        {"gas-si", "gas", nullptr, "", "", SI},
+        {"gas-mixture", "gas", "mnuMixtures2", "Methane", "Ethane"},
+        {"gas-mixture-si", "gas", "mnuMixtures2", "Methane", "Ethane", SI},
+        {"hammer", "hammer"},
+        {"hammer-si", "hammer", nullptr, "", "", SI},
+        {"hammer-mixture", "hammer", "mnuMixtures", "Toluene", "Benzene"},
+        {"hammer-mixture-si", "hammer", "mnuMixtures", "Toluene", "Benzene", SI},
+        {"liquid-data", "liquid-data"},
+        {"liquid-data-si", "liquid-data", nullptr, "", "", SI},
+        {"liquid-data-mixture", "liquid-data", "mnuMixture1", "Toluene", "Benzene"},
+        {"liquid-data-mixture-si", "liquid-data", "mnuMixture1", "Toluene", "Benzene", SI},
+        {"gas-data", "gas-data"},
+        {"gas-data-si", "gas-data", nullptr, "", "", SI},
+        {"gas-data-mixture", "gas-data", "mnuMixtures1", "Methane", "Ethane"},
+        {"gas-data-mixture-si", "gas-data", "mnuMixtures1", "Methane", "Ethane", SI},
+    };
+    for (const PageCase& each : cases) {
         const TemporaryFolder folder;
         const std::string page = folder.Path().string() + "/page.txt";
-        const Outcome outcome = Play("print-" + name + ".qs", "text " + page + "\nclick cmdOK\n");
+        const bool asItIs = each.Mixture == nullptr && each.Unit == nullptr;
+        const Outcome outcome = Play(std::string("print-") + each.Script + ".qs",
+                                     (asItIs ? "" : Changes(each)) + "text " + page + "\nclick cmdOK\n");
+        EXPECT_EQ(outcome.Code, 0) << each.Page << outcome.Errors;
+        EXPECT_EQ(ReadFile(page), ReadFile(SourceFolder() / "tests/reports/pages" /
+                                           (std::string("form-") + each.Page + ".txt")))
+            << each.Page;
+    }
+}
+
+// Two records with the headings of the run, and the same in three copies.
+TEST(Print, RunOverRecords) {
+    const std::string one = ReadFile(SourceFolder() / "tests/reports/pages/run-1.txt");
+    const std::string two = ReadFile(SourceFolder() / "tests/reports/pages/run-2.txt");
+    const std::pair<const char*, std::string> cases[] = {
+        {"1", one + '\f' + two}, {"3", one + '\f' + one + '\f' + one + '\f' + two + '\f' + two + '\f' + two}};
+    for (const auto& [copies, pages] : cases) {
+        const TemporaryFolder folder;
+        const std::string file = folder.Path().string() + "/run.txt";
+        const Outcome outcome = Play("print-run.qs", "text " + file + "\nprinter " + copies +
+                                                         " 1 9\nclick cmdProceed\nexpect-form frmTRProg\n");
         EXPECT_EQ(outcome.Code, 0) << outcome.Errors;
-        EXPECT_EQ(ReadFile(page),
-                  ReadFile(SourceFolder() / "tests/reports/pages" / ("form-" + name + ".txt")))
-            << name;
+        EXPECT_EQ(ReadFile(file), pages);
     }
 }
 

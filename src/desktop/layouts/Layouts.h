@@ -15,6 +15,7 @@ Node frmLiqLineLoss();
 Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
+Node frmPrintControl();
 Node frmTRProg();
 Node frmTables();
 Node frmUnits();

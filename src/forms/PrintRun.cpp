@@ -1,0 +1,187 @@
+// See frmPrintControl.h: the run over the records that are picked. It goes on past a record that cannot be
+// read and tells of those at its end; only a printer that fails, or the user, stops it.
+#include <algorithm>
+
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/frmPrintControl.h"
+#include "forms/RecordInHand.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/Printer.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* PrintoutForm = "frmObxPrintCalc";
+
+// The words of a run, for its life.
+class RunWords {
+public:
+    RunWords() { Suite.RunActive = words::Yes; }
+    ~RunWords() {
+        Suite.RunActive.clear();
+        Suite.BatchPrinting.clear();
+    }
+    RunWords(const RunWords&) = delete;
+    RunWords& operator=(const RunWords&) = delete;
+};
+
+// The forms of a record, gone at once however its print ends: a run has room for one record's forms alone.
+class FormsOfRecord {
+public:
+    FormsOfRecord() = default;
+    ~FormsOfRecord() {
+        DiscardForm(PrintoutForm);
+        for (const Program& program : Programs) DiscardForm(program.Form);
+    }
+    FormsOfRecord(const FormsOfRecord&) = delete;
+    FormsOfRecord& operator=(const FormsOfRecord&) = delete;
+};
+
+}  // namespace
+
+void frmPrintControl::cmdProceed_Click() {
+    if (!AnyPicked()) return;
+    const RunWords words;
+    const auto choice = AskPrinter();
+    if (!choice) return;
+    Suite.PrintFromPage = choice->FromPage;
+    Suite.PrintToPage = choice->ToPage;
+    Suite.PrintCopies = std::max(choice->Copies, 1);
+    Run({.FromPage = choice->FromPage, .ToPage = choice->ToPage});
+}
+
+void frmPrintControl::cmdPdf_Click() {
+    if (!AnyPicked()) return;
+    const RunWords words;
+    const auto path = AskFile({.Title = "Save as PDF",
+                               .Filter = "PDF files(*.pdf)|*.pdf",
+                               .Folder = Suite.DefaultPaths[1],
+                               .ForSaving = true});
+    if (!path) return;
+    Suite.PrintFromPage = Suite.PrintToPage = 0;
+    Suite.PrintCopies = 1;
+    Run({.To = PrintJob::Target::Pdf, .Path = *path});
+}
+
+bool frmPrintControl::AnyPicked() {
+    for (int row = 0; row < lstTags.RowCount(); ++row) {
+        if (lstTags.IsPicked(row)) return true;
+    }
+    Tell("Select the records to print first", Caption(), Icon::Exclamation);
+    return false;
+}
+
+void frmPrintControl::ShowRunning(bool running) {
+    barProgress.SetVisible(running);
+    for (Control* control :
+         std::initializer_list<Control*>{&fraTags, &fraRecord, &fraHeadings, &cmdProceed, &cmdPdf}) {
+        control->SetEnabled(!running);
+    }
+}
+
+void frmPrintControl::Run(PrintJob job) {
+    job.Name = "Process Data Calculation printouts";
+    Suite.UseDefaultHeadings = chkUse.Checked() ? words::Yes : "";
+    if (chkUse.Checked()) cmdTitleDefault_Click();
+    chkPrintDate_Click();
+    Suite.PrintDateOverride = chkPrintDate.Checked() ? txtPrintoutDate.Text() : "";
+    // The boxes are emptied for each record: what the run prints is taken here.
+    runDate_ = Suite.PrintDateOverride;
+    runTitles_ = TitleTexts();
+    unprinted_.clear();
+
+    bool complete = false;
+    ShowRunning(true);
+    SetStatus("");
+    try {
+        Printer.Open(job);
+        complete = PrintPicked();
+        if (complete) {
+            Printer.EndDoc();
+            Printer.Close();
+        } else {
+            SetStatus("Printing was stopped");
+        }
+    } catch (const RuntimeError& error) {
+        complete = false;
+        Tell(error.Description + " (Error " + std::to_string(error.Number) + ")", "Printing Problem",
+             Icon::Stop);
+    }
+    Printer.Abandon();  // what was not closed
+    ShowRunning(false);
+    ShowTitles(runTitles_);
+    TellUnprinted();
+    if (complete) cmdCancelPrint_Click();
+}
+
+bool frmPrintControl::PrintPicked() {
+    int total = 0;
+    for (int row = 0; row < lstTags.RowCount(); ++row) total += lstTags.IsPicked(row) ? 1 : 0;
+    int done = 0;
+    for (int row = 0; row < lstTags.RowCount(); ++row) {
+        if (!lstTags.IsPicked(row)) continue;
+        barProgress.SetProgress(done, total);
+        if (UserWantsToStop()) return false;
+        Calc.MessageText = words::Bypass;
+        lstTags.Select(row);
+        Calc.MessageText.clear();
+        PrintOne(lstTags.Row(row));
+        ++done;
+    }
+    return true;
+}
+
+// What is told meanwhile would stop the run at a box: it is kept for the end.
+void frmPrintControl::PrintOne(const std::string& tag) {
+    const FormsOfRecord forms;
+    const HeldMessages held;
+    std::string failure;
+    bool read = false;
+    try {
+        Calc.Tag = tag;
+        read = PrintRecords();
+    } catch (const RuntimeError& error) {
+        failure = error.Description;
+    }
+    // A record that was read in part would make a page that looks whole.
+    if (read && held.Texts().empty()) LoadForm(PrintoutForm);
+    if (failure.empty() && !held.Texts().empty()) failure = held.Texts().front();
+    if (!failure.empty()) unprinted_.push_back(tag + ": " + failure);
+}
+
+bool frmPrintControl::PrintRecords() {
+    if (Calc.Tag.empty()) {
+        Tell("Record must have a tag number", "Display Record", Icon::Stop);
+        return false;
+    }
+    const std::string tag = Calc.Tag;
+    ClearPrintData();
+    Suite.BatchPrinting = words::Yes;
+    if (!view_->Find(tag)) {
+        Tell("Not found", Suite.DatabaseFile);
+        return false;
+    }
+    ShowHead();
+    if (!TakeRecord(view_->Head()) || FillCalculationForm() == nullptr) return false;
+    auto& headings = Suite.ReportHeadings;
+    headings[1] = runDate_.empty() ? Calc.CaseText[10] : runDate_;
+    std::ranges::copy(runTitles_, headings.begin() + 2);
+    std::copy_n(Calc.HeadingText.begin() + 6, 5, headings.begin() + 6);
+    return true;
+}
+
+void frmPrintControl::TellUnprinted() {
+    constexpr std::size_t most = 20;  // that a box on the screen has room for
+    if (unprinted_.empty()) return;
+    std::string text = "Not printed, or not whole:\n";
+    for (std::size_t i = 0; i < std::min(most, unprinted_.size()); ++i) text += "\n" + unprinted_[i];
+    if (unprinted_.size() > most) text += "\nand " + std::to_string(unprinted_.size() - most) + " more";
+    Tell(text, Caption(), Icon::Exclamation);
+}
+
+}  // namespace quillmetra

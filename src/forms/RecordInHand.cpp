@@ -1,0 +1,45 @@
+// See RecordInHand.h.
+#include "forms/RecordInHand.h"
+
+#include "core/CalcRecord.h"
+#include "core/Programs.h"
+#include "core/StartUp.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "platform/Forms.h"
+#include "records/LoadRecord.h"
+#include "reports/FormRefresh.h"
+
+namespace quillmetra {
+
+bool TakeRecord(const RecordHead& head) {
+    ResetRecord();
+    LoadHeadings();
+    Calc.LoadedDatabaseFile = Suite.DatabaseFile;
+    Calc.Tag = head.Tag;
+    TakeFluidType(head.FluidType, head.ProgramNumber);
+    if (!GetTRCalc()) return false;
+    Calc.BrowserOpen = words::Yes;
+    return true;
+}
+
+const char* FillCalculationForm() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    if (program == nullptr) return nullptr;
+    Calc.InCalculation = words::Yes;
+    UnloadForm(program->Form);
+    LoadForm(program->Form);
+    Calc.DataOk = words::Yes;
+    Calc.FormLoading = words::Yes;
+    ShowCalculation();
+    return program->Form;
+}
+
+void ShowLoadedRecord() {
+    const char* const form = FillCalculationForm();
+    if (form == nullptr) return;
+    ShowForm(form);
+    HideForm("frmTRProg");
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,19 @@
+// From a record of the database to its filled calculation form, for display and for print.
+#pragma once
+
+#include "records/RecordView.h"
+
+namespace quillmetra {
+
+// Reads a record of Suite.DatabaseFile into hand. False, after a message, when it cannot be shown. Throws as
+// OpenRecords.
+bool TakeRecord(const RecordHead& head);
+
+// Loads the form of the record in hand, hidden, and fills it. Returns its name; null when the record is of
+// no program.
+const char* FillCalculationForm();
+
+// Opens the form of the record that was just loaded, in place of the browser.
+void ShowLoadedRecord();
+
+}  // namespace quillmetra
