@@ -134,9 +134,9 @@ void LoadHeadings() {
     }
 }
 
-void SaveHeadings() {
+void SaveHeadings(std::size_t lines) {
     TextWriter file(HeadingsFile());
-    for (std::size_t i = 1; i <= 10; ++i) file.Line(Calc.HeadingText[i]);
+    for (std::size_t i = 1; i <= lines; ++i) file.Line(Calc.HeadingText[i]);
     file.Commit();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -32,8 +33,9 @@ bool ReadDefaultPaths();
 // Reads up to seven lines of TRHDG.txt into HeadingText; a file error ends it with what was read.
 void LoadHeadings();
 
-// Writes the ten lines of HeadingText to TRHDG.txt. Throws a RuntimeError where they cannot be written.
-void SaveHeadings();
+// Writes the lines of HeadingText from the first, at most 12, to TRHDG.txt. Throws a RuntimeError where they
+// cannot be written.
+void SaveHeadings(std::size_t lines = 10);
 
 // Reads TRSTP.TXT: standard temperature (degF), standard pressure (psia), barometric pressure (psia), in
 // this order, and replaces what is missing by 60, 14.7 and 14.7. A file that cannot be opened changes

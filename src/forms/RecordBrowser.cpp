@@ -52,6 +52,7 @@ void frmTRProg::HookDatabase() {
     mnuCompactDB.Click = [this] { mnuCompactDB_Click(); };
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
+    mnuConvertRandom.Click = [this] { mnuConvertRandom_Click(); };
 }
 
 // --- Open and close ----------------------------------------------------------------------------------------

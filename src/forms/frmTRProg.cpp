@@ -46,15 +46,15 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);
     fraTags.SetVisible(false);
-    // Printing, paths, colours and the conversion of old data are yet to come.
+    // Printing, paths and colours are yet to come.
     for (Control* control : Controls()) {
         if (control->Kind() == ControlKind::MenuItem && control->Container() != nullptr) {
             control->SetEnabled(false);
         }
     }
     optBrouseDB.SetEnabled(false);
-    for (MenuItem* entry : {&mnuCreateDB, &mnuCompactDB, &mnuRepairDB, &mnuExport, &mnuExit, &mnuDoNotShow,
-                            &mnuHelp, &mnuAbout}) {
+    for (MenuItem* entry : {&mnuCreateDB, &mnuCompactDB, &mnuRepairDB, &mnuExport, &mnuConvertRandom,
+                            &mnuExit, &mnuDoNotShow, &mnuHelp, &mnuAbout}) {
         entry->SetEnabled(true);
     }
     HookDatabase();
