@@ -56,7 +56,9 @@ protected:
         }
         WriteData("HEADINGS.DAT", "old\r\n");
         WriteData("OBXDAT.TAG", "O-1\r\nO-2\r\n");
-        WriteData("OBXDAT.DAT", std::string(1842, '\1'));
+        std::string old(1842, '\1');
+        old[1] = old[922] = '\0';  // liquid line losses
+        WriteData("OBXDAT.DAT", old);
         Suite.DatabaseFile = DatabaseFileOf(data);
         MakeEmptyDatabase(Suite.DatabaseFile);
         for (int program = 1; program <= 5; ++program) {
