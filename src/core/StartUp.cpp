@@ -174,9 +174,9 @@ void LoadHeadings() {
     std::copy_n(Calc.HeadingText.begin() + 1, read, Calc.HeadingTextSaved.begin() + 1);
 }
 
-void SaveHeadings(std::span<const std::string> lines) {
+void SaveHeadings(std::span<const std::string> lines, std::size_t count) {
     TextWriter file(HeadingsFile());
-    for (std::size_t i = 1; i <= 10; ++i) file.Line(lines[i]);
+    for (std::size_t i = 1; i <= count; ++i) file.Line(lines[i]);
     file.Commit();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -49,8 +50,9 @@ void LoadHeadings();
 // Returns how many were read.
 std::size_t ReadHeadingLines(std::span<std::string> lines);
 
-// Writes ten lines to TRHDG.txt, the first from place 1. Throws a RuntimeError where they cannot be written.
-void SaveHeadings(std::span<const std::string> lines);
+// Writes so many lines to TRHDG.txt, the first from place 1. Throws a RuntimeError where they cannot be
+// written.
+void SaveHeadings(std::span<const std::string> lines, std::size_t count = 10);
 
 // Reads TRSTP.TXT: standard temperature (degF), standard pressure (psia), barometric pressure (psia), in
 // this order, and replaces what is missing by 60, 14.7 and 14.7. A file that cannot be opened changes

@@ -166,6 +166,7 @@ void CalculationForm::Load() {
     const bool mixture = Calc.MixtureFlag == words::Yes;
     Calc.FluidOk = mixture ? "" : words::FluidLoaded;
     ShowChoices();
+    mnuPrint.SetEnabled(Calc.InCalculation == words::Yes);  // a saved record has what it was saved with
 }
 
 void CalculationForm::ApplyUnits() {
@@ -318,11 +319,11 @@ void CalculationForm::TakeAsNew() {
 
 // --- Saving ----------------------------------------------------------------------------------------------
 
-bool CalculationForm::SaveTo(const std::string& databaseFile) {
+bool CalculationForm::SaveTo(const std::string& databaseFile, bool mayCreate) {
     Suite.DatabaseFile = databaseFile;
     Suite.DatabasePath = FolderOf(databaseFile);
     Calc.TagChanged = words::Yes;
-    if (!Calc.Tag.empty() && !FileExists(databaseFile)) {
+    if (mayCreate && !Calc.Tag.empty() && !FileExists(databaseFile)) {
         if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", DatabaseTitle)) {
             return false;
         }
@@ -341,7 +342,7 @@ bool CalculationForm::Save() {
         Tell("You must create the default path first", DatabaseTitle);
         return false;
     }
-    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]));
+    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]), true);
 }
 
 void CalculationForm::mnuSave_Click() {
@@ -359,7 +360,7 @@ void CalculationForm::mnuSaveAs_Click() {
                                .ForSaving = true});
     if (!file || file->empty()) return;
     if (!IsDatabaseName(*file)) return Tell("Must find file named TRDB.MDB", "Database file");
-    SaveTo(*file);
+    SaveTo(*file, false);
 }
 
 void CalculationForm::mnuProgram_Click() {

@@ -138,7 +138,7 @@ private:
     void TakeAsNew();
     // Saves to the database on the default path; false, after a message, when it was refused.
     bool Save();
-    bool SaveTo(const std::string& databaseFile);
+    bool SaveTo(const std::string& databaseFile, bool mayCreate);
     void BlankResults(int caseIndex);
     void SetCalculateButtons(bool enabled);
 

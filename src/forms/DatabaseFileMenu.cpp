@@ -91,6 +91,7 @@ void frmTRProg::mnuExport_Click() {
                                .Folder = Suite.DatabasePath,
                                .ForSaving = true});
     if (!file || file->empty()) return;
+    if (IsDatabaseName(*file)) return Tell("A database cannot be written over by an export", title);
     int count = 0;
     {
         const BusyPointer busy;

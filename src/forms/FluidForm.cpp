@@ -166,17 +166,22 @@ void FluidForm::FluidTyped() {
     TickEntries();
 }
 
-// A temperature of zero that was typed shows as one.
+// A zero that was typed shows as one; a case whose temperature is blank has none.
 void FluidForm::ReopenRecord() {
+    const std::string former = Calc.SteamKind.empty() ? TitleTail() : "";
     if (Entries.front().Saturated != nullptr) FindSteamKind();
     if (!Calc.SteamKind.empty() && !Calc.ProgramTitle.ends_with(TitleTail())) {
+        if (Calc.ProgramTitle.ends_with(former)) {
+            Calc.ProgramTitle.resize(Calc.ProgramTitle.size() - former.size());
+        }
         Calc.ProgramTitle += TitleTail();  // the database has no room for it
         Calc.ProgramTitleSaved = Calc.ProgramTitle;
     }
     for (std::size_t i = 0; i < Entries.size(); ++i) {
-        if (Calc.CaseInput[TemperatureRow][i] == 0 && Calc.TemperatureBlank[i] == 0) {
-            TemperatureBox(static_cast<int>(i)).SetText("0");
-        }
+        if (Calc.TemperatureBlank[i] != 0) continue;
+        const int caseIndex = static_cast<int>(i);
+        if (Calc.CaseInput[TemperatureRow][i] == 0) TemperatureBox(caseIndex).SetText("0");
+        if (Calc.CaseInput[PressureRow][i] == 0) PressureBox(caseIndex).SetText("0");
     }
 }
 

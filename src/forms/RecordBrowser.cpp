@@ -56,6 +56,7 @@ void frmTRProg::HookDatabase() {
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
     mnuPrinting.Click = [this] { mnuPrinting_Click(); };
+    mnuConvertRandom.Click = [this] { mnuConvertRandom_Click(); };
 }
 
 // --- Open and close ----------------------------------------------------------------------------------------
@@ -128,6 +129,9 @@ void frmTRProg::CloseView() {
 // The record that a calculation has left, which may be new.
 void frmTRProg::Activated() {
     if (view_ == nullptr) return;
+    // A calculation may have been saved to another database; what is done here is done to the one shown.
+    Suite.DatabaseFile = lblPath(0).Caption();
+    Suite.DatabasePath = FolderOf(Suite.DatabaseFile);
     if (!Calc.Tag.empty()) view_->Find(Calc.Tag);
     if (!view_->HasRecord()) view_->First();
     ShowRecord();
@@ -255,7 +259,7 @@ void frmTRProg::cmdDelete_Click() {
                   Answer::No)) {
         return;
     }
-    if (!DeleteRecord(Suite.DatabaseFile, tag)) Tell("Database is empty", Suite.DatabaseFile);
+    DeleteRecord(Suite.DatabaseFile, tag);
     if (SameName(Calc.TagSaved, tag)) {
         // What is in hand is in no database any more: its next save writes every row.
         Calc.TagSaved.clear();

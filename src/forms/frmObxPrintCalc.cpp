@@ -12,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
+#include "records/RecordFiles.h"
 
 namespace quillmetra {
 
@@ -168,6 +169,7 @@ void frmObxPrintCalc::mnuPdf_Click() {
                                .Folder = Suite.DefaultPaths[1],
                                .ForSaving = true});
     if (!path) return;
+    if (IsDatabaseName(*path)) return Tell("A database cannot be written over by a printout", "Save as PDF");
     StoreHeadings();
     Print({.To = PrintJob::Target::Pdf, .Path = *path}, 1);
 }

@@ -47,7 +47,6 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);
     fraTags.SetVisible(false);
-    mnuConvertRandom.SetEnabled(false);  // yet to come
     HookDatabase();
     cmdOK.Click = [this] { cmdOK_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };

@@ -127,6 +127,9 @@ public:
     void mnuRepairDB_Click();
     void mnuExport_Click();
 
+    // Records of version 5, in OldDataMenu.cpp
+    void mnuConvertRandom_Click();
+
 private:
     void HookDatabase();
     // Sets Suite.DatabasePath and DatabaseFile from the chosen path; false, after a message, when there is

@@ -44,6 +44,10 @@ using FieldValue = std::variant<std::monostate, double, std::string>;
 // the field.
 FieldValue FittedValue(const FieldShape& field, FieldValue value);
 
+// A number that was kept as a single, as the user typed it: the shortest text of the 32-bit value, 0.1 rather
+// than 0.10000000149. What is no single reads 0.
+double SingleRead(double stored);
+
 namespace failure {
 inline RuntimeError NoIndex() { return {3019, "Seek needs an index"}; }
 inline RuntimeError NothingToUpdate() { return {3020, "Update needs AddNew or Edit before it"}; }

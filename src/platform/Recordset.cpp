@@ -22,16 +22,6 @@ RuntimeError OutOfRange(const FieldShape& field) {
                       : "The field '" + field.Name + "' holds no number above 3.402823E+38"};
 }
 
-// The shortest text of the 32-bit value, as a number.
-double SingleRead(double stored) {
-    if (!std::isfinite(stored) || std::abs(stored) > std::numeric_limits<float>::max()) return 0;
-    std::array<char, 32> text{};
-    const auto written = std::to_chars(text.begin(), text.end(), static_cast<float>(stored));
-    double value = 0;
-    std::from_chars(text.begin(), written.ptr, value);
-    return value;
-}
-
 // A number that no field of ours can have written reads 0.
 double IntegerRead(double stored) { return std::abs(stored) <= 32768 ? std::trunc(stored) : 0; }
 
@@ -47,6 +37,15 @@ FieldValue ValueAt(sqlite3_stmt* statement, int column, FieldType type) {
 }
 
 }  // namespace
+
+double SingleRead(double stored) {
+    if (!std::isfinite(stored) || std::abs(stored) > std::numeric_limits<float>::max()) return 0;
+    std::array<char, 32> text{};
+    const auto written = std::to_chars(text.begin(), text.end(), static_cast<float>(stored));
+    double value = 0;
+    std::from_chars(text.begin(), written.ptr, value);
+    return value;
+}
 
 FieldValue FittedValue(const FieldShape& field, FieldValue value) {
     if (const auto* text = std::get_if<std::string>(&value)) {

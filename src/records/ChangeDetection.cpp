@@ -6,6 +6,7 @@
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "platform/NumberText.h"
+#include "platform/TextCase.h"
 
 namespace quillmetra {
 
@@ -113,9 +114,10 @@ void CompareMixture() {
 void DetectChanges() {
     if (Calc.ChangedFlag.empty()) return;
     Calc.RecordChanged = words::No;
-    if (!SameText(Calc.Tag, Calc.TagSaved)) return MarkForNewTag();
+    if (!SameName(Trim(Calc.Tag), Trim(Calc.TagSaved))) return MarkForNewTag();
 
     const int program = Calc.CurrentProgram;
+    MarkIf(Calc.RecordChanged, !SameText(Calc.Tag, Calc.TagSaved));  // the case of its letters alone
     MarkIf(Calc.RecordChanged, !SameText(Calc.FluidName, Calc.FluidNameSaved) || IsYes(Calc.RecordUpdated) ||
                                    BasisDiffers() ||
                                    TextsDiffer(Calc.HeadingText, Calc.HeadingTextSaved, 2, 9));

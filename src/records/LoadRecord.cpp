@@ -120,7 +120,6 @@ void MendRecord() {
     for (int* set : {&Calc.LiquidUnitSet, &Calc.GasUnitSet}) {
         if (*set < 0 || *set > UserUnitSet) *set = 0;
     }
-    MarkBlankTemperatures();
 }
 
 void FinishLoad() {
@@ -169,7 +168,7 @@ bool GetTRCalc() {
     GetTRUnits(*database);
     TakeOptions(*database);
     if (!GetProgramRow(*database)) TakeRow(table, heads, true);
-    GetSettings(*database);
+    if (!GetSettings(*database)) MarkBlankTemperatures();
     FinishLoad();
     return true;
 }
@@ -208,15 +207,18 @@ bool GetMixture(Database& database) {
     return true;
 }
 
-void GetSettings(Database& database) {
+bool GetSettings(Database& database) {
     const RecordTable& table = SettingsTable();
+    bool found = false;
     if (database.HasTable(table.Shape.Name)) {
         Recordset rows(database, table.Shape);
         rows.Index("Tag_Number");
-        if (rows.Seek(Calc.Tag)) TakeRow(table, rows);
+        found = rows.Seek(Calc.Tag);
+        if (found) TakeRow(table, rows);
     }
     RestoreStandardConditions();
     ShowStandardConditions();
+    return found;
 }
 
 }  // namespace quillmetra

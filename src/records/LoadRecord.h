@@ -26,6 +26,6 @@ bool GetWHCalc(Database& database);  // water hammer
 bool GetFDCalc(Database& database);  // fluid data
 bool GetMixture(Database& database);
 // Direction, modes and standard conditions; without a row the usual ones, and no message.
-void GetSettings(Database& database);
+bool GetSettings(Database& database);
 
 }  // namespace quillmetra

@@ -187,6 +187,7 @@ bool CreateDB(bool agreed) {
 void CompactDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
     const fs::path file = MachinePath(name);
+    if (IsWriteProtected(file)) throw failure::PathAccess();
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch backup(InFolder(folder, "TRDB.BAK.new"));
     const std::unique_ptr<Database> database = OpenRecords(name);
@@ -211,6 +212,7 @@ RepairReport RepairDB(const std::string& folder) {
     }
     report.WasDamaged = true;
     const fs::path file = MachinePath(name);
+    if (IsWriteProtected(file)) throw failure::PathAccess();
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch aside(InFolder(folder, "TRDB.BAD.new"));
     report.Lost = SalvageAll(*database, beside.File);

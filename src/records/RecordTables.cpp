@@ -185,7 +185,7 @@ const Line FluidDataLines[] = {
     {"Program Title", T, 60, Made::Title},
     {"Fluid Name", T, 30, &CalcRecord::FluidName},
     {"Basis", T, 3, Made::BasisInUse},
-    {"% Temperature", S, 0, CI(2)},
+    {"% Temperature", S, 0, Made::Temperature},
     {"% Pressure", S, 0, CI(3)},
     {"% MW", S, 0, CI(0), {.GasRow = 5}},
     {"% Spec Heat", S, 0, CI(10)},

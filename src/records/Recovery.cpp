@@ -86,6 +86,7 @@ bool TakeRecovery() {
     Calc.TagSaved.clear();
     Calc.LoadedDatabaseFile.clear();
     Calc.ChangedFlag = words::No;
+    Calc.RecordUpdated = words::Yes;
     return true;
 }
 

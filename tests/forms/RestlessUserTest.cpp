@@ -2,15 +2,10 @@
 // and the form stays usable.
 #include <algorithm>
 #include <cmath>
-#include <random>
 
-#include "core/Words.h"
-#include "forms/CalculationForm.h"
-#include "forms/RegisterForms.h"
 #include "platform/NumberText.h"
-#include "platform/UserActs.h"
 #include "reports/FormRows.h"
-#include "tests/SuiteFixture.h"
+#include "tests/forms/RestlessFixture.h"
 
 namespace quillmetra {
 namespace {
@@ -20,85 +15,13 @@ struct Run {
     unsigned Seed;
 };
 
-constexpr const char* CalculationForms[] = {"frmLiqLineLoss", "frmGasLineLoss", "frmWaterHammer",
-                                            "frmLiqData", "frmGasData"};
-
-class RestlessUser : public SuiteTest, public ::testing::WithParamInterface<Run> {
+class RestlessUser : public RestlessFixture, public ::testing::WithParamInterface<Run> {
 protected:
-    RestlessUser() : random_(GetParam().Seed) {
-        RegisterForms();
+    RestlessUser() : RestlessFixture(GetParam().Seed) {
         StartUp(SuitePath(Folder));
         ClickControl(ControlOf("frmTRProg", "cmdOK"));
         ClickControl(ControlOf("frmObxProg", "optProgram", GetParam().Program));
         ClickControl(ControlOf("frmObxProg", "cmdOK"));
-    }
-
-    // The calculation form that is loaded; null for none.
-    static CalculationForm* Calculation() {
-        for (const char* name : CalculationForms) {
-            auto* form = dynamic_cast<CalculationForm*>(LoadedForm(name));
-            if (form != nullptr && form->ProgramNumber() == Calc.CurrentProgram) return form;
-        }
-        return nullptr;
-    }
-
-    // The control of a case, or the only one of that name.
-    static Control* OfCase(CalculationForm& form, const char* name, int i) {
-        Control* const control = form.Find(name, i);
-        return control != nullptr || i > 0 ? control : form.Find(name);
-    }
-    static Control* CalculateButton(CalculationForm& form, int i) {
-        Control* const button = OfCase(form, "cmdCalculate", i);
-        if (button != nullptr) return button;
-        return OfCase(form, form.ProgramNumber() == 3 ? "cmdCalculateliq" : "cmdOK", i);
-    }
-
-    // A case that calculates: 1000 ft of 4 in pipe with a light liquid or methane.
-    static void FillGoodCase(CalculationForm& form, int i) {
-        Suite.HideFluidReminder = words::Yes;
-        for (const auto& [box, text] : {std::pair{"txtInletPipeLen", "1000"},
-                                        {"txtInletPipeID", "4.026"},
-                                        {"txtFlow", form.ProgramNumber() == 1 ? "100000" : "5000"},
-                                        {"txtTemp", "60"},
-                                        {"txtPressure", "100"},
-                                        {"txtSGFlow", "1"},
-                                        {"txtViscosity", "0.1"},
-                                        {"txtMW", "16.04"},
-                                        {"txtRatioSH", "1.3"},
-                                        {"txtCritTemp", "343"},
-                                        {"txtCritPressure", "667"},
-                                        {"txtMaxLiqFlow", "100000"},
-                                        {"txtFlowTemp", "60"},
-                                        {"txtOperPressure", "100"},
-                                        {"txtBulkModulus", "300000"},
-                                        {"txtLineLength", "1000"},
-                                        {"txtPipeID", "4.026"},
-                                        {"txtPipeWall", "0.237"},
-                                        {"txtLineModulus", "2e7"},
-                                        {"txtMaxAllowPressure", "300"},
-                                        {"txtSelectedTime", "2"}}) {
-            Control* const control = OfCase(form, box, i);
-            if (control != nullptr && !static_cast<TextBox*>(control)->Locked) Type(*control, text);
-        }
-        if (form.ProgramNumber() < 4) return;
-        // A fluid of the table is the calculation of these.
-        const std::string entry = form.ProgramNumber() == 4 ? "mnuLiquid" : "mnuPureGases";
-        ClickControl(*form.Find(entry + std::to_string(i + 1)));
-        if (CanAct(form.Fluids.cmdSelect)) ClickControl(form.Fluids.cmdSelect);
-    }
-    static void Type(Control& box, const std::string& text) {
-        MoveFocus(box);
-        TypeText(box, text);
-    }
-
-    int Below(std::size_t count) { return static_cast<int>(random_() % count); }
-
-    std::string AnyText() {
-        static const char* const texts[] = {"",        "0",      "1",      "60",       "100", "4.026",
-                                            "1e300",   "-1e300", "1e-310", "-5",       "abc", "12,5",
-                                            "nan",     "inf",    "0x10",   "1e999999", " 7 ", "+3",
-                                            "-459.67", "-14.7",  "705",    "99999999", "\"",  "1e15"};
-        return texts[Below(std::size(texts))];
     }
 
     // The one in front: dialogs and panels first, the browser last.
@@ -114,30 +37,6 @@ protected:
         quillmetra::Form* browser = LoadedForm("frmTRProg");
         if (browser == nullptr || !browser->Visible()) throw std::logic_error("no form is shown");
         return *browser;
-    }
-
-    void ActOn(Control& control) {
-        static const char* const keys[] = {"Enter", "Escape", "Tab", "Shift+Tab",
-                                           "Down",  "PageUp", "R",   "Backspace"};
-        switch (control.Kind()) {
-            case ControlKind::TextBox:
-                MoveFocus(control);
-                TypeText(control, AnyText());
-                break;
-            case ControlKind::ListBox: {
-                auto& list = static_cast<ListBox&>(control);
-                if (list.RowCount() > 0) PickRow(list, Below(static_cast<std::size_t>(list.RowCount())));
-                if (Below(2) == 0) DoubleClickControl(control);
-                break;
-            }
-            default: ClickControl(control);
-        }
-        if (Below(4) == 0) {
-            quillmetra::Form& form = AnyVisibleForm();
-            Control* const current = form.Focus.Current();
-            if (current != nullptr && !current->Name().starts_with("cmdCalculate"))
-                PressKey(*current, keys[Below(std::size(keys))]);
-        }
     }
 
     static bool PanelIsOpen() { return IsFormLoaded("frmUnits") || IsFormLoaded("frmCalcOptions"); }
@@ -204,7 +103,6 @@ protected:
     int Results = 0;
 
 private:
-    std::mt19937 random_;
     Row<std::string, CaseCount> inputs_{};
 };
 
@@ -241,6 +139,7 @@ TEST_P(RestlessUser, LeavesEveryFormUsable) {
             CloseWindow(form);
         } else {
             ActOn(control);
+            if (Below(4) == 0) PressAnyKey(AnyVisibleForm());
         }
         for (const MessageBox& box : User.Boxes) {
             ASSERT_EQ(box.Text.find("control"), std::string::npos) << name << ": " << box.Text;

@@ -1,4 +1,5 @@
 // Prints of the real forms by scripts: the page as characters, and the PDF.
+#include <fstream>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -130,6 +131,18 @@ TEST(Print, FileThatCannotBeWrittenIsTold) {
                      "expect-form frmLiqLineLoss\nexpect txtDestPress(1) 90.31\n");
         EXPECT_EQ(outcome.Code, 0) << outcome.Errors;
     }
+}
+
+TEST(Print, NoPdfGoesOverADatabase) {
+    const TemporaryFolder folder;
+    const std::string database = folder.Path().string() + "/trdb.mdb";
+    std::ofstream(database) << "records";
+    const Outcome outcome =
+        Play("print-liquid-english.qs",
+             "save-as " + database +
+                 "\nanswer OK\nclick mnuPdf\nexpect-message A database cannot be written over");
+    EXPECT_EQ(outcome.Code, 0) << outcome.Errors;
+    EXPECT_EQ(ReadFile(database), "records");
 }
 
 TEST(Print, WithoutATargetThePageGoesToTheOutput) {

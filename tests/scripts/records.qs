@@ -240,6 +240,11 @@ click mnuCreateDB
 expect-box "Database TRDB.MDB" "First, use option 'Browse for DB Path' to determine path" OK
 click cmdDBOpen
 expect lblNumRecords 5
+# An export does not go over a database.
+save-as no-such-folder/trdb.mdb
+answer OK
+click mnuExport
+expect-message A database cannot be written over by an export
 click cmdDBClose
 expect-state txtTagNum hidden
 quit
