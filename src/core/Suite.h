@@ -33,9 +33,10 @@ struct SuiteState {
     Row<UnitList, 21> UnitLibrary{};  // the unit lists 0 to 20, see units/UnitCatalogue.h
     UnitList PressureStem{};          // pressure units without the ending "g" or "a"
     std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded
-    std::string DatabaseFile, DatabasePath, BrowsePath;        // full name of the file; its folder
-    std::string RecoveryFile;  // where unsaved work is kept against a crash; empty where nobody would ask for it
-    int RecordTotal = 0;                                       // records of DatabaseFile after the last save
+    std::string DatabaseFile, DatabasePath, BrowsePath;  // full name of the file; its folder
+    std::string
+        RecoveryFile;     // where unsaved work is kept against a crash; empty where nobody would ask for it
+    int RecordTotal = 0;  // records of DatabaseFile after the last save
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;
     int PrintFromPage = 0, PrintToPage = 0;  // 0: all pages

@@ -6,6 +6,7 @@
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/RuntimeError.h"
 #include "records/RecordExport.h"
 #include "records/RecordFiles.h"
 
@@ -71,9 +72,11 @@ void frmTRProg::mnuRepairDB_Click() {
     if (!AskDatabase()) return;
     if (!AskYesNo("Repair the Process Data database?", DatabaseTitle)) return;
     std::string report;
-    {
+    try {
         const BusyPointer busy;
         report = RepairText(RepairDB(Suite.DatabasePath));
+    } catch (const RuntimeError& error) {
+        report = error.Description;  // the file stays as it was
     }
     if (!report.empty()) Tell(report, DatabaseTitle, Icon::Exclamation);
     Tell("End of repair procedure!", DatabaseTitle);

@@ -132,6 +132,8 @@ void frmTRProg::Activated() {
     // A calculation may have been saved to another database; what is done here is done to the one shown.
     Suite.DatabaseFile = lblPath(0).Caption();
     Suite.DatabasePath = FolderOf(Suite.DatabaseFile);
+    // Another process may have put a new file in its place meanwhile.
+    if (!OpenView()) return CloseView();
     if (!Calc.Tag.empty()) view_->Find(Calc.Tag);
     if (!view_->HasRecord()) view_->First();
     ShowRecord();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 
 #include "core/CalcRecord.h"
 #include "core/Suite.h"
@@ -127,6 +128,30 @@ std::vector<std::string> SalvageAll(Database& from, const fs::path& to) {
     return lost;
 }
 
+std::uintmax_t BigEndian(std::string_view bytes) {
+    std::uintmax_t value = 0;
+    for (const char byte : bytes) value = value << 8U | static_cast<unsigned char>(byte);
+    return value;
+}
+
+// The engine refuses a file that is shorter than its first page says, as a copy that broke off. Makes a copy
+// of the full length, whose missing pages are blank; false for a file that is not cut.
+bool PadCutFile(const fs::path& file, const fs::path& padded) {
+    constexpr std::size_t header = 100, pageSizeAt = 16, pageCountAt = 28;
+    constexpr std::uintmax_t mostMissing = 256U << 20U;
+    std::string first(header, '\0');
+    std::ifstream source(file, std::ios::binary);
+    if (!source.read(first.data(), static_cast<std::streamsize>(header))) return false;
+    std::uintmax_t pageSize = BigEndian(std::string_view(first).substr(pageSizeAt, 2));
+    if (pageSize == 1) pageSize = 65536;
+    const std::uintmax_t full = pageSize * BigEndian(std::string_view(first).substr(pageCountAt, 4));
+    const std::uintmax_t size = fs::file_size(file);
+    if (size >= full || full - size > mostMissing) return false;
+    CopyWhole(file, padded);
+    fs::resize_file(padded, full);
+    return true;
+}
+
 void DeleteRows(Database& database, const std::string& tag) {
     for (const RecordTable* table : RecordTables()) {
         if (!database.HasTable(table->Shape.Name)) continue;
@@ -204,9 +229,11 @@ void CompactDB(const std::string& folder) {
 
 RepairReport RepairDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
-    const std::unique_ptr<Database> database = OpenRecords(name);
+    const Scratch padded(InFolder(folder, "TRDB.FIX"));
+    const bool isCut = PadCutFile(MachinePath(name), padded.File);
+    const std::unique_ptr<Database> database = OpenRecords(isCut ? SuitePath(padded.File) : name);
     RepairReport report;
-    if (database->Fault().empty()) {
+    if (!isCut && database->Fault().empty()) {
         database->Reindex();
         return report;
     }

@@ -2,7 +2,10 @@
 // the export.
 #include "records/RecordFiles.h"
 
+#include <csignal>
+
 #include <sqlite3.h>
+#include <sys/resource.h>
 
 #include "platform/NumberText.h"
 #include "records/RecordExport.h"
@@ -212,6 +215,61 @@ TEST_F(RecordFilesTest, RepairKeepsWhatCanBeRead) {
         EXPECT_EQ(ReadBytes(report.KeptAs), damaged);
     }
     EXPECT_GT(damagedFiles, 20);
+}
+
+// No file may grow for the life of this, as on a disk that is full.
+class FullDisk {
+public:
+    explicit FullDisk(std::uintmax_t size) : former_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &limit_);
+        const rlimit full{size, limit_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &limit_);
+        std::signal(SIGXFSZ, former_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit limit_{};
+    void (*former_)(int);
+};
+
+TEST_F(RecordFilesTest, AFullDiskLosesNothing) {
+    for (int i = 0; i < 30; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
+    int refused = 0;
+    {
+        const FullDisk full(fs::file_size(File()));
+        for (int i = 30; i < 45; ++i) {
+            TakeFilledRecord(i % 5 + 1, 1, "P-" + std::to_string(i));
+            if (!SaveTRCalc()) ++refused;
+        }
+        EXPECT_GT(refused, 0);
+        EXPECT_EQ(Calc.ChangedFlag, words::Yes) << "still to be saved";
+    }
+    const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+    EXPECT_EQ(database->Fault(), "");
+    EXPECT_EQ(Recordset(*database, HeadTable().Shape).RecordCount(), 45 - refused);
+    EXPECT_TRUE(SaveTRCalc()) << "once there is room";
+}
+
+// The commonest damage: a copy that broke off.
+TEST_F(RecordFilesTest, RepairReadsAFileThatWasCutShort) {
+    constexpr int count = 60;
+    for (int i = 0; i < count; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
+    const std::string whole = Bytes();
+    for (const std::size_t lost : {std::size_t{100}, std::size_t{4096}, whole.size() / 4}) {
+        const std::string cut = whole.substr(0, whole.size() - lost);
+        WriteData("TRDB.MDB", cut);
+        const RepairReport report = RepairDB(Suite.DatabasePath);
+        EXPECT_TRUE(report.WasDamaged) << lost;
+        EXPECT_EQ(ReadBytes(report.KeptAs), cut);
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        EXPECT_EQ(database->Fault(), "");
+        EXPECT_EQ(report.Lost.empty(), lost == 100) << "the blank end of the last page, or rows";
+    }
 }
 
 TEST_F(RecordFilesTest, DeleteTakesAllRowsOfATag) {

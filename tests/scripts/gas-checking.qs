@@ -59,7 +59,22 @@ type txtInletPipeLen 0
 answer OK
 click cmdCalculate(1)
 expect-box "Data checking" "Length must be > zero " OK Stop
+type txtInletPipeLen 1e8
+answer OK
+click cmdCalculate(1)
+expect-box "Data checking" "Length must be < 10000000 ft" OK Stop
 type txtInletPipeLen 1000
+type txtInletPipeID 0
+answer OK
+click cmdCalculate(1)
+expect-box "Data checking" "Pipe inside diameter must be > zero " OK Stop
+type txtInletPipeID 4.026
+type txtPipeCond 101
+answer OK
+click cmdCalculate(1)
+expect-box "Data checking" "Condition must be between 0 and 100" OK Stop
+expect-focus txtPipeCond
+type txtPipeCond 0
 
 type txtCritPressure(1) -5
 answer OK
@@ -140,6 +155,21 @@ answer OK
 click cmdCalculate(1)
 expect-box "Line pressure loss calculation" "Zero pressure reached @ 7 % of equiv line length\nFlow cannot be maintainedIncrease line size, or\nIncrease pressure, or\nDecrease flow rate" OK Stop
 expect txtDestPress(1) -14.7
+
+# So close to the critical point the compressibility factor does not settle; it is said once.
+type txtEquip(1) 0
+type txtFlow(1) 5000
+type txtTemp(1) 65.33
+type txtPressure(1) 175.3
+type txtMW(1) 60
+type txtCritTemp(1) 700
+type txtCritPressure(1) 500
+answer OK
+click cmdCalculate(1)
+expect-box "Compressibility Factor Calculation" "Will not converge\nUse data with care" OK Question
+type txtTemp(1) 60
+type txtMW(1) 16.04
+type txtCritTemp(1) 343
 
 # A critical pressure beyond all sense ends in a message, with the form in order.
 type txtEquip(1) 0
