@@ -120,18 +120,20 @@ const TextCase Texts[] = {
     {"Manufacturer", 30, [](const std::string& text) { Calc.HeadingText[6] = text; }},
     {"Note 3", 60, [](const std::string& text) { Calc.HeadingText[10] = text; }},
     {"Pipe Material", 30, [](const std::string& text) { Calc.PipeMaterial = text; }},
-    {"Flow Units", 8, [](const std::string& text) { Calc.UnitName[1] = text; }},
+    {"Flow Units", 8, [](const std::string& text) { Calc.UnitName[0] = Calc.UnitName[1] = text; }},
 };
 
 // Characters count, not bytes; what is too long is refused by name before anything is written.
 TEST_F(SaveLoadTest, TextsEmptyLongestAndTooLong) {
-    for (const TextCase& each : Texts) {
-        for (const char* letter : {"x", "\u00fc"}) {
-            SCOPED_TRACE(std::string(each.Field) + letter);
+    for (int program = 1; program <= 5; ++program) {
+        for (const TextCase& each : Texts) {
+            if (program > 3 && std::string(each.Field) == "Pipe Material") continue;  // there is no pipe
+            const char* const letter = program % 2 == 0 ? "x" : "\u00fc";
+            SCOPED_TRACE(std::string(each.Field) + letter + std::to_string(program));
             std::string text;
             for (std::size_t i = 0; i < each.Longest; ++i) text += letter;
 
-            TakeFilledRecord(1, 1, "T-1");
+            TakeFilledRecord(program, 1, "T-1");
             each.Set(text + letter);
             User.Boxes.clear();
             EXPECT_FALSE(SaveTRCalc());
@@ -141,22 +143,26 @@ TEST_F(SaveLoadTest, TextsEmptyLongestAndTooLong) {
             EXPECT_EQ(User.Boxes[0].Title, Suite.DatabaseFile);
             EXPECT_EQ(RowsWith(Calc.Tag), "");
 
-            TakeFilledRecord(1, 1, "T-1");
+            TakeFilledRecord(program, 1, "T-1");
             each.Set(text);
             EXPECT_TRUE(SaveTRCalc()) << User.LastText();
-            const RowValues given = RowOfRecord(HeadTable());
+            const RowValues head = RowOfRecord(HeadTable());
+            const RowValues own = RowOfRecord(*ProgramTable(program));
             ASSERT_TRUE(Display(Calc.Tag));
-            EXPECT_EQ(RowOfRecord(HeadTable()), given);
+            EXPECT_EQ(RowOfRecord(HeadTable()), head);
+            EXPECT_EQ(RowOfRecord(*ProgramTable(program)), own);
             DeleteRecord(Suite.DatabaseFile, Calc.Tag);
         }
     }
-    TakeFilledRecord(1, 1, "T-2");
-    for (const TextCase& each : Texts) {
-        if (std::string(each.Field) != "Tag") each.Set("");
+    for (int program = 1; program <= 5; ++program) {
+        TakeFilledRecord(program, 1, "T-2" + std::to_string(program));
+        for (const TextCase& each : Texts) {
+            if (std::string(each.Field) != "Tag") each.Set("");
+        }
+        ASSERT_TRUE(SaveTRCalc());
+        ASSERT_TRUE(Display("T-2" + std::to_string(program)));
+        EXPECT_EQ(Calc.FluidName + Calc.ProgramTitle + Calc.CaseText[8] + Calc.HeadingText[6], "");
     }
-    ASSERT_TRUE(SaveTRCalc());
-    ASSERT_TRUE(Display("T-2"));
-    EXPECT_EQ(Calc.FluidName + Calc.ProgramTitle + Calc.CaseText[8] + Calc.HeadingText[6], "");
     User.Boxes.clear();
     TakeFilledRecord(1, 1, "T-3");
     Calc.CaseInput[3][0] = 1e39;
