@@ -38,7 +38,7 @@ void SaveDefaultPaths();
 // Reads twelve numbers from a colour file into the colours; throws, with nothing changed, when the file is
 // missing or short or holds a word. A number is kept as it stands there, though only its 24 bits of colour
 // are shown.
-void ReadColourFile(const std::string& file);
+void ReadColourFile(const std::string& name);
 
 // Writes TRColr.txt to the data files' folder, one number a line, slot 1 first.
 void SaveColours();

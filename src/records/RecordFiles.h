@@ -27,7 +27,7 @@ std::string FolderOf(const std::string& file);
 std::unique_ptr<Database> OpenRecords(const std::string& file);
 
 // Makes an empty database under a name, in place of one that is there, without a word.
-void MakeEmptyDatabase(const std::string& file);
+void MakeEmptyDatabase(const std::string& name);
 
 // Makes an empty database in Suite.DatabasePath and tells so with the title Calc.MessageTitle; sets
 // Suite.DatabaseFile. A database that is there already is replaced without a question when the user has
