@@ -98,7 +98,6 @@ public:
         while (!loaded_.empty()) Unload(loaded_.back()->Name());
         Bury();
         Ended = false;
-        AfterAct = {};
     }
 
     std::vector<Factory> Factories;

@@ -319,5 +319,21 @@ TEST_F(LiquidForm, CopiesInputsAndResultsForASpreadsheet) {
     EXPECT_EQ(User.Copied.find("Gate"), std::string::npos) << "a row without a value";
 }
 
+TEST_F(LiquidForm, AnEditOfASavedRecordBlanksItsResults) {
+    FillGoodCase(1);
+    Type(Form().txtTagNum, "P-1");
+    Calculate(1);
+    User.Answers = {Answer::Yes};  // make the database
+    Suite.DefaultPaths[1] = SuitePath(Folder);
+    ClickControl(Form().mnuSave);
+    ClickControl(Form().mnuProgram);
+    ClickControl(ControlOf("frmTRProg", "cmdDBOpen"));
+    ClickControl(ControlOf("frmTRProg", "cmdDisplayCalc"));
+    ASSERT_FALSE(Form().txtDestPress(1).Text().empty());
+    EXPECT_NE(Calc.FormLoading, words::Yes);
+    Type(Form().txtFlow(1), "90000");
+    EXPECT_EQ(Form().txtDestPress(1).Text(), "") << Calc.FormLoading << Calc.ResultsClearable[1];
+}
+
 }  // namespace
 }  // namespace quillmetra
