@@ -4,6 +4,7 @@
 #include "core/Filling.h"
 #include "core/StartUp.h"
 #include "core/Words.h"
+#include "forms/DataCheck.h"
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
@@ -70,6 +71,10 @@ bool DataForm::CheckState() {
     if (Calc.PressureMode != words::Absolute) Calc.FlowPressure += Calc.BaroPressure;
     NoteEntered(Calc.CaseIndex);
     if (!HasState(Calc.CaseIndex)) return false;
+    if (Calc.FlowTemperature <= AbsoluteZeroF) {
+        return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[2])),
+                          txtTemp(Calc.CaseIndex));
+    }
     Calc.TempPressureOk = words::Yes;
     return true;
 }
@@ -77,11 +82,9 @@ bool DataForm::CheckState() {
 void DataForm::cmdOK_Click(int index) {
     Calc.CaseIndex = index;
     for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
-    if (Calc.FluidDataSource == words::Loaded && CanPick(index)) {
-        UpdateFluidProperties();
-    } else {
-        mnuCase_Click(index);
-    }
+    const bool enough = HasState(index) || (Calc.SteamKind == words::Saturated && CanPick(index));
+    if (!enough) return TellNeedsState(index);
+    if (Calc.FluidDataSource == words::Loaded) UpdateFluidProperties();
 }
 
 double DataForm::TemperatureShown(double degF) {

@@ -107,12 +107,13 @@ void MixturePanel::StorePercents() const {
 }
 
 bool MixturePanel::CheckPercents() const {
+    constexpr int gasData = 5;
     const auto& percents = Calc.FluidPercent;
     const bool negative = std::any_of(percents.begin(), percents.end(), [](double each) { return each < 0; });
     const bool any = std::any_of(percents.begin(), percents.end(), [](double each) { return each > 0; });
     if (any && !negative) return true;
     Tell(negative ? "A percentage must not be less than zero" : "Sum of percentages must equal 100",
-         "Mixture Calculation");
+         "Mixture Calculation", Calc.CurrentProgram == gasData ? Icon::Stop : Icon::None);
     return false;
 }
 

@@ -108,6 +108,7 @@ bool frmWaterHammer::CheckSelectedTime() {
     if (Calc.SelectedTime > 0) return true;
     CalcCriticalClosing();
     ShowResults(false);
+    mnuPrint.SetEnabled(false);  // a report is of a calculation that is whole
     return RefuseData("Selected closing time must be greater than zero", txtSelectedTime, Icon::None);
 }
 
@@ -125,9 +126,9 @@ bool frmWaterHammer::CheckHammerData() {
 void frmWaterHammer::cmdCalculateliq_Click() {
     StoreForm();
     lblLiqTestBasis.SetCaption(Calc.LiquidBasis);
-    if (!CheckHammerData()) return;
     const bool selected = txtSelectedTime.Visible();
     try {
+        if (!CheckHammerData()) return;
         CalcCriticalClosing();
         if (selected) CalcSelectedClosing();
     } catch (const RuntimeError& error) {

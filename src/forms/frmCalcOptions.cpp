@@ -215,7 +215,7 @@ void frmCalcOptions::CloseCalcOpts() {
     Calc.HideResults = words::Yes;
     RefreshTitle();
     Calc.HideResults = words::No;
-    if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::Stays);
+    if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::IsConverted);
     TakeBarometer();
     RefreshTitle();
     const bool modeStays = Calc.PressureMode != PressureChoice();

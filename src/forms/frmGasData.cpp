@@ -5,6 +5,7 @@
 #include "core/StartUp.h"
 #include "core/Words.h"
 #include "forms/DataCheck.h"
+#include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "units/Temperature.h"
 #include "units/Viscosity.h"
@@ -63,7 +64,8 @@ bool frmGasData::CheckState() {
 
 bool frmGasData::IsTemperatureEntered(int caseIndex) {
     const auto i = static_cast<std::size_t>(caseIndex);
-    if (Calc.CaseInput[2][i] == SkippedTemperature) return Calc.TemperatureEntered[i] == words::Entered;
+    if (Val(txtTemp(caseIndex).Text()) == SkippedTemperature)
+        return Calc.TemperatureEntered[i] == words::Entered;
     return DataForm::IsTemperatureEntered(caseIndex);
 }
 
