@@ -136,6 +136,20 @@ leave
 expect-message Update Fluid Properties?
 expect-box "Data checking" "Flow pressure must be greater than zero" OK Stop
 
+# In a fresh case a temperature of exactly 1 is none.
+answer No
+click mnuProgram
+expect-message Save changes?
+new 5
+type txtPressure(0) 100
+type txtTemp(0) 1
+leave
+expect-state mnuPureGases1 disabled
+expect-state mnuSatSteam1 enabled
+answer OK
+click cmdOK(0)
+expect-box "Fluid Properties" "Maximum Case \nNeed the pressure and temperature" OK
+
 # Base conditions as on the gas line form.
 click mnuSTP
 expect unSTPPressure psia

@@ -114,6 +114,13 @@ expect txtTemp(0) 26.6667
 expect unDensity kg/m3
 expect txtMW(0) 90.35
 expect unBulkMod kpa
+# Below absolute zero there is no liquid.
+type txtTemp(0) -300
+answer Yes
+answer OK
+leave
+expect-message Update Fluid Properties?
+expect-box "Data checking" "Flow Temperature must be greater than -273.15" OK Stop
 # A temperature of nothing is none.
 type txtTemp(0) 0
 answer No

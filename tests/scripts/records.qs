@@ -195,6 +195,19 @@ click cmdDisplayCalc
 expect-form frmWaterHammer
 expect txtMaxLiqFlow 400000
 click mnuProgram
+# An edit of a saved record blanks its results, and is asked for.
+click cmdFirst
+click cmdNext
+click cmdNext
+expect txtTagNum P-102
+click cmdDisplayCalc
+expect txtDestPress(1) 90.31
+type txtFlow(1) 50000
+expect txtDestPress(1) ""
+answer No
+click mnuProgram
+expect-message Save changes?
+click cmdLast
 click cmdPrev
 click cmdDisplayCalc
 expect-title Ver.6.0.0.  Gas properties at pressure and temperature - Superheated Steam
