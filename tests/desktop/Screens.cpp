@@ -278,6 +278,7 @@ void ShootSchemes() {
         Type("txtInletPipeLen", Control::NoIndex, "1300");
         MoveFocus(ControlOf(Calculation, "txtInletPipeID"));
         Shoot(scheme);
+        Click(Calculation, "mnuSave");
         Click(Calculation, "mnuProgram");
     }
     Suite.Colours = former;
