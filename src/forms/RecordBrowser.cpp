@@ -162,12 +162,7 @@ void frmTRProg::ShowRecord() {
     const RecordHead& head = view_->Head();
     TakeFluidType(head.FluidType, head.ProgramNumber);
     Calc.Tag = head.Tag;
-    txtTagNum.SetText(head.Tag);
-    txtFluidType.SetText(head.FluidType);
-    txtTRCalc.SetText(head.Calculation);
-    txtCalcBy.SetText(std::string(Trim(head.CalcBy)));
-    txtDataDate.SetText(head.DataDate);
-    txtCalcDate.SetText(head.CalcDate);
+    Record.Show(head);
     lblCurrentRecord.SetCaption(std::to_string(view_->Position()));
     lblNumRecords.SetCaption(std::to_string(view_->Count()));
 }
@@ -298,7 +293,7 @@ void frmTRProg::cmdSearchDate_Click() {
 // --- Display -----------------------------------------------------------------------------------------------
 
 void frmTRProg::cmdDisplayCalc_Click() {
-    if (txtTagNum.Text().empty()) return;
+    if (Record.txtTagNum.Text().empty()) return;
     if (Calc.Tag.empty()) {
         Tell("Record must have a tag number", "Display Record", Icon::Stop);
         return;

@@ -55,23 +55,14 @@ frmPrintControl::frmPrintControl() : SuiteForm("frmPrintControl") {
     const struct {
         TextBox& Box;
         Label& Name;
-        bool Locked;
-    } fields[] = {{txtTagNum, lblTagNum, true},
-                  {txtTRCalc, lblTRCalc, true},
-                  {txtFluidType, lblFluidType, true},
-                  {txtCalcBy, lblCalcBy, true},
-                  {txtCalcDate, lblCalcDate, true},
-                  {txtDataDate, lblDataDate, true},
-                  {txtPrintoutDate, lblPrintoutDate, false},
-                  {txtTitle, lblTitle, false},
-                  {txtSubTitle, lblSubTitle, false},
-                  {txtProjectName, lblProjectName, false},
-                  {txtProjectNo, lblProjectNo, false}};
+    } fields[] = {{txtPrintoutDate, lblPrintoutDate},
+                  {txtTitle, lblTitle},
+                  {txtSubTitle, lblSubTitle},
+                  {txtProjectName, lblProjectName},
+                  {txtProjectNo, lblProjectNo}};
     for (const auto& field : fields) {
         field.Box.Describe(&field.Name);
-        field.Box.Locked = field.Locked;
-        field.Box.TabStop = !field.Locked;
-        field.Box.ColourGroup = field.Locked ? 4 : 2;
+        field.Box.ColourGroup = 2;
         field.Box.MaxLength = TitleLength;
     }
     chkPrintDate.SetToolTip("Not ticked, each page has the date of its calculation");
@@ -150,12 +141,7 @@ void frmPrintControl::FieldData() {
 void frmPrintControl::ShowHead() {
     const RecordHead& head = view_->Head();
     lblCurrentRecord.SetCaption(std::to_string(view_->Position()));
-    txtTagNum.SetText(head.Tag);
-    txtTRCalc.SetText(head.Calculation);
-    txtFluidType.SetText(head.FluidType);
-    txtCalcBy.SetText(head.CalcBy);
-    txtCalcDate.SetText(head.CalcDate);
-    txtDataDate.SetText(head.DataDate);
+    Record.Show(head);
 }
 
 void frmPrintControl::ClearPrintData() {
@@ -178,7 +164,7 @@ void frmPrintControl::ShowTitles(const Titles& titles) {
 }
 
 void frmPrintControl::chkPrintDate_Click() {
-    txtPrintoutDate.SetText(chkPrintDate.Checked() ? Today() : txtCalcDate.Text());
+    txtPrintoutDate.SetText(chkPrintDate.Checked() ? Today() : Record.txtCalcDate.Text());
 }
 
 void frmPrintControl::chkUse_Click() {
@@ -222,7 +208,7 @@ void frmPrintControl::cmdSaveInDb_Click() {
         Tell("You must create the default path first", "Database TRDB.MDB");
         return;
     }
-    if (txtTagNum.Text().empty()) return;
+    if (Record.txtTagNum.Text().empty()) return;
     std::ranges::copy(TitleTexts(), Calc.HeadingText.begin() + FirstTitle);
     Calc.HeadingText[1] = txtPrintoutDate.Text();
     if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag);

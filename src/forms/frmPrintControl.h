@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/RecordFields.h"
 #include "forms/SuiteForm.h"
 #include "records/RecordView.h"
 
@@ -26,18 +27,7 @@ public:
 
     Frame fraRecord{*this, "fraRecord", "Selected record"};
     Label lblCurrentRecord{fraRecord, "lblCurrentRecord"};
-    Label lblTagNum{fraRecord, "lblTagNum", "Tag number"};
-    TextBox txtTagNum{fraRecord, "txtTagNum"};
-    Label lblTRCalc{fraRecord, "lblTRCalc", "Calculation"};
-    TextBox txtTRCalc{fraRecord, "txtTRCalc"};
-    Label lblFluidType{fraRecord, "lblFluidType", "Fluid type"};
-    TextBox txtFluidType{fraRecord, "txtFluidType"};
-    Label lblCalcBy{fraRecord, "lblCalcBy", "Calculated by"};
-    TextBox txtCalcBy{fraRecord, "txtCalcBy"};
-    Label lblCalcDate{fraRecord, "lblCalcDate", "Calculation date"};
-    TextBox txtCalcDate{fraRecord, "txtCalcDate"};
-    Label lblDataDate{fraRecord, "lblDataDate", "Process data date"};
-    TextBox txtDataDate{fraRecord, "txtDataDate"};
+    RecordFields Record{fraRecord};
 
     Frame fraHeadings{*this, "fraHeadings", "Headings"};
     Label lblPrintoutDate{fraHeadings, "lblPrintoutDate", "Printout date"};

@@ -24,16 +24,6 @@ bool PromptsAreHidden() {
 }  // namespace
 
 frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
-    const struct {
-        TextBox& Box;
-        Label& Name;
-    } fields[] = {{txtTagNum, lblTagNum}, {txtTRCalc, lblTRCalc},     {txtFluidType, lblFluidType},
-                  {txtCalcBy, lblCalcBy}, {txtCalcDate, lblCalcDate}, {txtDataDate, lblDataDate}};
-    for (const auto& field : fields) {
-        field.Box.Locked = true;
-        field.Box.ColourGroup = 4;
-        field.Box.Describe(&field.Name);
-    }
     lstTags.Describe(&fraTags);
     lstTags.ColourGroup = 4;
     for (Control* control : Controls()) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <memory>
 
+#include "forms/RecordFields.h"
 #include "forms/SuiteForm.h"
 #include "records/RecordView.h"
 
@@ -62,18 +63,7 @@ public:
     ControlArray<Label> lblPath{fraDatabase, "lblPath", {0}, ""};
 
     Frame fraRecord{*this, "fraRecord", "Selected record"};
-    Label lblTagNum{fraRecord, "lblTagNum", "Tag number"};
-    TextBox txtTagNum{fraRecord, "txtTagNum"};
-    Label lblTRCalc{fraRecord, "lblTRCalc", "Calculation"};
-    TextBox txtTRCalc{fraRecord, "txtTRCalc"};
-    Label lblFluidType{fraRecord, "lblFluidType", "Fluid type"};
-    TextBox txtFluidType{fraRecord, "txtFluidType"};
-    Label lblCalcBy{fraRecord, "lblCalcBy", "Calculated by"};
-    TextBox txtCalcBy{fraRecord, "txtCalcBy"};
-    Label lblCalcDate{fraRecord, "lblCalcDate", "Calculation date"};
-    TextBox txtCalcDate{fraRecord, "txtCalcDate"};
-    Label lblDataDate{fraRecord, "lblDataDate", "Process data date"};
-    TextBox txtDataDate{fraRecord, "txtDataDate"};
+    RecordFields Record{fraRecord};
     Label lblCurrentRecord{fraRecord, "lblCurrentRecord"};
     Label lblNumRecords{fraRecord, "lblNumRecords"};
     CommandButton cmdFirst{fraRecord, "cmdFirst", "&First"};

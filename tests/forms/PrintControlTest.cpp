@@ -79,7 +79,7 @@ TEST_F(PrintControl, PagesAreThoseOfTheSinglePrint) {
     Type(control.txtTitle, "Title");
     Type(control.txtProjectNo, "4471");
     ClickControl(control.cmdAll);
-    EXPECT_EQ(control.txtTagNum.Text(), "");  // nothing is read for it
+    EXPECT_EQ(control.Record.txtTagNum.Text(), "");  // nothing is read for it
     ClickControl(control.cmdProceed);
     ASSERT_EQ(User.Pages.size(), 5U) << User.LastText();
     for (std::size_t i = 0; i < 5; ++i) EXPECT_EQ(PageAsText(User.Pages[i]), single[i]);
@@ -95,15 +95,15 @@ TEST_F(PrintControl, PickedRecordsAreShownAndPrintedWithTodaysDate) {
     SetToday("2027-02-03");
     frmPrintControl& control = Open();
     PickRow(control.lstTags, 2);
-    EXPECT_EQ(control.txtTRCalc.Text(), "Waterhammer");
-    EXPECT_EQ(control.txtCalcBy.Text(), Calc.CaseText[8]);
+    EXPECT_EQ(control.Record.txtTRCalc.Text(), "Waterhammer");
+    EXPECT_EQ(control.Record.txtCalcBy.Text(), Calc.CaseText[8]);
     EXPECT_EQ(control.lblCurrentRecord.Caption(), "3");
     EXPECT_EQ(control.txtPrintoutDate.Text(), "11/24/2026");
     for (const auto& [word, tag] :
          {std::pair{"Next", "T-4"}, {"Last", "T-5"}, {"Previous", "T-4"}, {"First", "T-1"}}) {
         Calc.MessageText = word;
         control.FieldData();
-        EXPECT_EQ(control.txtTagNum.Text(), tag);
+        EXPECT_EQ(control.Record.txtTagNum.Text(), tag);
     }
     PickRow(control.lstTags, 4);
     ClickControl(control.chkPrintDate);
