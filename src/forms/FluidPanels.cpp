@@ -122,7 +122,7 @@ void MixturePanel::ClearPercents() {
 }
 
 void MixturePanel::ShowRemaining() {
-    std::array<double, MostComponents> percents;
+    std::array<double, MostComponents> percents{};
     for (int i = 0; i < MostComponents; ++i) {
         percents[static_cast<std::size_t>(i)] = Val(txtPercent(i).Text());
     }
