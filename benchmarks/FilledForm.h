@@ -2,11 +2,11 @@
 // forms.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/StartUp.h"
 #include "core/Suite.h"
@@ -21,6 +21,12 @@
 
 namespace quillmetra {
 
+// What a user types for the case, box by box.
+inline const std::vector<std::pair<std::string, std::string>> FilledBoxes = {
+    {"txtInletPipeLen", "1000"}, {"txtInletPipeID", "4.026"}, {"txtTemp(0)", "60"},
+    {"txtPressure(0)", "100"},   {"txtSGFlow(0)", "1"},       {"txtViscosity(0)", "1"},
+    {"txtFlow(0)", "100000"}};
+
 class FilledForm {
 public:
     FilledForm() : host_(out_) {
@@ -33,11 +39,7 @@ public:
         ClickControl(ControlOf("frmTRProg", "cmdOK"));
         ClickControl(ControlOf("frmObxProg", "cmdOK"));
         Suite.HideFluidReminder = Suite.HideFlowStatus = words::Yes;
-        const std::pair<Control&, const char*> boxes[] = {
-            {Form().txtInletPipeLen, "1000"}, {Form().txtInletPipeID, "4.026"}, {Form().txtTemp(0), "60"},
-            {Form().txtPressure(0), "100"},   {Form().txtSGFlow(0), "1"},       {Form().txtViscosity(0), "1"},
-            {Form().txtFlow(0), "100000"}};
-        for (const auto& [box, text] : boxes) TypeText(box, text);
+        for (const auto& [box, text] : FilledBoxes) TypeText(Named(box), text);
         ClickControl(Form().cmdCalculate(0));
     }
     ~FilledForm() {
@@ -47,19 +49,13 @@ public:
     FilledForm(const FilledForm&) = delete;
     FilledForm& operator=(const FilledForm&) = delete;
 
-    frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
+    static frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
 
-    // A table of liquids with so many rows, the first of them the heading.
-    std::string WriteLiquids(int rows) const {
-        const std::filesystem::path path = folder_.Path() / "TRData" / "Liquid.txt";
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream file(path, std::ios::binary);
-        for (int row = 0; row < rows; ++row) {
-            file << "Liquid " << row
-                 << "                  "
-                    ",1,92.138,0.8719,605.5,60,0.62,160,0.37,598.5,231.1,0.4,0.5,40,187,12,155,\r\n";
-        }
-        return SuitePath(path);
+    // "txtFlow(0)" for an element of an array.
+    static Control& Named(const std::string& name) {
+        const std::size_t bracket = name.find('(');
+        const int index = bracket == std::string::npos ? Control::NoIndex : name[bracket + 1] - '0';
+        return ControlOf("frmLiqLineLoss", name.substr(0, bracket), index);
     }
 
 private:

@@ -1,5 +1,5 @@
-// A database of 100,000 records in a folder that lasts as long as the process, and the same head rows written
-// by the bare engine.
+// A database of 100,000 records in a folder that lasts as long as the process, and an empty one for rows in
+// bulk.
 #pragma once
 
 #include <filesystem>
@@ -41,8 +41,7 @@ inline void TakeRecord(int i) {
     for (std::size_t row = 0; row < 13; ++row) Calc.CaseInput[row].fill(static_cast<double>(i));
 }
 
-inline void AddRow(Recordset& rows, const RecordTable& table) {
-    const RowValues values = RowOfRecord(table);
+inline void AddRow(Recordset& rows, const RowValues& values) {
     rows.AddNew();
     for (std::size_t f = 0; f < values.size(); ++f) {
         if (values[f]) rows.Set(f, *values[f]);
@@ -67,7 +66,7 @@ inline const std::string& ManyRecordsFile() {
             Recordset rows(*database, table->Shape);
             for (int i = 0; i < ManyRecords; ++i) {
                 TakeRecord(i);
-                AddRow(rows, *table);
+                AddRow(rows, RowOfRecord(*table));
             }
         }
         all.Commit();
@@ -77,7 +76,7 @@ inline const std::string& ManyRecordsFile() {
     return file;
 }
 
-// A new database for a comparison of inserts, with one table of heads.
+// A new database with one table, that of the heads.
 class EmptyHeads {
 public:
     EmptyHeads() { Database::Create(File(), Kind, {HeadTable().Shape}); }

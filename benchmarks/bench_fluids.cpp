@@ -1,84 +1,228 @@
-// A liquid table of 10,000 rows read and matched, and a row parsed with its properties.
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <stdexcept>
-#include <string>
-
-#include <benchmark/benchmark.h>
-
+// The properties that a form asks for in one click: a liquid and a gas of their tables, steam from its files,
+// and both kinds of mixture.
+#include "benchmarks/Measure.h"
+#include "benchmarks/PlainFluids.h"
 #include "core/CalcRecord.h"
+#include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
+#include "fluids/GasData.h"
 #include "fluids/LiquidData.h"
-#include "platform/TextFiles.h"
+#include "fluids/Mixtures.h"
+#include "script/TemporaryFolder.h"
 
 namespace {
 
 using namespace quillmetra;
 
-constexpr const char* Toluene =
-    "Toluene                        "
-    ",1,92.138,0.8718,605.5,60,0.621,200,0.284,598.5,231.1,0.399,0.51,39,220,13,155,";
+constexpr Surroundings LiquidFlow = {.Temperature = 60, .Pressure = 500, .Barometer = 14.7};
+constexpr Surroundings GasFlow = {.Temperature = 500, .Pressure = 164.7, .Barometer = 14.7};
+constexpr int LiquidLine = 1, GasLine = 2;
 
-// A folder of its own with a long Liquid.txt, gone when the program ends.
-class LongTable {
+// A record of a line-loss program with its flow, and the shipped tables in place.
+class Ready {
 public:
-    LongTable() : folder_((std::filesystem::temp_directory_path() / "quillmetra-bench-XXXXXX").string()) {
-        if (mkdtemp(folder_.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        std::ofstream file(std::filesystem::path(folder_) / "Liquid.txt", std::ios::binary);
-        file << "Name,Tp,MW\r\n";
-        for (int i = 1; i < 10000; ++i)
-            file << "Liquid number " << i << std::string(Toluene).substr(20) << "\r\n";
-        file << Toluene << "\r\n";
-        file.close();
-        Suite.DefaultPaths[4] = SuitePath(folder_);
-        Calc.FluidType = words::Liquid;
-        Calc.FluidName = "Toluene";
+    explicit Ready(int program) : Flow(program == GasLine ? GasFlow : LiquidFlow) {
+        Suite = SuiteState();
+        SeedShippedData(SuitePath(folder_.Path()));
+        Suite.DefaultPaths.fill(SuitePath(folder_.Path() / "TRData"));
+        Suite.DefaultPaths[5] = SuitePath(folder_.Path());
+        Calc = CalcRecord();
+        Calc.CurrentProgram = program;
+        Calc.FluidType = program == GasLine ? words::Gas : words::Liquid;
+        Calc.UnitName[2] = "degF";
+        Calc.UnitName[12] = "degR";
+        Calc.FlowTemperature = Calc.CaseInput[2][0] = Flow.Temperature;
+        Calc.FlowPressure = Flow.Pressure;
+        Calc.BaroPressure = Flow.Barometer;
     }
-    ~LongTable() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
+
+    // The first row of the table.
+    std::string Pick() const {
+        Calc.FluidOk = words::FluidPicked;
+        return Calc.FluidRow = ReadFluidRows(Calc.FluidType).front();
     }
-    LongTable(const LongTable&) = delete;
-    LongTable& operator=(const LongTable&) = delete;
+
+    // The first six rows in equal parts.
+    std::vector<std::string> Mix() const {
+        std::vector<std::string> rows = ReadFluidRows(Calc.FluidType);
+        rows.resize(6);
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            AddComponent(rows[i]);
+            Calc.FluidPercent[i] = 100.0 / 6;
+        }
+        return rows;
+    }
+
+    const Surroundings Flow;
 
 private:
-    std::string folder_;
+    TemporaryFolder folder_;
 };
 
-void ReadAndMatch(benchmark::State& state) {
-    const LongTable table;
-    for ([[maybe_unused]] auto each : state) {
-        const auto rows = ReadFluidRows(Calc.FluidType);
-        if (FindFluidName(rows, Calc.FluidName) != 9999) state.SkipWithError("not found");
-    }
+// --- One fluid ---------------------------------------------------------------------------------------------
+
+void Liquid(benchmark::State& state) {
+    const Ready ready(LiquidLine);
+    const std::string row = ready.Pick();
+    ParseLiquidRow();
+    const double viscosity = Calc.FluidViscosity;
+    Measure(state, [viscosity] {
+        Calc.FluidViscosity = viscosity;
+        ProcessLiquidData();
+    });
+    const PlainLiquid plain = PlainLiquidOf(row, ready.Flow.Temperature);
+    RequireSame(state, PlainLiquidProperties(plain, ready.Flow, false).Gravity, Calc.FlowingSG);
 }
 
-void FindLastRow(benchmark::State& state) {
-    const LongTable table;
-    for ([[maybe_unused]] auto each : state) {
-        FindFluidRow();
-        benchmark::DoNotOptimize(Calc.FluidRow);
-    }
+void PlainLiquidCorrelations(benchmark::State& state) {
+    const Ready ready(LiquidLine);
+    PlainLiquid liquid = PlainLiquidOf(ready.Pick(), ready.Flow.Temperature);
+    Measure(state, [&] {
+        benchmark::DoNotOptimize(liquid);
+        return PlainLiquidProperties(liquid, ready.Flow, false);
+    });
 }
 
-void ParseAndProcess(benchmark::State& state) {
-    Calc = CalcRecord();
-    Calc.CurrentProgram = 1;
-    Calc.FluidRow = Toluene;
-    Calc.FlowTemperature = 100;
-    Calc.FlowPressure = 114.7;
-    Calc.BaroPressure = 14.7;
-    for ([[maybe_unused]] auto each : state) {
+void LiquidRow(benchmark::State& state) {
+    const Ready ready(LiquidLine);
+    ready.Pick();
+    Measure(state, [] {
         ParseLiquidRow();
-        if (!ProcessLiquidData()) state.SkipWithError("refused");
-    }
+        ProcessLiquidData();
+    });
 }
 
-BENCHMARK(ReadAndMatch)->Unit(benchmark::kMillisecond);
-BENCHMARK(FindLastRow)->Unit(benchmark::kMillisecond);
-BENCHMARK(ParseAndProcess);
+void PlainLiquidRow(benchmark::State& state) {
+    const Ready ready(LiquidLine);
+    const std::string row = ready.Pick();
+    Measure(state, [&] {
+        return PlainLiquidProperties(PlainLiquidOf(row, ready.Flow.Temperature), ready.Flow, false);
+    });
+}
+
+void Gas(benchmark::State& state) {
+    const Ready ready(GasLine);
+    const std::string row = ready.Pick();
+    ParseGasRow();
+    Measure(state, [] { ProcessGasData(); });
+    RequireSame(state, PlainGasProperties(PlainRow(row, 12), ready.Flow).Density, Calc.Density);
+}
+
+void PlainGasCorrelations(benchmark::State& state) {
+    const Ready ready(GasLine);
+    PlainColumns columns = PlainRow(ready.Pick(), 12);
+    Measure(state, [&] {
+        benchmark::DoNotOptimize(columns);
+        return PlainGasProperties(columns, ready.Flow);
+    });
+}
+
+void GasRow(benchmark::State& state) {
+    const Ready ready(GasLine);
+    ready.Pick();
+    Measure(state, [] {
+        ParseGasRow();
+        ProcessGasData();
+    });
+}
+
+void PlainGasRow(benchmark::State& state) {
+    const Ready ready(GasLine);
+    const std::string row = ready.Pick();
+    Measure(state, [&] { return PlainGasProperties(PlainRow(row, 12), ready.Flow); });
+}
+
+BENCHMARK(Liquid)->Name("correlations/liquid");
+BENCHMARK(PlainLiquidCorrelations)->Name("correlations/liquid/plain");
+BENCHMARK(LiquidRow)->Name("correlations/liquid from its row");
+BENCHMARK(PlainLiquidRow)->Name("correlations/liquid from its row/plain");
+BENCHMARK(Gas)->Name("correlations/gas");
+BENCHMARK(PlainGasCorrelations)->Name("correlations/gas/plain");
+BENCHMARK(GasRow)->Name("correlations/gas from its row");
+BENCHMARK(PlainGasRow)->Name("correlations/gas from its row/plain");
+
+// --- Steam -------------------------------------------------------------------------------------------------
+
+PlainSteam SteamInMemory() {
+    return {Suite.DefaultPaths[5] + "\\STEAM.txt", Suite.DefaultPaths[5] + "\\Stm07.Dat"};
+}
+
+void Saturated(benchmark::State& state) {
+    const Ready ready(GasLine);
+    Calc.SteamKind = words::Saturated;
+    Measure(state, GetSteamData);
+    RequireSame(state, PlainSteamOnForm(SteamInMemory().Saturated(ready.Flow.Pressure)).Density,
+                RoundedFour(Calc.Density));
+}
+
+void PlainSaturated(benchmark::State& state) {
+    const Ready ready(GasLine);
+    const PlainSteam steam = SteamInMemory();
+    double pressure = ready.Flow.Pressure;
+    Measure(state, [&] {
+        benchmark::DoNotOptimize(pressure);
+        return PlainSteamOnForm(steam.Saturated(pressure));
+    });
+}
+
+void Superheated(benchmark::State& state) {
+    const Ready ready(GasLine);
+    Calc.SteamKind = words::Superheated;
+    Measure(state, GetSteamData);
+    const PlainSteam::Found plain = SteamInMemory().Superheated(ready.Flow.Pressure, ready.Flow.Temperature);
+    RequireSame(state, PlainSteamOnForm(plain).Density, RoundedFour(Calc.Density));
+}
+
+// Saturation is looked up too, since no steam may be below it.
+void PlainSuperheated(benchmark::State& state) {
+    const Ready ready(GasLine);
+    const PlainSteam steam = SteamInMemory();
+    Surroundings flow = ready.Flow;
+    Measure(state, [&] {
+        benchmark::DoNotOptimize(flow);
+        benchmark::DoNotOptimize(PlainSteamOnForm(steam.Saturated(flow.Pressure)));
+        return PlainSteamOnForm(steam.Superheated(flow.Pressure, flow.Temperature));
+    });
+}
+
+BENCHMARK(Saturated)->Name("steam/saturated");
+BENCHMARK(PlainSaturated)->Name("steam/saturated/plain");
+BENCHMARK(Superheated)->Name("steam/superheated");
+BENCHMARK(PlainSuperheated)->Name("steam/superheated/plain");
+
+// --- Mixtures ----------------------------------------------------------------------------------------------
+
+void LiquidMixture(benchmark::State& state) {
+    const Ready ready(LiquidLine);
+    const std::vector<std::string> rows = ready.Mix();
+    Measure(state, [] { return CalcLiquidMixture() && ProcessLiquidData(); });
+    RequireSame(state, PlainLiquidMixture(rows, ready.Flow).Gravity, Calc.FlowingSG);
+}
+
+void PlainLiquids(benchmark::State& state) {
+    const Ready ready(LiquidLine);
+    const std::vector<std::string> rows = ready.Mix();
+    Measure(state, [&] { return PlainLiquidMixture(rows, ready.Flow); });
+}
+
+void GasMixture(benchmark::State& state) {
+    const Ready ready(GasLine);
+    const std::vector<std::string> rows = ready.Mix();
+    Measure(state, [] { return CalcGasMixtureForLine() && ProcessGasData(); });
+    RequireSame(state, PlainGasMixture(rows, ready.Flow).Density, Calc.Density);
+}
+
+void PlainGases(benchmark::State& state) {
+    const Ready ready(GasLine);
+    const std::vector<std::string> rows = ready.Mix();
+    Measure(state, [&] { return PlainGasMixture(rows, ready.Flow); });
+}
+
+BENCHMARK(LiquidMixture)->Name("mixtures/six liquids");
+BENCHMARK(PlainLiquids)->Name("mixtures/six liquids/plain");
+BENCHMARK(GasMixture)->Name("mixtures/six gases");
+BENCHMARK(PlainGases)->Name("mixtures/six gases/plain");
 
 }  // namespace

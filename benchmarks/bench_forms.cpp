@@ -1,71 +1,137 @@
-// What a user waits for on a form, on the script host: the refresh of a calculation beside the bare writing
-// of its numbers, and the list of a large fluid table beside the bare reading of its lines.
-#include <benchmark/benchmark.h>
+// What a user waits for on a form, on the host without a display: the refresh of a calculation, a case typed
+// and calculated, the list of a large fluid table, and a script that does all this.
+#include <fstream>
 
 #include "benchmarks/FilledForm.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/TableScene.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
+#include "script/ScriptPlayer.h"
 
 namespace {
 
 using namespace quillmetra;
 
-void RefreshLiquidLoss(benchmark::State& state) {
-    FilledForm filled;
-    for ([[maybe_unused]] auto each : state) {
+// Numbers of the results change from round to round, as after a calculation.
+void Change(double factor) {
+    for (auto& row : Calc.CaseResult)
+        for (double& value : row) value *= factor;
+}
+
+void Refresh(benchmark::State& state) {
+    const FilledForm filled;
+    double factor = 1.25;
+    Measure(state, [&factor] {
+        Change(factor = 1 / factor);
         Calc.UnitsConverted = words::Yes;
         ShowCalculation();
-    }
+    });
 }
-BENCHMARK(RefreshLiquidLoss)->Unit(benchmark::kMicrosecond);
 
-void PlainTextOfItsNumbers(benchmark::State& state) {
-    FilledForm filled;
-    for ([[maybe_unused]] auto each : state) {
-        for (const FormRow& row : FormRows(1)) {
-            for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i)
-                benchmark::DoNotOptimize(Str(LiveValue(row, i)));
+// The texts of the same numbers, units and names in an array of strings, written where they differ.
+void PlainTexts(benchmark::State& state) {
+    const FilledForm filled;
+    const auto rows = FormRows(1);
+    std::vector<std::string> texts(rows.size() * CaseCount + Calc.UnitName.size() + Calc.HeadingText.size());
+    double factor = 1.25;
+    Measure(state, [&] {
+        Change(factor = 1 / factor);
+        auto text = texts.begin();
+        const auto show = [&text](const std::string& shown) {
+            if (*text != shown) *text = shown;
+            ++text;
+        };
+        for (const FormRow& row : rows) {
+            for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) show(Str(LiveValue(row, i)));
         }
-    }
+        for (const std::string& unit : Calc.UnitName) show(unit);
+        for (const std::string& heading : Calc.HeadingText) show(heading);
+    });
 }
-BENCHMARK(PlainTextOfItsNumbers)->Unit(benchmark::kMicrosecond);
 
-constexpr int Liquids = 10000;
+BENCHMARK(Refresh)->Name("form/refresh");
+BENCHMARK(PlainTexts)->Name("form/refresh/plain");
 
-void OpenFluidList(benchmark::State& state) {
-    FilledForm filled;
-    filled.WriteLiquids(Liquids);
+// A flow that differs from round to round.
+std::string NextFlow() {
+    static int flow = 90000;
+    return std::to_string(flow = 90000 + (flow + 1) % 9000);
+}
+
+void TypeAndCalculate() {
+    TypeText(FilledForm::Form().txtFlow(0), NextFlow());
+    ClickControl(FilledForm::Form().cmdCalculate(0));
+}
+
+void OneCase(benchmark::State& state) {
+    const FilledForm filled;
+    Measure(state, TypeAndCalculate);
+}
+
+BENCHMARK(OneCase)->Name("form/case typed and calculated");
+
+// --- The list of a large table -----------------------------------------------------------------------------
+
+void OpenList(benchmark::State& state) {
+    const FilledForm filled;
+    SaveTable(table::Liquid, ManyLiquids(10000));
     Calc.FluidName = "Liquid 9000";
-    for ([[maybe_unused]] auto each : state) {
-        filled.Form().Fluids.Open(words::Liquid);
-        state.PauseTiming();
-        filled.Form().Fluids.Close();
-        state.ResumeTiming();
-    }
+    Measure(state, [] {
+        FilledForm::Form().Fluids.Open(words::Liquid);
+        FilledForm::Form().Fluids.Close();
+    });
 }
-BENCHMARK(OpenFluidList)->Unit(benchmark::kMillisecond);
 
-void PlainReadOfItsLines(benchmark::State& state) {
-    FilledForm filled;
-    const std::string path = filled.WriteLiquids(Liquids);
-    for ([[maybe_unused]] auto each : state) {
-        std::ifstream file(MachinePath(path), std::ios::binary);
+void PlainLines(benchmark::State& state) {
+    const FilledForm filled;
+    SaveTable(table::Liquid, ManyLiquids(10000));
+    const std::filesystem::path path = MachinePath(TablePath(table::Liquid));
+    Measure(state, [&path] {
+        std::ifstream file(path, std::ios::binary);
         std::vector<std::string> lines;
         for (std::string line; std::getline(file, line);) lines.push_back(line);
-        benchmark::DoNotOptimize(lines.data());
-    }
+        return lines;
+    });
 }
-BENCHMARK(PlainReadOfItsLines)->Unit(benchmark::kMillisecond);
 
-void CalculateOneCase(benchmark::State& state) {
-    FilledForm filled;
-    int flow = 90000;
-    for ([[maybe_unused]] auto each : state) {
-        TypeText(filled.Form().txtFlow(0), std::to_string(++flow));
-        ClickControl(filled.Form().cmdCalculate(0));
+BENCHMARK(OpenList)->Name("form/list of 10,000 fluids");
+BENCHMARK(PlainLines)->Name("form/list of 10,000 fluids/plain");
+
+// --- Scripts -----------------------------------------------------------------------------------------------
+
+constexpr int Calculations = 1000;
+
+std::string Script() {
+    std::string script = "start\nnew 1\n";
+    for (const auto& [box, text] : FilledBoxes) script.append("type " + box + " " + text + "\n");
+    script += "click cmdCalculate(0)\n";
+    for (int i = 0; i < Calculations; ++i) {
+        script += "type txtFlow(0) " + NextFlow() + "\nclick cmdCalculate(0)\n";
     }
+    return script;
 }
-BENCHMARK(CalculateOneCase)->Unit(benchmark::kMicrosecond);
+
+void PlayScript(benchmark::State& state) {
+    RegisterForms();
+    const std::string script = Script();
+    Measure(state, [&] {
+        std::istringstream lines(script);
+        std::ostringstream out;
+        if (ScriptPlayer(out, out).Play("bench", lines) != 0) state.SkipWithError("the script fails");
+    });
+}
+
+// The same acts, called one after the other.
+void PlainActs(benchmark::State& state) {
+    Measure(state, [] {
+        const FilledForm filled;
+        for (int i = 0; i < Calculations; ++i) TypeAndCalculate();
+    });
+}
+
+BENCHMARK(PlayScript)->Name("script/1,000 cases");
+BENCHMARK(PlainActs)->Name("script/1,000 cases/plain");
 
 }  // namespace

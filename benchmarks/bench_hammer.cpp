@@ -1,56 +1,74 @@
-// All results of a water hammer, from the pick of liquid and pipe to the curve that is drawn. "allocations"
-// are per turn.
-#include <benchmark/benchmark.h>
+// All results of a water hammer, from the modulus of the pipe to the curve that is drawn.
+#include <charconv>
 
-#include "benchmarks/CountAllocations.h"
-#include "benchmarks/HammerScene.h"
-#include "fluids/FluidTables.h"
-#include "fluids/LiquidData.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/PlainHammer.h"
 #include "hammer/PipeModulus.h"
 
 namespace {
 
 using namespace quillmetra;
 
-template <typename Act>
-void Measure(benchmark::State& state, Act act) {
+void HammerCase(benchmark::State& state) {
     TakeHammerScene();
-    act();
-    const std::size_t before = AllocationCount();
-    for ([[maybe_unused]] auto each : state) {
-        act();
-        benchmark::ClobberMemory();
-    }
-    state.counters["allocations"] =
-        static_cast<double>(AllocationCount() - before) / static_cast<double>(state.iterations());
+    Measure(state, CalculateHammer);
+    RequireSame(state, PlainHammerCase(PlainHammer()).SelectedThrust, Calc.HammerResult[18]);
 }
 
-void HammerCase(benchmark::State& state) { Measure(state, CalculateHammer); }
-
-void HammerCurve(benchmark::State& state) {
-    Measure(state, [] { benchmark::DoNotOptimize(ClosingCurveOfRecord()); });
-}
-
-void HammerLiquid(benchmark::State& state) {
-    Calc.FluidRow =
-        "Toluene                        "
-        ",1,92.138,0.8718,605.5,60,0.621,200,0.284,598.5,231.1,0.399,0.51,39,220,13,155,";
-    const std::string row = Calc.FluidRow;
-    Measure(state, [&] {
-        Calc.FluidRow = row;
-        ParseLiquidRow();
-        ProcessLiquidData();
+void PlainCase(benchmark::State& state) {
+    TakeHammerScene();
+    PlainHammer line;
+    Measure(state, [&line] {
+        benchmark::DoNotOptimize(line);
+        return PlainHammerCase(line);
     });
 }
 
-void HammerModulus(benchmark::State& state) {
-    const std::vector<std::string> fields = {"Steel", "2.95", "2.934", "2.88", "2.83", "2.77", "2.73"};
-    Measure(state, [&] { LoadPipeModulus(fields); });
+void HammerCurve(benchmark::State& state) {
+    TakeHammerScene();
+    CalculateHammer();
+    Measure(state, ClosingCurveOfRecord);
 }
 
-BENCHMARK(HammerCase);
-BENCHMARK(HammerCurve);
-BENCHMARK(HammerLiquid);
-BENCHMARK(HammerModulus);
+void CurveOnArrays(benchmark::State& state) {
+    TakeHammerScene();
+    PlainHammer line;
+    const PlainHammerResults results = PlainHammerCase(line);
+    Measure(state, [&] {
+        benchmark::DoNotOptimize(line);
+        return PlainHammerCurve(line, results);
+    });
+}
+
+const std::vector<std::string> Steel = {"Steel", "2.95", "2.934", "2.88", "2.83", "2.77", "2.73"};
+
+void HammerModulus(benchmark::State& state) {
+    TakeHammerScene();
+    Measure(state, [] { LoadPipeModulus(Steel); });
+}
+
+// The fields up to the first that is missing read, as the limit of the row asks, and two of them for the line
+// between.
+void PlainModulus(benchmark::State& state) {
+    std::string name;
+    Measure(state, [&name] {
+        double value = 0;
+        for (std::size_t i = 1; i < Steel.size(); ++i) {
+            const std::string& field = Steel[i];
+            std::from_chars(field.data(), field.data() + field.size(), value);
+            benchmark::DoNotOptimize(value);
+        }
+        std::from_chars(Steel[1].data(), Steel[1].data() + Steel[1].size(), value);
+        name = Steel[0];
+        return value * 1e7;
+    });
+}
+
+BENCHMARK(HammerCase)->Name("water hammer/case");
+BENCHMARK(PlainCase)->Name("water hammer/case/plain");
+BENCHMARK(HammerCurve)->Name("water hammer/curve");
+BENCHMARK(CurveOnArrays)->Name("water hammer/curve/plain");
+BENCHMARK(HammerModulus)->Name("water hammer/modulus of the pipe");
+BENCHMARK(PlainModulus)->Name("water hammer/modulus of the pipe/plain");
 
 }  // namespace

@@ -1,9 +1,13 @@
-// The record browser's acts on 100,000 records, and the database layer beside the bare engine doing the same
-// inserts and look-ups.
-#include <benchmark/benchmark.h>
+// Records saved and loaded, the browser's acts on 100,000 of them, and rows in bulk; each beside the bare
+// engine on the same file.
+#include <algorithm>
+#include <charconv>
+#include <fstream>
 
 #include "benchmarks/ManyRecords.h"
-#include "benchmarks/PlainHeads.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/PlainRecords.h"
+#include "platform/KeyOrder.h"
 #include "records/LoadRecord.h"
 #include "records/RecordExport.h"
 #include "records/RecordView.h"
@@ -13,91 +17,177 @@ namespace {
 
 using namespace quillmetra;
 
-void OpenDatabase(benchmark::State& state) {
-    const std::string& file = ManyRecordsFile();
-    for ([[maybe_unused]] auto each : state) {
-        RecordView view(file);
-        benchmark::DoNotOptimize(view.Count() + view.Position());
-    }
-}
-BENCHMARK(OpenDatabase)->Unit(benchmark::kMillisecond);
+const std::vector<const RecordTable*> RowsOfALine = {&HeadTable(), &UnitsTable(), &PressureDropTable(),
+                                                     &SettingsTable()};
 
-void ListTags(benchmark::State& state) {
-    const std::unique_ptr<Database> database = OpenRecords(ManyRecordsFile());
-    Recordset heads(*database, HeadTable().Shape);
-    for ([[maybe_unused]] auto each : state) benchmark::DoNotOptimize(heads.Keys().size());
+// The records in an order in which no two neighbours follow each other.
+std::string NextTag() {
+    static int i = 0;
+    return TagOf(i = (i + 4241) % ManyRecords);
 }
-BENCHMARK(ListTags)->Unit(benchmark::kMillisecond);
 
-void NextRecord(benchmark::State& state) {
-    RecordView view(ManyRecordsFile());
-    for ([[maybe_unused]] auto each : state) {
-        view.Next();
-        benchmark::DoNotOptimize(view.Position());
-    }
-}
-BENCHMARK(NextRecord)->Unit(benchmark::kMicrosecond);
+// --- One record --------------------------------------------------------------------------------------------
 
-void PreviousRecord(benchmark::State& state) {
-    RecordView view(ManyRecordsFile());
-    view.Last();
-    for ([[maybe_unused]] auto each : state) {
-        view.Previous();
-        benchmark::DoNotOptimize(view.Position());
-    }
+// No two saves of a run meet the same tag.
+int NextNew() {
+    static int i = ManyRecords;
+    return ++i;
 }
-BENCHMARK(PreviousRecord)->Unit(benchmark::kMicrosecond);
-
-void FindTag(benchmark::State& state) {
-    RecordView view(ManyRecordsFile());
-    int i = 0;
-    for ([[maybe_unused]] auto each : state) {
-        view.Find(TagOf(i = (i + 4241) % ManyRecords));
-        benchmark::DoNotOptimize(view.Position());
-    }
-}
-BENCHMARK(FindTag)->Unit(benchmark::kMicrosecond);
-
-void TypeAhead(benchmark::State& state) {
-    RecordView view(ManyRecordsFile());
-    for ([[maybe_unused]] auto each : state) benchmark::DoNotOptimize(view.StartingWith("ft-12"));
-}
-BENCHMARK(TypeAhead)->Unit(benchmark::kMicrosecond);
-
-void SearchOutdated(benchmark::State& state) {
-    RecordView view(ManyRecordsFile());
-    for ([[maybe_unused]] auto each : state) {
-        for (bool start = true; view.NextOutdated(start);) start = false;
-    }
-}
-BENCHMARK(SearchOutdated)->Unit(benchmark::kMillisecond);
-
-void DisplayRecord(benchmark::State& state) {
-    ManyRecordsFile();
-    int i = 0;
-    for ([[maybe_unused]] auto each : state) {
-        ResetRecord();
-        Calc.FluidType = words::Liquid;
-        Calc.Tag = TagOf(i = (i + 4241) % ManyRecords);
-        GetTRCalc();
-    }
-}
-BENCHMARK(DisplayRecord)->Unit(benchmark::kMicrosecond);
 
 // The time on the clock: the write waits for the disk.
-void SaveRecord(benchmark::State& state) {
+void Save(benchmark::State& state) {
     ManyRecordsFile();
-    int i = ManyRecords;
     for ([[maybe_unused]] auto each : state) {
         state.PauseTiming();
-        TakeRecord(++i);
+        TakeRecord(NextNew());
         state.ResumeTiming();
         SaveTRCalc();
     }
 }
-BENCHMARK(SaveRecord)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// --- The layer beside the bare engine ----------------------------------------------------------------------
+void PlainSave(benchmark::State& state) {
+    const std::string& file = ManyRecordsFile();
+    for ([[maybe_unused]] auto each : state) {
+        state.PauseTiming();
+        TakeRecord(NextNew());
+        state.ResumeTiming();
+        PlainRecords plain(file);
+        plain.Execute("BEGIN IMMEDIATE");
+        for (const RecordTable* table : RowsOfALine) plain.Insert(*table, RowOfRecord(*table));
+        plain.Execute("COMMIT");
+    }
+}
+
+void Load(benchmark::State& state) {
+    ManyRecordsFile();
+    Measure(state, [] {
+        ResetRecord();
+        Calc.FluidType = words::Liquid;
+        Calc.Tag = NextTag();
+        GetTRCalc();
+    });
+}
+
+void PlainLoad(benchmark::State& state) {
+    const std::string& file = ManyRecordsFile();
+    Measure(state, [&file] {
+        PlainRecords plain(file);
+        const std::string tag = NextTag();
+        for (const RecordTable* table : RowsOfALine) benchmark::DoNotOptimize(plain.Seek(*table, tag));
+    });
+}
+
+BENCHMARK(Save)->Name("record/save")->UseRealTime();
+BENCHMARK(PlainSave)->Name("record/save/plain")->UseRealTime();
+BENCHMARK(Load)->Name("record/load");
+BENCHMARK(PlainLoad)->Name("record/load/plain");
+
+// --- The browser -------------------------------------------------------------------------------------------
+
+void Open(benchmark::State& state) {
+    const std::string& file = ManyRecordsFile();
+    Measure(state, [&file] {
+        RecordView view(file);
+        return view.Count() + view.Position();
+    });
+}
+
+void PlainOpen(benchmark::State& state) {
+    const std::string& file = ManyRecordsFile();
+    Measure(state, [&file] {
+        PlainRecords plain(file);
+        benchmark::DoNotOptimize(plain.Next(HeadTable(), " "));
+        return plain.Tags();
+    });
+}
+
+void List(benchmark::State& state) {
+    const std::unique_ptr<Database> database = OpenRecords(ManyRecordsFile());
+    Recordset heads(*database, HeadTable().Shape);
+    Measure(state, [&heads] { return heads.Keys(); });
+}
+
+void PlainList(benchmark::State& state) {
+    PlainRecords plain(ManyRecordsFile());
+    Measure(state, [&plain] { return plain.Tags(); });
+}
+
+void Next(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    Measure(state, [&view] {
+        view.Next();
+        return view.Position();
+    });
+}
+
+void Previous(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    view.Last();
+    Measure(state, [&view] {
+        view.Previous();
+        return view.Position();
+    });
+}
+
+void Find(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    Measure(state, [&view] {
+        view.Find(NextTag());
+        return view.Position();
+    });
+}
+
+// A look-up by the bare engine, and the place of its tag among all tags.
+void PlainLookUp(benchmark::State& state,
+                 const PlainRecords::Row& (PlainRecords::*act)(const RecordTable&, std::string_view)) {
+    PlainRecords plain(ManyRecordsFile());
+    const std::vector<std::string> tags = plain.Tags();
+    const auto isBefore = [](std::string_view a, std::string_view b) { return CompareKeys(a, b) < 0; };
+    Measure(state, [&] {
+        const PlainRecords::Row& row = (plain.*act)(HeadTable(), NextTag());
+        if (row.empty()) return tags.end();
+        return std::lower_bound(tags.begin(), tags.end(), std::get<std::string>(row[0]), isBefore);
+    });
+}
+
+void TypeAhead(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    Measure(state, [&view] { return view.StartingWith("ft-12"); });
+}
+
+void FindOutdated(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    Measure(state, [&view] {
+        for (bool start = true; view.NextOutdated(start);) start = false;
+    });
+}
+
+void PlainOutdated(benchmark::State& state) {
+    PlainRecords plain(ManyRecordsFile());
+    Measure(state, [&plain] {
+        int outdated = 0;
+        plain.EachRow(
+            "SELECT \"Data Date\", \"Calc Date\" FROM \"" + HeadTable().Shape.Name + "\" ORDER BY \"Tag\"",
+            {}, [&outdated](const PlainRecords::Row& row) { outdated += row[0] > row[1] ? 1 : 0; });
+        return outdated;
+    });
+}
+
+BENCHMARK(Open)->Name("browser/open");
+BENCHMARK(PlainOpen)->Name("browser/open/plain");
+BENCHMARK(List)->Name("browser/list of all tags");
+BENCHMARK(PlainList)->Name("browser/list of all tags/plain");
+BENCHMARK(Next)->Name("browser/next");
+BENCHMARK_CAPTURE(PlainLookUp, next, &PlainRecords::Next)->Name("browser/next/plain");
+BENCHMARK(Previous)->Name("browser/previous");
+BENCHMARK_CAPTURE(PlainLookUp, previous, &PlainRecords::Previous)->Name("browser/previous/plain");
+BENCHMARK(Find)->Name("browser/find");
+BENCHMARK_CAPTURE(PlainLookUp, find, &PlainRecords::Seek)->Name("browser/find/plain");
+BENCHMARK(TypeAhead)->Name("browser/search while typing");
+BENCHMARK(FindOutdated)->Name("browser/search by date");
+BENCHMARK(PlainOutdated)->Name("browser/search by date/plain");
+
+// --- Rows in bulk ------------------------------------------------------------------------------------------
 
 constexpr int Batch = 10000;
 
@@ -110,79 +200,82 @@ std::vector<RowValues> HeadRows() {
     return rows;
 }
 
-void InsertByLayer(benchmark::State& state) {
+void Insert(benchmark::State& state) {
     const std::vector<RowValues> rows = HeadRows();
     for ([[maybe_unused]] auto each : state) {
         state.PauseTiming();
         const EmptyHeads empty;
-        Database database(empty.File(), EmptyHeads::Kind);
         state.ResumeTiming();
+        Database database(empty.File(), EmptyHeads::Kind);
         Transaction all(database);
         Recordset heads(database, HeadTable().Shape);
-        for (const RowValues& values : rows) {
-            heads.AddNew();
-            for (std::size_t f = 0; f < values.size(); ++f) {
-                if (values[f]) heads.Set(f, *values[f]);
-            }
-            heads.Update();
-        }
+        for (const RowValues& values : rows) AddRow(heads, values);
         all.Commit();
     }
 }
-BENCHMARK(InsertByLayer)->Unit(benchmark::kMillisecond);
 
-void InsertPlain(benchmark::State& state) {
+void PlainInsert(benchmark::State& state) {
     const std::vector<RowValues> rows = HeadRows();
     for ([[maybe_unused]] auto each : state) {
         state.PauseTiming();
-        const TemporaryFolder folder;
-        PlainHeads plain((folder.Path() / "plain.db").string());
+        const EmptyHeads empty;
         state.ResumeTiming();
-        plain.Execute("BEGIN");
-        for (const RowValues& values : rows) plain.Insert(values);
+        PlainRecords plain(SuitePath(empty.File()));
+        plain.Execute("BEGIN IMMEDIATE");
+        for (const RowValues& values : rows) plain.Insert(HeadTable(), values);
         plain.Execute("COMMIT");
     }
 }
-BENCHMARK(InsertPlain)->Unit(benchmark::kMillisecond);
 
-void LookUpByLayer(benchmark::State& state) {
+void LookUp(benchmark::State& state) {
     const std::unique_ptr<Database> database = OpenRecords(ManyRecordsFile());
     Recordset heads(*database, HeadTable().Shape);
     heads.Index("Tag_Number");
-    int i = 0;
-    for ([[maybe_unused]] auto each : state) {
-        heads.Seek(TagOf(i = (i + 4241) % ManyRecords));
-        heads.MoveNext();
-        benchmark::DoNotOptimize(heads.Value(0));
-    }
+    Measure(state, [&heads] { return heads.Seek(NextTag()); });
 }
-BENCHMARK(LookUpByLayer)->Unit(benchmark::kMicrosecond);
 
-void LookUpPlain(benchmark::State& state) {
-    const TemporaryFolder folder;
-    PlainHeads plain((folder.Path() / "plain.db").string());
-    plain.Execute("BEGIN");
-    for (int i = 0; i < ManyRecords; ++i) {
-        TakeRecord(i);
-        plain.Insert(RowOfRecord(HeadTable()));
-    }
-    plain.Execute("COMMIT");
-    int i = 0;
-    for ([[maybe_unused]] auto each : state) {
-        const std::string tag = TagOf(i = (i + 4241) % ManyRecords);
-        benchmark::DoNotOptimize(plain.Seek(tag).size());
-        benchmark::DoNotOptimize(plain.Next(tag).size());
-    }
+void PlainSeek(benchmark::State& state) {
+    PlainRecords plain(ManyRecordsFile());
+    Measure(state, [&plain] { return plain.Seek(HeadTable(), NextTag()).size(); });
 }
-BENCHMARK(LookUpPlain)->Unit(benchmark::kMicrosecond);
 
-void ExportAll(benchmark::State& state) {
+void Export(benchmark::State& state) {
     const TemporaryFolder folder;
     const std::string& file = ManyRecordsFile();
+    for ([[maybe_unused]] auto each : state) ExportRecords(file, SuitePath(folder.Path() / "all.csv"));
+}
+
+// The rows of each record read tag by tag, and every value written as it is.
+void PlainExport(benchmark::State& state) {
+    const TemporaryFolder folder;
+    const std::string& file = ManyRecordsFile();
+    const auto write = [](std::ofstream& out, const FieldValue& value) {
+        if (const auto* text = std::get_if<std::string>(&value)) out << *text;
+        if (const auto* number = std::get_if<double>(&value)) {
+            std::array<char, 40> digits{};
+            out.write(
+                digits.data(),
+                std::to_chars(digits.begin(), digits.end(), static_cast<float>(*number)).ptr - digits.data());
+        }
+        out << ',';
+    };
     for ([[maybe_unused]] auto each : state) {
-        ExportRecords(file, SuitePath(folder.Path() / "all.csv"));
+        PlainRecords plain(file);
+        std::ofstream out(folder.Path() / "plain.csv", std::ios::binary);
+        for (const std::string& tag : plain.Tags()) {
+            for (const RecordTable* table : {&HeadTable(), &UnitsTable(), &PressureDropTable()}) {
+                for (const FieldValue& value : plain.Seek(*table, tag)) write(out, value);
+            }
+            out << "\r\n";
+        }
     }
 }
-BENCHMARK(ExportAll)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+BENCHMARK(Insert)->Name("database/10,000 rows added");
+BENCHMARK(PlainInsert)->Name("database/10,000 rows added/plain");
+BENCHMARK(LookUp)->Name("database/row sought");
+BENCHMARK(PlainSeek)->Name("database/row sought/plain");
+BENCHMARK(Export)->Name("database/export of 100,000 records")->Iterations(1)->Repetitions(3);
+BENCHMARK(PlainExport)->Name("database/export of 100,000 records/plain")->Iterations(1)->Repetitions(3);
 
 }  // namespace
