@@ -33,24 +33,29 @@ bool PercentagesAddUp(Icon sign) {
     return false;
 }
 
-// The components that a calculation keeps.
+// The components that a calculation keeps; the texts keep their memory from one to the next.
 struct KeptComponents {
     decltype(CalcRecord::FluidData) Rows{};
     decltype(CalcRecord::FluidPercent) Percents{};
     int Count = 0;
 
+    void Clear() {
+        for (std::string& row : Rows) row.clear();
+        Percents = {};
+        Count = 0;
+    }
     void Add(const std::string& row, double percent) {
         Rows[At(Count)] = row;
         Percents[At(Count)] = percent;
         ++Count;
     }
-};
+} Kept;
 
 // Parses the components one after the other; each is then in the record when `add` gets its fraction.
 template <typename Parse, typename Add>
-KeptComponents ForEachComponent(Parse parse, Add add) {
+void ForEachComponent(Parse parse, Add add) {
     const bool keepsAll = Calc.CurrentProgram == 3;
-    KeptComponents kept;
+    Kept.Clear();
     const int count = ComponentCount();
     for (int place = 0; place < count; ++place) {
         const double percent = Calc.FluidPercent[At(place)];
@@ -61,15 +66,14 @@ KeptComponents ForEachComponent(Parse parse, Add add) {
         } else if (!keepsAll) {
             continue;
         }
-        kept.Add(Calc.FluidRow, percent);
+        Kept.Add(Calc.FluidRow, percent);
     }
-    return kept;
 }
 
-void TakeMixture(const KeptComponents& kept) {
-    Calc.FluidData = kept.Rows;
-    Calc.FluidPercent = kept.Percents;
-    Calc.MixtureCount = std::min(kept.Count, LastPlace);
+void TakeMixture() {
+    Calc.FluidData.swap(Kept.Rows);
+    Calc.FluidPercent = Kept.Percents;
+    Calc.MixtureCount = std::min(Kept.Count, LastPlace);
     Calc.MixtureFlag = words::Yes;
 }
 
@@ -143,8 +147,8 @@ void TakeGasSums(const GasSums& sums) {
 }
 
 template <typename Parse>
-KeptComponents SumGases(Parse parse, GasSums& sums) {
-    return ForEachComponent(
+void SumGases(Parse parse, GasSums& sums) {
+    ForEachComponent(
         [parse] {
             parse();
             CalcGasProperties();
@@ -197,38 +201,38 @@ double RemainingPercent(std::span<const double> percents) {
 bool CalcLiquidMixture() {
     if (!PercentagesAddUp(Icon::None)) return false;
     LiquidSums sums;
-    const KeptComponents kept = ForEachComponent(ParseLiquidRow, [&sums](double x) { sums.Add(Calc, x); });
+    ForEachComponent(ParseLiquidRow, [&sums](double x) { sums.Add(Calc, x); });
     TakeLiquidSums(sums);
     if (!AreFinite({Calc.FluidViscosity, Calc.MolecularWeight, Calc.CritTemperature, Calc.CritPressure,
                     Calc.SGAtStandard, Calc.BulkModulusBase, Calc.BulkModulusSlope},
                    "Liquid Calculation")) {
         return false;
     }
-    TakeMixture(kept);
+    TakeMixture();
     return true;
 }
 
 bool CalcGasMixtureForLine() {
     if (!PercentagesAddUp(Icon::None)) return false;
     GasSums sums;
-    const KeptComponents kept = SumGases(ParseGasRow, sums);
+    SumGases(ParseGasRow, sums);
     Calc.MolecularWeight = RoundedFour(sums.MolecularWeight);
     TakeGasSums(sums);
     if (!GasIsFinite()) return false;
-    TakeMixture(kept);
+    TakeMixture();
     return true;
 }
 
 bool CalcGasMixtureForData() {
     if (!PercentagesAddUp(Icon::Stop)) return false;
     GasSums sums;
-    const KeptComponents kept = SumGases(ParseGasRowForMixture, sums);
+    SumGases(ParseGasRowForMixture, sums);
     Calc.MolecularWeight = sums.MolecularWeight;
     TakeGasSums(sums);
     Calc.NormalBoilingPoint = sums.NormalBoilingPoint;
     if (!GasIsFinite()) return false;
     CalcMixtureLatentHeat();
-    TakeMixture(kept);
+    TakeMixture();
     Tell(
         "Use mixture calculated values with caution -\nParticularly\nLatent heat of vaporization and\n"
         "Vapor Pressure\nActual values may differ considerably",

@@ -75,28 +75,39 @@ std::vector<PressureRow> ReadRows(std::string_view path) {
     return rows;
 }
 
-// A file's contents as they were read last.
+// A file of the program's own folder, and its contents as they were read last.
 template <typename Contents>
-struct KeptFile {
-    std::string Path;
-    FileStamp Stamp;
-    Contents Held;
+class KeptFile {
+public:
+    using Reader = Contents (*)(std::string_view path);
+    KeptFile(const char* name, Reader read) : name_(name), read_(read) {}
 
-    // Reads the file when it is another one or has changed. The stamp is taken first: a change meanwhile is
-    // found at the next look-up.
-    const Contents& At(const std::string& path, Contents (*read)(std::string_view)) {
-        const FileStamp stamp = StampOf(path);
-        if (path == Path && stamp == Stamp && stamp != FileStamp{}) return Held;
-        Path.clear();
-        Held = read(path);
-        Path = path;
-        Stamp = stamp;
-        return Held;
+    // Reads the file when it is another one or has changed; else nothing is asked but its stamp. That is
+    // taken first: a change meanwhile is found at the next look-up.
+    const Contents& Now() {
+        const std::string& folder = Suite.DefaultPaths[5];
+        if (folder == folder_ && stamp_ != FileStamp{} && StampOf(path_) == stamp_) return held_;
+        const std::string file = folder + name_;
+        folder_ = folder;
+        path_ = MachinePath(file);
+        const FileStamp stamp = StampOf(path_);
+        stamp_ = {};
+        held_ = read_(file);
+        stamp_ = stamp;
+        return held_;
     }
+
+private:
+    const char* name_;
+    Reader read_;
+    std::string folder_;
+    std::filesystem::path path_;
+    FileStamp stamp_;  // that of no file until it was read whole
+    Contents held_;
 };
 
-KeptFile<std::vector<double>> PressuresFile;
-KeptFile<std::vector<PressureRow>> RowsFile;
+KeptFile<std::vector<double>> PressuresFile("\\STEAM.txt", ReadPressures);
+KeptFile<std::vector<PressureRow>> RowsFile("\\Stm07.Dat", ReadRows);
 
 // The rows below and above a pressure, and how far it lies from the one to the other.
 struct Bracket {
@@ -107,8 +118,8 @@ struct Bracket {
 
 // Throws "Input past end of file" when the files end before the pressure.
 Bracket FindRows(double pressure) {
-    const auto& pressures = PressuresFile.At(Suite.DefaultPaths[5] + "\\STEAM.txt", ReadPressures);
-    const auto& rows = RowsFile.At(Suite.DefaultPaths[5] + "\\Stm07.Dat", ReadRows);
+    const std::vector<double>& pressures = PressuresFile.Now();
+    const std::vector<PressureRow>& rows = RowsFile.Now();
     double a = 0;
     double b = 0;
     std::size_t count = 0;

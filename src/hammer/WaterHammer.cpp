@@ -82,6 +82,8 @@ ClosingCurve ClosingCurveOfRecord() {
     const double first = least * 0.8;
     const double ratio = std::pow(most * 1.5 / first, 1.0 / steps);  // closer together where it is steep
     ClosingCurve curve;
+    curve.Times.reserve(steps + 1);
+    curve.Pressures.reserve(steps + 1);
     double time = first;
     for (int i = 0; i <= steps; ++i, time *= ratio) {
         const double rise = RiseAtTime(Calc.PressureRise, Calc.CriticalTime, time);

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -134,7 +135,7 @@ private:
 class Recordset {
 public:
     Recordset(Database& database, const TableShape& table);
-    // On no row, nothing read: for a damaged file.
+    // On no row, nothing read: for one that only seeks, and for a damaged file.
     struct Unplaced {};
     Recordset(Database& database, const TableShape& table, Unplaced);
 
@@ -148,6 +149,8 @@ public:
     void MoveLast();
     void MoveNext();
     void MovePrevious();
+    // Moves to the first row behind the current one that is wanted, at one go; AtEnd when there is none.
+    void MoveToNext(const std::function<bool(const Recordset&)>& wanted);
     bool AtEnd() const { return place_ == Place::End || place_ == Place::Empty; }
     bool AtStart() const { return place_ == Place::Start || place_ == Place::Empty; }
 
@@ -182,7 +185,20 @@ public:
 
 private:
     enum class Place { Empty, Start, Row, Deleted, End, Nowhere };
-    enum class Act { Seek, First, Last, Next, Previous, Count, Insert, Update, Delete, Numbered, Largest };
+    enum class Act {
+        Seek,
+        First,
+        Last,
+        Next,
+        Following,
+        Previous,
+        Count,
+        Insert,
+        Update,
+        Delete,
+        Numbered,
+        Largest
+    };
 
     sqlite3_stmt* Statement(Act act);
     std::string SqlOf(Act act) const;
@@ -195,7 +211,7 @@ private:
 
     Database& database_;
     const TableShape& table_;
-    std::array<sqlite3_stmt*, 11> statements_{};
+    std::array<sqlite3_stmt*, 12> statements_{};
     std::vector<FieldValue> row_, buffer_;
     Place place_ = Place::Empty;
     bool indexed_ = false, noMatch_ = false;

@@ -119,7 +119,7 @@ void FocusModel::Start() {
 }
 
 bool Form::NameKey::operator==(const NameKey& other) const {
-    return Index == other.Index && SameName(Name, other.Name);
+    return Index == other.Index && (Name == other.Name || SameName(Name, other.Name));
 }
 
 std::size_t Form::NameHash::operator()(const NameKey& key) const {

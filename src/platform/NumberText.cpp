@@ -3,13 +3,13 @@
 
 #include <charconv>
 #include <cmath>
+#include <optional>
 #include <system_error>
 
 namespace quillmetra {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The leading number of a text with its blanks taken out, in the spelling of from_chars, and how far the
@@ -84,6 +84,18 @@ LeadingNumber ScanNumber(std::string_view text) {
     return number;
 }
 
+// Nearly all texts are a number and nothing else, in digits that from_chars reads as they are.
+std::optional<double> PlainNumber(std::string_view text) {
+    text = Trim(text);
+    const std::size_t first = text.starts_with('-') ? 1 : 0;
+    if (first == text.size() || !(IsDigit(text[first]) || text[first] == '.')) return {};
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (stop != end || error != std::errc{}) return {};
+    return value;
+}
+
 // Turns the digits and the decimal exponent of scientific text ("1.2345e+04") into the suite's own form.
 std::string FromScientific(std::string_view scientific) {
     const bool negative = scientific.front() == '-';
@@ -112,6 +124,7 @@ std::string FromScientific(std::string_view scientific) {
 }  // namespace
 
 double Val(std::string_view text) {
+    if (const std::optional<double> value = PlainNumber(text)) return *value;
     const LeadingNumber number = ScanNumber(text);
     if (number.Digits.empty()) return 0;
     double value = 0;
@@ -138,12 +151,6 @@ std::string StrSingle(float value) {
 }
 
 double Int(double value) { return std::floor(value); }
-
-std::string_view Trim(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
 
 std::string TrimmedStr(double value) { return std::string(Trim(Str(value))); }
 

@@ -27,7 +27,12 @@ std::string StrSingle(float value);
 double Int(double value);
 
 // A text without the blanks and tabs at its ends.
-std::string_view Trim(std::string_view text);
+inline bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+inline std::string_view Trim(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+    return text;
+}
 
 // The trimmed text of a number, for lists and messages: Str without its leading blank.
 std::string TrimmedStr(double value);

@@ -90,6 +90,7 @@ std::string Recordset::SqlOf(Act act) const {
         case Act::First: return select + " ORDER BY " + key + " LIMIT 1";
         case Act::Last: return select + " ORDER BY " + key + " DESC LIMIT 1";
         case Act::Next: return select + " WHERE " + key + " > ?1 ORDER BY " + key + " LIMIT 1";
+        case Act::Following: return select + " WHERE " + key + " > ?1 ORDER BY " + key;
         case Act::Previous: return select + " WHERE " + key + " < ?1 ORDER BY " + key + " DESC LIMIT 1";
         case Act::Count: return "SELECT count(*) FROM " + table;
         case Act::Insert: return "INSERT INTO " + table + "(" + fields + ") VALUES(" + marks + ")";
@@ -158,6 +159,23 @@ void Recordset::MoveNext() {
 void Recordset::MovePrevious() {
     if (place_ == Place::End) return MoveLast();
     Step(Act::Previous, Place::Start);
+}
+
+void Recordset::MoveToNext(const std::function<bool(const Recordset&)>& wanted) {
+    buffered_ = Buffer::None;
+    if (place_ != Place::Row && place_ != Place::Deleted) throw failure::NoCurrentRecord();
+    const std::string key = Key();
+    sqlite3_stmt* const statement = Statement(Act::Following);
+    const Run run(statement);
+    sqlite3_bind_text(statement, 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
+        ReadRow(statement);
+        place_ = Place::Row;
+        if (wanted(*this)) return;
+    }
+    if (result != SQLITE_DONE) database_.Fail();
+    place_ = Place::End;
 }
 
 void Recordset::Step(Act act, Place past) {

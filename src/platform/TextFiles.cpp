@@ -47,9 +47,17 @@ int ByteOf(char32_t c) {
 
 constexpr std::uintmax_t LargestFile = 256U << 20U;
 
+// Such a text is its own UTF-8.
+bool IsAscii(std::string_view bytes) {
+    unsigned char bits = 0;
+    for (const char byte : bytes) bits |= static_cast<unsigned char>(byte);
+    return bits < 0x80;
+}
+
 std::string ReadWhole(std::string_view suitePath) {
     std::string bytes = ReadBytes(suitePath);
     if (const std::size_t end = bytes.find('\x1A'); end != std::string::npos) bytes.resize(end);
+    if (IsAscii(bytes)) return bytes;
     return Utf8From1252(bytes);
 }
 
@@ -123,8 +131,7 @@ std::string ReadBytes(std::string_view suitePath) {
     return bytes;
 }
 
-FileStamp StampOf(std::string_view suitePath) {
-    const fs::path path = MachinePath(suitePath);
+FileStamp StampOf(const fs::path& path) {
     std::error_code error;
     const fs::file_time_type changed = fs::last_write_time(path, error);
     if (error) return {};
@@ -179,11 +186,19 @@ std::string Code1252From(std::string_view utf8) {
     return bytes;
 }
 
-LineReader::LineReader(std::string_view suitePath) : text_(ReadWhole(suitePath)) {}
+LineReader::LineReader(std::string_view suitePath)
+    : text_(ReadWhole(suitePath)), lineFeed_(std::min(text_.find('\n'), text_.size())) {}
+
+std::size_t LineReader::EndOfLine() {
+    // Looked for once, also in a file whose lines all end in CR.
+    if (lineFeed_ < next_) lineFeed_ = std::min(text_.find('\n', next_), text_.size());
+    const std::string_view line = std::string_view(text_).substr(next_, lineFeed_ - next_);
+    return next_ + std::min(line.find('\r'), line.size());
+}
 
 bool LineReader::Next(std::string& line) {
     if (AtEnd()) return false;
-    const std::size_t end = std::min(text_.find_first_of("\r\n", next_), text_.size());
+    const std::size_t end = EndOfLine();
     line.assign(text_, next_, end - next_);
     next_ = end;
     SkipEndOfLine(text_, next_);
@@ -191,8 +206,7 @@ bool LineReader::Next(std::string& line) {
 }
 
 std::string LineReader::NextWhole() {
-    const std::size_t end = text_.find_first_of("\r\n", next_);
-    if (end == std::string::npos) throw failure::InputPastEnd();
+    if (EndOfLine() == text_.size()) throw failure::InputPastEnd();
     std::string line;
     Next(line);
     return std::string(Trim(line));

@@ -35,7 +35,7 @@ struct FileStamp {
     std::uintmax_t Size = 0;
     bool operator==(const FileStamp&) const = default;
 };
-FileStamp StampOf(std::string_view suitePath);
+FileStamp StampOf(const std::filesystem::path& path);
 
 // Code page 1252 to UTF-8 and back. A byte or a character that the code page does not have passes through
 // unchanged, so that nothing of a foreign file is lost when it is rewritten.
@@ -55,8 +55,11 @@ public:
     std::string NextWhole();
 
 private:
+    std::size_t EndOfLine();
+
     std::string text_;
     std::size_t next_ = 0;
+    std::size_t lineFeed_;  // the first one from next_ on, the length of the text where there is none
 };
 
 // Reads item by item: items end at a comma or at the end of a line, blanks around them are dropped, and an

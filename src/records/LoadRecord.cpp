@@ -29,7 +29,7 @@ void TellNotFound(const RecordTable& table) {
 }
 
 bool GetRow(Database& database, const RecordTable& table) {
-    Recordset rows(database, table.Shape);
+    Recordset rows(database, table.Shape, Recordset::Unplaced());
     rows.Index("Tag_Number");
     if (!rows.Seek(Calc.Tag)) {
         TellNotFound(table);
@@ -152,7 +152,7 @@ void TakeFluidType(const std::string& headFluidType, int storedProgramNumber) {
 bool GetTRCalc() {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
     const RecordTable& table = HeadTable();
-    Recordset heads(*database, table.Shape);
+    Recordset heads(*database, table.Shape, Recordset::Unplaced());
     heads.Index("Tag_Number");
     Calc.Tag = std::string(Trim(Calc.Tag));
     if (!heads.Seek(Calc.Tag)) {
@@ -211,7 +211,7 @@ bool GetSettings(Database& database) {
     const RecordTable& table = SettingsTable();
     bool found = false;
     if (database.HasTable(table.Shape.Name)) {
-        Recordset rows(database, table.Shape);
+        Recordset rows(database, table.Shape, Recordset::Unplaced());
         rows.Index("Tag_Number");
         found = rows.Seek(Calc.Tag);
         if (found) TakeRow(table, rows);

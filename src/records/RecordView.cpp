@@ -93,10 +93,9 @@ bool RecordView::Find(std::string_view tag) {
 bool RecordView::NextOutdated(bool fromStart) {
     if (!hasRecord_) return false;
     const std::string before = head_.Tag;
-    fromStart ? heads_.MoveFirst() : heads_.MoveNext();
-    for (; !heads_.AtEnd(); heads_.MoveNext()) {
-        if (IsOutdated(heads_)) return TakeHead();
-    }
+    if (fromStart) heads_.MoveFirst();
+    if (!fromStart || !IsOutdated(heads_)) heads_.MoveToNext(IsOutdated);
+    if (!heads_.AtEnd()) return TakeHead();
     heads_.Seek(before);
     return false;
 }

@@ -67,7 +67,7 @@ void FindWhatToSave() {
 }
 
 bool HasRow(Database& database, const RecordTable& table) {
-    Recordset rows(database, table.Shape);
+    Recordset rows(database, table.Shape, Recordset::Unplaced());
     rows.Index("Tag_Number");
     return rows.Seek(Calc.Tag);
 }
@@ -125,13 +125,13 @@ void SaveRow(Database& database, const RecordTable& table) {
         return Tell("Each record must have a unique Tag Number",
                     &table == &MixtureTable() ? "Mixture File" : Suite.DatabaseFile, Icon::Stop);
     }
-    Recordset rows(database, table.Shape);
+    Recordset rows(database, table.Shape, Recordset::Unplaced());
     rows.Index("Tag_Number");
     WriteRow(rows, table);
 }
 
 void DeleteRow(Database& database, const RecordTable& table) {
-    Recordset rows(database, table.Shape);
+    Recordset rows(database, table.Shape, Recordset::Unplaced());
     rows.Index("Tag_Number");
     if (rows.Seek(Calc.Tag)) rows.Delete();
 }
@@ -188,7 +188,7 @@ void TakeAsSaved() {
 
 bool WriteRecord() {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
-    Recordset heads(*database, HeadTable().Shape);
+    Recordset heads(*database, HeadTable().Shape, Recordset::Unplaced());
     heads.Index("Tag_Number");
     bool mayOverwrite = false;
     std::vector<std::string> refused;
@@ -243,7 +243,7 @@ void WriteWholeRecord(Database& database) {
     MarkEverything();
     ComposeCodes();
     Transaction all(database);
-    Recordset heads(database, HeadTable().Shape);
+    Recordset heads(database, HeadTable().Shape, Recordset::Unplaced());
     heads.Index("Tag_Number");
     WriteRow(heads, HeadTable());
     for (const std::string& each : SaveRows(database)) throw RuntimeError(3163, each);
