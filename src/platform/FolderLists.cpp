@@ -74,7 +74,8 @@ void FileList::SetPath(const std::string& path) {
 void FileList::Renew() {
     std::vector<std::string> rows;
     try {
-        for (std::string& name : ListFolder(path_).Files) {
+        FolderContents contents = ListFolder(path_);
+        for (std::string& name : contents.Files) {
             if (MatchesPattern(name, pattern_)) rows.push_back(std::move(name));
         }
     } catch (const RuntimeError&) {

@@ -143,13 +143,6 @@ std::string Str(double value) {
     return FromScientific({buffer, static_cast<std::size_t>(written.ptr - buffer)});
 }
 
-std::string StrSingle(float value) {
-    if (value == 0 || !std::isfinite(value)) return " 0";
-    char buffer[40];
-    const auto written = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific);
-    return FromScientific({buffer, static_cast<std::size_t>(written.ptr - buffer)});
-}
-
 double Int(double value) { return std::floor(value); }
 
 std::string TrimmedStr(double value) { return std::string(Trim(Str(value))); }

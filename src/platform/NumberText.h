@@ -20,9 +20,6 @@ bool ValReadsAll(std::string_view text);
 // that Str writes. A value that is not finite is the caller's fault: it is written as " 0".
 std::string Str(double value);
 
-// The shortest text that reads back as the same 32-bit value, in the form of Str.
-std::string StrSingle(float value);
-
 // The whole number towards minus infinity, kept as a double so that no range is lost.
 double Int(double value);
 

@@ -81,7 +81,9 @@ void SaveTable(const TableDescription& table, const std::vector<TableFields>& ro
                const TableVariant& variant) {
     TextWriter file(TablePath(table, variant));
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i == 0 || IsKept(table, rows[i])) file.Line(LineOf(table, rows[i]));
+        const std::optional<std::string> line =
+            i == 0 ? LineOf(table, rows[i]) : SavedTableLine(table, rows[i]);
+        if (line) file.Line(*line);
     }
     file.Commit();
 }
