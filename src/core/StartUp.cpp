@@ -110,17 +110,19 @@ void Boot(const std::string& programFolder) {
     Suite.HelpFile = programFolder + "\\VOTR.HLP";
     if (!ReadDefaultPaths()) {
         for (std::size_t i = 1; i <= 4; ++i) Suite.DefaultPaths[i] = programFolder + "\\TRData";
+        Suite.ChosenDataPath = Suite.DefaultPaths[1];
     }
     ReadColours();
     ShowForm("frmTRProg");
 }
 
-bool ReadDefaultPaths() {
+bool ReadDefaultPaths(std::size_t count) {
     try {
         ItemReader file(Suite.DefaultPaths[5] + "\\TRDrv.txt");
         Row<std::string, 6> paths = Suite.DefaultPaths;
-        for (std::size_t i = 1; i <= 4; ++i) paths[i] = file.NextText();
+        for (std::size_t i = 1; i <= count; ++i) paths[i] = file.NextText();
         Suite.DefaultPaths = paths;
+        Suite.ChosenDataPath = paths[1];
         return true;
     } catch (const RuntimeError&) {
         return false;
@@ -130,10 +132,9 @@ bool ReadDefaultPaths() {
 void SaveDefaultPaths() {
     TextWriter file(Suite.DefaultPaths[5] + "\\TRDRV.txt");
     for (std::size_t i = 1; i <= 4; ++i) {
-        const std::string& path = Suite.DefaultPaths[i];
-        const bool readsBack =
-            path.find_first_of("\"\r\n\x1A") == std::string::npos && Utf8From1252(Code1252From(path)) == path;
-        if (!readsBack) throw failure::BadFileName();
+        const std::string& path = i == 1 ? Suite.ChosenDataPath : Suite.DefaultPaths[i];
+        if (path.find_first_of("\"\r\n\x1A") != std::string::npos || !IsIn1252(path))
+            throw failure::BadFileName();
         file.Quoted(path);
     }
     file.Commit();

@@ -27,12 +27,12 @@ void StartUp(const std::string& programFolder);
 // Colours, default paths, help file, then the browser.
 void Boot(const std::string& programFolder);
 
-// Reads the default paths from TRDRV.txt of the program's folder; false when the file is missing or short,
-// with the paths left as they were.
-bool ReadDefaultPaths();
+// Reads the first so many default paths from TRDRV.txt of the program's folder; false when the file is
+// missing or short, with the paths left as they were.
+bool ReadDefaultPaths(std::size_t count = 4);
 
-// Writes TRDRV.txt, four quoted lines. Throws, with nothing written, when a path cannot be held by such a
-// file.
+// Writes TRDRV.txt, four quoted lines; the first is Suite.ChosenDataPath. Throws, with nothing written, when
+// a path cannot be held by such a file.
 void SaveDefaultPaths();
 
 // Reads twelve numbers from a colour file into the colours; throws, with nothing changed, when the file is

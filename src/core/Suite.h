@@ -25,6 +25,9 @@ struct SuiteState {
     // 1 database, 2 user units, 3 printout headings, 4 data files, 5 the program's own folder; in the
     // suite's words, with "\" between the parts that it adds.
     Row<std::string, 6> DefaultPaths{};
+    // Default path 1 as it was read or chosen in the path finder. DefaultPaths[1] itself goes with the
+    // database on the screen, and looking at another one must not change the path that is kept on disk.
+    std::string ChosenDataPath;
     Row<std::uint32_t, 13> Colours{};                                  // 1 to 12, 0x00BBGGRR
     std::string HideFluidReminder, HideRoundReminder, HideFlowStatus;  // "Yes" or empty, never read back
     Row<std::string, 36> UserLiquidUnitName{}, UserGasUnitName{};

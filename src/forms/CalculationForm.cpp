@@ -33,7 +33,6 @@ namespace {
 
 constexpr const char* CaseCaptions[CaseCount] = {"&Maximum", "&Normal", "M&inimum"};
 constexpr const char* DatePrompt = "Date";
-constexpr const char* DatabaseTitle = "Database TRDB.MDB";
 
 // The longest texts that the database keeps.
 constexpr std::size_t TagLength = 30;
@@ -338,10 +337,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile, bool mayCreate) {
 }
 
 bool CalculationForm::Save() {
-    if (Suite.DefaultPaths[1].empty()) {
-        Tell("You must create the default path first", DatabaseTitle);
-        return false;
-    }
+    if (!MustHaveDataPath(Suite.DefaultPaths[1])) return false;
     return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]), true);
 }
 

@@ -14,7 +14,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr const char* DatabaseTitle = "Database TRDB.MDB";
 constexpr const char* CreateTitle = "Create New Database File";
 constexpr const char* DatabaseFilter = "Access DB Files(TRDB.MDB)|TRDB.MDB";
 

@@ -1,4 +1,6 @@
 // See frmTRProg.h: the records of version 5, which go to the database in hand.
+#include <algorithm>
+
 #include "core/CalcRecord.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
@@ -17,7 +19,7 @@ namespace {
 constexpr const char* ConvertTitle = "Convert 5.x to 6 data";
 constexpr std::size_t HeadingLines = 12;  // of the headings file after a conversion
 constexpr std::size_t OldHeadingLines = 8;
-constexpr std::size_t ListedAtMost = 20;
+constexpr std::size_t ListedInABox = 20;
 
 struct Step {
     const char* Text;
@@ -38,8 +40,7 @@ std::string AskOldFile(const Step& step) {
     Tell(step.Text, ConvertTitle);
     const auto file = AskFile({.Title = ConvertTitle, .Filter = step.Filter, .Folder = Suite.DatabasePath});
     if (!file || file->empty()) return {};
-    const std::size_t end = step.FileName.size();
-    if (file->size() >= end && SameName(file->substr(file->size() - end), step.FileName)) return *file;
+    if (SameName(FileNameOf(*file), step.FileName)) return *file;
     Tell(step.WrongName, ConvertTitle);
     return {};
 }
@@ -98,14 +99,11 @@ void TellReport(const Version5Report& report) {
                  " records are of programs that this version does not have\nThey were passed over",
              ConvertTitle, Icon::Exclamation);
     }
-    if (!report.Unsaved.empty()) {
+    for (std::size_t first = 0; first < report.Unsaved.size(); first += ListedInABox) {
         std::string list = "Not saved:";
-        for (std::size_t i = 0; i < report.Unsaved.size() && i < ListedAtMost; ++i) {
-            list += "\n" + report.Unsaved[i];
-        }
-        if (report.Unsaved.size() > ListedAtMost) {
-            list += "\nand " + std::to_string(report.Unsaved.size() - ListedAtMost) + " more";
-        }
+        const std::size_t end = std::min(first + ListedInABox, report.Unsaved.size());
+        for (std::size_t i = first; i < end; ++i) list += "\n" + report.Unsaved[i];
+        if (end < report.Unsaved.size()) list += "\n...";
         Tell(list, ConvertTitle, Icon::Exclamation);
     }
     Tell(report.Stopped ? "The conversion was stopped" : "Conversion Complete!", ConvertTitle);
@@ -116,8 +114,7 @@ void TellReport(const Version5Report& report) {
 void frmTRProg::mnuConvertRandom_Click() {
     std::string target = view_ != nullptr ? lblPath(0).Caption() : Suite.DatabaseFile;
     if (target.empty()) {
-        if (Suite.DefaultPaths[1].empty())
-            return Tell("You must create the default path first", ConvertTitle);
+        if (!MustHaveDataPath(Suite.DefaultPaths[1])) return;
         target = DatabaseFileOf(Suite.DefaultPaths[1]);
     }
     // The title tells where the records will go.

@@ -21,7 +21,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr const char* DatabaseTitle = "Database TRDB.MDB";
 constexpr const char* OutdatedTitle = "Outdated Calculations";
 constexpr const char* PrintoutForm = "frmObxPrintCalc";
 
@@ -61,11 +60,16 @@ void frmTRProg::HookDatabase() {
 
 // --- Open and close ----------------------------------------------------------------------------------------
 
-// The finder works on the default path; what it finds is a path to look at, and the default stays.
+// The finder works on the default path; what it finds is a path to look at, and the default stays unless the
+// user saved it there.
 void frmTRProg::optBrouseDB_Click() {
-    const std::string defaultPath = Suite.DefaultPaths[1];
-    if (FindDefaultPath(1, "Data file ")) Suite.BrowsePath = Suite.DefaultPaths[1];
-    Suite.DefaultPaths[1] = defaultPath;
+    const std::string path = Suite.DefaultPaths[1], chosen = Suite.ChosenDataPath;
+    const PathAnswer answer = FindDefaultPath(1, "Data file ");
+    if (answer != PathAnswer::Cancelled) Suite.BrowsePath = Suite.DefaultPaths[1];
+    if (answer == PathAnswer::Kept) {
+        Suite.DefaultPaths[1] = path;
+        Suite.ChosenDataPath = chosen;
+    }
     if (Suite.BrowsePath.empty()) optDefaultDB.SetChecked(true);
 }
 
@@ -74,12 +78,9 @@ bool frmTRProg::ChooseDatabase() {
         optDefaultDB.SetChecked(true);
         Suite.BrowsePath.clear();
     }
-    if (optDefaultDB.Checked()) ReadDefaultPaths();  // without the file those in force stand
+    if (optDefaultDB.Checked()) ReadDefaultPaths(3);  // without the file those in force stand
     const std::string& folder = optDefaultDB.Checked() ? Suite.DefaultPaths[1] : Suite.BrowsePath;
-    if (folder.empty()) {
-        Tell("You must create the default path first", DatabaseTitle);
-        return false;
-    }
+    if (!MustHaveDataPath(folder)) return false;
     Suite.DatabasePath = folder;
     Suite.DatabaseFile = DatabaseFileOf(folder);
     return true;
@@ -89,12 +90,13 @@ bool frmTRProg::OpenView() {
     const BusyPointer busy;
     try {
         view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
+        SetStatus("");
         return true;
     } catch (const RuntimeError& error) {
-        const char* const hint = FileExists(Suite.DatabaseFile)
-                                     ? ""
-                                     : "\nThere is none yet: the first calculation that is saved makes it";
-        Tell(error.Description + hint, Suite.DatabaseFile, Icon::Stop);
+        SetStatus(FileExists(Suite.DatabaseFile)
+                      ? ""
+                      : "There is no database yet: the first calculation that is saved makes it");
+        Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
         return false;
     }
 }

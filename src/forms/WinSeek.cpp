@@ -33,7 +33,7 @@ constexpr PathEntry PathEntries[] = {
     {"Tables default path", "Liquid.txt"},
 };
 
-bool Accepted = false;  // by the finder that was closed last
+PathAnswer Answered = PathAnswer::Cancelled;  // in the finder that was closed last
 
 constexpr const char* ResetCaption = "&Reset";
 constexpr const char* SearchCaption = "&Search";
@@ -42,14 +42,14 @@ constexpr const char* StopCaption = "Cancel";
 
 }  // namespace
 
-bool FindDefaultPath(int slot, const std::string& title) {
+PathAnswer FindDefaultPath(int slot, const std::string& title) {
     const PathEntry& entry = PathEntries[slot - 1];
     Calc.MessageTitle = title.empty() ? entry.Title : title;
     Calc.MessageText = entry.Pattern;
     UnloadForm(FormName);
     static_cast<WinSeek&>(LoadForm(FormName)).Begin(slot, Calc.MessageTitle, Calc.MessageText);
     ShowForm(FormName, Modal::Yes);
-    return std::exchange(Accepted, false);
+    return std::exchange(Answered, PathAnswer::Cancelled);
 }
 
 WinSeek::WinSeek() : SuiteForm(FormName) {
@@ -105,6 +105,7 @@ void WinSeek::Begin(int slot, const std::string& title, const std::string& patte
     slot_ = static_cast<std::size_t>(slot);
     SetCaption(title);
     OriginalPath = Suite.DefaultPaths[slot_];
+    OriginalChosenPath = Suite.ChosenDataPath;
     OriginalDatabasePath = Suite.DatabasePath;
     txtPath.SetText(OriginalPath);
     txtSearchSpec.SetText(pattern);
@@ -147,13 +148,18 @@ bool WinSeek::AcceptPath() {
         txtPath.SetFocus();
         return false;
     }
-    Suite.DefaultPaths[slot_] = std::string(Trim(path));
+    SetPath(path, path);
     return true;
+}
+
+void WinSeek::SetPath(const std::string& path, const std::string& chosen) {
+    Suite.DefaultPaths[slot_] = path;
+    if (slot_ == DatabaseSlot) Suite.ChosenDataPath = chosen;
 }
 
 void WinSeek::cmdOK_Click() {
     if (!AcceptPath() || SaveRequested == words::Yes) return;
-    Accepted = true;
+    Answered = saved_ ? PathAnswer::Saved : PathAnswer::Kept;
     UnloadForm(Name());
 }
 
@@ -164,6 +170,7 @@ void WinSeek::cmdSave_Click() {
     if (!accepted) return;
     try {
         SaveDefaultPaths();
+        saved_ = true;
     } catch (const RuntimeError& error) {
         Tell(error.Description + " occurred Path " + txtPath.Text(), Caption());
     }
@@ -171,7 +178,7 @@ void WinSeek::cmdSave_Click() {
 
 // Takes back what Save has put into the slot, though not what it wrote to the disk.
 void WinSeek::cmdCancel_Click() {
-    Suite.DefaultPaths[slot_] = OriginalPath;
+    SetPath(OriginalPath, OriginalChosenPath);
     txtPath.SetText(OriginalPath);
     if (slot_ == DatabaseSlot) Suite.DatabasePath = OriginalDatabasePath;
     UnloadForm(Name());

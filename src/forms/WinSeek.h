@@ -13,8 +13,9 @@
 namespace quillmetra {
 
 // Opens the path finder over the form in hand for default path 1 to 4. The title is that of the path's menu
-// entry unless another one is given. False when the user cancelled.
-bool FindDefaultPath(int slot, const std::string& title = {});
+// entry unless another one is given.
+enum class PathAnswer { Cancelled, Kept, Saved };
+PathAnswer FindDefaultPath(int slot, const std::string& title = {});
 
 class WinSeek : public SuiteForm {
 public:
@@ -69,6 +70,7 @@ private:
 
     // Takes the path of the box when it stands every test.
     bool AcceptPath();
+    void SetPath(const std::string& path, const std::string& chosen);
     void ResetSearch();
     void Search();
     void ShowHits();
@@ -76,11 +78,12 @@ private:
     bool IsSearching() const { return walk_.SearchFlag != 0; }
 
     std::size_t slot_ = 1;
-    std::string OriginalPath, OriginalDatabasePath;
+    std::string OriginalPath, OriginalChosenPath, OriginalDatabasePath;
     std::string SaveRequested;
     PathWalk walk_;
     std::chrono::steady_clock::time_point shown_;  // when hits were last put into the list
     bool closeAfterSearch_ = false;
+    bool saved_ = false;
 };
 
 }  // namespace quillmetra

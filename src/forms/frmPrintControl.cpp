@@ -13,6 +13,7 @@
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "records/RecordFiles.h"
 #include "records/SaveRecord.h"
 
 namespace quillmetra {
@@ -204,10 +205,7 @@ void frmPrintControl::cmdDefaultTitles_Click() {
 }
 
 void frmPrintControl::cmdSaveInDb_Click() {
-    if (Suite.DefaultPaths[1].empty()) {
-        Tell("You must create the default path first", "Database TRDB.MDB");
-        return;
-    }
+    if (!MustHaveDataPath(Suite.DefaultPaths[1])) return;
     if (Record.txtTagNum.Text().empty()) return;
     std::ranges::copy(TitleTexts(), Calc.HeadingText.begin() + FirstTitle);
     Calc.HeadingText[1] = txtPrintoutDate.Text();

@@ -13,6 +13,7 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
 #include "platform/Utf8.h"
 
 namespace quillmetra {
@@ -217,13 +218,22 @@ void frmTables::grdTable_Click() {
     txtHole(std::max(1, grdTable.SelectedColumn())).SetFocus();
 }
 
+namespace {
+// What the file will not give back as it was typed.
+const char* WarningOf(const std::string& field) {
+    if (field.find(',') != std::string::npos)
+        return "A comma ends a field: what follows it is the next column when the file is read again";
+    if (!IsIn1252(field))
+        return "The file cannot hold one of these letters: other letters will be read again";
+    return "";
+}
+}  // namespace
+
 void frmTables::txtHole_Change(int index) {
     if (copying_) return;
     RowEdited = words::Yes;
     FileEdited = words::Yes;
-    const bool parts = txtHole(index).Text().find(',') != std::string::npos;
-    SetStatus(parts ? "A comma ends a field: what follows it is the next column when the file is read again"
-                    : "");
+    SetStatus(WarningOf(txtHole(index).Text()));
 }
 
 void frmTables::txtHole_KeyPress(int index, Key& key) {
@@ -330,7 +340,7 @@ std::vector<TableFields> frmTables::FieldsOfGrid() const {
 void frmTables::TellLostLines() const {
     if (lost_.empty()) return;
     std::string text =
-        "These lines of the file are too short or too long for the table.\n"
+        "These lines of the file are too short or too long for the table, or stand behind its end.\n"
         "What the grid does not show of them is lost when the file is saved:\n";
     for (std::size_t i = 0; i < std::min(lost_.size(), ToldLines); ++i) {
         text +=

@@ -8,6 +8,7 @@
 
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
+#include "platform/SafeFiles.h"
 #include "platform/TextCase.h"
 
 namespace quillmetra {
@@ -54,9 +55,14 @@ bool IsAscii(std::string_view bytes) {
     return bits < 0x80;
 }
 
-std::string ReadWhole(std::string_view suitePath) {
+// The text to the byte that ends a file, and what stands behind it unless these are blanks.
+std::string ReadWhole(std::string_view suitePath, std::string* behind = nullptr) {
     std::string bytes = ReadBytes(suitePath);
-    if (const std::size_t end = bytes.find('\x1A'); end != std::string::npos) bytes.resize(end);
+    if (const std::size_t end = bytes.find('\x1A'); end != std::string::npos) {
+        const std::size_t text = bytes.find_first_not_of("\x1A \t\r\n", end);
+        if (behind != nullptr && text != std::string::npos) *behind = Utf8From1252(bytes.substr(text));
+        bytes.resize(end);
+    }
     if (IsAscii(bytes)) return bytes;
     return Utf8From1252(bytes);
 }
@@ -186,8 +192,10 @@ std::string Code1252From(std::string_view utf8) {
     return bytes;
 }
 
+bool IsIn1252(std::string_view utf8) { return Utf8From1252(Code1252From(utf8)) == utf8; }
+
 LineReader::LineReader(std::string_view suitePath)
-    : text_(ReadWhole(suitePath)), lineFeed_(std::min(text_.find('\n'), text_.size())) {}
+    : text_(ReadWhole(suitePath, &behind_)), lineFeed_(std::min(text_.find('\n'), text_.size())) {}
 
 std::size_t LineReader::EndOfLine() {
     // Looked for once, also in a file whose lines all end in CR.
@@ -271,8 +279,7 @@ void TextWriter::Commit() {
     file.write(text_.data(), static_cast<std::streamsize>(text_.size()));
     file.close();
     if (!file) throw failure::PathAccess();
-    fs::rename(beside_, target_, error);
-    if (error) throw failure::PathAccess();
+    MoveOver(beside_, target_);
     written_ = false;
 }
 

@@ -42,6 +42,9 @@ FileStamp StampOf(const std::filesystem::path& path);
 std::string Utf8From1252(std::string_view bytes);
 std::string Code1252From(std::string_view utf8);
 
+// Whether a text comes back from a file as it is, letter by letter.
+bool IsIn1252(std::string_view utf8);
+
 // Reads line by line. The file is read whole when it is opened; a file of more than 256 MB is refused.
 class LineReader {
 public:
@@ -53,11 +56,14 @@ public:
     // The next line without the blanks at its ends, for files that must be there to their end: throws "Input
     // past end of file" when there is none, and when it has no end of its own, as the last one of a cut file.
     std::string NextWhole();
+    // The text behind the byte 0x1A, which is no part of the file but would be missed in a rewritten one.
+    // Empty when there are but blanks.
+    const std::string& BehindEnd() const { return behind_; }
 
 private:
     std::size_t EndOfLine();
 
-    std::string text_;
+    std::string behind_, text_;  // in this order: reading the text finds what is behind it
     std::size_t next_ = 0;
     std::size_t lineFeed_;  // the first one from next_ on, the length of the text where there is none
 };

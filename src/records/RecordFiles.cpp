@@ -165,9 +165,15 @@ void DeleteRows(Database& database, const std::string& tag) {
 
 std::string DatabaseFileOf(const std::string& folder) { return folder + "\\" + FileName; }
 
-bool IsDatabaseName(const std::string& file) {
-    return SameName(std::string_view(file).substr(file.find_last_of("\\/") + 1), FileName);
+bool MustHaveDataPath(const std::string& folder) {
+    if (!folder.empty()) return true;
+    Tell("You must create the default path first", DatabaseTitle);
+    return false;
 }
+
+bool IsDatabaseName(const std::string& file) { return SameName(FileNameOf(file), FileName); }
+
+std::string_view FileNameOf(std::string_view file) { return file.substr(file.find_last_of("\\/") + 1); }
 
 std::string FolderOf(const std::string& file) {
     const std::size_t end = file.find_last_of("\\/");

@@ -17,8 +17,17 @@ namespace quillmetra {
 // Folder & "\TRDB.MDB".
 std::string DatabaseFileOf(const std::string& folder);
 
+// The title of the boxes about the database as a whole.
+inline constexpr const char* DatabaseTitle = "Database TRDB.MDB";
+
+// False, after a message, for an empty folder.
+bool MustHaveDataPath(const std::string& folder);
+
 // Whether a file is named TRDB.MDB, in whatever case: the whole name, not just its end.
 bool IsDatabaseName(const std::string& file);
+
+// The two parts of a file's full name.
+std::string_view FileNameOf(std::string_view file);
 std::string FolderOf(const std::string& file);
 
 // Opens a database and checks that it is one of the suite's with its six tables. "Open failed (Database

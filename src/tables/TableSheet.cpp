@@ -62,13 +62,15 @@ TableSheet LoadTable(const TableDescription& table, const TableVariant& variant)
     LineReader file(TablePath(table, variant));
     TableSheet sheet;
     std::string line;
-    for (int number = 1; file.Next(line); ++number) {
+    int number = 1;
+    for (; file.Next(line); ++number) {
         const bool heading = number == 1;
         const bool row = heading || static_cast<int>(CharacterCount(line)) >= table.MinimumLength;
         const bool split = heading || (row && IsSplit(table, line));
         if (row) sheet.Rows.push_back(heading ? SplitFields(table, line) : SplitTableLine(table, line));
         if (HoldsText(split ? TextBehind(table, line) : line)) sheet.Lost.push_back({number, line});
     }
+    if (!file.BehindEnd().empty()) sheet.Lost.push_back({number, file.BehindEnd()});
     return sheet;
 }
 

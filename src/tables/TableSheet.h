@@ -14,7 +14,8 @@
 
 namespace quillmetra {
 
-// A line of the file that is not, or not wholly, among the fields, so that a save loses text of it.
+// A line of the file that is not, or not wholly, among the fields, so that a save loses text of it; the last
+// one may be all that stands behind the byte that ends the file.
 struct LostLine {
     int Number;  // counted from 1, the heading line
     std::string Text;

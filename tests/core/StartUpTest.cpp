@@ -68,6 +68,9 @@ TEST_F(StartUpTest, PathsComeFromAWholeFileOnly) {
             << each.Content;
         EXPECT_EQ(Suite.DefaultPaths[4], each.Whole ? "d:\\data, all" : SuitePath(Folder) + "\\TRData");
         EXPECT_EQ(Suite.DefaultPaths[5], SuitePath(Folder));
+        Suite.DefaultPaths[4] = "chosen since";
+        ReadDefaultPaths(3);
+        EXPECT_EQ(Suite.DefaultPaths[4], "chosen since");
     }
     // A folder under the file's name is no file, and stops nobody.
     fs::remove(Folder / "trdrv.TXT");

@@ -257,6 +257,7 @@ TEST_F(OldData, CancelAndWrongFilesChangeNothing) {
         {{data, FileOf("HEADINGS.DAT")}, Answer::No, "Before conversion"},
         {{}, Answer::Yes, "Step 1 - Find"},
         {{FileOf("OBXDAT.TAG")}, Answer::Yes, "Must find file named OBXDAT.DAT"},
+        {{FileOf("MYOBXDAT.DAT")}, Answer::Yes, "Must find file named OBXDAT.DAT"},
         {{data}, Answer::Yes, "Step 2, Find"},
         {{data, FileOf("TRHDG.txt")}, Answer::Yes, "Must find file named headings.dat"},
         {{data, FileOf("HEADINGS.DAT")}, Answer::Yes, "OBXDAT.TAG"},  // the tags are missing
@@ -279,6 +280,11 @@ TEST_F(OldData, RunEndsWhenTheUserHasEnough) {
     Convert(records, "");
     EXPECT_TRUE(WasTold("20 records could not be saved so far"));
     EXPECT_EQ(Host.LastText(), "The conversion was stopped");
+    EXPECT_TRUE(WasTold("record 20, without a tag"));
+    Host.Boxes.clear();
+    Host.Answers = {Answer::Yes, Answer::Yes, Answer::Yes};
+    Convert(records, "");
+    EXPECT_TRUE(WasTold("record 50, without a tag"));
     Host.EscapePressed = true;
     Convert(records, "A\nB\n");
     EXPECT_EQ(Saved(), "");

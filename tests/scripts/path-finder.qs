@@ -107,10 +107,51 @@ expect-state optBrouseDB checked
 answer No
 click mnuCreateDB
 expect-message "TRData\\V\nWill be destroyed"
+# A database that is only looked at is not kept as the default, even when another path is saved meanwhile.
+click optBrouseDB
+answer OK
+key txtPath \
+expect-message Path
+key txtPath V
+click cmdOK
+answer Yes
+answer OK
+click mnuCreateDB
+expect-message "TRData\\V\nWill be destroyed"
+expect-message New database TRDB.MDB created
+click optBrouseDB
+answer OK
+key txtPath \
+expect-message Path
+key txtPath V
+click cmdOK
+answer OK
+click cmdDBOpen
+expect-message The database is empty!
+click mnuPathUserUnitFile
+click cmdSave
+click cmdOK
+click cmdDBClose
+answer OK
+click cmdDBOpen
+expect-message Open failed (Database invalid)
+# One that is saved there is.
+click optBrouseDB
+answer OK
+key txtPath \
+expect-message Path
+key txtPath V
+click cmdSave
+click cmdOK
+click optDefaultDB
+answer OK
+click cmdDBOpen
+expect-message The database is empty!
+click cmdDBClose
 click mnuPathDataFile
 answer OK
 key txtPath :
-expect-message TRData:
+expect-message V:
 click cmdCancel
 
 # --- The same finder from a calculation form.

@@ -175,11 +175,15 @@ TEST_F(TableSheets, TheHeadingStaysWhateverItHolds) {
 TEST_F(TableSheets, KnowsWhatASaveWouldLose) {
     const TableSheet sheet = Loaded(table::Pipe,
                                     "Size\r\n1,40,1.049,.133\r\nshort\r\n\r\n,,,,\r\n1,5,1.1,.1\r\n"
-                                    "6,40,6.065,.28,6.625\r\n6,80,5.761,.432,,\n 1/2 ,40");
+                                    "6,40,6.065,.28,6.625\r\n6,80,5.761,.432,,\n 1/2 ,40\r\n"
+                                    "\x1A\r\n8,40,7.981,.322\r\n");
     std::map<int, std::string> lost;
     for (const LostLine& line : sheet.Lost) lost[line.Number] = line.Text;
-    EXPECT_EQ(lost, (std::map<int, std::string>{
-                        {3, "short"}, {6, "1,5,1.1,.1"}, {7, "6,40,6.065,.28,6.625"}, {8 + 1, " 1/2 ,40"}}));
+    EXPECT_EQ(lost, (std::map<int, std::string>{{3, "short"},
+                                                {6, "1,5,1.1,.1"},
+                                                {7, "6,40,6.065,.28,6.625"},
+                                                {9, " 1/2 ,40"},
+                                                {10, "8,40,7.981,.322\r\n"}}));
     EXPECT_EQ(sheet.Rows.size(), 5);
 }
 
