@@ -60,6 +60,8 @@ FormWindow::FormWindow(Form& form)
 
     MakeViews();
     status_->setTextFormat(Qt::PlainText);
+    // A long text is cut by the window and does not widen it; the tool tip has it whole.
+    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(status_, 1);
     statusBar()->setSizeGripEnabled(!form.Fixed);
     for (ControlView* view : views_) view->RenewAll();
@@ -199,6 +201,7 @@ void FormWindow::Renew(const Control& control, Aspect aspect) {
 void FormWindow::RenewForm() {
     setWindowTitle(ToQt(form_->Caption()));
     status_->setText(ToQt(form_->Status()));
+    status_->setToolTip(status_->text());
     QPalette palette = pane_->palette();
     palette.setColor(QPalette::Window, ToQt(form_->BackColour()));
     pane_->setPalette(palette);

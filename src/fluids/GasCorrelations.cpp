@@ -2,6 +2,9 @@
 #include "fluids/GasCorrelations.h"
 
 #include <cmath>
+#include <limits>
+
+#include "fluids/LiquidCorrelations.h"
 
 namespace quillmetra {
 
@@ -42,6 +45,11 @@ GasFactor SolveRedlichKwong(double critTemperature, double critPressure, double 
         if (std::fabs(step) < 1e-06) return {z, rounds, true};
         if (++rounds > mostRounds) return {z, rounds, false};
     }
+}
+
+double RedlichKwongLimit(double critTemperature, double critPressure, double temperature) {
+    const double reduced = ReducedTemperatureOf(temperature, critTemperature);
+    return reduced < 1 ? 0.5 * reduced * critPressure : std::numeric_limits<double>::infinity();
 }
 
 double GasDensityOf(double pressure, double temperature, double molecularWeight, double factor) {

@@ -18,6 +18,11 @@ struct GasFactor {
 // step is below 1e-06. The last value stands when that has not come after 51 rounds.
 GasFactor SolveRedlichKwong(double critTemperature, double critPressure, double temperature, double pressure);
 
+// The highest pressure (psia) for which the equation can be relied upon: P / Pc up to half of T / Tc, the
+// customary rule for a gas below its critical temperature. Infinite from there on, where its authors found
+// it good at any pressure.
+double RedlichKwongLimit(double critTemperature, double critPressure, double temperature);
+
 // lb/ft3.
 double GasDensityOf(double pressure, double temperature, double molecularWeight, double factor);
 

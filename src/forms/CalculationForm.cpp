@@ -217,6 +217,7 @@ void CalculationForm::ClearCase(int caseIndex) {
     if (Control* button = CalculateButton(caseIndex)) button->SetEnabled(true);
     BlankResults(caseIndex);
     ResultsBlanked(caseIndex);
+    if (caseIndex == hintedCase_) ShowHint("");
     clearable = words::No;
 }
 
@@ -259,6 +260,7 @@ bool CalculationForm::MayLeaveRecord() {
 }
 
 void CalculationForm::EmptyForm() {
+    ShowHint("");
     for (Control* control : Controls()) {
         if (control->Kind() == ControlKind::TextBox) static_cast<TextBox&>(*control).SetText("");
         if (control->Kind() == ControlKind::Plot) static_cast<Plot&>(*control).Clear();
@@ -269,7 +271,14 @@ void CalculationForm::ShowCalculated() {
     SnapshotRecord();
     ShowCalculation();
     mnuPrint.SetEnabled(true);
+    ShowHint(Hints());
     KeepRecovery();
+}
+
+void CalculationForm::ShowHint(const std::string& hint) {
+    if (!hint.empty() || Status() == hint_) SetStatus(hint);
+    hint_ = hint;
+    hintedCase_ = Calc.CaseIndex;
 }
 
 void CalculationForm::mnuPrint_Click() {

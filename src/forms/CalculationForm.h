@@ -117,6 +117,12 @@ protected:
     // The calculate button of a case, null when there is none.
     virtual Control* CalculateButton(int) { return nullptr; }
     int InputSlot(const Control& box) const override;
+    std::string StandingStatus() const override { return hint_; }
+    // What a user should know about the case in hand as it is calculated: where it lies outside the range of
+    // a correlation. Refuses nothing.
+    virtual std::string Hints() const { return {}; }
+    // Shows a hint in the status line until it no longer holds; an empty one takes the former away.
+    void ShowHint(const std::string& hint);
     // The fluid's name was typed over.
     virtual void FluidTyped() {}
     // The results of a case no longer stand as they were calculated: blanked, or in other units. What the
@@ -143,6 +149,8 @@ private:
     void SetCalculateButtons(bool enabled);
 
     int program_;
+    std::string hint_;
+    int hintedCase_ = 0;
     UnitNames unitsBeforePanel_;
 };
 

@@ -9,6 +9,7 @@
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
+#include "fluids/FluidRanges.h"
 #include "fluids/SteamTables.h"
 #include "forms/ColourSchemes.h"
 #include "platform/Dialogs.h"
@@ -131,6 +132,7 @@ void FluidForm::TickEntries() {
 
 void FluidForm::ShowFluidEntries() {
     edited_ = nullptr;
+    fluidHints_.fill("");
     titleTail_ = Calc.ProgramTitle.ends_with(TitleTail()) ? TitleTail() : "";
     CloseFluids();
     TickEntries();
@@ -159,6 +161,8 @@ void FluidForm::CloseOverlays() {
 
 // A fluid of the user's own is no mixture and no steam.
 void FluidForm::FluidTyped() {
+    fluidHints_.fill("");
+    ShowHint("");
     if (Calc.MixtureFlag != words::Yes && Calc.SteamKind.empty()) return;
     Calc.MixtureFlag = words::No;
     Calc.SteamKind.clear();
@@ -231,6 +235,7 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
     }
     TickEntries();
     if (isAnother) {
+        fluidHints_.fill("");
         // Nor does the former fluid's vapour pressure hold for the other cases.
         for (std::size_t i = 0; i < CaseCount; ++i) {
             if (i != ThisCase()) Calc.CaseInput[8][i] = 0;
@@ -239,6 +244,8 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
     } else {
         ClearCase(Calc.CaseIndex);
     }
+    fluidHints_[ThisCase()] = FluidHints();
+    ShowHint(FluidForm::Hints());  // of the fluid alone: the line is not calculated yet
     PropertiesTaken();
 }
 

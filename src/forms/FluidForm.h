@@ -61,6 +61,7 @@ protected:
     virtual void PropertiesTaken() {}
     void ReopenRecord() override;
     void FluidTyped() override;
+    std::string Hints() const override { return fluidHints_[ThisCase()]; }
     // A fluid was picked for the case in hand.
     virtual void FluidTaken() {}
     // Calculates the case in hand anew when it had results: a mixture does so.
@@ -116,7 +117,8 @@ private:
     static void FindSteamKind();
 
     FluidChoice before_;
-    std::string titleTail_;            // what ProgramTitle ends with for the fluid in hand
+    Row<std::string, CaseCount> fluidHints_{};  // of the fluid as it was taken for the case
+    std::string titleTail_;                     // what ProgramTitle ends with for the fluid in hand
     const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
     std::string textBefore_;
 };

@@ -5,7 +5,9 @@
 
 #include "core/Words.h"
 #include "forms/DataCheck.h"
+#include "lineloss/LineRanges.h"
 #include "reports/FormRefresh.h"
+#include "units/CorrelationRange.h"
 
 namespace quillmetra {
 
@@ -169,6 +171,8 @@ void LineLossForm::FluidTaken() {
     cmdCalculate.Each([](CommandButton& button, int) { button.SetEnabled(true); });
     cmdCalculate(Calc.CaseIndex).SetFocus();
 }
+
+std::string LineLossForm::Hints() const { return Sentences(FluidForm::Hints(), LineHints()); }
 
 // A case that has been calculated has a velocity.
 void LineLossForm::Recalculate() {

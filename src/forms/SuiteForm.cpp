@@ -31,7 +31,8 @@ void SuiteForm::ControlLostFocus(Control& control) {
     auto& box = static_cast<TextBox&>(control);
     box.SetColours(SlotColour(slot::InputBack), SlotColour(InputSlot(box)));
     const bool readWhole = !box.IsNumber || ValReadsAll(box.Text());
-    SetStatus(readWhole ? "" : std::string(Trim(box.Text())) + " is read as " + TrimmedStr(Val(box.Text())));
+    SetStatus(readWhole ? StandingStatus()
+                        : std::string(Trim(box.Text())) + " is read as " + TrimmedStr(Val(box.Text())));
 }
 
 }  // namespace quillmetra

@@ -21,6 +21,8 @@ public:
 protected:
     // The text colour slot of an input box that is left.
     virtual int InputSlot(const Control& box) const;
+    // What the status line says when it has nothing of the moment to tell.
+    virtual std::string StandingStatus() const { return {}; }
 };
 
 }  // namespace quillmetra

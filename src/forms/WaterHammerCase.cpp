@@ -7,11 +7,13 @@
 #include "core/Words.h"
 #include "forms/DataCheck.h"
 #include "forms/frmWaterHammer.h"
+#include "hammer/HammerRanges.h"
 #include "hammer/WaterHammer.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "units/Conversion.h"
+#include "units/CorrelationRange.h"
 #include "units/Temperature.h"
 
 namespace quillmetra {
@@ -140,6 +142,8 @@ void frmWaterHammer::cmdCalculateliq_Click() {
     txtBy.SetFocus();
     Calc.HammerCalculated = words::Yes;
 }
+
+std::string frmWaterHammer::Hints() const { return Sentences(FluidForm::Hints(), HammerHints()); }
 
 void frmWaterHammer::ShowResults(bool selected) {
     constexpr int firstOfSelected = 17;

@@ -157,6 +157,10 @@ void ExpectTitle(ScriptPlayer& player, const Arguments& arguments) {
     RequireSame("the title", player.FormInHand().Caption(), arguments[0].Text);
 }
 
+void ExpectStatus(ScriptPlayer& player, const Arguments& arguments) {
+    RequireSame("the status line", player.FormInHand().Status(), arguments[0].Text);
+}
+
 void ExpectTip(ScriptPlayer& player, const Arguments& arguments) {
     const Control& control = player.Named(arguments[0].Text);
     RequireSame("the tip of " + control.FullName(), control.ToolTip(), arguments[1].Text);
