@@ -6,6 +6,7 @@
 #include "forms/RegisterForms.h"
 #include "paper/PdfPaper.h"
 #include "platform/UserActs.h"
+#include "tests/Memory.h"
 #include "tests/records/RecordFixture.h"
 
 namespace quillmetra {
@@ -18,10 +19,7 @@ class PdfHost : public FakeHost {
 public:
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override { return OpenPdf(job); }
     bool Yield() override {
-        long pages = 0;
-        long resident = 0;
-        std::ifstream("/proc/self/statm") >> pages >> resident;
-        Resident.push_back(static_cast<double>(resident) * 4096 / 1e6);
+        Resident.push_back(ResidentMegabytes());
         return false;
     }
     std::vector<double> Resident;  // MB
