@@ -23,6 +23,8 @@ inline void TakeHammerScene() {
     Calc.FlowPressure = 114.7;
     Calc.MaxAllowPressure = 314.7;
     Calc.SelectedTime = 4;
+    Calc.CaseInput[3][0] = 100;
+    Calc.CaseInput[10][0] = 4;
 }
 
 inline void CalculateHammer() {

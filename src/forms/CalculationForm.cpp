@@ -165,6 +165,7 @@ void CalculationForm::Load() {
     const bool mixture = Calc.MixtureFlag == words::Yes;
     Calc.FluidOk = mixture ? "" : words::FluidLoaded;
     ShowChoices();
+    DrawResults();
     mnuPrint.SetEnabled(Calc.InCalculation == words::Yes);  // a saved record has what it was saved with
 }
 
@@ -271,6 +272,7 @@ void CalculationForm::ShowCalculated() {
     SnapshotRecord();
     ShowCalculation();
     mnuPrint.SetEnabled(true);
+    DrawResults();
     ShowHint(Hints());
     KeepRecovery();
 }
@@ -382,7 +384,6 @@ void CalculationForm::mnuExit_Click() {
 
 void CalculationForm::OpenPanel(const char* panel) {
     StoreForm();
-    unitsBeforePanel_ = Calc.UnitName;
     if (const Program* program = FindProgram(program_)) Calc.CalcOptionCaller = program->OptionsWord;
     SetCalculateButtons(false);
     SetEnabled(false);
@@ -406,9 +407,7 @@ void CalculationForm::ReturnFromPanel() {
     SetEnabled(true);
     SetCalculateButtons(true);
     Calc.FormLoading = words::No;
-    if (Calc.UnitName != unitsBeforePanel_) {
-        for (int i = 0; i < CaseCount; ++i) ResultsBlanked(i);
-    }
+    DrawResults();
     ShowForm(Name());
 }
 

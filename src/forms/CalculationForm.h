@@ -125,9 +125,10 @@ protected:
     void ShowHint(const std::string& hint);
     // The fluid's name was typed over.
     virtual void FluidTyped() {}
-    // The results of a case no longer stand as they were calculated: blanked, or in other units. What the
-    // form has drawn of them goes.
+    // The results of a case no longer stand: what the form has drawn of them goes.
     virtual void ResultsBlanked(int) {}
+    // Draws the results that stand, in the units shown.
+    virtual void DrawResults() {}
 
     // Ends a calculation whose results stand in the record: they are marked and shown, and can be printed.
     void ShowCalculated();
@@ -151,7 +152,6 @@ private:
     int program_;
     std::string hint_;
     int hintedCase_ = 0;
-    UnitNames unitsBeforePanel_;
 };
 
 }  // namespace quillmetra

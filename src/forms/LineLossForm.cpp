@@ -157,6 +157,7 @@ void LineLossForm::cmdCalculate_Click(int index) {
     Calc.PipeIndex = 1;
     try {
         if (!CalculateCase()) return;
+        drawnCase_ = index;
     } catch (const RuntimeError& error) {
         if (!TellNoResult(error)) throw;
         return;
@@ -181,8 +182,14 @@ void LineLossForm::Recalculate() {
     }
 }
 
-void LineLossForm::DrawLine(PlotDrawing drawing) {
-    drawnCase_ = Calc.CaseIndex;
+// Without results of the case drawn last, as in a saved record, the first case that has some is drawn.
+void LineLossForm::DrawResults() {
+    const auto hasResults = [](int caseIndex) { return StandingResult(2, caseIndex) > 0; };  // a velocity
+    for (int i = 0; i < CaseCount && !hasResults(drawnCase_); ++i) {
+        if (hasResults(i)) drawnCase_ = i;
+    }
+    if (!hasResults(drawnCase_)) return pltLine.Clear();
+    PlotDrawing drawing = DrawingOf(drawnCase_);
     drawing.Title = lblCase(drawnCase_).Caption() + " case";
     pltLine.Draw(std::move(drawing));
 }

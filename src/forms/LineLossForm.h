@@ -110,12 +110,13 @@ protected:
     void StoreOwn() override;
     void ShowChoices() override;
     void ResultsBlanked(int caseIndex) override;
+    void DrawResults() override;
+    // The line of a case whose results stand; without series when the form knows nothing to draw of it.
+    virtual PlotDrawing DrawingOf(int caseIndex) const = 0;
     Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
 
     // To be called by the form when its own controls stand.
     void Assemble();
-    // Draws the case in hand, which stands until its results go.
-    void DrawLine(PlotDrawing drawing);
 
 private:
     void OrderTabs();
@@ -123,7 +124,7 @@ private:
     bool CheckData();
     bool CheckLine();
 
-    int drawnCase_ = 0;
+    int drawnCase_ = 0;  // that calculated last, as long as its results stand
 };
 
 }  // namespace quillmetra

@@ -160,19 +160,19 @@ void frmWaterHammer::ShowResults(bool selected) {
         }
     }
     Calc.ResultsClearable[0] = words::Yes;
-    DrawClosing(selected);
     ShowCalculated();
 }
 
-void frmWaterHammer::DrawClosing(bool selected) {
+void frmWaterHammer::DrawResults() {
+    if (!ResultsStand(0) || !(Calc.HammerResult[12] > 0)) return pltClosing.Clear();
     ClosingCurve curve = ClosingCurveOfRecord();
     PlotDrawing drawing{.Title = {},
                         .Bottom = {"Closing time", unCloseTime.Caption()},
                         .Left = {"Pressure", Calc.UnitName[3]},
                         .Right = {},
                         .Series = {{"Pressure wave", std::move(curve.Times), std::move(curve.Pressures)}},
-                        .Marks = {{"critical", Calc.CriticalTime}, {"minimum", Calc.MinimumTime}}};
-    if (selected) drawing.Marks.push_back({"selected", Calc.SelectedTime});
+                        .Marks = {{"critical", Calc.HammerResult[12]}, {"minimum", Calc.HammerResult[16]}}};
+    if (HasSelectedClosing()) drawing.Marks.push_back({"selected", Calc.CaseInput[10][0]});
     drawing.Marks.push_back({"allowable", Calc.CaseInput[3][1], false});
     pltClosing.Draw(std::move(drawing));
 }

@@ -19,54 +19,22 @@ namespace {
 
 constexpr double StandardCubicFeetPerMole = 378.751445;  // of a lb-mole; whatever the base conditions
 
-// The places of a line that its picture shows: a march has a step a foot, and no screen that many dots.
-class LinePicture {
-public:
-    void Take(const GasStation& station) {
-        if (station.Part < next_ && station.Part < 1) {
-            last_ = station;
-            return;
-        }
-        Add(station);
-        next_ = station.Part + 1.0 / Stations;
-    }
-
-    // In the units shown, from the source on: a line calculated from its end was walked from there.
-    PlotDrawing Drawing() {
-        if (last_.Part > next_ - 1.0 / Stations) Add(last_);  // the step that stopped the march
-        if (Calc.PressureDirection == 2) {
-            for (auto* values : {&lengths_, &pressures_, &velocities_, &sonic_}) {
-                std::reverse(values->begin(), values->end());
-            }
-        }
-        return {.Title = {},
-                .Bottom = {"Length", Calc.UnitName[25]},
-                .Left = {"Pressure", Calc.UnitName[3]},
-                .Right = {"Velocity", Calc.UnitName[20]},
-                .Series = {{"Pressure", lengths_, pressures_},
-                           {"Velocity", lengths_, velocities_, true},
-                           {"Sonic velocity", lengths_, sonic_, true, true}},
-                .Marks = {}};
-    }
-
-private:
-    static constexpr int Stations = 200;
-
-    void Add(const GasStation& station) {
-        const double part = Calc.PressureDirection == 2 ? 1 - station.Part : station.Part;
-        const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
-        lengths_.push_back(part * Calc.PipeData[1]);
-        pressures_.push_back((station.Pressure - gauge) / Calc.UnitFactor[3]);
-        velocities_.push_back(station.Velocity / Calc.UnitFactor[20]);
-        sonic_.push_back(station.SonicVelocity / Calc.UnitFactor[20]);
-    }
-
-    std::vector<double> lengths_, pressures_, velocities_, sonic_;
-    double next_ = 0;
-    GasStation last_{};
-};
-
 }  // namespace
+
+void GasLinePicture::Take(const GasStation& station) {
+    last_ = station;
+    if (station.Part < next_ && station.Part < 1) return;
+    stations_.push_back(station);
+    next_ = station.Part + 1.0 / MostStations;
+}
+
+// A line calculated from its end was walked from there.
+void GasLinePicture::Complete() {
+    if (!stations_.empty() && last_.Part > stations_.back().Part) stations_.push_back(last_);
+    if (Calc.PressureDirection != 2) return;
+    std::reverse(stations_.begin(), stations_.end());
+    for (GasStation& station : stations_) station.Part = 1 - station.Part;
+}
 
 frmGasLineLoss::frmGasLineLoss()
     : LineLossForm({.Program = 2,
@@ -153,16 +121,36 @@ bool frmGasLineLoss::CheckFluid() {
 // --- Calculation -------------------------------------------------------------------------------------------
 
 bool frmGasLineLoss::CalculateCase() {
-    LinePicture picture;
+    GasLinePicture picture;
     CalcGasFriction();
     if (!CalcGasProfile([&picture](const GasStation& station) { picture.Take(station); })) return false;
     ShowResults(GasLineResultsOf(Calc));
-    if (Calc.EquivLength != 0) {
-        DrawLine(picture.Drawing());
-    } else {
-        pltLine.Clear();  // the inlet is sonic, and no step was taken
-    }
+    picture.Complete();
+    pictures_[ThisCase()] = std::move(picture);
     return true;
+}
+
+// Nothing of a saved record, which has the two ends of a line that is curved, nor of a line whose inlet is
+// sonic.
+PlotDrawing frmGasLineLoss::DrawingOf(int caseIndex) const {
+    const std::vector<GasStation>& stations = pictures_[static_cast<std::size_t>(caseIndex)].Stations();
+    const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
+    std::vector<double> lengths, pressures, velocities, sonic;
+    for (const GasStation& station : stations) {
+        lengths.push_back(station.Part * Calc.PipeData[1]);
+        pressures.push_back((station.Pressure - gauge) / Calc.UnitFactor[3]);
+        velocities.push_back(station.Velocity / Calc.UnitFactor[20]);
+        sonic.push_back(station.SonicVelocity / Calc.UnitFactor[20]);
+    }
+    if (stations.size() < 2) return {};
+    return {.Title = {},
+            .Bottom = {"Length", Calc.UnitName[25]},
+            .Left = {"Pressure", Calc.UnitName[3]},
+            .Right = {"Velocity", Calc.UnitName[20]},
+            .Series = {{"Pressure", lengths, pressures},
+                       {"Velocity", lengths, velocities, true},
+                       {"Sonic velocity", lengths, sonic, true, true}},
+            .Marks = {}};
 }
 
 void frmGasLineLoss::ShowResults(const GasLineResults& results) {

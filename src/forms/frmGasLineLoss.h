@@ -8,6 +8,22 @@
 
 namespace quillmetra {
 
+// The places of a line that its picture shows: a march has a step a foot, and no screen that many dots.
+class GasLinePicture {
+public:
+    void Take(const GasStation& station);
+    // After the last step, which may have stopped the march anywhere.
+    void Complete();
+    // From the source on.
+    const std::vector<GasStation>& Stations() const { return stations_; }
+
+private:
+    static constexpr int MostStations = 200;
+    std::vector<GasStation> stations_;
+    GasStation last_{};
+    double next_ = 0;
+};
+
 class frmGasLineLoss : public LineLossForm, public GasEntries {
 public:
     frmGasLineLoss();
@@ -34,6 +50,7 @@ protected:
     bool CheckSourcePressure() override;
     bool CheckFluid() override;
     bool CalculateCase() override;
+    PlotDrawing DrawingOf(int caseIndex) const override;
     void FillCase() override;
     void ShowSteam() override;
     void ShowChoices() override;
@@ -41,6 +58,8 @@ protected:
 private:
     void ShowResults(const GasLineResults& results);
     void ShowFluidRows();
+
+    Row<GasLinePicture, CaseCount> pictures_;
 };
 
 }  // namespace quillmetra

@@ -1,6 +1,8 @@
 // See frmLiqLineLoss.h.
 #include "forms/frmLiqLineLoss.h"
 
+#include <utility>
+
 #include "core/Filling.h"
 #include "core/Words.h"
 #include "forms/DataCheck.h"
@@ -75,18 +77,21 @@ bool frmLiqLineLoss::CalculateCase() {
     if (Calc.FlowPressure == 0) return false;  // the line cannot deliver; the user has been told
     Calc.FinalPressure = Calc.FlowPressure;
     ShowResults();
-    DrawPressure();
     return true;
 }
 
-void frmLiqLineLoss::DrawPressure() {
-    const LiquidLineProfile line = LiquidLineProfileOf(Calc);
-    DrawLine({.Title = {},
-              .Bottom = {"Length", Calc.UnitName[25]},
-              .Left = {"Pressure", Calc.UnitName[3]},
-              .Right = {},
-              .Series = {{"Pressure", {0, line.Length}, {line.SourcePressure, line.DestinationPressure}}},
-              .Marks = {}});
+// Friction, fittings, equipment and elevation are spread evenly over the straight pipe, since the record does
+// not say where on it they are: a straight line from the source on.
+PlotDrawing frmLiqLineLoss::DrawingOf(int caseIndex) const {
+    const auto i = static_cast<std::size_t>(caseIndex);
+    std::vector<double> pressures = {Calc.CaseInput[3][i], Calc.CaseResult[1][i]};
+    if (Calc.PressureDirection == 2) std::swap(pressures[0], pressures[1]);
+    return {.Title = {},
+            .Bottom = {"Length", Calc.UnitName[25]},
+            .Left = {"Pressure", Calc.UnitName[3]},
+            .Right = {},
+            .Series = {{"Pressure", {0, Calc.PipeData[1]}, std::move(pressures)}},
+            .Marks = {}};
 }
 
 void frmLiqLineLoss::ShowResults() {

@@ -26,12 +26,12 @@ protected:
     bool CheckFluid() override;
     bool CheckSourcePressure() override;
     bool CalculateCase() override;
+    PlotDrawing DrawingOf(int caseIndex) const override;
     bool CheckState() override;
     void FillCase() override;
 
 private:
     void ShowResults();
-    void DrawPressure();
 };
 
 }  // namespace quillmetra

@@ -103,6 +103,7 @@ protected:
     void StoreOwn() override;
     void ShowChoices() override;
     void ResultsBlanked(int) override { pltClosing.Clear(); }
+    void DrawResults() override;
     Control* CalculateButton(int caseIndex) override { return caseIndex == 0 ? &cmdCalculateliq : nullptr; }
 
 private:
@@ -117,7 +118,6 @@ private:
     bool CheckLine();
     bool CheckSelectedTime();
     void ShowResults(bool selected);
-    void DrawClosing(bool selected);
 };
 
 }  // namespace quillmetra

@@ -77,8 +77,11 @@ void CalcSelectedClosing() {
 
 ClosingCurve ClosingCurveOfRecord() {
     constexpr int steps = 80;
-    const double selected = Calc.SelectedTime > 0 ? Calc.SelectedTime : Calc.CriticalTime;
-    const auto [least, most] = std::minmax({Calc.CriticalTime, Calc.MinimumTime, selected});
+    const double critical = Calc.HammerResult[12], minimum = Calc.HammerResult[16];
+    const double operating = Calc.CaseInput[3][0];
+    const double rise = Calc.HammerResult[14] - operating;
+    const double selected = HasSelectedClosing() ? Calc.CaseInput[10][0] : critical;
+    const auto [least, most] = std::minmax({critical, minimum, selected});
     const double first = least * 0.8;
     const double ratio = std::pow(most * 1.5 / first, 1.0 / steps);  // closer together where it is steep
     ClosingCurve curve;
@@ -86,11 +89,12 @@ ClosingCurve ClosingCurveOfRecord() {
     curve.Pressures.reserve(steps + 1);
     double time = first;
     for (int i = 0; i <= steps; ++i, time *= ratio) {
-        const double rise = RiseAtTime(Calc.PressureRise, Calc.CriticalTime, time);
         curve.Times.push_back(time);
-        curve.Pressures.push_back((Calc.EnteredPressure + rise) / Calc.UnitFactor[3]);
+        curve.Pressures.push_back(operating + RiseAtTime(rise, critical, time));
     }
     return curve;
 }
+
+bool HasSelectedClosing() { return Calc.HammerResult[17] != 0; }
 
 }  // namespace quillmetra

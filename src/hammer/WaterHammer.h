@@ -44,8 +44,12 @@ void CalcCriticalClosing();
 // Fails in the same way.
 void CalcSelectedClosing();
 
-// The pressure against the closing time, in the units shown, for a drawing that leaves out what is not
-// finite: it never throws. The curve takes in the critical, the minimum and, when above 0, the selected time.
+// Whether the results have those of a selected time.
+bool HasSelectedClosing();
+
+// The pressure against the closing time, for a drawing that leaves out what is not finite: it never throws.
+// It is drawn of the results as they are shown, so that those of a saved record have it too. The curve takes
+// in the critical, the minimum and, where there is one, the selected time.
 struct ClosingCurve {
     std::vector<double> Times;      // s, ascending
     std::vector<double> Pressures;  // unit row 3, gauge or absolute as the pressure mode

@@ -57,13 +57,4 @@ LiquidLineResults LiquidLineResultsOf(const CalcRecord& record) {
             .EquivLength = Shown(std::fabs(record.EquivLength) / factor[25])};
 }
 
-LiquidLineProfile LiquidLineProfileOf(const CalcRecord& record) {
-    const double given = PressureShown(record, record.SourcePressure[Line]);
-    const double found = PressureShown(record, record.FlowPressure);
-    const bool sourceIsGiven = record.PressureDirection != 2;
-    return {.Length = record.PipeLength[Line] / record.UnitFactor[25],
-            .SourcePressure = sourceIsGiven ? given : found,
-            .DestinationPressure = sourceIsGiven ? found : given};
-}
-
 }  // namespace quillmetra

@@ -23,16 +23,4 @@ struct LiquidLineResults {
 // Throws a RuntimeError when a result is not finite.
 LiquidLineResults LiquidLineResultsOf(const CalcRecord& record);
 
-// The pressure along the straight pipe, in the units of the record. Friction, fittings, equipment and
-// elevation are spread evenly over it, since the record does not say where on the line they are: between its
-// ends the pressure is a straight line.
-struct LiquidLineProfile {
-    double Length;               // unit row 25
-    double SourcePressure;       // unit row 3, gauge or absolute as the pressure mode
-    double DestinationPressure;  // as the source pressure
-};
-
-// After CalcFinalPressure. For a drawing, which leaves out what is not finite: it never throws.
-LiquidLineProfile LiquidLineProfileOf(const CalcRecord& record);
-
 }  // namespace quillmetra

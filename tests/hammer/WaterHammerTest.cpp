@@ -101,6 +101,8 @@ void TakeCase(const HammerCase& each) {
     Calc.FlowPressure = each.Flowing;
     Calc.MaxAllowPressure = each.Allowable;
     Calc.SelectedTime = each.Selected;
+    Calc.CaseInput[3][0] = each.Entered / each.PressureFactor;
+    Calc.CaseInput[10][0] = each.Selected;
     Calc.UnitFactor[18] = each.PipeFactor;
     Calc.UnitFactor[20] = each.VelocityFactor;
     Calc.UnitFactor[3] = each.PressureFactor;

@@ -223,26 +223,6 @@ TEST_F(LiquidLineLossTest, TheTwoDirectionsAreInverse) {
     EXPECT_GT(LiquidLineResultsOf(Calc).EquivLength, 0);
 }
 
-// The drawing of a line begins at its source, whichever end was given.
-TEST_F(LiquidLineLossTest, TheProfileRunsFromTheSourceInTheUnitsShown) {
-    Suite.HideFlowStatus = words::Yes;
-    for (const int direction : {1, 2}) {
-        TakeOrdinaryLine();
-        Calc.PressureDirection = direction;
-        Calc.PressureMode = words::Gauge;
-        Calc.UnitFactor[3] = 0.14504;  // kPag
-        Calc.UnitFactor[25] = 3.281;   // m
-        Calculate();
-        const LiquidLineProfile line = LiquidLineProfileOf(Calc);
-        EXPECT_NEAR(line.Length, 106.675, 0.001);
-        const double given = direction == 1 ? line.SourcePressure : line.DestinationPressure;
-        const double found = direction == 1 ? line.DestinationPressure : line.SourcePressure;
-        EXPECT_NEAR(given, 689.465, 0.001);
-        EXPECT_NEAR(found, LiquidLineResultsOf(Calc).FinalPressure, 0.06);
-        EXPECT_GT(line.SourcePressure, line.DestinationPressure);
-    }
-}
-
 TEST_F(LiquidLineLossTest, NumbersWithoutSenseEndInAMessageOrAnError) {
     Suite.HideFlowStatus = words::Yes;
     // A length of exactly nothing has no loss to spread.

@@ -98,7 +98,7 @@ expect unSupportForce kg
 expect unSelectedWave kPag
 expect UnpipeWall mm
 expect unLineModulus kpa
-expect pltClosing ""
+expect pltClosing "Pressure wave 5199 to 1375 kPag over 0.9128 to 6 secs, critical 1.141 secs, minimum 2.985 secs, selected 4 secs, allowable 2068 kPag"
 expect txtPipeMatl "Some steel"
 click cmdCalculateliq
 expect txtPressureWave 4296
