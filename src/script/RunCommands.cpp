@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 
 #include "platform/Clock.h"
 #include "platform/Forms.h"
@@ -22,6 +24,19 @@ int NumberAtLeast(const ScriptWord& word, int least) {
 }  // namespace
 
 void Folder(ScriptPlayer& player, const Arguments& arguments) { player.UseFolder(arguments[0].Text); }
+
+void WriteFile(ScriptPlayer& player, const Arguments& arguments) {
+    std::ofstream file(player.FileOfOwnFolder(arguments[0].Text), std::ios::binary);
+    file << arguments[1].Text;
+    if (!file.flush()) throw ScriptFailure{arguments[0].Text + " cannot be written"};
+}
+
+void RemoveFile(ScriptPlayer& player, const Arguments& arguments) {
+    std::error_code failed;
+    if (!std::filesystem::remove(player.FileOfOwnFolder(arguments[0].Text), failed)) {
+        throw ScriptFailure{"there is no file " + arguments[0].Text};
+    }
+}
 
 void Start(ScriptPlayer& player, const Arguments&) { player.Start(); }
 

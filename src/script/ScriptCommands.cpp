@@ -13,6 +13,8 @@ namespace {
 
 constexpr ScriptCommand Table[] = {
     {"folder", "PATH", script::Folder, "the folder of the program; before start"},
+    {"write-file", "PATH TEXT", script::WriteFile, "a file of the suite's temporary folder"},
+    {"remove-file", "PATH", script::RemoveFile, "takes a file out of it"},
     {"start", "", script::Start, "starts the suite; the browser is then in hand"},
     {"set-date", "YYYY-MM-DD", script::SetDate, "the day that the suite takes for today"},
     {"include", "PATH", script::Include, "plays another script"},

@@ -34,6 +34,8 @@ namespace script {
 
 // RunCommands.cpp: the run itself, and the answers to come.
 void Folder(ScriptPlayer& player, const Arguments& arguments);
+void WriteFile(ScriptPlayer& player, const Arguments& arguments);
+void RemoveFile(ScriptPlayer& player, const Arguments& arguments);
 void Start(ScriptPlayer& player, const Arguments& arguments);
 void Include(ScriptPlayer& player, const Arguments& arguments);
 void Strict(ScriptPlayer& player, const Arguments& arguments);

@@ -39,6 +39,9 @@ public:
 
     // The program's own folder from the next start on.
     void UseFolder(const std::string& path);
+    // A file of the temporary folder that the suite has without UseFolder. A folder of the user's own is not
+    // the script's to change.
+    std::filesystem::path FileOfOwnFolder(const std::string& name) const;
     // Starts the suite afresh on its folder; the browser is then the form in hand.
     void Start();
     // Runs before the next line of the script, after the steps that were put here earlier: an act of the

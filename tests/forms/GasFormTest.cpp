@@ -102,55 +102,6 @@ TEST_F(GasForm, SteamThatIsNotToBeHadLeavesAnotherGasAlone) {
     EXPECT_EQ(Form().txtFluid.Text(), "Methane");
 }
 
-TEST_F(GasForm, SteamFilesThatFailAreTold) {
-    for (const char* file : {"STEAM.txt", "Stm07.Dat"}) {
-        std::filesystem::resize_file(Folder / file, 10);
-        ClickControl(Form().mnuSatSteam1);
-        EXPECT_EQ(User.Boxes.back().Title, "Program default drive and path file") << file;
-        std::filesystem::remove(Folder / file);
-        ClickControl(Form().mnuSatSteam1);
-        EXPECT_EQ(User.Boxes.back().Title, "Program default drive and path file") << file;
-        std::filesystem::copy_file(SourceFolder() / "data" / file, Folder / file);
-    }
-    EXPECT_TRUE(Form().txtFluid.Text().empty());
-    EXPECT_EQ(Form().txtMW(0).Text(), "16.04") << "what was typed";
-    ClickControl(Form().mnuSatSteam1);
-    EXPECT_EQ(Form().txtFluid.Text(), "Steam");
-}
-
-TEST_F(GasForm, RowsAndNumbersWithoutSenseAreTold) {
-    WriteData("Gas.txt", "Name,Tp\r\nNothing                        ,1,0,0,0,0,0,0,0,0,0,0,0,0,0,\r\n");
-    ClickControl(Form().mnuPureGases1);
-    Pick("Nothing ");
-    EXPECT_EQ(User.LastText(), "Fluid properties cannot be calculated");
-    EXPECT_EQ(Form().txtMW(0).Text(), "16.04");
-
-    // So close to the critical point the compressibility factor does not settle.
-    for (const auto& [box, text] : {std::pair{"txtTemp", "65.33"},
-                                    {"txtPressure", "175.3"},
-                                    {"txtMW", "60"},
-                                    {"txtCritTemp", "700"},
-                                    {"txtCritPressure", "500"}}) {
-        Type(*Form().Find(box, 0), text);
-    }
-    User.Boxes.clear();
-    ClickControl(Form().cmdCalculate(0));
-    ASSERT_EQ(User.Boxes.size(), 1U) << "once is enough";
-    EXPECT_EQ(User.LastText(), "Will not converge\nUse data with care");
-    EXPECT_FALSE(Form().txtDestPress(0).Text().empty());
-
-    for (const auto& [box, text, message] :
-         {std::tuple{"txtInletPipeID", "0", "Pipe inside diameter must be > zero "},
-          {"txtPipeCond", "101", "Condition must be between 0 and 100"},
-          {"txtInletPipeLen", "1e8", "Length must be < 10000000 ft"}}) {
-        const std::string before = Form().Find(box)->Text();
-        Type(*Form().Find(box), text);
-        ClickControl(Form().cmdCalculate(0));
-        EXPECT_EQ(User.LastText(), message);
-        Type(*Form().Find(box), before);
-    }
-}
-
 TEST_F(GasForm, PercentagesWithoutSenseAreRefused) {
     MixMethaneAndEthane();
     ClickControl(Form().mnuMixtures1);

@@ -78,20 +78,6 @@ TEST_F(HammerForm, WithoutASelectedTimeItsBoxWaitsForTheFirstCalculation) {
     EXPECT_FALSE(Form().lblSelectedTime.Visible());
 }
 
-TEST_F(HammerForm, AMissingTableOfModuliIsToldAndOpensAnEmptyList) {
-    OpenNew();
-    std::filesystem::remove(DataFolder() / "Modulus.txt");
-    MoveFocus(Form().txtFlowTemp);
-    TypeText(Form().txtFlowTemp, "60");
-    ClickControl(Form().cmdPipeMatl);
-    EXPECT_EQ(User.LastText(), "File Modulus.txt");
-    EXPECT_TRUE(Form().Moduli.IsOpen());
-    EXPECT_FALSE(CanAct(Form().Moduli.cmdSelect));
-    PressKey(*Form().Focus.Current(), "Escape");
-    EXPECT_FALSE(Form().Moduli.IsOpen());
-    EXPECT_TRUE(CanAct(Form().cmdCalculateliq));
-}
-
 TEST_F(HammerForm, StandardPressureFallsBackOnItsOwnValue) {
     OpenNew();
     Calc.StdPressure = Calc.StdTemperature = Calc.BaroPressure = 0;

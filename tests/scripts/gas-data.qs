@@ -115,7 +115,7 @@ answer Yes
 answer OK
 leave
 expect-message Update Fluid Properties?
-expect-message must be greater than the Saturated temp. 337.791 degF
+expect-box "Minimum Temperature below 1.295  is the Saturated Temperature" "Superheat temp 250 degF must be greater than the Saturated temp. 337.791 degF" OK None
 type txtPressure(2) 16000
 answer Yes
 answer OK

@@ -152,4 +152,48 @@ expect txtFluid Mixture
 expect txtSGFlow(1) 0.8784
 expect txtViscosity(1) 0.6555
 expect-focus cmdCalculate(1)
+answer No
+click mnuProgram
+expect-message Save changes?
+
+# --- The liquid data form counts one more in its words -----------------------------------------------------------
+new 4
+type txtTemp(0) 60
+type txtPressure(0) 100
+click mnuMixture1
+pick lstFluid 0
+click cmdSelect
+pick lstFluid 1
+click cmdSelect
+pick lstFluid 2
+click cmdSelect
+pick lstFluid 3
+click cmdSelect
+pick lstFluid 4
+click cmdSelect
+pick lstFluid 5
+click cmdSelect
+pick lstFluid 6
+click cmdSelect
+pick lstFluid 7
+click cmdSelect
+pick lstFluid 8
+click cmdSelect
+pick lstFluid 9
+click cmdSelect
+pick lstFluid 10
+click cmdSelect
+pick lstFluid 11
+click cmdSelect
+pick lstFluid 12
+click cmdSelect
+pick lstFluid 13
+click cmdSelect
+pick lstFluid 14
+click cmdSelect
+pick lstFluid 15
+answer OK
+click cmdSelect
+expect-box "Mixture components" "Maximum number is 17" OK
+click cmdCancel
 quit
