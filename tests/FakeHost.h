@@ -39,6 +39,7 @@ public:
     bool EscapePressed = false;      // what Yield tells
     bool Ended = false;
     std::function<void()> WhileServed;  // what the user does when a search lets him
+    std::function<void()> WhileAsked;   // what happens elsewhere while a box waits
 
     // The text of the last box; empty when none was shown.
     std::string LastText() const { return Boxes.empty() ? "" : Boxes.back().Text; }
@@ -46,6 +47,7 @@ public:
     Answer ShowMessageBox(const MessageBox& box) override {
         CountBox();
         Boxes.push_back(box);
+        if (WhileAsked) WhileAsked();
         if (box.Choice == Buttons::Ok) return Answer::Ok;
         if (Answers.empty()) return DefaultAnswer(box);
         const Answer answer = Answers.front();

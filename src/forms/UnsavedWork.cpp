@@ -2,13 +2,13 @@
 #include "forms/UnsavedWork.h"
 
 #include "core/CalcRecord.h"
+#include "core/Filling.h"
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
 #include "forms/RecordInHand.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
-#include "platform/NumberText.h"
 #include "records/Recovery.h"
 
 namespace quillmetra {
@@ -26,10 +26,14 @@ CalculationForm* OpenCalculation() {
 void KeepUnsavedWork() {
     CalculationForm* const form = OpenCalculation();
     if (form == nullptr || UserActRuns() || Calc.ChangedFlag.empty()) return;
-    // A panel or a list has the record half changed, and a tag in the making must not be trimmed.
-    const std::string& tag = form->txtTagNum.Text();
-    if (!form->Enabled() || !form->Picture1.Enabled() || Trim(tag).size() != tag.size()) return;
+    // A panel or a list has the record half changed.
+    if (!form->Enabled() || !form->Picture1.Enabled()) return;
+    const std::string tag = form->txtTagNum.Text();
     form->StoreForm();
+    if (form->txtTagNum.Text() != tag) {  // one in the making may end in a blank for now
+        const Filling filling;
+        form->txtTagNum.SetText(tag);
+    }
     KeepRecovery();
 }
 

@@ -178,8 +178,19 @@ std::int64_t Database::Version() {
 
 bool Database::InTransaction() const { return sqlite3_get_autocommit(handle_) == 0; }
 
+bool Database::IsReplaced() const {
+    int moved = 0;
+    sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
 Transaction::Transaction(Database& database) : database_(database), level_(database.depth_) {
     database_.Execute(level_ == 0 ? "BEGIN IMMEDIATE" : "SAVEPOINT level" + std::to_string(level_));
+    // From here on whoever wants to replace the file waits for the lock.
+    if (level_ == 0 && database_.IsReplaced()) {
+        database_.Execute("ROLLBACK");
+        throw failure::DatabaseReplaced();
+    }
     ++database_.depth_;
 }
 

@@ -45,6 +45,17 @@ using FieldValue = std::variant<std::monostate, double, std::string>;
 // the field.
 FieldValue FittedValue(const FieldShape& field, FieldValue value);
 
+// While one lives no text is too long: for a file that nobody else will read.
+class AnyLength {
+public:
+    AnyLength() { ++Count; }
+    ~AnyLength() { --Count; }
+    AnyLength(const AnyLength&) = delete;
+    AnyLength& operator=(const AnyLength&) = delete;
+
+    static inline int Count = 0;
+};
+
 // A number that was kept as a single, as the user typed it: the shortest text of the 32-bit value, 0.1 rather
 // than 0.10000000149. What is no single reads 0.
 double SingleRead(double stored);
@@ -57,6 +68,9 @@ inline RuntimeError NoSuchField(std::string_view name) {
     return {3265, "Field '" + std::string(name) + "' does not exist"};
 }
 inline RuntimeError DatabaseInvalid() { return {3343, "Open failed (Database invalid)"}; }
+inline RuntimeError DatabaseReplaced() {
+    return {3345, "Another program has replaced the database meanwhile; please try again"};
+}
 inline RuntimeError DatabaseNewer() {
     return {3344, "This database was made by a later version of the suite and cannot be used by this one"};
 }
@@ -92,6 +106,9 @@ public:
     std::string Fault();
     // A number that changes whenever the file does, by whatever process.
     std::int64_t Version();
+    // Whether another file has taken the place of the one that is open, as a compaction by another process
+    // brings about. What is written then would be lost, and a transaction refuses to begin.
+    bool IsReplaced() const;
     // False when the engine has given up a transaction by itself, as on a full disk.
     bool InTransaction() const;
 
@@ -115,7 +132,8 @@ private:
 };
 
 // Changes between its start and Commit come about together or, without Commit, not at all. One inside another
-// can be undone alone. The file is locked for writing from the start of the outermost.
+// can be undone alone. The file is locked for writing from the start of the outermost, which throws when the
+// file is not in its place any more.
 class Transaction {
 public:
     explicit Transaction(Database& database);

@@ -49,9 +49,9 @@ double SingleRead(double stored) {
 
 FieldValue FittedValue(const FieldShape& field, FieldValue value) {
     if (const auto* text = std::get_if<std::string>(&value)) {
-        if (field.Type == FieldType::Text && CharacterCount(*text) > static_cast<std::size_t>(field.Size)) {
-            throw TooLong(field);
-        }
+        const bool isTooLong =
+            field.Type == FieldType::Text && CharacterCount(*text) > static_cast<std::size_t>(field.Size);
+        if (isTooLong && AnyLength::Count == 0) throw TooLong(field);
         return value;
     }
     const auto* number = std::get_if<double>(&value);

@@ -285,28 +285,4 @@ bool DeleteRecord(const std::string& file, const std::string& tag) {
     return true;
 }
 
-bool CopyRecord(const std::string& fromFile, const std::string& tag, const std::string& toFile) {
-    const std::unique_ptr<Database> from = OpenRecords(fromFile);
-    Recordset head(*from, HeadTable().Shape);
-    head.Index("Tag_Number");
-    if (!head.Seek(tag)) return false;
-    if (SameFile(fromFile, toFile)) return true;
-    const std::unique_ptr<Database> to = OpenRecords(toFile);
-    Transaction all(*to);
-    DeleteRows(*to, tag);
-    for (const RecordTable* table : RecordTables()) {
-        if (!from->HasTable(table->Shape.Name)) continue;
-        Recordset source(*from, table->Shape);
-        source.Index("Tag_Number");
-        if (!source.Seek(tag)) continue;
-        to->AddTable(table->Shape);
-        Recordset target(*to, table->Shape);
-        target.AddNew();
-        target.SetAll(source);
-        target.Update();
-    }
-    all.Commit();
-    return true;
-}
-
 }  // namespace quillmetra

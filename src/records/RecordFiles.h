@@ -61,8 +61,4 @@ std::string RepairText(const RepairReport& report);
 // Removes a record's rows from all tables. False with "Database is empty" when there are none.
 bool DeleteRecord(const std::string& file, const std::string& tag);
 
-// Copies a record's rows to another database, over those of the same tag if there are any. False when the
-// tag is not in the first.
-bool CopyRecord(const std::string& fromFile, const std::string& tag, const std::string& toFile);
-
 }  // namespace quillmetra

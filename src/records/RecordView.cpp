@@ -34,18 +34,35 @@ bool IsOutdated(const Recordset& heads) {
 
 }  // namespace
 
-RecordView::RecordView(const std::string& file)
-    : database_(OpenRecords(file)), heads_(*database_, HeadTable().Shape) {
-    heads_.Index("Tag_Number");
-    hasRecord_ = !heads_.AtEnd();
+RecordView::RecordView(const std::string& file) : file_(file) { Open(); }
+
+void RecordView::Open() {
+    std::unique_ptr<Database> database = OpenRecords(file_);  // the former one stays when this throws
+    heads_.reset();
+    database_ = std::move(database);
+    heads_.emplace(*database_, HeadTable().Shape);
+    heads_->Index("Tag_Number");
+    tagsVersion_ = -1;
+    hasRecord_ = !heads_->AtEnd();
     if (hasRecord_) TakeHead();
 }
 
+void RecordView::Renew() {
+    if (!database_->IsReplaced()) return;
+    const std::string tag = head_.Tag;
+    Open();
+    if (hasRecord_ && heads_->Seek(tag)) {
+        TakeHead();
+    } else if (hasRecord_) {
+        heads_->MoveFirst();
+    }
+}
+
 bool RecordView::TakeHead() {
-    const auto text = [this](const char* field) { return std::string(Trim(heads_.Text(field))); };
+    const auto text = [this](const char* field) { return std::string(Trim(heads_->Text(field))); };
     head_.Tag = text("Tag");
     head_.FluidType = text("Fluid Type");
-    head_.ProgramNumber = static_cast<int>(heads_.Number("Program Number"));
+    head_.ProgramNumber = static_cast<int>(heads_->Number("Program Number"));
     head_.Calculation = CalculationOf(head_.ProgramNumber);
     head_.ProgramName = text("Program Name");
     head_.FluidName = text("Fluid Name");
@@ -54,49 +71,55 @@ bool RecordView::TakeHead() {
     head_.DataDate = DateText(text("Data Date"));
     head_.CalcDate = DateText(text("Calc Date"));
     head_.OtherCalcs = text("Other Calcs");
-    head_.IsOutdated = IsOutdated(heads_);
+    head_.IsOutdated = IsOutdated(*heads_);
     return hasRecord_ = true;
 }
 
 void RecordView::First() {
+    Renew();
     if (!hasRecord_) return;
-    heads_.MoveFirst();
+    heads_->MoveFirst();
     TakeHead();
 }
 
 void RecordView::Last() {
+    Renew();
     if (!hasRecord_) return;
-    heads_.MoveLast();
+    heads_->MoveLast();
     TakeHead();
 }
 
 void RecordView::Next() {
+    Renew();
     if (!hasRecord_) return;
-    heads_.MoveNext();
-    if (heads_.AtEnd()) heads_.MoveLast();
+    heads_->MoveNext();
+    if (heads_->AtEnd()) heads_->MoveLast();
     TakeHead();
 }
 
 void RecordView::Previous() {
+    Renew();
     if (!hasRecord_) return;
-    heads_.MovePrevious();
-    if (heads_.AtStart()) heads_.MoveFirst();
+    heads_->MovePrevious();
+    if (heads_->AtStart()) heads_->MoveFirst();
     TakeHead();
 }
 
 bool RecordView::Find(std::string_view tag) {
-    if (heads_.Seek(Trim(tag))) return TakeHead();
-    if (hasRecord_) heads_.Seek(head_.Tag);
+    Renew();
+    if (heads_->Seek(Trim(tag))) return TakeHead();
+    if (hasRecord_) heads_->Seek(head_.Tag);
     return false;
 }
 
 bool RecordView::NextOutdated(bool fromStart) {
+    Renew();
     if (!hasRecord_) return false;
     const std::string before = head_.Tag;
-    if (fromStart) heads_.MoveFirst();
-    if (!fromStart || !IsOutdated(heads_)) heads_.MoveToNext(IsOutdated);
-    if (!heads_.AtEnd()) return TakeHead();
-    heads_.Seek(before);
+    if (fromStart) heads_->MoveFirst();
+    if (!fromStart || !IsOutdated(*heads_)) heads_->MoveToNext(IsOutdated);
+    if (!heads_->AtEnd()) return TakeHead();
+    heads_->Seek(before);
     return false;
 }
 
@@ -111,8 +134,9 @@ void RecordView::LeaveDeleted() {
 }
 
 const std::vector<std::string>& RecordView::Tags() {
+    Renew();
     if (const std::int64_t version = database_->Version(); version != tagsVersion_) {
-        tags_ = heads_.Keys();
+        tags_ = heads_->Keys();
         tagsVersion_ = version;
     }
     return tags_;

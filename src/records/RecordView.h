@@ -1,11 +1,12 @@
 // What the record browser sees of a database: the heads of all records in the order of their tags, one of
 // them in hand. It stays open between two acts without holding a lock, and notices what others change.
 //
-// A failure of the file is a RuntimeError in words for the user. The file may not be replaced (created anew,
-// compacted, repaired) while a view of it is open.
+// A failure of the file is a RuntimeError in words for the user. A file that another process has put in the
+// place of the one that is open, as by compacting it, is opened before the next move.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -54,10 +55,14 @@ public:
     std::pair<std::size_t, std::size_t> StartingWith(std::string_view text);
 
 private:
+    void Open();
+    // Opens the file anew when it was replaced, on the record in hand or on the first.
+    void Renew();
     bool TakeHead();
 
+    const std::string file_;
     std::unique_ptr<Database> database_;
-    Recordset heads_;
+    std::optional<Recordset> heads_;
     RecordHead head_;
     bool hasRecord_ = false;
     std::vector<std::string> tags_;

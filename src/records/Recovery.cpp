@@ -42,6 +42,7 @@ private:
 void KeepRecovery() {
     if (Suite.RecoveryFile.empty()) return;
     const AsItWas before;
+    const AnyLength texts;  // a save will tell which one is too long; here it is kept as it was typed
     const std::string beside = Suite.RecoveryFile + ".new";
     try {
         MakeEmptyDatabase(beside);

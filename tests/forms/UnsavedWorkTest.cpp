@@ -52,6 +52,29 @@ TEST_F(UnsavedWork, ComesBackAfterACrashOnce) {
     EXPECT_TRUE(User.Boxes.empty());
 }
 
+// What a save would refuse is kept, here the row of a component that a table of the user's own made too long,
+// and a tag in the making is left as it is.
+TEST_F(UnsavedWork, KeepsWhatASaveWouldRefuse) {
+    const std::string row = std::string(399, 'f') + ',';
+    FillGoodCase(1);
+    Calculate(1);
+    Calc.MixtureFlag = words::Yes;
+    Calc.FluidData[0] = row;
+    Calc.FluidPercent[0] = 100;
+    Type(Form().txtTagNum, "P-7 ");
+    KeepUnsavedWork();
+    EXPECT_EQ(Form().txtTagNum.Text(), "P-7 ");
+    Crash();
+    User.Answers = {Answer::Yes};
+    OfferRecovery();
+    ASSERT_NE(LoadedForm("frmLiqLineLoss"), nullptr) << User.LastText();
+    EXPECT_EQ(Form().txtTagNum.Text(), "P-7");
+    EXPECT_EQ(Calc.FluidData[0], row);
+    User.Answers = {Answer::Yes, Answer::Yes};
+    ClickControl(Form().mnuSave);
+    EXPECT_NE(User.LastText().find("holds at most"), std::string::npos) << User.LastText();
+}
+
 TEST_F(UnsavedWork, IsNotOfferedTwiceAndADamagedOneDoesNoHarm) {
     FillGoodCase(0);
     Calculate(0);

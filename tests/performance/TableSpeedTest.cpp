@@ -1,32 +1,17 @@
 // A table of 10,000 rows in the editor: saved in less than 200 milliseconds, a row inserted at once.
-#include <algorithm>
-#include <chrono>
-
 #include <gtest/gtest.h>
 
 #include "benchmarks/TableScene.h"
 #include "forms/frmTables.h"
 #include "forms/RegisterForms.h"
 #include "platform/UserActs.h"
+#include "tests/performance/Quickest.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {
 namespace {
 
-class TableSpeedTest : public SuiteTest {
-protected:
-    template <typename Act>
-    static double Quickest(const Act& act) {
-        using Clock = std::chrono::steady_clock;
-        double quickest = 1e9;
-        for (int i = 0; i < 5; ++i) {
-            const auto start = Clock::now();
-            act();
-            quickest = std::min(quickest, std::chrono::duration<double>(Clock::now() - start).count());
-        }
-        return quickest;
-    }
-};
+class TableSpeedTest : public SuiteTest {};
 
 TEST_F(TableSpeedTest, TenThousandRows) {
 #if !defined(NDEBUG) || defined(__SANITIZE_ADDRESS__)

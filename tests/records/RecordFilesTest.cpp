@@ -287,23 +287,40 @@ TEST_F(RecordFilesTest, DeleteTakesAllRowsOfATag) {
     EXPECT_TRUE(HasRow(FluidDataTable(), "P-2"));
 }
 
-TEST_F(RecordFilesTest, SaveAsAndCopyToAnotherDatabase) {
+TEST_F(RecordFilesTest, SaveToAnotherDatabase) {
     SaveNew("P-1");
     const std::vector<FieldValue> saved = AllValues("P-1");
-    const std::string home = Suite.DatabaseFile;
-    for (const char* folder : {"one", "two"}) {
-        fs::create_directory(Folder / folder);
-        Suite.DatabasePath = SuitePath(Folder / folder);
-        if (folder == std::string("one")) {
-            Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
-            EXPECT_FALSE(SaveTRCalc());
-            EXPECT_EQ(User.LastText(), Invalid) << "a save makes no database";
-        }
-        CreateDB(true);
-        folder == std::string("one") ? SaveTRCalc() : CopyRecord(home, "P-1", Suite.DatabaseFile);
-        EXPECT_EQ(AllValues("P-1"), saved) << folder;
-    }
-    EXPECT_FALSE(CopyRecord(home, "NONE", Suite.DatabaseFile));
+    fs::create_directory(Folder / "one");
+    Suite.DatabasePath = SuitePath(Folder / "one");
+    Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_EQ(User.LastText(), Invalid) << "a save makes no database";
+    CreateDB(true);
+    EXPECT_TRUE(SaveTRCalc());
+    EXPECT_EQ(AllValues("P-1"), saved);
+}
+
+// Another program compacts while this one has the file open: what is open is then no file any more.
+TEST_F(RecordFilesTest, AFileThatIsReplacedMeanwhile) {
+    for (const char* tag : {"P-1", "P-2", "P-3"}) SaveNew(tag);
+    RecordView view(Suite.DatabaseFile);
+    view.Next();
+    const std::unique_ptr<Database> open = OpenRecords(Suite.DatabaseFile);
+    CompactDB(Suite.DatabasePath);
+    EXPECT_THROW(Transaction all(*open), RuntimeError) << "a row would go into the file that is gone";
+    DeleteRecord(Suite.DatabaseFile, "P-3");
+    EXPECT_EQ(view.Count(), 2);
+    EXPECT_EQ(view.Head().Tag, "P-2");
+    CompactDB(Suite.DatabasePath);
+    view.Previous();
+    EXPECT_EQ(view.Head().Tag, "P-1");
+    // Asked whether to overwrite, the user takes his time.
+    User.WhileAsked = [&] { CompactDB(Suite.DatabasePath); };
+    TakeFilledRecord(1, 1, "P-1");
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_EQ(User.LastText(), failure::DatabaseReplaced().Description);
+    User.WhileAsked = {};
+    EXPECT_TRUE(SaveTRCalc());
 }
 
 TEST_F(RecordFilesTest, TheBrowsersView) {
