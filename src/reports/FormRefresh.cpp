@@ -99,7 +99,8 @@ constexpr UnitControl GasDataUnits[] = {
     {"unLatentHeatBP", Single, 16},
 };
 
-// After a conversion a text that the rule below leaves standing would be a number in the former unit.
+// After a conversion a text that one of the first two rules leaves standing would be a number in the former
+// unit.
 void ShowConverted(Control& control, double value) {
     if (value <= 0 && Val(control.Text()) != Val(Str(value))) SetText(control, value == 0 ? "" : Str(value));
 }
@@ -107,7 +108,7 @@ void ShowConverted(Control& control, double value) {
 void ShowRow(Form& form, const FormRow& row, int caseIndex, bool converted) {
     Control& control = RowControl(form, row, caseIndex);
     double& value = LiveValue(row, caseIndex);
-    if (converted && !row.IsResult()) ShowConverted(control, value);
+    if (converted && !row.IsResult() && row.Rule != ShowRule::LegalZero) ShowConverted(control, value);
     switch (row.Rule) {
         case ShowRule::Positive:
             if (value > 0) ShowNumber(control, value);

@@ -21,6 +21,11 @@ int NumberAtLeast(const ScriptWord& word, int least) {
     if (number < least) throw ScriptFailure{word.Text + " is less than " + std::to_string(least)};
     return number;
 }
+
+// A name that begins with @ counts from the suite's folder.
+std::string FileNamed(const ScriptPlayer& player, const std::string& name) {
+    return name.starts_with('@') ? player.Folder() + "\\" + name.substr(1) : name;
+}
 }  // namespace
 
 void Folder(ScriptPlayer& player, const Arguments& arguments) { player.UseFolder(arguments[0].Text); }
@@ -72,11 +77,11 @@ void QueueInput(ScriptPlayer& player, const Arguments& arguments) {
 }
 
 void QueueFile(ScriptPlayer& player, const Arguments& arguments) {
-    player.Host.Dialogs.emplace_back(ScriptHost::FileAnswer{arguments[0].Text, false});
+    player.Host.Dialogs.emplace_back(ScriptHost::FileAnswer{FileNamed(player, arguments[0].Text), false});
 }
 
 void QueueSaveAs(ScriptPlayer& player, const Arguments& arguments) {
-    player.Host.Dialogs.emplace_back(ScriptHost::FileAnswer{arguments[0].Text, true});
+    player.Host.Dialogs.emplace_back(ScriptHost::FileAnswer{FileNamed(player, arguments[0].Text), true});
 }
 
 void QueueCancel(ScriptPlayer& player, const Arguments&) {

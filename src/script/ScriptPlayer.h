@@ -39,6 +39,7 @@ public:
 
     // The program's own folder from the next start on.
     void UseFolder(const std::string& path);
+    const std::string& Folder() const { return folder_; }
     // A file of the temporary folder that the suite has without UseFolder. A folder of the user's own is not
     // the script's to change.
     std::filesystem::path FileOfOwnFolder(const std::string& name) const;

@@ -253,6 +253,70 @@ click mnuCreateDB
 expect-box "Database TRDB.MDB" "First, use option 'Browse for DB Path' to determine path" OK
 click cmdDBOpen
 expect lblNumRecords 5
+answer Yes
+file @TRData/TRDB.MDB
+answer OK
+click mnuCompactDB
+expect-message wish to proceed?
+expect-box "Database TRDB.MDB" "Compacting complete" OK
+file @TRData/TRDB.MDB
+answer No
+click mnuRepairDB
+expect-box "Database TRDB.MDB" "Repair the Process Data database?" YesNo
+file @TRData/TRDB.MDB
+answer Yes
+answer OK
+click mnuRepairDB
+expect-message Repair the Process Data database?
+expect-box "Database TRDB.MDB" "End of repair procedure!" OK
+# A file that is no database is neither compacted nor repaired.
+write-file TRDB.MDB "words"
+file @TRDB.MDB
+answer Yes
+answer OK
+click mnuCompactDB
+expect-message wish to proceed?
+expect-message Open failed (Database invalid)
+click cmdDBOpen
+expect lblNumRecords 5
+
+# --- Save As: another database, which must be there --------------------------------------------------------------
+click cmdDisplayCalc
+save-as @other.mdb
+answer OK
+click mnuSaveAs
+expect-box "Database file" "Must find file named TRDB.MDB" OK
+save-as @TRDB.MDB
+answer OK
+click mnuSaveAs
+expect-message Open failed (Database invalid)
+click mnuProgram
+click optBrouseDB
+answer OK
+key txtPath \
+expect-message Path
+key txtPath V
+answer Yes
+click cmdOK
+expect-message Create a new path?
+answer Yes
+answer OK
+click mnuCreateDB
+expect-message Will be destroyed
+expect-message New database TRDB.MDB created
+click cmdDBOpen
+click cmdNext
+expect txtTagNum L-1
+click cmdDisplayCalc
+save-as @TRData/V/TRDB.MDB
+click mnuSaveAs
+expect-no-message
+expect-status Saved as L-1
+click mnuProgram
+open L-1
+expect txtFluid Toluene
+click mnuProgram
+expect lblNumRecords 5
 # An export does not go over a database.
 save-as no-such-folder/trdb.mdb
 answer OK
@@ -260,4 +324,29 @@ click mnuExport
 expect-message A database cannot be written over by an export
 click cmdDBClose
 expect-state txtTagNum hidden
+
+# --- Numbers that are nothing and numbers that are zero, in SI units -----------------------------------------------
+start
+new 1
+include good-case.qs
+type txtTagNum SI-0
+type txtTemp(0) 32
+type txtPressure(0) 0
+click cmdFormLayout
+click optMassSIUnits
+answer No
+click cmdOKOptions
+expect-message Round converted data?
+expect txtTemp(0) 0
+click mnuSave
+click mnuProgram
+open SI-0
+expect txtTemp(0) 0
+expect txtTemp(1) 15.5556
+expect txtTemp(2) ""
+expect txtPressure(0) 0
+expect txtPressure(2) ""
+expect cmdUnits(2) degC
+expect cmdUnits(3) kPag
+click mnuProgram
 quit
