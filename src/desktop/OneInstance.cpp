@@ -15,7 +15,7 @@ constexpr int Patience = 500;  // ms that a running suite has to answer
 }
 
 OneInstance::OneInstance(const std::string& programFolder) {
-    const std::string folder = MachinePath(programFolder).lexically_normal().string();
+    const std::string folder = SuitePath(MachinePath(programFolder).lexically_normal());
     const QByteArray mark =
         QCryptographicHash::hash(QByteArray::fromStdString(folder), QCryptographicHash::Sha1);
     name_ = "quillmetra-" + QString::fromLatin1(mark.toHex().left(16));

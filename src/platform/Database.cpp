@@ -84,7 +84,8 @@ Database::~Database() {
 // A file from elsewhere may hold triggers and views, which stay without effect, and may lack fields, whose
 // quoted names the engine would else take for texts.
 void Database::Open(const fs::path& file, int flags) {
-    if (sqlite3_open_v2(file.c_str(), &handle_, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
+    if (sqlite3_open_v2(SuitePath(file).c_str(), &handle_, flags | SQLITE_OPEN_NOMUTEX, nullptr) !=
+        SQLITE_OK) {
         const int code = sqlite3_errcode(handle_);
         const std::string description = sqlite3_errmsg(handle_);
         sqlite3_close(handle_);
@@ -151,7 +152,7 @@ void Database::AddTable(const TableShape& table) { Execute(CreateSql(table)); }
 void Database::CompactInto(const fs::path& file) {
     sqlite3_stmt* const statement = Prepared("VACUUM INTO ?1");
     const Run run(statement);
-    const FieldValue target = file.string();
+    const FieldValue target = SuitePath(file);
     Bind(statement, 1, target);
     if (sqlite3_step(statement) != SQLITE_DONE) Fail();
 }

@@ -74,7 +74,7 @@ bool MatchesOne(std::string_view name, std::string_view pattern) {
 }  // namespace
 
 std::string ShownPath(const fs::path& path) {
-    std::string text = path.string();
+    std::string text = SuitePath(path);
     std::replace(text.begin(), text.end(), '/', '\\');
     return text;
 }
@@ -95,7 +95,7 @@ FolderContents ListFolder(std::string_view suitePath) {
     fs::directory_iterator entry(MachineFolder(suitePath), error);
     if (error) throw FailureOf(error);
     for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
-        std::string name = entry->path().filename().string();
+        std::string name = SuitePath(entry->path().filename());
         if (!CanBeWritten(name)) continue;
         std::error_code unknown;
         const bool isLink = entry->is_symlink(unknown);

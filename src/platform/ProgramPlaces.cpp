@@ -1,11 +1,18 @@
 // See ProgramPlaces.h.
 #include "platform/ProgramPlaces.h"
 
+#include <chrono>
 #include <cstdlib>
+#include <fstream>
+#include <string>
 #include <system_error>
 
 #ifdef _WIN32
 #include <windows.h>
+#elif defined(__APPLE__)
+#include <mach-o/dyld.h>
+#else
+#include <unistd.h>
 #endif
 
 namespace quillmetra {
@@ -24,6 +31,13 @@ fs::path ExecutableFolder() {
     wchar_t name[32768];
     const DWORD length = GetModuleFileNameW(nullptr, name, 32768);
     if (length > 0) return fs::path(std::wstring(name, length)).parent_path();
+#elif defined(__APPLE__)
+    std::string name(4096, '\0');
+    auto size = static_cast<std::uint32_t>(name.size());
+    std::error_code error;
+    if (_NSGetExecutablePath(name.data(), &size) == 0) {
+        return fs::weakly_canonical(fs::path(name.c_str()), error).parent_path();
+    }
 #else
     std::error_code error;
     const fs::path self = fs::read_symlink("/proc/self/exe", error);
@@ -35,6 +49,8 @@ fs::path ExecutableFolder() {
 fs::path UserDataFolder() {
 #ifdef _WIN32
     return FromEnvironment("APPDATA") / "quillmetra";
+#elif defined(__APPLE__)
+    return FromEnvironment("HOME") / "Library" / "Application Support" / "quillmetra";
 #else
     const fs::path named = FromEnvironment("XDG_DATA_HOME");
     if (named.is_absolute()) return named / "quillmetra";
@@ -44,5 +60,23 @@ fs::path UserDataFolder() {
 }
 
 fs::path ShippedDataFolder() { return ExecutableFolder().parent_path() / "share" / "quillmetra" / "data"; }
+
+double ProcessAge() {
+#ifdef __linux__
+    std::ifstream stat("/proc/self/stat");
+    std::string text((std::istreambuf_iterator<char>(stat)), {});
+    const std::size_t name = text.rfind(')');
+    std::ifstream uptime("/proc/uptime");
+    double up = 0;
+    if (name != std::string::npos && uptime >> up) {
+        std::size_t at = name;
+        constexpr int fieldsToStart = 20;  // from the end of the name to the start time, in clock ticks
+        for (int field = 0; field < fieldsToStart; ++field) at = text.find(' ', at + 1);
+        return (up - std::stod(text.substr(at)) / static_cast<double>(sysconf(_SC_CLK_TCK))) * 1000;
+    }
+#endif
+    static const auto start = std::chrono::steady_clock::now();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
 
 }  // namespace quillmetra

@@ -1,5 +1,6 @@
 // Where the machine keeps things: the executable's folder, the user's application data folder, and the
-// installed data. The only place that asks the operating system about itself.
+// installed data; and since when the process runs. The only place that asks the operating system about
+// itself.
 #pragma once
 
 #include <filesystem>
@@ -15,5 +16,9 @@ std::filesystem::path UserDataFolder();
 // The folder of the tables that are shipped with the suite, beside the executable's own folder as installed
 // and in a build; it need not exist.
 std::filesystem::path ShippedDataFolder();
+
+// Milliseconds since this process was started, loading of its libraries included where the system tells
+// (in steps of 10 ms), else since the first call.
+double ProcessAge();
 
 }  // namespace quillmetra

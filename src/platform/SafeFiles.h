@@ -5,6 +5,13 @@
 
 namespace quillmetra {
 
+// Whether a file may be replaced while it is open.
+#ifdef _WIN32
+inline constexpr bool OpenFilesCanBeReplaced = false;
+#else
+inline constexpr bool OpenFilesCanBeReplaced = true;
+#endif
+
 // Puts a file in the place of another, in one step that is on the disk when the routine returns. Throws
 // "Path/File access error" with both files as they were.
 void MoveOver(const std::filesystem::path& from, const std::filesystem::path& to);

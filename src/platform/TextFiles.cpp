@@ -82,12 +82,13 @@ void SkipEndOfLine(const std::string& text, std::size_t& next) {
 // The name in a folder that matches a wanted one without regard to case.
 fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
     std::error_code error;
-    if (fs::exists(folder / wanted, error)) return folder / wanted;
+    const fs::path exact = folder / std::u8string(wanted.begin(), wanted.end());
+    if (fs::exists(exact, error)) return exact;
     for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end; !error && entry != end;
          entry.increment(error)) {
-        if (SameName(entry->path().filename().string(), wanted)) return folder / entry->path().filename();
+        if (SameName(SuitePath(entry->path().filename()), wanted)) return folder / entry->path().filename();
     }
-    return folder / wanted;
+    return exact;
 }
 
 }  // namespace
@@ -95,17 +96,20 @@ fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
 fs::path MachinePath(std::string_view suitePath) {
     std::string text(suitePath);
     std::replace(text.begin(), text.end(), '\\', '/');
-    fs::path path = fs::path(text).lexically_normal();
+    fs::path path = fs::path(std::u8string(text.begin(), text.end())).lexically_normal();
     std::error_code error;
     if (fs::exists(path, error)) return path;
     fs::path found = path.root_path();
     for (const fs::path& part : path.relative_path()) {
-        found = part == ".." ? found / part : MatchInFolder(found, part.string());
+        found = part == ".." ? found / part : MatchInFolder(found, SuitePath(part));
     }
     return found;
 }
 
-std::string SuitePath(const fs::path& path) { return path.string(); }
+std::string SuitePath(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
 
 bool FileExists(std::string_view suitePath) {
     std::error_code error;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "core/CalcRecord.h"
 #include "core/Suite.h"
@@ -221,14 +222,19 @@ void CompactDB(const std::string& folder) {
     if (IsWriteProtected(file)) throw failure::PathAccess();
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch backup(InFolder(folder, "TRDB.BAK.new"));
-    const std::unique_ptr<Database> database = OpenRecords(name);
+    std::unique_ptr<Database> database = OpenRecords(name);
     CopyWhole(file, backup.File);
     // Nobody may write between the copying and the renaming, which a second connection sees to. It is opened
     // before it locks: a file that is opened and closed again gives up the locks of its process.
-    const std::unique_ptr<Database> keeper = OpenRecords(name);
-    const Transaction lock(*keeper);
+    std::unique_ptr<Database> keeper = OpenRecords(name);
+    auto lock = std::make_optional<Transaction>(*keeper);
     database->CompactInto(beside.File);
-    if (RowCounts(*OpenRecords(beside.File.string())) != RowCounts(*database)) throw failure::DeviceError();
+    if (RowCounts(*OpenRecords(SuitePath(beside.File))) != RowCounts(*database)) throw failure::DeviceError();
+    if (!OpenFilesCanBeReplaced) {
+        lock.reset();
+        keeper.reset();
+        database.reset();
+    }
     MoveOver(backup.File, InFolder(folder, "TRDB.BAK"));
     MoveOver(beside.File, file);
 }
@@ -237,7 +243,7 @@ RepairReport RepairDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
     const Scratch padded(InFolder(folder, "TRDB.FIX"));
     const bool isCut = PadCutFile(MachinePath(name), padded.File);
-    const std::unique_ptr<Database> database = OpenRecords(isCut ? SuitePath(padded.File) : name);
+    std::unique_ptr<Database> database = OpenRecords(isCut ? SuitePath(padded.File) : name);
     RepairReport report;
     if (!isCut && database->Fault().empty()) {
         database->Reindex();
@@ -251,6 +257,7 @@ RepairReport RepairDB(const std::string& folder) {
     report.Lost = SalvageAll(*database, beside.File);
     CopyWhole(file, aside.File);
     report.KeptAs = SuitePath(InFolder(folder, "TRDB.BAD"));
+    if (!OpenFilesCanBeReplaced) database.reset();
     MoveOver(aside.File, report.KeptAs);
     MoveOver(beside.File, file);
     return report;

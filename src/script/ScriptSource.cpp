@@ -8,6 +8,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/TextFiles.h"
 #include "script/ScriptFailure.h"
 
 namespace quillmetra {
@@ -72,10 +73,10 @@ void ScriptSource::Open(const std::string& path) {
     std::error_code error;
     auto stream = std::make_unique<std::ifstream>(file, std::ios::binary);
     if (!*stream || fs::is_directory(file, error)) {
-        throw ScriptFailure{"cannot read the script " + file.string()};
+        throw ScriptFailure{"cannot read the script " + SuitePath(file)};
     }
     std::istream* const lines = stream.get();
-    files_.push_back({.Name = file.string(), .Owned = std::move(stream), .Stream = lines});
+    files_.push_back({.Name = SuitePath(file), .Owned = std::move(stream), .Stream = lines});
 }
 
 void ScriptSource::Open(const std::string& name, std::istream& stream) {
