@@ -41,6 +41,12 @@ bool FormRules(const std::string& key) {
     return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab";
 }
 
+// The toolkit's own way from option to option would leave the model behind.
+bool IsOptionArrow(const Control& control, const std::string& key) {
+    return control.Kind() == ControlKind::OptionButton &&
+           (key == "Up" || key == "Down" || key == "Left" || key == "Right");
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form)
@@ -108,7 +114,11 @@ void FormWindow::Connect(ControlView& view) {
 
 void FormWindow::NameForReaders(ControlView& view) {
     if (view.Widget() == nullptr) return;
-    view.KeyTarget()->setAccessibleName(ToQt(view.Model()->AccessibleName()));
+    const Control& control = *view.Model();
+    view.KeyTarget()->setAccessibleName(ToQt(control.AccessibleName()));
+    if (const Control* const unit = control.UnitControl()) {
+        view.KeyTarget()->setAccessibleDescription(ToQt(unit->Caption()));
+    }
 }
 
 // The toolkit's own order serves screen readers; Tab itself goes by the model.
@@ -180,7 +190,10 @@ void FormWindow::Renew(const Control& control, Aspect aspect) {
         case Aspect::Text:
             if (control.Kind() == ControlKind::TextBox) break;
             for (ControlView* each : views_) {
-                if (each == view || each->Model()->LabelControl() == &control) NameForReaders(*each);
+                const Control& named = *each->Model();
+                if (each == view || named.IsNamedBy(control) || named.UnitControl() == &control) {
+                    NameForReaders(*each);
+                }
             }
             break;
         case Aspect::Colours: PaintAreas(); break;
@@ -326,7 +339,7 @@ bool FormWindow::KeyPressed(ControlView* view, const QKeyEvent& event) {
         UserReached(control);
         if (form_ == nullptr || form_->Focus.Current() != &control) return true;
     }
-    if (FormRules(key)) return PressKey(control, key);
+    if (FormRules(key) || IsOptionArrow(control, key)) return PressKey(control, key);
     return OfferKey(control, key);
 }
 

@@ -13,11 +13,10 @@ struct NamedKey {
 };
 
 constexpr NamedKey NamedKeys[] = {
-    {Qt::Key_Return, "Enter"},      {Qt::Key_Enter, "Enter"},
-    {Qt::Key_Escape, "Escape"},     {Qt::Key_Tab, "Tab"},
-    {Qt::Key_Backtab, "Tab"},       {Qt::Key_Backspace, "Backspace"},
-    {Qt::Key_Delete, "Delete"},     {Qt::Key_Up, "Up"},
-    {Qt::Key_Down, "Down"},         {Qt::Key_PageUp, "PageUp"},
+    {Qt::Key_Return, "Enter"},      {Qt::Key_Enter, "Enter"}, {Qt::Key_Escape, "Escape"},
+    {Qt::Key_Tab, "Tab"},           {Qt::Key_Backtab, "Tab"}, {Qt::Key_Backspace, "Backspace"},
+    {Qt::Key_Delete, "Delete"},     {Qt::Key_Up, "Up"},       {Qt::Key_Down, "Down"},
+    {Qt::Key_Left, "Left"},         {Qt::Key_Right, "Right"}, {Qt::Key_PageUp, "PageUp"},
     {Qt::Key_PageDown, "PageDown"},
 };
 

@@ -61,9 +61,9 @@ CalculationForm::CalculationForm(const Names& names)
     txtTagNum.MaxLength = TagLength;
     txtFluid.MaxLength = FluidLength;
     txtBy.MaxLength = txtApprov.MaxLength = NameLength;
-    txtComments.Each([this](TextBox& box, int) {
+    txtComments.Each([this](TextBox& box, int i) {
         box.MaxLength = CommentLength;
-        box.Describe(&lblComments);
+        box.Describe(&lblComments, nullptr, std::to_string(i + 1));
     });
     txtTagNum.Describe(&lblTagNum);
     txtFluid.Describe(&lblFluid);

@@ -46,8 +46,8 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
         box->Describe(label);
         box->MaxLength = HeadingLength;
     }
-    txtComments.Each([this](TextBox& box, int) {
-        box.Describe(&lblComments);
+    txtComments.Each([this](TextBox& box, int i) {
+        box.Describe(&lblComments, nullptr, std::to_string(i + 1));
         box.MaxLength = HeadingLength;
     });
     cmdDate.Describe(&lblDate);

@@ -45,6 +45,9 @@ frmWaterHammer::frmWaterHammer()
     HookUnits(cmdUnits);
     HookFluid();
     DescribeRows();
+    for (TextBox* box : {&txtSelectedWave, &txtSelectedForce}) {
+        box->Describe(box->LabelControl(), box->UnitControl(), "selected time");
+    }
     OrderTabs();
 
     cmdCalculateliq.Click = [this] { cmdCalculateliq_Click(); };

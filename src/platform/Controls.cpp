@@ -101,16 +101,21 @@ void Control::SetColours(Colour back, Colour fore) {
 void Control::Describe(Control* label, Control* unit, std::string column) {
     label_ = label;
     unit_ = unit;
+    if (unit != nullptr && label != nullptr && unit->unitOf_ == nullptr) unit->unitOf_ = label;
     column_ = std::move(column);
 }
 
 std::string Control::AccessibleName() const {
-    if (kind_ != ControlKind::TextBox && kind_ != ControlKind::ListBox && kind_ != ControlKind::ComboBox &&
-        label_ == nullptr) {
-        return SpokenCaption(text_);
-    }
-    std::string name = label_ == nullptr ? "" : SpokenCaption(label_->Caption());
-    if (!column_.empty()) name += (name.empty() ? "" : ", ") + column_;
+    const bool showsText = kind_ == ControlKind::TextBox || kind_ == ControlKind::ListBox ||
+                           kind_ == ControlKind::ComboBox || kind_ == ControlKind::Grid;
+    std::string name;
+    const auto add = [&name](const std::string& part) {
+        if (!part.empty()) name += (name.empty() ? "" : ", ") + part;
+    };
+    if (label_ != nullptr) add(SpokenCaption(label_->Caption()));
+    if (label_ == nullptr && unitOf_ != nullptr) add(SpokenCaption(unitOf_->Caption()) + " unit");
+    add(column_);
+    if (!showsText) add(SpokenCaption(text_));
     return name;
 }
 

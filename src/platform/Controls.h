@@ -102,11 +102,16 @@ public:
     void SetColours(Colour back, Colour fore);
 
     // What names this control to a screen reader and to a test: the label beside it and, in a table of
-    // cases, the word of its column. Unit is the control that shows its unit, null for what has none.
+    // cases, the word of its column. Unit is the control that shows its unit, null for what has none; it is
+    // named after the label too.
     void Describe(Control* label, Control* unit = nullptr, std::string column = {});
+    // "Flow, Maximum" of a box, "Flow unit, lb/h" of the button that shows its unit, "Pipe material, Steel"
+    // of a button beside a label, else the caption.
     std::string AccessibleName() const;
     Control* LabelControl() const { return label_; }
     Control* UnitControl() const { return unit_; }
+    // Whether the name goes by the caption of another control.
+    bool IsNamedBy(const Control& label) const { return label_ == &label || unitOf_ == &label; }
 
     // Gives this control the focus, at once outside of a handler, else when the outermost handler ends.
     void SetFocus();
@@ -135,6 +140,7 @@ private:
     Colour fore_ = 0;
     Control* label_ = nullptr;
     Control* unit_ = nullptr;
+    Control* unitOf_ = nullptr;  // the label of what it is the unit of
     std::string column_;
 };
 

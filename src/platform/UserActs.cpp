@@ -83,6 +83,21 @@ bool MoveInGrid(Grid& grid, const std::string& key) {
     return moves && MoveToCell(grid, row, std::max(grid.SelectedColumn(), grid.FixedColumns));
 }
 
+// The arrows go round the options of a frame and choose.
+bool MoveInOptions(Control& option, const std::string& key) {
+    const bool on = key == "Down" || key == "Right";
+    if (!on && key != "Up" && key != "Left") return false;
+    std::vector<Control*> options = option.Owner().Controls();
+    std::erase_if(options, [&](const Control* each) {
+        return each->Kind() != ControlKind::OptionButton || each->Container() != option.Container() ||
+               (each != &option && !CanAct(*each));
+    });
+    if (!on) std::reverse(options.begin(), options.end());
+    auto next = std::next(std::find(options.begin(), options.end(), &option));
+    if (next == options.end()) next = options.begin();
+    return *next != &option && MoveFocus(**next) && ClickControl(**next);
+}
+
 bool EditByKey(TextBox& box, const std::string& key) {
     if (key == "Delete") return TypeText(box, "");
     if (key == "Backspace") return TypeText(box, WithoutLastCharacter(box.Text()));
@@ -116,8 +131,10 @@ bool PressPlainKey(Control& control, const std::string& key) {
         case ControlKind::ListBox:
         case ControlKind::ComboBox: return MoveInList(static_cast<ListBox&>(control), key);
         case ControlKind::Grid: return MoveInGrid(static_cast<Grid&>(control), key);
-        case ControlKind::CommandButton:
         case ControlKind::OptionButton:
+            if (MoveInOptions(control, key)) return true;
+            [[fallthrough]];
+        case ControlKind::CommandButton:
         case ControlKind::CheckBox: return key == " " && ClickControl(control);
         default: return false;
     }

@@ -89,8 +89,8 @@ bool IsKey(std::string key) {
             key.erase(0, std::string_view(modifier).size());
         }
     }
-    constexpr std::array names = {"Enter", "Escape", "Tab",    "Backspace", "Delete",
-                                  "Up",    "Down",   "PageUp", "PageDown",  "F1"};
+    constexpr std::array names = {"Enter", "Escape", "Tab",   "Backspace", "Delete",   "Up",
+                                  "Down",  "Left",   "Right", "PageUp",    "PageDown", "F1"};
     if (std::find(names.begin(), names.end(), key) != names.end()) return true;
     const auto starts = std::count_if(
         key.begin(), key.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });

@@ -2,6 +2,7 @@
 #include <set>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -83,14 +84,59 @@ TEST_P(Rules, WhatIsTypedReachesTheModelAndBack) {
     }
 }
 
-TEST_P(Rules, EveryInputHasAnAccessibleName) {
-    for (const Control* control : Shown.Controls()) {
-        if (!IsInput(*control) ||
-            (control->Kind() == ControlKind::CommandButton && control->Caption().empty())) {
-            continue;
+// A screen reader says what a control is, what it holds and in which unit.
+TEST_P(Rules, EveryInputSpeaks) {
+    OpenAll();
+    std::set<QString> names;
+    for (Control* control : Shown.Controls()) {
+        if (!IsInput(*control)) continue;
+        SCOPED_TRACE(control->FullName());
+        QWidget* const widget = ViewOf(*control).KeyTarget();
+        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(spoken, nullptr);
+        const QString name = spoken->text(QAccessible::Name);
+        EXPECT_FALSE(name.trimmed().isEmpty());
+        EXPECT_FALSE(name.contains('&')) << name.toStdString();
+        if (control->Kind() == ControlKind::TextBox) {
+            // A component has its name when there is one.
+            const bool isNamed =
+                control->LabelControl() == nullptr || !control->LabelControl()->Caption().empty();
+            EXPECT_TRUE(!isNamed || names.insert(name).second)
+                << "two boxes are named " << name.toStdString();
+            static_cast<QLineEdit*>(widget)->setText("75");
+            EXPECT_EQ(spoken->text(QAccessible::Value), "75");
+            if (const Control* unit = control->UnitControl()) {
+                EXPECT_EQ(spoken->text(QAccessible::Description), ToQt(unit->Caption()));
+            }
         }
-        EXPECT_FALSE(ViewOf(*control).KeyTarget()->accessibleName().trimmed().isEmpty())
-            << control->FullName();
+        if (control->Kind() == ControlKind::CheckBox) {
+            static_cast<Tickable*>(control)->SetChecked(true);
+            EXPECT_TRUE(spoken->state().checked);
+        }
+    }
+}
+
+// Every control that takes input can be reached without a mouse, and none keeps the keyboard.
+TEST_P(Rules, TabReachesEveryInput) {
+    std::set<std::string> reached;
+    FormWindow& window = WindowOf(Shown);
+    for (std::size_t i = 0; i <= Shown.Controls().size(); ++i) {
+        QWidget* const focus = window.focusWidget();
+        if (focus != nullptr && Shown.Focus.Current() != nullptr) {
+            reached.insert(Shown.Focus.Current()->FullName());
+            EXPECT_EQ(focus, ViewOf(*Shown.Focus.Current()).KeyTarget());
+        }
+        QTest::keyClick(focus == nullptr ? &window : focus, Qt::Key_Tab);
+        Settle();
+    }
+    for (const Control* control : Shown.Controls()) {
+        const bool takesInput =
+            IsInput(*control) && control->Kind() != ControlKind::Plot &&
+            control->Kind() != ControlKind::ProgressBar && CanAct(*control) &&
+            !(control->Kind() == ControlKind::TextBox && static_cast<const TextBox*>(control)->Locked);
+        if (takesInput) {
+            EXPECT_TRUE(reached.contains(control->FullName())) << control->FullName();
+        }
     }
 }
 

@@ -124,6 +124,10 @@ TEST_F(ControlsOfAForm, NamesForTheEarHaveNoMarks) {
     EXPECT_EQ(Form.fraUnits.AccessibleName(), "Units");
     Form.lblName.SetCaption("Gas && steam &");
     EXPECT_EQ(Form.lblName.AccessibleName(), "Gas & steam &");
+    Form.lblName.SetCaption("Flow");
+    Form.txtName.Describe(&Form.lblName, &Form.optUnits(1), "Maximum");
+    Form.optUnits(1).SetCaption("lb/h");
+    EXPECT_EQ(Form.optUnits(1).AccessibleName(), "Flow unit, lb/h");
 }
 
 }  // namespace
