@@ -38,6 +38,14 @@ show txtCompFactor(0)
 click cmdOK(1)
 show txtDensity(1)
 
+# The figures of the guide.
+expect txtMW(0) 21.97
+expect txtCritTemp(0) 397.6
+expect txtCritPressure(0) 664.5
+expect txtCompFactor(0) 0.946
+expect txtDensity(0) 1.061
+expect txtDensity(1) 1.567
+
 # The report, beside where the player was started.
 click mnuPrint
 click cmdDate

@@ -65,6 +65,13 @@ show txtDestPress(2)
 show txtVelocity(2)
 show txtEquivLen
 
+# The figures of the guide.
+expect txtViscosity(0) 1.118
+expect txtReynoldsNum(0) 210283
+expect txtDropP100(0) 2.115
+expect txtVelocity(0) 7.552
+expect txtDestPress(0) 69.1
+
 # The report, beside where the player was started.
 click mnuPrint
 click cmdDate

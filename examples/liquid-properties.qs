@@ -27,6 +27,12 @@ show txtViscosity(2)
 show txtVapPressure(2)
 expect txtMW(0) 92.14
 
+# The figures of the guide.
+expect txtDensity(0) 54.37
+expect txtDensity(2) 50.43
+expect txtViscosity(2) 0.311
+expect txtVapPressure(2) 6.09
+
 # The report, beside where the player was started.
 click mnuPrint
 click cmdDate

@@ -44,6 +44,12 @@ click cmdCalculate(2)
 expect txtDestPress(2) ""
 show txtVelocity(2)
 
+# The figures of the guide.
+expect txtRatioSH(0) 1.295
+expect txtDestPress(0) 136.3
+expect txtVelocity(0) 141.5
+expect txtSonicVelocity(0) 1926
+
 # The report, beside where the player was started.
 click mnuPrint
 click cmdDate

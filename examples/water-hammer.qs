@@ -41,6 +41,15 @@ show txtSelectedWave
 show txtSelectedForce
 show pltClosing
 
+# The figures of the guide.
+expect txtBulkModulus 318677
+expect txtWaveVelocity 4380
+expect txtCriticalTime 1.142
+expect txtPressureWave 622.9
+expect txtSupportForce 15108
+expect txtSelectedWave 249.3
+expect txtSelectedForce 4313
+
 # The report, beside where the player was started.
 click mnuPrint
 click cmdDate

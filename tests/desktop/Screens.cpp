@@ -1,9 +1,15 @@
-// Writes a picture of each window of the suite to a folder, for the guide and for whoever changes a layout:
-// quillmetra-screens FOLDER
+// Writes a picture of each window of the suite to a folder, filled with the worked examples, for the guide
+// and for whoever changes a layout: quillmetra-screens FOLDER
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include <QApplication>
+#include <QImage>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPixmap>
@@ -30,6 +36,47 @@ void Settle() {
     for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
 }
 
+// Each part of a colour to the nearest multiple of a step; white stays white.
+QImage WithFewerColours(QImage picture, int step) {
+    const auto nearest = [step](int part) { return std::min((part + step / 2) / step * step, 255); };
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            line[x] = qRgb(nearest(qRed(line[x])), nearest(qGreen(line[x])), nearest(qBlue(line[x])));
+        }
+    }
+    return picture;
+}
+
+// The colours of a picture; empty when a palette cannot hold them.
+QList<QRgb> PaletteOf(const QImage& picture) {
+    QList<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            if (colours.contains(line[x])) continue;
+            if (colours.size() == 256) return {};
+            colours.append(line[x]);
+        }
+    }
+    return colours;
+}
+
+// A quarter of the file by a palette, for which the soft edges of the letters lose some of their shades.
+void SavePicture(QWidget& window, const char* name) {
+    const QImage grabbed = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QImage picture = grabbed;
+    for (const int step : {1, 4, 8, 16}) {
+        picture = WithFewerColours(grabbed, step);
+        const QList<QRgb> palette = PaletteOf(picture);
+        if (palette.isEmpty()) continue;
+        picture = picture.convertToFormat(QImage::Format_Indexed8, palette);
+        break;
+    }
+    constexpr int smallest = 0;
+    picture.save(Folder + "/" + name + ".png", nullptr, smallest);
+}
+
 void Shoot(const char* name) {
     Settle();
     QWidget* top = QApplication::activeModalWidget();
@@ -38,7 +85,7 @@ void Shoot(const char* name) {
         if (top == nullptr && window->isVisible()) top = window;
     }
     if (top == nullptr) return;
-    top->grab().save(Folder + "/" + name + ".png");
+    SavePicture(*top, name);
     std::printf("%s %d x %d\n", name, top->width(), top->height());
 }
 
@@ -60,7 +107,7 @@ void AnswerBoxes() {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr) return;
     static bool pictured = false;
-    if (!pictured) box->grab().save(Folder + "/message.png");
+    if (!pictured) SavePicture(*box, "message");
     pictured = true;
     std::printf("box: %s | %s\n", qPrintable(box->windowTitle()), qPrintable(box->text().simplified()));
     box->defaultButton()->click();
@@ -77,58 +124,81 @@ const char* Open(int program, const char* form) {
 // A dialog runs its own loop: its picture is taken from within.
 void Within(const std::function<void()>& act) { QMetaObject::invokeMethod(qApp, act, Qt::QueuedConnection); }
 
-void FillLine() {
-    const struct {
-        const char* Box;
-        const char* Text;
-    } line[] = {{"txtTagNum", "P-101 discharge"},
-                {"txtInletPipeLen", "1250"},
-                {"txtInletPipeID", "6.065"},
-                {"txtInletPipeElev", "12"},
-                {"txtOutletPipeElev", "85"},
-                {"txtPipeCond", "5"},
-                {"txtInletGate", "2"},
-                {"txtInlet90Deg", "6"},
-                {"txtInletThru", "1"}};
-    for (const auto& each : line) Type(each.Box, Control::NoIndex, each.Text);
-    const char* const flows[] = {"420000", "350000", "120000"};
+void TypeAll(std::initializer_list<std::pair<const char*, const char*>> texts) {
+    for (const auto& [box, text] : texts) Type(box, Control::NoIndex, text);
+}
+
+// The first row that starts with a text.
+void PickFrom(const char* form, const char* name, std::string_view start) {
+    auto& list = static_cast<ListBox&>(ControlOf(form, name));
+    int row = 0;
+    while (row < list.RowCount() - 1 && !list.Row(row).starts_with(start)) ++row;
+    PickRow(list, row);
+}
+
+void PickFluid(const char* name) {
+    PickFrom(Calculation, "lstFluid", name);
+    Click(Calculation, "cmdSelect");
+}
+
+std::string Entry(const char* stem, int index) { return stem + std::to_string(index + 1); }
+
+// The dialog with the table of pipe sizes.
+void PickPipe(const char* size, const char* row, const char* picture) {
+    Within([=] {
+        TypeText(ControlOf("frmPipeSize", "txtNomSize"), size);
+        Click("frmPipeSize", "cmdSearch");
+        PickFrom("frmPipeSize", "lstPipeSize", row);
+        if (picture != nullptr) Shoot(picture);
+        Click("frmPipeSize", "cmdOK");
+    });
+    Click(Calculation, "cmdPipeID");
+}
+
+// examples/liquid-line.qs
+void FillLine(const char* pipePicture = nullptr) {
+    TypeAll({{"txtTagNum", "CW-101"},
+             {"txtInletPipeLen", "1000"},
+             {"txtOutletPipeElev", "20"},
+             {"txtInletGate", "2"},
+             {"txtInletCheck", "1"},
+             {"txtInlet90Deg", "6"}});
+    PickPipe("4", "  4,40S", pipePicture);
+    const char* const flows[] = {"150000", "100000", "40000"};
     for (int i = 0; i < 3; ++i) {
+        Type("txtTemp", i, "60");
+        Type("txtPressure", i, "100");
+        Click(Calculation, Entry("mnuPureLiquid", i).c_str());
+        PickFluid("Water ");
         Type("txtFlow", i, flows[i]);
-        Type("txtTemp", i, "68");
-        Type("txtPressure", i, "150");
-        Type("txtSGFlow", i, "0.998");
-        Type("txtViscosity", i, "1.002");
-        Type("txtEquip", i, "3");
     }
+    TypeAll({{"txtBy", "Process"}});
+    Type("txtComments", 0, "Cooling water supply, sheet 4.");
 }
 
 // The liquid form, and the windows that all forms share.
 void ShootLiquidLine() {
     Open(1, "frmLiqLineLoss");
     Shoot("line-empty");
-    FillLine();
-    Within([] {
-        TypeText(ControlOf("frmPipeSize", "txtNomSize"), "6");
-        Click("frmPipeSize", "cmdSearch");
-        Shoot("pipe-size");
-        Click("frmPipeSize", "cmdCancel");
-    });
-    Click("frmLiqLineLoss", "cmdPipeID");
-    Click("frmLiqLineLoss", "cmdMatl");
+    FillLine("pipe-size");
+    Click(Calculation, "cmdMatl");
     Shoot("line-material");
-    PressKey(ControlOf("frmLiqLineLoss", "lstMatl"), "Escape");
-    Click("frmLiqLineLoss", "mnuPureLiquid1");
+    PressKey(ControlOf(Calculation, "lstMatl"), "Escape");
+    Click(Calculation, "mnuPureLiquid1");
     Shoot("line-liquids");
-    Click("frmLiqLineLoss", "cmdCancel");
-    for (int i = 0; i < 3; ++i) Click("frmLiqLineLoss", "cmdCalculate", i);
+    Click(Calculation, "cmdCancel");
+    for (int i = 0; i < 3; ++i) Click(Calculation, "cmdCalculate", i);
     Type("txtInletPipeLen", Control::NoIndex, "1300");
-    MoveFocus(ControlOf("frmLiqLineLoss", "txtInletPipeID"));
+    MoveFocus(ControlOf(Calculation, "txtInletPipeID"));
     Shoot("line-changed");
-    for (int i = 0; i < 3; ++i) Click("frmLiqLineLoss", "cmdCalculate", i);
+    Type("txtInletPipeLen", Control::NoIndex, "1000");
+    for (int i = 2; i >= 0; --i) Click(Calculation, "cmdCalculate", i);
     Shoot("line-results");
     Within([] {
         TypeText(ControlOf("frmObxPrintCalc", "txtTitle"), "Northfield Terminal");
-        TypeText(ControlOf("frmObxPrintCalc", "txtSubTitle"), "Unit 200 line sizing");
+        TypeText(ControlOf("frmObxPrintCalc", "txtSubTitle"), "Unit 200");
+        TypeText(ControlOf("frmObxPrintCalc", "txtProjectNo"), "4471");
+        TypeText(ControlOf("frmObxPrintCalc", "txtProjectName"), "Tank farm revamp");
         Shoot("printout");
         Within([] {
             Shoot("preview");
@@ -137,11 +207,11 @@ void ShootLiquidLine() {
         Click("frmObxPrintCalc", "mnuPreview");
         Click("frmObxPrintCalc", "cmdCancel");
     });
-    Click("frmLiqLineLoss", "mnuPrint");
-    Click("frmLiqLineLoss", "cmdFormLayout");
+    Click(Calculation, "mnuPrint");
+    Click(Calculation, "cmdFormLayout");
     Shoot("options");
     Click("frmCalcOptions", "cmdCancelOptions");
-    Click("frmLiqLineLoss", "cmdUnits", 1);
+    Click(Calculation, "cmdUnits", 1);
     Shoot("units");
     Click("frmUnits", "cmdUnit", 3);
     Shoot("units-choose");
@@ -152,26 +222,18 @@ void ShootLiquidLine() {
     Click("frmUnits", "cmdCancelUn");
 }
 
-void PickFluid(const std::string& name) {
-    auto& list = static_cast<ListBox&>(ControlOf(Calculation, "lstFluid"));
-    for (int row = 0; row < list.RowCount(); ++row) {
-        if (list.Row(row).starts_with(name)) PickRow(list, row);
-    }
-    Click(Calculation, "cmdSelect");
-}
-
-// Methane, a mixture and the base conditions on the gas form.
+// examples/steam-line.qs without its low pressure, and the base conditions.
 void ShootGasLine() {
     const char* const form = Open(2, "frmGasLineLoss");
-    Type("txtTagNum", Control::NoIndex, "FG-2301");
-    Type("txtInletPipeLen", Control::NoIndex, "3200");
-    Type("txtInletPipeID", Control::NoIndex, "6.065");
+    TypeAll(
+        {{"txtTagNum", "ST-204"}, {"txtInletPipeLen", "800"}, {"txtInletGate", "1"}, {"txtInlet90Deg", "8"}});
+    PickPipe("6", "  6,40S", nullptr);
+    const char* const flows[] = {"25000", "20000", "10000"};
     for (int i = 0; i < 3; ++i) {
-        Type("txtFlow", i, i == 0 ? "36000" : "24000");
-        Type("txtTemp", i, "80");
+        Type("txtTemp", i, "600");
         Type("txtPressure", i, "150");
-        Click(form, ("mnuPureGases" + std::to_string(i + 1)).c_str());
-        PickFluid("Methane ");
+        Click(form, Entry("mnuSupersteam", i).c_str());
+        Type("txtFlow", i, flows[i]);
     }
     Shoot("gas-empty");
     for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
@@ -179,29 +241,23 @@ void ShootGasLine() {
     Click(form, "mnuSTP");
     Shoot("gas-base-conditions");
     Click(form, "cmdCancelSTP");
-    Click(form, "mnuMixtures1");
-    for (const char* gas : {"Methane ", "Ethane ", "Propane ", "Nitrogen "}) PickFluid(gas);
-    Type("txtPercent", 0, "85");
-    Type("txtPercent", 1, "10");
-    Shoot("gas-mixture");
-    for (int i = 4; i < 16; ++i) PickFluid("Ethylene ");
-    Shoot("gas-mixture-full");
-    Click(form, "cmdCancel");
 }
 
+// examples/water-hammer.qs
 void ShootHammer() {
     const char* const form = Open(3, "frmWaterHammer");
     Shoot("hammer-empty");
-    const std::pair<const char*, const char*> line[] = {
-        {"txtTagNum", "XV-204 closing"}, {"txtMaxLiqFlow", "400000"},   {"txtFlowTemp", "68"},
-        {"txtOperPressure", "100"},      {"txtLineLength", "2500"},     {"txtPipeID", "6.065"},
-        {"txtPipeWall", "0.28"},         {"txtMaxAllowPressure", "300"}};
-    for (const auto& [box, text] : line) Type(box, Control::NoIndex, text);
+    TypeAll({{"txtTagNum", "XV-204"},
+             {"txtMaxLiqFlow", "400000"},
+             {"txtFlowTemp", "60"},
+             {"txtOperPressure", "100"}});
     Click(form, "mnuPureLiquids");
     PickFluid("Water ");
+    PickPipe("6", "  6,40S", nullptr);
     Click(form, "cmdPipeMatl");
     Shoot("hammer-moduli");
     Click(form, "cmdSelectModulus");
+    TypeAll({{"txtLineLength", "2500"}, {"txtMaxAllowPressure", "300"}});
     Click(form, "cmdCalculateliq");
     Shoot("hammer-results");
     Type("txtSelectedTime", Control::NoIndex, "4");
@@ -209,16 +265,39 @@ void ShootHammer() {
     Shoot("hammer-selected");
 }
 
-// Toluene and steam in three cases.
-void ShootFluidData(int program, const char* name, const char* entry, const char* fluid) {
-    const char* const form = Open(program, name);
-    Type("txtTagNum", Control::NoIndex, "FD-12");
+// examples/liquid-properties.qs
+void ShootLiquidData() {
+    const char* const form = Open(4, "frmLiqData");
+    Type("txtTagNum", Control::NoIndex, "TK-12");
+    const char* const states[][2] = {{"60", "10"}, {"80", "50"}, {"180", "120"}};
     for (int i = 0; i < 3; ++i) {
-        Type("txtTemp", i, std::to_string(80 + 100 * i).c_str());
-        Type("txtPressure", i, "100");
-        Click(form, (entry + std::to_string(i + 1)).c_str());
-        PickFluid(fluid);
+        Type("txtTemp", i, states[i][0]);
+        Type("txtPressure", i, states[i][1]);
+        Click(form, Entry("mnuLiquid", i).c_str());
+        PickFluid("Toluene ");
     }
+    Shoot(form);
+}
+
+// examples/gas-properties.qs
+void ShootGasData() {
+    const char* const form = Open(5, "frmGasData");
+    Type("txtTagNum", Control::NoIndex, "FG-2300");
+    Type("txtTemp", 0, "80");
+    Type("txtPressure", 0, "250");
+    Type("txtTemp", 1, "120");
+    Type("txtPressure", 1, "400");
+    Click(form, "mnuMixtures1");
+    const std::pair<const char*, const char*> parts[] = {{"Methane ", "72.5"},     {"Ethane ", "10.25"},
+                                                         {"Propane ", "6"},        {"n-Butane ", "3.25"},
+                                                         {"Carbon Dioxide ", "3"}, {"Nitrogen ", "5"}};
+    for (int i = 0; i < 6; ++i) {
+        PickFluid(parts[i].first);
+        if (i == 5) Shoot("gas-mixture");
+        Type("txtPercent", i, parts[i].second);
+    }
+    Click(form, "cmdCalcPseudo");
+    Click(form, "cmdOK", 1);
     Shoot(form);
 }
 
@@ -240,15 +319,15 @@ void ShootTables() {
     Click("frmObxProg", "cmdCancel");
 }
 
-void ShootLiquidData() { ShootFluidData(4, "frmLiqData", "mnuLiquid", "Toluene "); }
-void ShootGasData() { ShootFluidData(5, "frmGasData", "mnuPureGases", "Methane "); }
-
 // The finder on a folder with something to find, folded up and open.
 void ShootPathFinder() {
     Within([] {
         Shoot("path-finder");
         Click("WinSeek", "cmdBrouse");
         Click("WinSeek", "cmdSearch");
+        // This machine's other drives are nobody's business.
+        auto& drives = static_cast<ListBox&>(ControlOf("WinSeek", "drvList"));
+        drives.SetRows({drives.Row(0)});
         Shoot("path-finder-found");
         Click("WinSeek", "cmdExit");
         Shoot("path-finder-folded");
@@ -262,7 +341,7 @@ void ShootHelp() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->objectName() != "help") continue;
         Settle();
-        window->grab().save(Folder + "/help.png");
+        SavePicture(*window, "help");
         window->close();
     }
 }
@@ -282,6 +361,16 @@ void ShootSchemes() {
         Click(Calculation, "mnuProgram");
     }
     Suite.Colours = former;
+}
+
+// The browser with the records that the pictures before have saved.
+void ShootBrowser() {
+    Click("frmTRProg", "cmdDBOpen");
+    Shoot("browser-record");
+    Click("frmTRProg", "cmdBrowse");
+    Shoot("browser-tags");
+    Click("frmTRProg", "cmdCancel");
+    Click("frmTRProg", "cmdDBClose");
 }
 
 void ShootPrintControl() {
@@ -312,7 +401,9 @@ int main(int argc, char** argv) {
     boxes.start(20);
     DesktopHost host;
     RegisterForms();
-    const std::string home = SuitePath(std::filesystem::temp_directory_path() / "quillmetra-screens");
+    const auto folder = std::filesystem::temp_directory_path() / "quillmetra-screens";
+    std::filesystem::remove_all(folder);  // what the run before has saved
+    const std::string home = SuitePath(folder);
     SeedShippedData(home);
     StartUp(home);
     Shoot("browser");
@@ -328,6 +419,7 @@ int main(int argc, char** argv) {
         Click(Calculation, "mnuSave");
         Click(Calculation, "mnuProgram");
     }
+    ShootBrowser();
     ShootPrintControl();
     ResetForms();
     return 0;
