@@ -161,7 +161,9 @@ def main():
         sys.exit(__doc__)
     arguments = sys.argv[2:]
     measured = {}
-    for program in sorted(Path(sys.argv[1]).glob("bench_*")):
+    # By their sources: a build may still hold the program of one that is gone.
+    sources = Path(__file__).parent.parent / "benchmarks"
+    for program in (Path(sys.argv[1]) / each.stem for each in sorted(sources.glob("bench_*.cpp"))):
         print(f"{program.name} ...", file=sys.stderr, flush=True)
         measured.update(run(program, arguments))
     if not measured:

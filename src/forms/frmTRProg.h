@@ -65,6 +65,7 @@ public:
     Frame fraRecord{*this, "fraRecord", "Selected record"};
     RecordFields Record{fraRecord};
     Label lblCurrentRecord{fraRecord, "lblCurrentRecord"};
+    Label lblOf{fraRecord, "lblOf", "of"};
     Label lblNumRecords{fraRecord, "lblNumRecords"};
     CommandButton cmdFirst{fraRecord, "cmdFirst", "&First"};
     CommandButton cmdPrev{fraRecord, "cmdPrev", "&Previous"};

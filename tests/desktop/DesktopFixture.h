@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -31,7 +32,7 @@ class DesktopTest : public SuiteTest {
 protected:
     DesktopTest() {
         RegisterForms();
-        QObject::connect(&watch_, &QTimer::timeout, CloseForgottenDialog);
+        QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { CloseForgottenDialog(); });
         watch_.start(3000);
     }
     ~DesktopTest() override {
@@ -64,10 +65,12 @@ protected:
     DesktopHost Screen;
 
 private:
-    // A dialog that no test expects would wait for ever.
-    static void CloseForgottenDialog() {
+    // A dialog that no test expects would wait for ever: one that is there at two looks is forgotten.
+    void CloseForgottenDialog() {
         QWidget* const dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) return;
+        const bool isForgotten = dialog != nullptr && dialog == seen_;
+        seen_ = dialog;
+        if (!isForgotten) return;
         const auto* box = qobject_cast<QMessageBox*>(dialog);
         ADD_FAILURE() << "nobody answered " << dialog->windowTitle().toStdString() << ": "
                       << (box == nullptr ? "" : box->text().toStdString());
@@ -78,6 +81,7 @@ private:
         }
     }
 
+    QPointer<QWidget> seen_;
     QTimer watch_;
 };
 

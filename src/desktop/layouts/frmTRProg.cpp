@@ -15,7 +15,7 @@ Node Record() {
     const auto box = [](const char* name) { return Item(name).Wide(22).Grow(); };
     return Frame(
         "fraRecord",
-        Column({Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord",
+        Column({Row({"cmdFirst", "cmdPrev", "cmdNext", "cmdLast", Stretch(), "lblCurrentRecord", "lblOf",
                      "lblNumRecords"}),
                 Row({"cmdBrowse", "cmdFind", "cmdSearchDate", "cmdDelete", Stretch(), "cmdDisplayCalc"}),
                 Table({
