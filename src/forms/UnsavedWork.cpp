@@ -3,29 +3,19 @@
 
 #include "core/CalcRecord.h"
 #include "core/Filling.h"
-#include "core/Programs.h"
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
 #include "forms/RecordInHand.h"
+#include "forms/UnitChange.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "records/Recovery.h"
 
 namespace quillmetra {
 
-namespace {
-
-CalculationForm* OpenCalculation() {
-    const Program* const program = FindProgram(Calc.CurrentProgram);
-    Form* const form = program == nullptr ? nullptr : LoadedForm(program->Form);
-    return form == nullptr || !form->Visible() ? nullptr : dynamic_cast<CalculationForm*>(form);
-}
-
-}  // namespace
-
 void KeepUnsavedWork() {
     CalculationForm* const form = OpenCalculation();
-    if (form == nullptr || UserActRuns() || Calc.ChangedFlag.empty()) return;
+    if (form == nullptr || !form->Visible() || UserActRuns() || Calc.ChangedFlag.empty()) return;
     // A panel or a list has the record half changed.
     if (!form->Enabled() || !form->Picture1.Enabled()) return;
     const std::string tag = form->txtTagNum.Text();
