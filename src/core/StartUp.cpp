@@ -93,6 +93,8 @@ void SeedShippedData(const std::string& programFolder) {
         beside += ".quillmetra-new";
         std::error_code failed;
         fs::copy_file(source / name, beside, fs::copy_options::overwrite_existing, failed);
+        // The user edits tables, however little may be done with those that were installed.
+        fs::permissions(beside, fs::perms::owner_write, fs::perm_options::add, ignored);
         if (!failed) fs::rename(beside, target, failed);
         if (failed) fs::remove(beside, ignored);
     }

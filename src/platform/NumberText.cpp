@@ -5,6 +5,16 @@
 #include <cmath>
 #include <optional>
 #include <system_error>
+#include <version>
+
+#ifndef __cpp_lib_to_chars
+#include <cstdlib>
+#ifdef __APPLE__
+#include <xlocale.h>
+#else
+#include <clocale>
+#endif
+#endif
 
 namespace quillmetra {
 
@@ -84,16 +94,31 @@ LeadingNumber ScanNumber(std::string_view text) {
     return number;
 }
 
+// A text that is a number and nothing else, in the spelling of from_chars; nothing when it is too large.
+std::optional<double> WholeNumber(std::string_view text) {
+    double value = 0;
+#ifdef __cpp_lib_to_chars
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (stop != end || error != std::errc{}) return {};
+#else
+    // Apple's library long had no from_chars for doubles.
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    if (text.empty() || text.find_first_not_of("0123456789.eE+-") != std::string_view::npos) return {};
+    const std::string copy(text);
+    char* stop = nullptr;
+    value = strtod_l(copy.c_str(), &stop, plain);
+    if (*stop != '\0' || !std::isfinite(value)) return {};
+#endif
+    return value;
+}
+
 // Nearly all texts are a number and nothing else, in digits that from_chars reads as they are.
 std::optional<double> PlainNumber(std::string_view text) {
     text = Trim(text);
     const std::size_t first = text.starts_with('-') ? 1 : 0;
     if (first == text.size() || !(IsDigit(text[first]) || text[first] == '.')) return {};
-    double value = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (stop != end || error != std::errc{}) return {};
-    return value;
+    return WholeNumber(text);
 }
 
 // Turns the digits and the decimal exponent of scientific text ("1.2345e+04") into the suite's own form.
@@ -125,12 +150,7 @@ std::string FromScientific(std::string_view scientific) {
 
 double Val(std::string_view text) {
     if (const std::optional<double> value = PlainNumber(text)) return *value;
-    const LeadingNumber number = ScanNumber(text);
-    if (number.Digits.empty()) return 0;
-    double value = 0;
-    const char* const end = number.Digits.data() + number.Digits.size();
-    if (std::from_chars(number.Digits.data(), end, value).ec != std::errc{}) return 0;
-    return value;
+    return WholeNumber(ScanNumber(text).Digits).value_or(0);
 }
 
 bool ValReadsAll(std::string_view text) { return Trim(text.substr(ScanNumber(text).End)).empty(); }

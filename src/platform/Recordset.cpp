@@ -5,6 +5,7 @@
 
 #include "platform/Database.h"
 #include "platform/Engine.h"
+#include "platform/NumberText.h"
 #include "platform/Utf8.h"
 
 namespace quillmetra {
@@ -41,10 +42,8 @@ FieldValue ValueAt(sqlite3_stmt* statement, int column, FieldType type) {
 double SingleRead(double stored) {
     if (!std::isfinite(stored) || std::abs(stored) > std::numeric_limits<float>::max()) return 0;
     std::array<char, 32> text{};
-    const auto written = std::to_chars(text.begin(), text.end(), static_cast<float>(stored));
-    double value = 0;
-    std::from_chars(text.begin(), written.ptr, value);
-    return value;
+    const auto written = std::to_chars(text.data(), text.data() + text.size(), static_cast<float>(stored));
+    return Val({text.data(), static_cast<std::size_t>(written.ptr - text.data())});
 }
 
 FieldValue FittedValue(const FieldShape& field, FieldValue value) {

@@ -3,7 +3,9 @@
 
 #include <system_error>
 
-#if defined(__unix__) || defined(__APPLE__)
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -17,8 +19,15 @@ namespace fs = std::filesystem;
 namespace {
 
 // Waits until a file or a folder is on the disk. A file system that cannot tell is trusted.
-void Synchronise([[maybe_unused]] const fs::path& path) {
-#if defined(__unix__) || defined(__APPLE__)
+void Synchronise(const fs::path& path) {
+#ifdef _WIN32
+    // Folders cannot be opened so; the system keeps those in order by itself.
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return;
+    FlushFileBuffers(file);
+    CloseHandle(file);
+#else
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (file < 0) return;
     fsync(file);

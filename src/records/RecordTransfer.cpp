@@ -244,11 +244,9 @@ std::string NumberToFit(double value, std::size_t characters) {
     std::string text = TrimmedStr(value);
     for (int digits = 15; digits > 0 && text.size() > characters; --digits) {
         std::array<char, 40> buffer{};
-        const auto written =
-            std::to_chars(buffer.begin(), buffer.end(), value, std::chars_format::general, digits);
-        double rounded = 0;
-        std::from_chars(buffer.begin(), written.ptr, rounded);
-        text = TrimmedStr(rounded);
+        const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                           std::chars_format::general, digits);
+        text = TrimmedStr(Val({buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data())}));
     }
     return text;
 }
