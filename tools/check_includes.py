@@ -39,6 +39,15 @@ ALLOWED = {
 RESTRICTED = [
     ("Qt", re.compile(r"Qt?[A-Z]\w*(/.*)?|q\w+\.h"), {"desktop", "paper"}),
     ("SQLite", re.compile(r"sqlite3(ext)?\.h"), {"platform"}),
+    (
+        "what one operating system alone has",
+        re.compile(
+            r"(unistd|fcntl|dirent|dlfcn|pthread|semaphore|poll|pwd|grp|spawn|termios|glob|fnmatch|langinfo|libgen|sched"
+            r"|strings|netdb|xlocale|windows|shlobj|shellapi|winsock2?|io|direct|process)\.h"
+            r"|(sys|net|netinet|arpa|linux|mach|mach-o)/.*"
+        ),
+        {"platform"},
+    ),
 ]
 
 FREE_ROOTS = ("tests", "benchmarks")
@@ -158,6 +167,9 @@ SELF_TEST = [
     ("Qt class", {"src/forms/A.h": "#include <QString>\n"}, "Qt belongs"),
     ("Qt module", {"src/script/A.h": "#include <QtCore/qglobal.h>\n"}, "Qt belongs"),
     ("SQLite", {"src/records/A.h": "#include <sqlite3.h>\n"}, "SQLite belongs"),
+    ("POSIX", {"src/records/A.h": "#include <sys/stat.h>\n"}, "operating system alone"),
+    ("Windows", {"src/desktop/A.h": "#include <windows.h>\n"}, "operating system alone"),
+    ("system in platform", {"src/platform/A.cpp": "#include <unistd.h>\n"}, None),
     ("standard library", {"src/core/A.h": "#include <queue>\n#include <cmath>\n"}, None),
     ("test code", {"src/core/A.h": '#include "../../tests/B.h"\n', "tests/B.h": ""}, "may not include tests/"),
     ("circle", {"src/core/A.h": '#include "core/B.h"\n', "src/core/B.h": '#include "core/A.h"\n'}, "A.h -> src/core/B.h"),

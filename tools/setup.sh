@@ -8,7 +8,7 @@ cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." || exit 1
 BuildPackages=(build-essential cmake ninja-build ccache qt6-base-dev libqcustomplot-dev libsqlite3-dev
                fontconfig fonts-dejavu-core)
 TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils locales file desktop-file-utils
-              python3)
+              appstream python3)
 BenchPackages=(libbenchmark-dev)
 CheckPackages=(clang-format clang-tidy git python3)
 

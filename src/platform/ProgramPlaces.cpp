@@ -48,15 +48,15 @@ fs::path ExecutableFolder() {
 
 fs::path UserDataFolder() {
 #ifdef _WIN32
-    return FromEnvironment("APPDATA") / "quillmetra";
+    const fs::path folder = FromEnvironment("APPDATA");
 #elif defined(__APPLE__)
-    return FromEnvironment("HOME") / "Library" / "Application Support" / "quillmetra";
+    const fs::path folder = FromEnvironment("HOME") / "Library" / "Application Support";
 #else
     const fs::path named = FromEnvironment("XDG_DATA_HOME");
-    if (named.is_absolute()) return named / "quillmetra";
-    const fs::path home = FromEnvironment("HOME");
-    return (home.empty() ? fs::temp_directory_path() : home / ".local" / "share") / "quillmetra";
+    const fs::path folder = named.is_absolute() ? named : FromEnvironment("HOME") / ".local" / "share";
 #endif
+    // Where there is no such place, never the folder that a program happened to be started in.
+    return (folder.is_absolute() ? folder : fs::temp_directory_path()) / "quillmetra";
 }
 
 fs::path ShippedDataFolder() { return ExecutableFolder().parent_path() / "share" / "quillmetra" / "data"; }
