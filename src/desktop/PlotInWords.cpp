@@ -19,7 +19,7 @@ public:
 protected:
     void RenewRows() override {
         words_->setText(ToQt(plot_.Text()));
-        words_->setAccessibleName(plot_.IsEmpty() ? QStringLiteral("No results yet") : words_->text());
+        words_->setAccessibleName(plot_.IsEmpty() ? QStringLiteral("Drawn when calculated") : words_->text());
     }
 
 private:

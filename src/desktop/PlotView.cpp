@@ -19,7 +19,7 @@ constexpr int LegendRow = 2;  // below title and axes
 constexpr double CurveWidth = 1.8;
 constexpr double MarkLabelGap = 0.02;  // of the picture's height or width, from its edge
 
-constexpr const char* Nothing = "No results yet";
+constexpr const char* Nothing = "Drawn when calculated";
 
 // The stretch of an axis that a drawing takes.
 class Span {

@@ -82,7 +82,7 @@ TEST_F(PlotOnTheScreen, ShowsEachCurveOverItsWholeHeight) {
 
 TEST_F(PlotOnTheScreen, SpeaksAndTakesItsColours) {
     const QWidget& widget = WidgetOf(*pltLine);
-    EXPECT_EQ(widget.accessibleName(), "No results yet");
+    EXPECT_EQ(widget.accessibleName(), "Drawn when calculated");
     pltLine->Draw(Line(100, 50));
     const QString words = "Normal case: Pressure 100 to 50 psia over 1000 ft";
     EXPECT_EQ(widget.accessibleName(), words);
