@@ -82,7 +82,7 @@ void SkipEndOfLine(const std::string& text, std::size_t& next) {
 // The name in a folder that matches a wanted one without regard to case.
 fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
     std::error_code error;
-    const fs::path exact = folder / std::u8string(wanted.begin(), wanted.end());
+    fs::path exact = folder / std::u8string(wanted.begin(), wanted.end());
     if (fs::exists(exact, error)) return exact;
     for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end; !error && entry != end;
          entry.increment(error)) {

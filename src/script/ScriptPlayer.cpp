@@ -146,7 +146,7 @@ void ScriptPlayer::UseFolder(const std::string& path) {
 
 std::filesystem::path ScriptPlayer::FileOfOwnFolder(const std::string& name) const {
     if (!ownFolder_) throw ScriptFailure{"the suite is not started, or on a folder that is not the script's"};
-    const std::filesystem::path file = MachinePath(SuitePath(ownFolder_->Path()) + "\\" + name);
+    std::filesystem::path file = MachinePath(SuitePath(ownFolder_->Path()) + "\\" + name);
     const auto [stop, rest] =
         std::mismatch(ownFolder_->Path().begin(), ownFolder_->Path().end(), file.begin());
     if (stop != ownFolder_->Path().end()) throw ScriptFailure{name + " is outside of the suite's folder"};

@@ -8,19 +8,6 @@
 namespace quillmetra {
 namespace {
 
-TEST_F(LiquidForm, OpensFromTheBrowserInEnglishUnits) {
-    EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
-    EXPECT_FALSE(LoadedForm("frmTRProg")->Visible());
-    EXPECT_TRUE(Form().Visible());
-    EXPECT_EQ(Form().Caption(), "Ver.6.0.0.  Line Loss  - Liquid flow");
-    EXPECT_EQ(Form().cmdUnits(1).Caption(), "lb/h");
-    EXPECT_EQ(Form().unVelocity.Caption(), "ft/s");
-    EXPECT_EQ(Form().lblDropP100.Caption(), "Loss per 100 ft");
-    EXPECT_EQ(Form().Basis.lblSetupSelections.Caption(), "English mass units, calculate data");
-    EXPECT_EQ(Form().txtBy.Text(), "By");
-    EXPECT_FALSE(Form().cmdUnits(6).Visible());
-}
-
 TEST_F(LiquidForm, CalculatesACaseWorkedByHand) {
     FillGoodCase(0);
     User.Answers = {Answer::Yes};
@@ -39,46 +26,6 @@ TEST_F(LiquidForm, CalculatesACaseWorkedByHand) {
     EXPECT_EQ(Form().txtEquivLen.Text(), " 1000");
     EXPECT_EQ(Form().Focus.Current(), &Form().txtBy);
     EXPECT_TRUE(Form().txtDestPress(1).Text().empty()) << "a case with no input stays blank";
-}
-
-TEST_F(LiquidForm, RefusesBadDataInTheOrderOfTheForm) {
-    FillGoodCase(1);
-    frmLiqLineLoss& form = Form();
-    const struct {
-        TextBox& Box;
-        const char* Bad;
-        const char* Good;
-        const char* Message;
-    } cases[] = {
-        {form.txtTemp(1), "", "60", "Flow Temperature must be greater than -459.67"},
-        {form.txtTemp(1), "-459.67", "60", "Flow Temperature must be greater than -459.67"},
-        {form.txtPressure(1), "-20", "100", "Pressure must be greater than minus 14.7"},
-        {form.txtInletPipeLen, "0", "1000", "Length must be > zero "},
-        {form.txtInletPipeLen, "abc", "1000", "Length must be > zero "},
-        {form.txtInletPipeLen, "1e300", "1000", "Length must be < 10000000 ft"},
-        {form.txtInletPipeID, "-4", "4.026", "Pipe inside diameter must be > zero "},
-        {form.txtPipeCond, "101", "0", "Condition must be between 0 and 100"},
-        {form.txtPipeCond, "-1", "0", "Condition must be between 0 and 100"},
-        {form.txtPressure(1), "-14.7", "100", "Inlet pressure must be greater than Vapor pressure"},
-        {form.txtSGFlow(1), "", "1", "Flowing specific gravity must be greater than zero"},
-        {form.txtFlow(1), "", "100000", "Flow must be greater than zero"},
-        {form.txtViscosity(1), "nan", "1", "Viscosity must be greater than zero"},
-    };
-    for (const auto& each : cases) {
-        Type(each.Box, each.Bad);
-        User.Boxes.clear();
-        Calculate(1);
-        ASSERT_EQ(User.Boxes.size(), 1U) << each.Message;
-        EXPECT_EQ(User.Boxes[0].Text, each.Message);
-        EXPECT_EQ(User.Boxes[0].Title, "Data checking");
-        EXPECT_EQ(User.Boxes[0].Sign, Icon::Stop);
-        EXPECT_EQ(form.Focus.Current(), &each.Box) << each.Message;
-        EXPECT_TRUE(form.txtDestPress(1).Text().empty()) << each.Message;
-        Type(each.Box, each.Good);
-    }
-    User.Boxes.clear();
-    Calculate(1);
-    EXPECT_FALSE(form.txtDestPress(1).Text().empty()) << "the form is usable after all of them";
 }
 
 TEST_F(LiquidForm, KeepsNonFiniteNumbersOut) {
@@ -182,51 +129,6 @@ TEST_F(LiquidForm, ChangedValuesAreShownInTheChangedColour) {
     EXPECT_EQ(form.chkExit.ForeColour(), Suite.Colours[2]);
 }
 
-TEST_F(LiquidForm, PicksALiquidOnceTemperatureAndPressureAreIn) {
-    frmLiqLineLoss& form = Form();
-    ClickControl(form.mnuPureLiquid1);
-    EXPECT_EQ(User.LastText(), "Need Pressure and Temperature to continue");
-    EXPECT_FALSE(form.Fluids.IsOpen());
-    Suite.HideFluidReminder = words::Yes;
-    Type(form.txtTemp(0), "100");
-    Type(form.txtPressure(0), "50");
-    User.Boxes.clear();
-    ClickControl(form.mnuPureLiquid1);
-    ASSERT_TRUE(form.Fluids.IsOpen()) << User.LastText();
-    EXPECT_FALSE(CanAct(form.txtFlow(0))) << "only the list takes input";
-    EXPECT_EQ(form.Focus.Current(), &form.Fluids.lstFluid);
-    const auto& rows = form.Fluids.lstFluid.Rows();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].starts_with("Toluene ")) PickRow(form.Fluids.lstFluid, static_cast<int>(i));
-    }
-    PressKey(form.Fluids.lstFluid, "Enter");
-    EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
-    EXPECT_EQ(form.txtFluid.Text(), "Toluene");
-    // Toluene at 100 degF: density 53.0 lb/ft3, viscosity 0.49 cp, vapour pressure 1.03 psia (handbook).
-    EXPECT_NEAR(Val(form.txtSGFlow(0).Text()), 0.850, 0.01);
-    EXPECT_NEAR(Val(form.txtViscosity(0).Text()), 0.49, 0.02);
-    EXPECT_NEAR(Calc.CaseInput[8][0], 1.03, 0.05);
-    EXPECT_EQ(form.Focus.Current(), &form.cmdCalculate(0));
-
-    // A new temperature offers to renew the properties.
-    const double before = Val(form.txtViscosity(0).Text());
-    User.Answers = {Answer::Yes};
-    Type(form.txtTemp(0), "150");
-    MoveFocus(form.txtFlow(0));
-    EXPECT_EQ(User.LastText(), "Update Fluid Properties?");
-    EXPECT_LT(Val(form.txtViscosity(0).Text()), before);
-    // At 400 degF toluene's vapour pressure is above 64.7 psia: No gives the update up.
-    User.Answers = {Answer::Yes, Answer::No};
-    const std::string kept = form.txtViscosity(0).Text();
-    Type(form.txtTemp(0), "400");
-    MoveFocus(form.txtFlow(0));
-    EXPECT_NE(User.LastText().find("This indicates that the fluid is a gas!"), std::string::npos);
-    EXPECT_EQ(form.txtViscosity(0).Text(), kept);
-    // Typed over by hand the name is no longer the table's fluid.
-    Type(form.txtFluid, "Solvent");
-    EXPECT_TRUE(Calc.FluidDataSource.empty());
-}
-
 TEST_F(LiquidForm, AMissingOrHostileLiquidTableDoesNoHarm) {
     frmLiqLineLoss& form = Form();
     Suite.HideFluidReminder = words::Yes;
@@ -290,19 +192,6 @@ TEST_F(LiquidForm, UntouchedNumbersKeepAllTheirDigits) {
     EXPECT_EQ(Calc.PipeData[2], 1.0 / 3 * 10);
 }
 
-TEST_F(LiquidForm, LeavesForTheBrowserAndComesBack) {
-    CloseWindow(Form());
-    EXPECT_EQ(LoadedForm("frmLiqLineLoss"), nullptr);
-    EXPECT_TRUE(LoadedForm("frmTRProg")->Visible());
-    ClickControl(ControlOf("frmTRProg", "cmdOK"));
-    EXPECT_TRUE(LoadedForm("frmObxProg")->Visible());
-    PressKey(ControlOf("frmObxProg", "optProgram", 1), "Escape");
-    EXPECT_EQ(LoadedForm("frmObxProg"), nullptr);
-    EXPECT_TRUE(LoadedForm("frmTRProg")->Visible());
-    CloseWindow(*LoadedForm("frmTRProg"));
-    EXPECT_TRUE(ProcessHasEnded());
-}
-
 TEST_F(LiquidForm, CopiesInputsAndResultsForASpreadsheet) {
     FillGoodCase(1);
     Calculate(1);
@@ -311,22 +200,6 @@ TEST_F(LiquidForm, CopiesInputsAndResultsForASpreadsheet) {
     EXPECT_NE(User.Copied.find("\nFlow\t\t100000\t\tlb/h\n"), std::string::npos) << User.Copied;
     EXPECT_NE(User.Copied.find("\nDestination pressure\t\t90.31\t\tpsig\n"), std::string::npos);
     EXPECT_EQ(User.Copied.find("Gate"), std::string::npos) << "a row without a value";
-}
-
-TEST_F(LiquidForm, AnEditOfASavedRecordBlanksItsResults) {
-    FillGoodCase(1);
-    Type(Form().txtTagNum, "P-1");
-    Calculate(1);
-    User.Answers = {Answer::Yes};  // make the database
-    Suite.DefaultPaths[1] = SuitePath(Folder);
-    ClickControl(Form().mnuSave);
-    ClickControl(Form().mnuProgram);
-    ClickControl(ControlOf("frmTRProg", "cmdDBOpen"));
-    ClickControl(ControlOf("frmTRProg", "cmdDisplayCalc"));
-    ASSERT_FALSE(Form().txtDestPress(1).Text().empty());
-    EXPECT_NE(Calc.FormLoading, words::Yes);
-    Type(Form().txtFlow(1), "90000");
-    EXPECT_EQ(Form().txtDestPress(1).Text(), "") << Calc.FormLoading << Calc.ResultsClearable[1];
 }
 
 }  // namespace

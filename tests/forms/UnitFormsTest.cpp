@@ -237,23 +237,6 @@ TEST_F(UnitForms, AUserAddsUnitsOfTheirOwn) {
     EXPECT_EQ(User.LastText(), "A User library has not been created");
 }
 
-TEST_F(UnitForms, ChangeWithoutConversionBlanksWhatNoLongerHolds) {
-    OpenOptions();
-    ClickControl(Options().cmdChangeUnits);
-    EXPECT_EQ(User.LastText(), "Select required units and click 'OK' ");
-    ClickControl(Options().optMassSIUnits);
-    User.Answers = {Answer::No, Answer::Yes};
-    ClickControl(Options().cmdOKOptions);
-    EXPECT_NE(LoadedForm("frmCalcOptions"), nullptr) << "No goes back to the panel";
-    ClickControl(Options().cmdChangeUnits);
-    ClickControl(Options().cmdOKOptions);
-    ASSERT_EQ(LoadedForm("frmCalcOptions"), nullptr);
-    EXPECT_EQ(Form().cmdUnits(3).Caption(), "kPag");
-    EXPECT_EQ(Number(Form().txtPressure(0)), 100);
-    EXPECT_TRUE(Form().txtDestPress(0).Text().empty());
-    EXPECT_TRUE(Calc.NoConversion.empty());
-}
-
 // What the unit window converts next must not be taken for a change of the flow's basis.
 TEST_F(UnitForms, ANewCalculationInVolumeUnitsHasNothingToConvertYet) {
     OpenOptions();
@@ -334,19 +317,6 @@ TEST_F(UnitForms, BootUpUnitsComeBackAtTheNextCalculation) {
     OpenLiquidAnew();
     EXPECT_EQ(Form().cmdUnits(1).Caption(), "kg/s");
     EXPECT_EQ(Form().cmdUnits(3).Caption(), "kPaa");
-}
-
-TEST_F(UnitForms, AMissingUserFileIsToldAndKeepsTheData) {
-    std::filesystem::remove(DataFolder() / "TRUNS.txt");
-    OpenOptions();
-    ClickControl(Options().optUserUnits);
-    ClickControl(Options().cmdOKOptions);
-    EXPECT_EQ(User.LastText(), "User unit file is empty, please make and save");
-    EXPECT_EQ(User.Boxes.back().Title, "Units file");
-    ClickControl(Options().cmdCancelOptions);
-    EXPECT_EQ(Form().cmdUnits(3).Caption(), "psig");
-    Calculate(0);
-    EXPECT_EQ(Form().txtDestPress(0).Text(), " 90.31");
 }
 
 TEST_F(UnitForms, TheBarometerKeepsItsDigits) {
