@@ -40,6 +40,7 @@ click cmdCalculateliq
 show txtSelectedWave
 show txtSelectedForce
 show pltClosing
+show-status
 
 # The figures of the guide.
 expect txtBulkModulus 318677

@@ -99,6 +99,10 @@ void Show(ScriptPlayer& player, const Arguments& arguments) {
     player.Out << control.FullName() << " = " << OnOneLine(Shown(control)) << '\n';
 }
 
+void ShowStatus(ScriptPlayer& player, const Arguments&) {
+    player.Out << "status | " << OnOneLine(player.FormInHand().Status()) << '\n';
+}
+
 void Dump(ScriptPlayer& player, const Arguments&) {
     const Form& form = player.FormInHand();
     player.Out << form.Name() << " | Form | " << OnOneLine(form.Caption()) << '\n';

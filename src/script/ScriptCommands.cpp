@@ -48,6 +48,7 @@ constexpr ScriptCommand Table[] = {
     {"text", "PATH", script::PrintToText, "where the next print goes, as text"},
 
     {"show", "CONTROL", script::Show, "prints NAME = TEXT"},
+    {"show-status", "", script::ShowStatus, "prints status | TEXT, where hints stand"},
     {"dump", "", script::Dump, "prints every control of the form in hand"},
     {"expect", "CONTROL TEXT", script::ExpectText, "the text, or a number equal to six digits"},
     {"expect-state", "CONTROL WORD", script::ExpectState,

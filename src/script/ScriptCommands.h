@@ -69,6 +69,7 @@ void Leave(ScriptPlayer& player, const Arguments& arguments);
 
 // CheckCommands.cpp: what a user sees.
 void Show(ScriptPlayer& player, const Arguments& arguments);
+void ShowStatus(ScriptPlayer& player, const Arguments& arguments);
 void Dump(ScriptPlayer& player, const Arguments& arguments);
 void ExpectText(ScriptPlayer& player, const Arguments& arguments);
 void ExpectState(ScriptPlayer& player, const Arguments& arguments);

@@ -165,7 +165,7 @@ TEST(ScriptPlayer, PrintsBoxesAndControls) {
     const Outcome outcome = Play(
         "start\nanswer Yes\nclick cmdAsk\ninput 0.8\nclick cmdEndless\ntype txtB \"a b\"\nshow txtB\nshow "
         "chkEntry\n"
-        "show mnuExit\nclick cmdDialog\ndump");
+        "show mnuExit\nshow-status\nclick cmdDialog\ndump");
     EXPECT_EQ(outcome.Out,
               "message | Note | Two\\nlines | OK | None | OK\n"
               "message | Question | Go on?  | YesNo | Question | Yes\n"
@@ -173,6 +173,7 @@ TEST(ScriptPlayer, PrintsBoxesAndControls) {
               "txtB = a b\n"
               "chkEntry = unchecked\n"
               "mnuExit = E&xit\n"
+              "status | \n"
               "frmDialog | Form | \n"
               "txtFirst | TextBox |  | enabled | visible | #000000 on #FFFFFF\n"
               "txtName | TextBox |  | enabled | visible | #000000 on #FFFFFF\n"
