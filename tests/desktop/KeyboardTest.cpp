@@ -57,7 +57,7 @@ protected:
 
 private:
     void Next() {
-        QTimer::singleShot(10, qApp, [this] {
+        QTimer::singleShot(10, &turns_, [this] {
             if (keys_.empty() || Target() == nullptr) {
                 if (!keys_.empty()) Next();
                 return;
@@ -94,6 +94,7 @@ private:
     std::deque<std::string> keys_;
     int tabs_ = 0;
     bool playing_ = false;
+    QObject turns_;  // no key comes to its turn after the test
 };
 
 struct ByKeys {
