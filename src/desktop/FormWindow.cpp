@@ -231,6 +231,8 @@ void FormWindow::PaintAreas() {
 
 void FormWindow::FollowFocus() {
     if (form_ == nullptr || pressed_ != nullptr) return;
+    // The toolkit marks the focus once its own Tab was pressed, which the model has replaced.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     const Control* const current = form_->Focus.Current();
     ControlView* const view = current == nullptr ? nullptr : ViewOf(*current);
     QWidget* target = pane_;

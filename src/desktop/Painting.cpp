@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace quillmetra {
 
@@ -38,6 +39,15 @@ public:
                   QStyleHintReturn* data) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+
+    // A list with the focus has a border as a box has; without a row in hand nothing else would tell.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element != PE_Frame || (option->state & State_HasFocus) == 0) return;
+        painter->setPen(option->palette.color(QPalette::Highlight));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     }
 };
 }  // namespace

@@ -73,6 +73,14 @@ BaseConditions::BaseConditions(CalculationForm& form)
     cmdCancelSTP.Click = [this] { cmdCancelSTP_Click(); };
 }
 
+void BaseConditions::AppendTabs() {
+    for (Control* control :
+         std::initializer_list<Control*>{&txtSTPPressure, &txtSTPTemp, &txtSTPBaro, &cmdSTPEnglish, &cmdSTPSI,
+                                         &cmdOKSTP, &cmdSaveSTP, &cmdCancelSTP}) {
+        form_.TabOrder.push_back(control);
+    }
+}
+
 void BaseConditions::Open() {
     if (fraSTP.Visible()) return;
     form_.CloseOverlays();

@@ -18,6 +18,8 @@ public:
     // Opens the frame over the inputs, which take none until it closes.
     void Open();
     void Close();
+    // Its controls at the end of the form's tab order.
+    void AppendTabs();
 
     // OK takes the values for this calculation, Save also writes them to the file that every new calculation
     // starts from. A pressure that is not above 0 or a temperature of absolute zero is refused.

@@ -31,6 +31,7 @@ frmGasData::frmGasData()
     Entries = ByCase();
     Base.Changed = [this] { ClearAllCases(); };
     Assemble();
+    Base.AppendTabs();
 }
 
 void frmGasData::CloseOverlays() {

@@ -47,6 +47,7 @@ frmGasLineLoss::frmGasLineLoss()
     Entries = ByCase();
     Base.Changed = [this] { ClearAllCases(); };
     Assemble();
+    Base.AppendTabs();
 }
 
 std::vector<LineLossForm::CaseBoxes> frmGasLineLoss::BoxesOfACase() const {

@@ -192,6 +192,13 @@ const ByKeys Ways[] = {
      0.9678},
 };
 
+TEST_F(Keyboard, ReachesTheBaseConditions) {
+    Form& form = Show("frmGasLineLoss");
+    ClickControl(*form.Find("mnuSTP"));
+    Play({"@txtSTPBaro", "13.5", "@cmdOKSTP", "{Space}"});
+    EXPECT_EQ(Calc.BaroPressure, 13.5);
+}
+
 TEST_F(Keyboard, FromTheBrowserToAReport) {
     Suite.HideFlowStatus = Suite.HideFluidReminder = words::Yes;
     for (const ByKeys& way : Ways) {
