@@ -7,6 +7,7 @@
 #include "core/Words.h"
 #include "fluids/GasCorrelations.h"
 #include "fluids/LiquidCorrelations.h"
+#include "fluids/LiquidData.h"
 #include "fluids/SteamTables.h"
 #include "platform/NumberText.h"
 #include "units/CorrelationRange.h"
@@ -16,7 +17,7 @@ namespace quillmetra {
 namespace {
 
 constexpr double OrganicClass = 1, WaterClass = 3;
-constexpr int WaterHammer = 3, GasData = 5;  // programs
+constexpr int WaterHammer = 3, LiquidData = 4, GasData = 5;  // programs
 
 double Temperature(const CalcRecord& record) { return record.FlowTemperature; }
 double Pressure(const CalcRecord& record) { return record.FlowPressure; }
@@ -37,6 +38,17 @@ bool IsLiquidButWater(const CalcRecord& record) {
 }
 bool IsPureGas(const CalcRecord& record) { return !IsLiquid(record) && IsPure(record); }
 bool IsSuperheated(const CalcRecord& record) { return record.SteamKind == words::Superheated; }
+
+bool IsLiquidMixture(const CalcRecord& record) {
+    return IsLiquid(record) && record.MixtureFlag == words::Yes && !IsOfClass(record, WaterClass);
+}
+double MixtureVaporPressure60(const CalcRecord& record) {
+    if (!MixtureHasOffset(record)) return 0;
+    return VaporPressureOf(record.NormalBoilingPoint, record.CritTemperature, record.CritPressure, 60);
+}
+
+// The critical pressure is above it, whatever the last bit of a pressure typed in another unit.
+constexpr double BelowSteamCritical = SteamCritPressure - 1e-6;
 
 // The region around the critical point where a linear look-up cannot follow the density.
 bool IsNearSteamCritical(const CalcRecord& record) {
@@ -63,6 +75,16 @@ constexpr CorrelationRange Ranges[] = {
      BoundUnit::Temperature, "viscosity is extrapolated from its two points",
      [](const CalcRecord& record) {
          return IsLiquidButWater(record) && IsPure(record) && record.CurrentProgram != WaterHammer;
+     }},
+    // The correction for pressure begins at the vapor pressure at 60 degF when it is above the barometer.
+    {"Vapor pressure at 60 degF", MixtureVaporPressure60, NoBound,
+     [](const CalcRecord& record) { return record.BaroPressure; }, BoundUnit::Pressure,
+     "the gravity under pressure goes by the last component", IsLiquidMixture},
+    // A box that is not above 0 degF stays blank, as that of a liquid whose flash point is not known.
+    {"Flash point", [](const CalcRecord& record) { return record.FlashPoint; }, 0, NoBound,
+     BoundUnit::Temperature, "it is not shown",
+     [](const CalcRecord& record) {
+         return IsLiquid(record) && IsPure(record) && record.CurrentProgram == LiquidData;
      }},
     // Customary limit of this form of Kouzel's equation.
     {"Pressure", Pressure, NoBound, 10000, BoundUnit::Pressure,
@@ -97,11 +119,11 @@ constexpr CorrelationRange Ranges[] = {
      }},
 
     // --- Steam, see data/SOURCES.md
-    {"Pressure", Pressure, NoBound, SteamCritPressure, BoundUnit::Pressure,
-     "do not use the density here, it may be many times too high", IsNearSteamCritical},
+    {"Pressure", Pressure, NoBound, BelowSteamCritical, BoundUnit::Pressure,
+     "do not use the properties here, they may be many times too high", IsNearSteamCritical},
     {"Pressure", Pressure, NoBound, 2000, BoundUnit::Pressure, "density below 750 degF is some percent off",
      [](const CalcRecord& record) {
-         return IsNearSteamCritical(record) && record.FlowPressure < SteamCritPressure;
+         return IsNearSteamCritical(record) && record.FlowPressure <= BelowSteamCritical;
      }},
     {"Pressure", Pressure, NoBound, 3000, BoundUnit::Pressure,
      "the properties of saturated steam are some percent off",

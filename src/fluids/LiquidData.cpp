@@ -34,8 +34,9 @@ bool GoOnAboveCritical() {
     return AskYesNo("Flow temperature is greater then Critical temperature\nContinue ?", Title);
 }
 
-bool ResultsAreFinite() {
-    return std::isfinite(Calc.VaporPressure) && std::isfinite(Calc.FlowingSG) &&
+// Far above the critical temperature the straight line of the gravity falls below 0: no liquid has that.
+bool ResultsMakeSense() {
+    return std::isfinite(Calc.VaporPressure) && std::isfinite(Calc.FlowingSG) && Calc.FlowingSG > 0 &&
            std::isfinite(Calc.FluidViscosity) && std::isfinite(Calc.SGAtStandard);
 }
 
@@ -56,7 +57,7 @@ void CalcGravityAndViscosity() {
 // for a mixture, and does not put the vapor pressure at flow back, since it does not show it.
 double PressureOffset() {
     const bool waterHammer = Calc.CurrentProgram == 3;
-    if (waterHammer && IsMixture()) return 0;
+    if (IsMixture() && !MixtureHasOffset(Calc)) return 0;
     const double flowTemperature = Calc.FlowTemperature;
     const double vaporPressure = Calc.VaporPressure;
     Calc.FlowTemperature = Base;
@@ -68,6 +69,14 @@ double PressureOffset() {
 }
 
 }  // namespace
+
+// A mixture has the boiling point of its last component. One that is not below the critical temperature of
+// the mixture gives no vapor pressure.
+bool MixtureHasOffset(const CalcRecord& mixture) {
+    constexpr int waterHammer = 3;
+    return mixture.CurrentProgram != waterHammer &&
+           ReducedTemperatureOf(mixture.NormalBoilingPoint, mixture.CritTemperature) < 1;
+}
 
 bool TellNotCalculated() {
     Calc.VaporPressure = 0;
@@ -121,6 +130,7 @@ bool ProcessLiquidData() {
     }
     CalcLiquidCompressibility();
     CalcGravityAndViscosity();
+    if (!(Calc.FlowingSG > 0)) return TellNotCalculated();  // nor may a correction below 0 turn it round
     const double offset = PressureOffset();
     Calc.PressureCorrection = 1 + (Calc.LiquidCompressibility * (Calc.FlowPressure - offset)) / 1000;
     if (FluidClassNumber() != Water) {
@@ -130,7 +140,7 @@ bool ProcessLiquidData() {
                                               Calc.CritPressure, Calc.MolecularWeight);
         }
     }
-    return ResultsAreFinite() || TellNotCalculated();
+    return ResultsMakeSense() || TellNotCalculated();
 }
 
 }  // namespace quillmetra

@@ -26,9 +26,11 @@ using Components = std::span<const double>;
 
 std::size_t At(int place) { return static_cast<std::size_t>(place); }
 
+// A mixture that was calculated passes with any remainder, but not without any component.
 bool PercentagesAddUp(Icon sign) {
     const Components percents = Components(Calc.FluidPercent).first(At(ComponentCount()));
-    if (Calc.MixtureFlag == words::Yes || RemainingPercent(percents) == 0) return true;
+    const bool any = std::any_of(percents.begin(), percents.end(), [](double each) { return each != 0; });
+    if (any && (Calc.MixtureFlag == words::Yes || RemainingPercent(percents) == 0)) return true;
     Tell("Sum of percentages must equal 100", "Mixture Calculation", sign);
     return false;
 }
@@ -59,8 +61,8 @@ void ForEachComponent(Parse parse, Add add) {
     const int count = ComponentCount();
     for (int place = 0; place < count; ++place) {
         const double percent = Calc.FluidPercent[At(place)];
+        if (percent != 0 || place == 0) Calc.FluidRow = Calc.FluidData[At(place)];
         if (percent != 0) {
-            Calc.FluidRow = Calc.FluidData[At(place)];
             parse();
             add(percent / 100);
         } else if (!keepsAll) {

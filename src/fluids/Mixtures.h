@@ -7,8 +7,8 @@
 // FluidPercent and MixtureCount change, so the form is to show them anew. The properties at flow are for
 // ProcessLiquidData or ProcessGasData to find.
 //
-// False when nothing was calculated: the percentages do not add up, or the sums are no numbers. Both are
-// told, and the components stand as they were.
+// False when nothing was calculated: the percentages do not add up, there is no component, or the sums are no
+// numbers. All are told, and the components stand as they were; FluidRow is that of a component.
 #pragma once
 
 #include <span>
@@ -31,7 +31,7 @@ int ComponentCount();
 double RemainingPercent(std::span<const double> percents);
 
 // The liquid rule. The mixture takes NormalBoilingPoint of its last component. In the water hammer program a
-// component without a percentage is kept, with the row of the component before it.
+// component without a percentage is kept, with the row of the component before it; the first keeps its own.
 bool CalcLiquidMixture();
 
 // The gas rule of the line-loss program.

@@ -236,7 +236,7 @@ void Store(const Steam& steam) {
         CheckFinite(RoundedFour(GasViscosityShown(steam.Viscosity, SteamMolecularWeight))),
         CheckFinite(RoundedFour(1 / steam.SpecificVolume / factor[9])),
         CheckFinite(RoundedFour(steam.RatioOfHeats)),
-        CheckFinite(SteamCritPressure / factor[11]),
+        CheckFinite(RoundedSix(SteamCritPressure / factor[11])),
         CheckFinite(CritTemperatureShown())};
     for (std::size_t i = 0; i < SteamRows.size(); ++i) CaseRow(SteamRows[i]) = shown[i];
     Calc.Density = 1 / steam.SpecificVolume;

@@ -132,7 +132,7 @@ bool BaseConditions::Take() {
     const double temperature = Typed(txtSTPTemp, shown_[1], Calc.StdTemperature, FromDegC);
     const double barometer = Typed(txtSTPBaro, shown_[2], Calc.BaroPressure, FromKilopascal);
     if (!(pressure > 0)) return Refuse("Base pressure must be greater than zero", txtSTPPressure);
-    if (!(temperature > AbsoluteZeroF)) {
+    if (!IsAboveAbsoluteZero(temperature)) {
         return Refuse("Base temperature must be greater than absolute zero", txtSTPTemp);
     }
     if (!(barometer > 0)) return Refuse("Barometric pressure must be greater than zero", txtSTPBaro);

@@ -51,7 +51,7 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
     if (Calc.TemperatureBlank[i] == 1 && Suite.BatchPrinting == words::Yes) return false;
     const std::string& unit = Calc.UnitName[2];
     Calc.FlowTemperature = ToDegF(unit, Calc.CaseInput[2][i], Calc.UnitFactor[2]);
-    if (Calc.FlowTemperature <= AbsoluteZeroF || Calc.TemperatureBlank[i] == 1) {
+    if (!IsAboveAbsoluteZero(Calc.FlowTemperature) || Calc.TemperatureBlank[i] == 1) {
         return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(unit)),
                           boxes.Temperature);
     }

@@ -71,7 +71,7 @@ bool DataForm::CheckState() {
     if (Calc.PressureMode != words::Absolute) Calc.FlowPressure += Calc.BaroPressure;
     NoteEntered(Calc.CaseIndex);
     if (!HasState(Calc.CaseIndex)) return false;
-    if (Calc.FlowTemperature <= AbsoluteZeroF) {
+    if (!IsAboveAbsoluteZero(Calc.FlowTemperature)) {
         return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[2])),
                           txtTemp(Calc.CaseIndex));
     }

@@ -275,8 +275,7 @@ void FluidForm::LeaveState(int caseIndex, std::size_t row, TextBox& box, bool ot
     Calc.CaseIndex = caseIndex;
     if (Calc.FluidDataSource == words::Loaded) {
         if (!AskYesNo("Update Fluid Properties?", StateTitle(title))) return;
-        UpdateFluidProperties();
-        if (Calc.SteamKind == words::Saturated && row == TemperatureRow) {
+        if (UpdateFluidProperties() && Calc.SteamKind == words::Saturated && row == TemperatureRow) {
             Tell("Saturated temperature is a function of saturated pressure", "Saturated Steam", Icon::Stop);
         }
     } else if (Suite.HideFluidReminder.empty()) {

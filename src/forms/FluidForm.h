@@ -62,6 +62,8 @@ protected:
     void ReopenRecord() override;
     void FluidTyped() override;
     std::string Hints() const override { return fluidHints_[ThisCase()]; }
+    // The boxes of a case that its fluid fills and the user may write over.
+    virtual std::vector<TextBox*> FluidBoxes(int) { return {}; }
     // A fluid was picked for the case in hand.
     virtual void FluidTaken() {}
     // Calculates the case in hand anew when it had results: a mixture does so.
@@ -75,8 +77,8 @@ protected:
     bool HasState(int caseIndex) const;
     // Whether there is a fluid for what is entered.
     bool CanPick(int caseIndex) const;
-    // Renews the properties of the fluid that is loaded for the case in hand.
-    void UpdateFluidProperties();
+    // Renews the properties of the fluid that is loaded for the case in hand; false when they were not.
+    bool UpdateFluidProperties();
     // The case's properties were renewed: what was typed into its state before is dealt with.
     void StateIsDealtWith(int caseIndex);
     // Writes a property of the fluid to a box, in the colour of a change when it is one.
@@ -103,6 +105,11 @@ private:
     void PickSteam(int caseIndex, const char* kind);
     static void ParseFluid();  // FluidRow
     static bool CalcMixture();
+    bool FillMixture();
+    bool RenewPure();
+    bool UpdateSteam();
+    // The case in hand is left without properties.
+    void BlankFluid();
     // The properties of what was parsed or mixed, in the case in hand; false when it was given up.
     bool FillFluid();
     bool TakeSteam(bool wasSteam);

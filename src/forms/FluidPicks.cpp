@@ -9,6 +9,7 @@
 #include "fluids/Mixtures.h"
 #include "fluids/SteamTables.h"
 #include "forms/FluidForm.h"
+#include "platform/Dialogs.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 
@@ -113,27 +114,43 @@ void FluidForm::PickPure() {
     FluidTaken();
 }
 
-void FluidForm::UpdateFluidProperties() {
-    if (!Calc.SteamKind.empty()) {
-        const bool saturated = Calc.SteamKind == words::Saturated;
-        StoreForm();
-        if ((saturated ? CheckPressureAlone() : CheckState()) && TakeSteam(true)) {
-            InstallFluid(SteamName, false);
-        }
-        return;
-    }
+bool FluidForm::UpdateFluidProperties() {
+    if (!Calc.SteamKind.empty()) return UpdateSteam();
     const bool mixture = Calc.MixtureFlag == words::Yes;
     Calc.FluidOk = mixture ? "" : words::FluidPicked;
-    if (!CheckForNewFluid()) return;
-    if (mixture) {
-        if (CalcMixture() && FillFluid()) {
-            InstallFluid(MixtureName, false);
-            Recalculate();
+    if (!CheckForNewFluid() || !(mixture ? FillMixture() : RenewPure())) return false;
+    InstallFluid(mixture ? MixtureName : Calc.FluidName, false);
+    if (mixture) Recalculate();
+    return true;
+}
+
+bool FluidForm::UpdateSteam() {
+    const bool saturated = Calc.SteamKind == words::Saturated;
+    StoreForm();
+    if (!(saturated ? CheckPressureAlone() : CheckState()) || !TakeSteam(true)) return false;
+    InstallFluid(SteamName, false);
+    return true;
+}
+
+// The row of a saved fluid may be gone from its table, or the table itself; it may also be back by now.
+bool FluidForm::RenewPure() {
+    if (Calc.FluidRow.size() <= ShortestFluidRow) FindFluidRow();
+    if (Calc.FluidRow.size() <= ShortestFluidRow) {
+        if (!AskYesNo(Calc.FluidName + " is not in " + Calc.FluidType + ".txt\nKeep the old properties?",
+                      "Fluid Properties", Icon::None, Answer::No)) {
+            BlankFluid();
         }
-    } else if (Calc.FluidRow.size() > ShortestFluidRow) {
-        ParseFluid();
-        if (FillFluid()) InstallFluid(Calc.FluidName, false);
+        return false;
     }
+    ParseFluid();
+    return FillFluid();
+}
+
+void FluidForm::BlankFluid() {
+    constexpr std::size_t vaporPressure = 8, density = 9;  // the line forms have no boxes for them
+    Calc.CaseInput[vaporPressure][ThisCase()] = Calc.CaseInput[density][ThisCase()] = 0;
+    for (TextBox* box : FluidBoxes(Calc.CaseIndex)) box->SetText("");
+    ClearCase(Calc.CaseIndex);
 }
 
 // --- Mixtures ----------------------------------------------------------------------------------------------
@@ -160,21 +177,22 @@ void FluidForm::PickComponent() {
 
 void FluidForm::cmdClear_Click() { Mixture.ClearPercents(); }
 
+// A mixture that is not to be had leaves its components as they were.
+bool FluidForm::FillMixture() {
+    const FluidChoice components = ChoiceInForce();
+    Calc.SteamKind.clear();
+    if (!CalcMixture() || !FillFluid()) {
+        Restore(components);
+        return false;
+    }
+    Calc.FluidRow.clear();  // it is that of a component
+    return true;
+}
+
 void FluidForm::cmdCalcPseudo_Click() {
     Mixture.StorePercents();
-    if (!Mixture.CheckPercents()) return;
-    const FluidChoice components = ChoiceInForce();
-    const std::string oldSteam = std::exchange(Calc.SteamKind, "");
-    if (!CalcMixture()) {
-        Calc.SteamKind = oldSteam;
-        return;
-    }
-    if (!FillFluid()) {
-        Restore(components);
-        return;
-    }
+    if (!Mixture.CheckPercents() || !FillMixture()) return;
     CloseFluids();
-    Calc.FluidRow.clear();  // it is that of a component
     InstallFluid(MixtureName, true);
     FluidTaken();
     Recalculate();

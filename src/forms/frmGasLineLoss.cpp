@@ -89,7 +89,7 @@ bool frmGasLineLoss::CheckFluid() {
         return RefuseData("Critical pressure must be greater than zero", txtCritPressure(caseIndex));
     }
     Calc.CritTemperature = ToDegR(Calc.UnitName[12], Calc.CaseInput[12][i], factor[12]);
-    if (!(Calc.CritTemperature > 0) || Trim(txtCritTemp(caseIndex).Text()).empty()) {
+    if (!IsAboveZeroDegR(Calc.CritTemperature) || Trim(txtCritTemp(caseIndex).Text()).empty()) {
         return RefuseData(
             "Critical Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[12])),
             txtCritTemp(caseIndex), Icon::None);
@@ -207,13 +207,16 @@ void frmGasLineLoss::ShowFluidRows() {
     ShowProperty(txtViscosity(i), Calc.CaseInput[7][ThisCase()]);
 }
 
+std::vector<TextBox*> frmGasLineLoss::FluidBoxes(int caseIndex) {
+    return {&txtMW(caseIndex), &txtRatioSH(caseIndex), &txtCritTemp(caseIndex), &txtCritPressure(caseIndex),
+            &txtViscosity(caseIndex)};
+}
+
 // The look-up leaves rows of 0 when it has cleared them.
 void frmGasLineLoss::ShowSteam() {
     const int i = Calc.CaseIndex;
     if (Calc.CaseInput[5][ThisCase()] == 0) {
-        for (const auto* boxes : {&txtMW, &txtRatioSH, &txtCritTemp, &txtCritPressure, &txtViscosity}) {
-            (*boxes)(i).SetText("");
-        }
+        for (TextBox* box : FluidBoxes(i)) box->SetText("");
         return;
     }
     if (Calc.SteamKind == words::Saturated) ShowProperty(txtTemp(i), Calc.CaseInput[2][ThisCase()]);

@@ -52,6 +52,7 @@ protected:
     bool CalculateCase() override;
     PlotDrawing DrawingOf(int caseIndex) const override;
     void FillCase() override;
+    std::vector<TextBox*> FluidBoxes(int caseIndex) override;
     void ShowSteam() override;
     void ShowChoices() override;
 

@@ -32,14 +32,17 @@ frmLiqData::frmLiqData()
     Assemble();
 }
 
+// The flash point of a mixture's last component says nothing of the mixture: a share of a lighter one may
+// flash hundreds of degrees below it.
 void frmLiqData::FillCase() {
+    const bool mixture = Calc.MixtureFlag == words::Yes;
     const UnitFactors& factor = Calc.UnitFactor;
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
     Store({{8, Known(Calc.VaporPressure / factor[8])},
            {4, TemperatureShown(Calc.NormalBoilingPoint)},
            {12, CritTemperatureShown(Calc.CritTemperature)},
            {27, Known(Calc.BulkModulus / factor[27])},
-           {1, Calc.FlashPoint > 0 ? TemperatureShown(Calc.FlashPoint) : 0},
+           {1, Calc.FlashPoint > 0 && !mixture ? TemperatureShown(Calc.FlashPoint) : 0},
            {5, GravityShown(Calc.SGAtStandard)},
            {0, Calc.MolecularWeight},
            {6, GravityShown(Calc.FlowingSG)},

@@ -29,6 +29,9 @@ protected:
     PlotDrawing DrawingOf(int caseIndex) const override;
     bool CheckState() override;
     void FillCase() override;
+    std::vector<TextBox*> FluidBoxes(int caseIndex) override {
+        return {&txtSGFlow(caseIndex), &txtViscosity(caseIndex)};
+    }
 
 private:
     void ShowResults();

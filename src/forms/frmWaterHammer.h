@@ -95,6 +95,7 @@ protected:
     TextBox& PressureBox(int) override { return txtOperPressure; }
     bool CheckState() override { return CheckTempPressure(); }
     void FillCase() override;
+    std::vector<TextBox*> FluidBoxes(int) override { return {&txtSGFlow, &txtBulkModulus}; }
     void FluidTaken() override;
     void Recalculate() override;
     void TellNeedsState(int caseIndex) override;

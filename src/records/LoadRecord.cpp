@@ -195,10 +195,11 @@ bool GetFDCalc(Database& database) { return GetRow(database, FluidDataTable()); 
 
 bool GetMixture(Database& database) {
     if (!GetRow(database, MixtureTable())) return false;
-    // The count stops at 15, as the suite counts components.
-    Calc.MixtureCount = 0;
-    while (Calc.MixtureCount < 15 && Calc.FluidData[static_cast<std::size_t>(Calc.MixtureCount)].size() > 3) {
-        ++Calc.MixtureCount;
+    // To the last row that is one. The count stops at 15, as the suite counts components.
+    Calc.MixtureCount = 15;
+    while (Calc.MixtureCount > 0 &&
+           Calc.FluidData[static_cast<std::size_t>(Calc.MixtureCount - 1)].size() <= 3) {
+        --Calc.MixtureCount;
     }
     for (std::size_t i = 16; i < Calc.FluidData.size(); ++i) {
         Calc.FluidData[i].clear();

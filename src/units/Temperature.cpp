@@ -52,6 +52,10 @@ double FromDegR(std::string_view unit, double degR, double factor) {
     return (known->Absolute ? degR : (degR - ZeroFInDegR) - known->Zero) / known->DegreesF;
 }
 
+bool IsAboveAbsoluteZero(double degF) { return IsAboveZeroDegR(degF + ZeroFInDegR); }
+
+bool IsAboveZeroDegR(double degR) { return degR > 1e-9; }
+
 double AbsoluteZeroIn(std::string_view unit) { return FromDegF(unit, AbsoluteZeroF, 1); }
 
 }  // namespace quillmetra

@@ -18,6 +18,10 @@ double FromDegF(std::string_view unit, double degF, double factor);
 double ToDegR(std::string_view unit, double value, double factor);
 double FromDegR(std::string_view unit, double degR, double factor);
 
+// A temperature in degF and one in degR. Absolute zero in another unit comes out a last bit above or below.
+bool IsAboveAbsoluteZero(double degF);
+bool IsAboveZeroDegR(double degR);
+
 // Absolute zero in the unit, as messages show it; that of degF for a unit of the user's own.
 double AbsoluteZeroIn(std::string_view unit);
 

@@ -21,6 +21,7 @@ protected:
         Calc.FluidClass = std::string(1, '1');
         Calc.CritTemperature = 1000;
         Calc.CritPressure = 600;
+        Calc.NormalBoilingPoint = 200;
         Calc.ViscosityTemp1 = 200;
         Calc.ViscosityTemp2 = 60;
         Calc.FlowTemperature = 100;
@@ -60,6 +61,11 @@ TEST_F(Ranges, AreLeftAtTheirBounds) {
          "Temperature above 65.56 degC: the bulk modulus is that at 68 degF."},
         {[] { Liquid(), Calc.MixtureFlag = words::Yes; }, 550, 100,
          "Reduced temperature above 1: there is no liquid, and no vapor pressure."},
+        {[] { Liquid(), Calc.MixtureFlag = words::Yes, Calc.NormalBoilingPoint = 50; }, 100, 100,
+         "Vapor pressure at 60 degF above 0 kPag: the gravity under pressure goes by the last component."},
+        {[] { Liquid(), Calc.MixtureFlag = words::Yes, Calc.NormalBoilingPoint = 600; }, 100, 100, ""},
+        {[] { Liquid(), Calc.FlashPoint = -4; }, 100, 100, "Flash point below -17.78 degC: it is not shown."},
+        {[] { Liquid(), Calc.FlashPoint = -4, Calc.MixtureFlag = words::Yes; }, 100, 100, ""},
         {[] { Liquid(), Calc.ViscosityTemp1 = -200; }, -107, 100,
          "Reduced temperature below 0.353: the correction of gravity for pressure has the wrong sign."},
         {Liquid, 100, 10001,
@@ -80,6 +86,8 @@ TEST_F(Ranges, AreLeftAtTheirBounds) {
         {[] { Steam(words::Superheated); }, 740, 1999, ""},
         {[] { Steam(words::Superheated); }, 740, 2001,
          "Pressure above 13688 kPag: density below 750 degF is some percent off."},
+        {[] { Steam(words::Superheated); }, 740, 3208.2,
+         "Pressure above 22018 kPag: do not use the properties here, they may be many times too high."},
         {[] { Steam(words::Superheated); }, 751, 3240, ""},
         {[] { Steam(words::Superheated); }, 239, 3300,
          "Temperature below 115.6 degC: the properties are those at 240 degF."},

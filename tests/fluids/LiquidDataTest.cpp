@@ -153,6 +153,13 @@ TEST_F(LiquidDataTest, AsksAboveTheCriticalTemperature) {
     EXPECT_EQ(User.Boxes[0].Choice, Buttons::YesNo);
     User.Answers = {Answer::Yes};
     EXPECT_TRUE(ProcessLiquidData());
+    // Far enough above it the gravity falls below 0, which no program takes.
+    for (const int program : {1, 3, 4}) {
+        Calc.CurrentProgram = program;
+        Take(RowOf("Propane"), 1500, 2000);
+        EXPECT_FALSE(ProcessLiquidData());
+        EXPECT_EQ(User.LastText(), "Fluid properties cannot be calculated");
+    }
     // 460 made the critical temperature and 459.67 takes it back: the limit lies 0.33 above the table's
     // figure.
     Take(RowOf("Propane"), 206.1 + 0.32, 2000);

@@ -235,10 +235,23 @@ TEST_F(MixturesTest, ComponentsWithoutAPercentageAreDropped) {
     }
     ASSERT_TRUE(mix(3));
     EXPECT_EQ(Calc.MixtureCount, 4);
-    EXPECT_EQ(Calc.FluidData[0], "left from before");
+    EXPECT_EQ(FluidRowName(Calc.FluidData[0]), "Acetone") << "its own row: there is none before it";
     EXPECT_EQ(FluidRowName(Calc.FluidData[2]), "Benzene") << "the row of the component before";
     EXPECT_EQ(Calc.FluidPercent[2], 0);
     EXPECT_EQ(FluidRowName(Calc.FluidData[3]), "Toluene");
+}
+
+// Lube oil boils far above the critical temperature of this mixture: as the last component it gave -355.3.
+TEST_F(MixturesTest, GravityDoesNotGoByAComponentThatBoilsAboveTheCriticalTemperature) {
+    for (const int program : {1, 3, 4}) {
+        for (const bool oilLast : {true, false}) {
+            Start(program, 200, 114.7);
+            AddLiquid(oilLast ? "Methanol" : "Lube Oil ISO VG 46", oilLast ? 80 : 20);
+            AddLiquid(oilLast ? "Lube Oil ISO VG 46" : "Methanol", oilLast ? 20 : 80);
+            ASSERT_TRUE(CalcLiquidMixture() && ProcessLiquidData());
+            EXPECT_NEAR(Calc.FlowingSG, 0.6647, 0.0001);
+        }
+    }
 }
 
 // A row of the user's own, or a record from a foreign hand: told, and nothing is stored.
@@ -275,6 +288,7 @@ TEST_F(MixturesTest, ComponentsWithoutSenseAreRefused) {
         Calc.MixtureCount = count;
         Calc.MixtureFlag = words::Yes;
         EXPECT_FALSE(CalcGasMixtureForLine());
+        EXPECT_EQ(User.LastText(), "Sum of percentages must equal 100");
     }
     // One atmosphere as critical pressure has no vapor pressure line: no heat, and no number that is none.
     Start(5);

@@ -261,6 +261,13 @@ TEST_F(SaveLoadTest, MixturesKeepTheirComponents) {
     EXPECT_EQ(Calc.FluidPercent[15], 6.25);
     EXPECT_EQ(Calc.FluidData[16], "");
 
+    // A gap in front hides no component behind it.
+    TakeMixture("M-2");
+    Calc.FluidData[0].clear();
+    std::fill(Calc.FluidData.begin() + 3, Calc.FluidData.end(), "");
+    ASSERT_TRUE(SaveTRCalc() && Display("M-2"));
+    EXPECT_EQ(Calc.MixtureCount, 3);
+
     // The mixture's key is shorter: no tag may be cut to it.
     TakeMixture(std::string(26, 't'));
     EXPECT_FALSE(SaveTRCalc());

@@ -83,6 +83,13 @@ leave
 expect-message Update Fluid Properties?
 expect-box "Saturated Steam" "Flow pressure 4000 psig cannot exceed\n Critical pressure 3193.5 psig" OK Stop
 expect txtMW(0) 18.015
+# No look-up, no word of the temperature it would have given.
+type txtTemp(0) 410
+answer Yes
+answer OK
+leave
+expect-message Update Fluid Properties?
+expect-message cannot exceed
 
 # --- Superheated steam -----------------------------------------------------------------------------------------
 type txtPressure(0) 150

@@ -104,7 +104,7 @@ expect-status "Reduced pressure above 0.9: the viscosity of a dense gas is an es
 type txtTemp(1) 720
 type txtPressure(1) 3199
 click mnuSupersteam2
-expect-status "Pressure above 3194 psig: do not use the density here, it may be many times too high."
+expect-status "Pressure above 3193 psig: do not use the properties here, they may be many times too high."
 type txtPressure(1) 3000
 click mnuSatSteam2
 expect-status "Pressure above 2985 psig: the properties of saturated steam are some percent off."

@@ -121,10 +121,24 @@ answer OK
 leave
 expect-message Update Fluid Properties?
 expect-box "Data checking" "Flow Temperature must be greater than -273.15" OK Stop
+type txtTemp(0) -273.15
+answer Yes
+answer OK
+leave
+expect-message Update Fluid Properties?
+expect-box "Data checking" "Flow Temperature must be greater than -273.15" OK Stop
 # A temperature of nothing is none.
 type txtTemp(0) 0
 answer No
 leave
 expect-message Update Fluid Properties?
 expect-state mnuLiquid1 disabled
+# The flash point of the last component is not that of the mixture.
+click mnuMixture2
+pick lstFluid "Lube Oil ISO VG 46"
+click cmdSelect
+type txtPercent(2) 1
+click cmdCalcPseudo
+expect txtNormalBP(1) 382.2
+expect txtFlashpoint(1) ""
 quit

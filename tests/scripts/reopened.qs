@@ -58,6 +58,31 @@ type txtOperPressure 95
 leave
 expect-box "Pressure Has Changed" "Update Fluid Properties?" YesNo
 expect txtSGFlow 0.8402
+# A mixture whose first component has no percentage comes back whole and can be renewed.
+click mnuMixtures
+pick lstFluid "Toluene "
+click cmdSelect
+pick lstFluid "Benzene "
+click cmdSelect
+type txtPercent(1) 60
+pick lstFluid "n-Hexane "
+click cmdSelect
+key txtPercent(2) R
+click cmdCalcPseudo
+expect txtSGFlow 0.7626
+type txtTagNum H-2
+click mnuSave
+click mnuProgram
+open H-2
+answer Yes
+type txtFlowTemp 100
+leave
+expect-message Update Fluid Properties?
+expect txtSGFlow 0.7739
+click mnuMixtures
+expect lblComponent(0) Toluene
+expect txtPercent(2) 40
+click cmdCancel
 answer No
 click mnuProgram
 expect-message Save changes?
@@ -129,3 +154,58 @@ expect-no-message
 answer No
 click mnuProgram
 expect-message Save changes?
+
+# Six figures of steam's critical pressure, before and after.
+start
+new 5
+type txtTagNum S-5
+click cmdFormLayout
+click optMassSIUnits
+answer Yes
+click cmdOKOptions
+expect-message Round converted data?
+type txtPressure(0) 1000
+click mnuSatSteam1
+expect txtCritPressure(0) 22119.4
+click mnuSave
+click mnuProgram
+open S-5
+expect txtCritPressure(0) 22119.4
+click mnuProgram
+
+# --- A fluid whose row is gone from its table, and another whose table is gone ------------------------------------
+start
+new 1
+include good-case.qs
+click mnuPureLiquid2
+pick lstFluid "Toluene "
+click cmdSelect
+type txtTagNum L-2
+click mnuSave
+click mnuProgram
+write-file TRData/Liquid.txt "Name,Tp\n"
+open L-2
+answer Yes
+answer Yes
+type txtTemp(1) 200
+leave
+expect-message Update Fluid Properties?
+expect-box "Fluid Properties" "Toluene is not in Liquid.txt\nKeep the old properties?" YesNo
+expect txtSGFlow(1) 0.8722
+answer Yes
+answer No
+type txtTemp(1) 210
+leave
+expect-message Update Fluid Properties?
+expect-message Keep the old properties?
+expect txtSGFlow(1) ""
+expect txtViscosity(1) ""
+answer No
+click mnuProgram
+expect-message Save changes?
+remove-file TRData/Gas.txt
+open D-5
+answer No
+click cmdOK(0)
+expect-box "Fluid Properties" "Methane is not in Gas.txt\nKeep the old properties?" YesNo
+expect txtCompFactor(0) ""

@@ -129,6 +129,8 @@ TEST_F(UnitDefinitions, TemperaturesByTheKelvin) {
                 const double value = ice.at(line.Name) + (kelvin - 273.15) / degrees.at(line.Name);
                 EXPECT_NEAR((ToDegF(line.Name, value, 9) + 459.67) / 1.8, kelvin, 1e-9) << line.Name;
                 EXPECT_NEAR(ToDegR(line.Name, value, 9) / 1.8, kelvin, 1e-9) << line.Name;
+                EXPECT_EQ(IsAboveAbsoluteZero(ToDegF(line.Name, value, 9)), kelvin > 0) << line.Name;
+                EXPECT_EQ(IsAboveZeroDegR(ToDegR(line.Name, value, 9)), kelvin > 0) << line.Name;
                 EXPECT_NEAR(FromDegF(line.Name, kelvin * 1.8 - 459.67, 9), value, 1e-9) << line.Name;
                 EXPECT_NEAR(FromDegR(line.Name, kelvin * 1.8, 9), value, 1e-9) << line.Name;
             }
