@@ -118,15 +118,17 @@ bool FluidForm::CanPick(int caseIndex) const {
            (Entries[i].Saturated != nullptr && Calc.PressureEntered[i] == words::Entered);
 }
 
+// A mixture that is being put together counts as picked, as a pure fluid does whose list is open.
 void FluidForm::TickEntries() {
-    const bool mixture = Calc.MixtureFlag == words::Yes;
-    const bool steam = !Calc.SteamKind.empty();
+    const bool building = Mixture.fraComponent.Visible();
+    const bool mixture = building || Calc.MixtureFlag == words::Yes;
+    const bool steam = !building && !Calc.SteamKind.empty();
     for (const FluidEntries& entries : Entries) {
-        entries.Pure->SetChecked(!steam && Calc.MixtureFlag == words::No);
+        entries.Pure->SetChecked(!steam && !mixture && Calc.MixtureFlag == words::No);
         entries.Mixture->SetChecked(!steam && mixture);
         if (entries.Saturated == nullptr) continue;
-        entries.Saturated->SetChecked(Calc.SteamKind == words::Saturated);
-        entries.Superheated->SetChecked(Calc.SteamKind == words::Superheated);
+        entries.Saturated->SetChecked(steam && Calc.SteamKind == words::Saturated);
+        entries.Superheated->SetChecked(steam && Calc.SteamKind == words::Superheated);
     }
 }
 

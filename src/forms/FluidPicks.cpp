@@ -168,6 +168,7 @@ void FluidForm::OpenMixture(int caseIndex) {
         Calc.MixtureCount = 0;
     }
     Mixture.Open();
+    TickEntries();
 }
 
 void FluidForm::PickComponent() {

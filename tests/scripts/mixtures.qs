@@ -10,6 +10,7 @@ expect-message Transition
 
 click mnuMixtures2
 expect-state fraComponent visible
+expect-state mnuMixtures1 checked
 expect-state Picture1 disabled
 expect lblRemaining 100
 expect-state cmdCalcPseudo disabled
@@ -43,6 +44,7 @@ key txtPercent(1) R
 # Cancel leaves the form as it was, and the case keeps its results.
 click cmdCancel
 expect-state fraComponent hidden
+expect-state mnuMixtures1 unchecked
 expect txtFluid ""
 expect txtDestPress(1) 95.89
 click mnuMixtures2
