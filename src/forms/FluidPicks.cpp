@@ -150,6 +150,7 @@ void FluidForm::BlankFluid() {
     constexpr std::size_t vaporPressure = 8, density = 9;  // the line forms have no boxes for them
     Calc.CaseInput[vaporPressure][ThisCase()] = Calc.CaseInput[density][ThisCase()] = 0;
     for (TextBox* box : FluidBoxes(Calc.CaseIndex)) box->SetText("");
+    fluidHints_[ThisCase()].clear();
     ClearCase(Calc.CaseIndex);
 }
 
