@@ -33,6 +33,7 @@ public:
     std::string Copied;
     std::optional<PrinterChoice> Printing;  // the answer of a printer dialog
     std::optional<std::string> ChosenFile;  // the answer of a file dialog
+    std::string Proposed;                   // by the last one
     std::vector<PrintJob> Jobs;
     std::vector<PrintedPage> Pages;  // of all prints
     int PagesUntilFailure = -1;      // of the printer; negative for one that never fails
@@ -64,7 +65,10 @@ public:
         return text;
     }
 
-    std::optional<std::string> FileDialog(const FileQuestion&) override { return ChosenFile; }
+    std::optional<std::string> FileDialog(const FileQuestion& question) override {
+        Proposed = question.Folder;
+        return ChosenFile;
+    }
     std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override { return Printing; }
     std::optional<FontChoice> FontDialog(const FontChoice&) override { return std::nullopt; }
     std::optional<unsigned> ColourDialog(unsigned, const std::string&) override {

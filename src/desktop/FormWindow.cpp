@@ -38,7 +38,7 @@ bool IsIn(const Control& control, const Control& container) {
 
 // The keys that go by the form's rules; all others are the widget's own.
 bool FormRules(const std::string& key) {
-    return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab";
+    return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab" || key == "F1";
 }
 
 // The toolkit's own way from option to option would leave the model behind.

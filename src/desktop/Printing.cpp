@@ -6,6 +6,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QScreen>
+#include <QSpinBox>
 
 #include "desktop/DesktopHost.h"
 #include "desktop/Painting.h"
@@ -18,7 +19,14 @@ namespace quillmetra {
 
 namespace {
 constexpr double TwipsPerPoint = 20;
+
+// What the user has put into the dialog: the toolkit makes 4 to 4 of a range from 4 to 2. A dialog of the
+// system has no such box.
+int PageIn(const QPrintDialog& dialog, const char* box, int otherwise) {
+    const auto* const spin = dialog.findChild<QSpinBox*>(QLatin1String(box));
+    return spin == nullptr ? otherwise : spin->value();
 }
+}  // namespace
 
 PrinterPaper::PrinterPaper(QPrinter& printer, const std::string& name) : printer_(printer) {
     printer_.setDocName(ToQt(name));
@@ -74,8 +82,8 @@ std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& pre
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     PrinterChoice choice{.Copies = printer.copyCount()};
     if (printer.printRange() == QPrinter::PageRange) {
-        choice.FromPage = printer.fromPage();
-        choice.ToPage = printer.toPage();
+        choice.FromPage = PageIn(dialog, "from", printer.fromPage());
+        choice.ToPage = PageIn(dialog, "to", printer.toPage());
     }
     return choice;
 }

@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
+#include <QWindow>
 
 #include "core/Suite.h"
 #include "desktop/DesktopHost.h"
@@ -165,7 +166,13 @@ void DesktopHost::ShowHelp(int topic) {
         std::vector<HelpTopic> topics = ReadHelpTopics(HelpFolder());
         if (!topics.empty()) help_ = std::make_unique<HelpWindow>(std::move(topics));
     }
-    if (help_ != nullptr) return help_->ShowTopic(topic);
+    if (help_ != nullptr) {
+        // Over a dialog it must belong to it, or the dialog would keep it from the user.
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        help_->winId();
+        help_->windowHandle()->setTransientParent(dialog == nullptr ? nullptr : dialog->windowHandle());
+        return help_->ShowTopic(topic);
+    }
     if (FileExists(Suite.HelpFile)) {
         const QString file = QString::fromStdU16String(MachinePath(Suite.HelpFile).u16string());
         QDesktopServices::openUrl(QUrl::fromLocalFile(file));

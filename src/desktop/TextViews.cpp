@@ -30,7 +30,9 @@ protected:
     void RenewText() override {
         const QString text = ToQt(box_.Text());
         if (edit_->text() == text) return;
+        const int caret = text.size() == edit_->text().size() ? edit_->cursorPosition() : -1;
         edit_->setText(text);
+        if (caret >= 0) edit_->setCursorPosition(caret);  // a letter was put for another
         // The end of a long result matters less than its beginning.
         if (box_.Locked) edit_->setCursorPosition(0);
     }

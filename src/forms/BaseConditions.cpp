@@ -36,6 +36,8 @@ double Typed(const TextBox& box, const std::string& shown, double former, double
 
 double FromKilopascal(double value) { return value * PsiPerKPa; }
 double FromDegC(double value) { return value * 1.8 + 32.0; }
+double ToKilopascal(double value) { return value / PsiPerKPa; }
+double ToDegC(double value) { return (value - 32.0) / 1.8; }
 
 }  // namespace
 
@@ -51,10 +53,10 @@ BaseConditions::BaseConditions(CalculationForm& form)
       lblSTPBaro(fraSTP, "lblSTPBaro", "Barometric pressure"),
       txtSTPBaro(fraSTP, "txtSTPBaro"),
       unSTPBaro(fraSTP, "unSTPBaro"),
-      cmdSTPEnglish(fraSTP, "cmdSTPEnglish", "&English units"),
+      cmdSTPEnglish(fraSTP, "cmdSTPEnglish", "En&glish units"),
       cmdSTPSI(fraSTP, "cmdSTPSI", "S&I units"),
       cmdOKSTP(fraSTP, "cmdOKSTP", "OK"),
-      cmdSaveSTP(fraSTP, "cmdSaveSTP", "&Save"),
+      cmdSaveSTP(fraSTP, "cmdSaveSTP", "Sa&ve"),
       cmdCancelSTP(fraSTP, "cmdCancelSTP", "Cancel"),
       form_(form) {
     fraSTP.SetVisible(false);
@@ -120,10 +122,30 @@ void BaseConditions::Show() {
     cmdSTPSI.SetEnabled(!IsSI());
 }
 
-// The values in force in the other system; what was typed and not taken goes.
+// The values in force in the other system, and so what was typed and is not taken yet; a text that is no
+// number stays as it is.
 void BaseConditions::SwitchTo(bool si) {
+    struct Edit {
+        TextBox& Box;
+        const std::string& Shown;
+        double (*FromSI)(double);
+        double (*ToSI)(double);
+        std::string Text = {};
+    };
+    Edit edits[] = {{txtSTPPressure, shown_[0], FromKilopascal, ToKilopascal},
+                    {txtSTPTemp, shown_[1], FromDegC, ToDegC},
+                    {txtSTPBaro, shown_[2], FromKilopascal, ToKilopascal}};
+    for (Edit& edit : edits) {
+        if (edit.Box.Text() == edit.Shown) continue;
+        edit.Text = edit.Box.Text();
+        if (!ValReadsAll(edit.Text) || si == IsSI()) continue;
+        edit.Text = TrimmedStr(RoundedFour((si ? edit.ToSI : edit.FromSI)(Val(edit.Text))));
+    }
     ApplySystem(si);
     Show();
+    for (const Edit& edit : edits) {
+        if (!edit.Text.empty()) edit.Box.SetText(edit.Text);
+    }
     txtSTPPressure.SetFocus();
 }
 

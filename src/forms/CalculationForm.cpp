@@ -69,6 +69,7 @@ CalculationForm::CalculationForm(const Names& names)
     txtFluid.Describe(&lblFluid);
     txtBy.Describe(&lblBy);
     txtApprov.Describe(&lblApprov);
+    cmdDate.Describe(&lblDate);
     mnuCase.Each([](MenuItem& entry, int i) { entry.SetCaption(CaseCaptions[i]); });
     mnuExit.SeparatorBefore = true;
     mnuProgram.SeparatorBefore = true;
@@ -329,18 +330,21 @@ void CalculationForm::TakeAsNew() {
 
 // --- Saving ----------------------------------------------------------------------------------------------
 
-bool CalculationForm::SaveTo(const std::string& databaseFile, bool mayCreate) {
+bool CalculationForm::SaveTo(const std::string& databaseFile) {
     Suite.DatabaseFile = databaseFile;
     Suite.DatabasePath = FolderOf(databaseFile);
     Calc.TagChanged = words::Yes;
-    if (mayCreate && !Calc.Tag.empty() && !FileExists(databaseFile)) {
+    if (!Calc.Tag.empty() && !FileExists(databaseFile)) {
         if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", DatabaseTitle)) {
             return false;
         }
         Calc.MessageTitle = DatabaseTitle;
         if (!CreateDB(true)) return false;
     }
-    if (!SaveTRCalc()) return false;
+    if (!SaveTRCalc()) {
+        if (Calc.Tag.empty()) txtTagNum.SetFocus();
+        return false;
+    }
     DropRecovery();
     ShowCalculation();
     SetStatus("Saved as " + Calc.Tag);
@@ -349,7 +353,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile, bool mayCreate) {
 
 bool CalculationForm::Save() {
     if (!MustHaveDataPath(Suite.DefaultPaths[1])) return false;
-    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]), true);
+    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]));
 }
 
 void CalculationForm::mnuSave_Click() {
@@ -367,7 +371,7 @@ void CalculationForm::mnuSaveAs_Click() {
                                .ForSaving = true});
     if (!file || file->empty()) return;
     if (!IsDatabaseName(*file)) return Tell("Must find file named TRDB.MDB", "Database file");
-    SaveTo(*file, false);
+    SaveTo(*file);
 }
 
 void CalculationForm::mnuProgram_Click() {

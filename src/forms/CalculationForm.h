@@ -57,23 +57,24 @@ public:
     MenuItem mnuFluiProp;
     ControlArray<MenuItem> mnuCase;
     MenuItem mnuDefPath{*this, "mnuDefPath", "Default pa&ths"};
-    MenuItem mnuPathDataFile{mnuDefPath, "mnuPathDataFile", "Data file default path"};
-    MenuItem mnuPathUserUnitFile{mnuDefPath, "mnuPathUserUnitFile", "User unit file default path"};
-    MenuItem mnuPathPrintHdgs{mnuDefPath, "mnuPathPrintHdgs", "Printout heading file default path"};
+    MenuItem mnuPathDataFile{mnuDefPath, "mnuPathDataFile", "&Data file default path"};
+    MenuItem mnuPathUserUnitFile{mnuDefPath, "mnuPathUserUnitFile", "&User unit file default path"};
+    MenuItem mnuPathPrintHdgs{mnuDefPath, "mnuPathPrintHdgs", "&Printout heading file default path"};
 
     MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
 
     // The container of the inputs, switched off while a list of fluids is open over it.
     Frame Picture1{*this, "Picture1"};
-    Label lblTagNum{Picture1, "lblTagNum", "Tag number"};
+    Label lblTagNum{Picture1, "lblTagNum", "Tag &number"};
     TextBox txtTagNum{Picture1, "txtTagNum"};
     Label lblFluid{Picture1, "lblFluid", "Fluid"};
     TextBox txtFluid{Picture1, "txtFluid"};
     CommandButton cmdFormLayout{Picture1, "cmdFormLayout", "Change &Setup"};
-    Label lblBy{Picture1, "lblBy", "Calculated by"};
+    Label lblBy{Picture1, "lblBy", "Calculated b&y"};
     TextBox txtBy{Picture1, "txtBy"};
     Label lblApprov{Picture1, "lblApprov", "Approved by"};
     TextBox txtApprov{Picture1, "txtApprov"};
+    Label lblDate{Picture1, "lblDate", "&Date"};
     CommandButton cmdDate{Picture1, "cmdDate", "Date"};
     Label lblComments{Picture1, "lblComments", "Comments"};
     ControlArray<TextBox> txtComments{Picture1, "txtComments", {0, 1}};
@@ -145,7 +146,7 @@ private:
     void TakeAsNew();
     // Saves to the database on the default path; false, after a message, when it was refused.
     bool Save();
-    bool SaveTo(const std::string& databaseFile, bool mayCreate);
+    bool SaveTo(const std::string& databaseFile);
     void BlankResults(int caseIndex);
     void SetCalculateButtons(bool enabled);
 

@@ -84,7 +84,9 @@ void DataForm::cmdOK_Click(int index) {
     for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
     const bool enough = HasState(index) || (Calc.SteamKind == words::Saturated && CanPick(index));
     if (!enough) return TellNeedsState(index);
-    if (Calc.FluidDataSource == words::Loaded) UpdateFluidProperties();
+    if (Calc.FluidDataSource != words::Loaded)
+        return SetStatus("Pick a fluid first, in the menu Fluid properties");
+    UpdateFluidProperties();
 }
 
 double DataForm::TemperatureShown(double degF) {

@@ -5,6 +5,7 @@
 #include "core/Suite.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
+#include "platform/Folders.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "records/RecordExport.h"
@@ -40,7 +41,7 @@ void frmTRProg::mnuCreateDB_Click() {
         return;
     }
     if (!AskYesNo("If existing, the TRDB.MDB DataBase on\n" + Suite.BrowsePath + "\nWill be destroyed\nOK?",
-                  CreateTitle)) {
+                  CreateTitle, Icon::None, Answer::No)) {
         Suite.BrowsePath.clear();
         return;
     }
@@ -69,7 +70,7 @@ void frmTRProg::mnuCompactDB_Click() {
 void frmTRProg::mnuRepairDB_Click() {
     cmdDBClose_Click();
     if (!AskDatabase()) return;
-    if (!AskYesNo("Repair the Process Data database?", DatabaseTitle)) return;
+    if (!AskYesNo("Repair the Process Data database?", DatabaseTitle, Icon::None, Answer::No)) return;
     std::string report;
     try {
         const BusyPointer busy;
@@ -90,7 +91,7 @@ void frmTRProg::mnuExport_Click() {
     }
     const auto file = AskFile({.Title = title,
                                .Filter = "Comma separated values(*.csv)|*.csv",
-                               .Folder = Suite.DatabasePath,
+                               .Folder = ProposedFile(Suite.DatabasePath, "TRDB.csv"),
                                .ForSaving = true});
     if (!file || file->empty()) return;
     if (IsDatabaseName(*file)) return Tell("A database cannot be written over by an export", title);
@@ -99,7 +100,9 @@ void frmTRProg::mnuExport_Click() {
         const BusyPointer busy;
         count = ExportRecords(Suite.DatabaseFile, *file);
     }
-    Tell(std::to_string(count) + (count == 1 ? " record" : " records") + " written to\n" + *file, title);
+    const std::string records = std::to_string(count) + (count == 1 ? " record" : " records");
+    SetStatus(records + ": " + *file);
+    Tell(records + " written to\n" + *file, title);
 }
 
 }  // namespace quillmetra

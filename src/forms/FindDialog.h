@@ -13,7 +13,7 @@ public:
     void Activated() override;
     void CloseBox() override { cmdCancel_Click(); }
 
-    Label lblFind{*this, "lblFind", "Tag number"};
+    Label lblFind{*this, "lblFind", "&Tag number"};
     TextBox txtFind{*this, "txtFind"};
     CommandButton cmdFind{*this, "cmdFind", "&Find"};
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};

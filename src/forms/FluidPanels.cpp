@@ -46,8 +46,8 @@ MixturePanel::MixturePanel(CalculationForm& form)
       txtPercent(fraComponent, "txtPercent", Components),
       lblRemainingCaption(fraComponent, "lblRemainingCaption", "Remaining percent"),
       lblRemaining(fraComponent, "lblRemaining", NothingTaken),
-      cmdCalcPseudo(fraComponent, "cmdCalcPseudo", "Calc&ulate mixture"),
-      cmdClear(fraComponent, "cmdClear", "C&lear"),
+      cmdCalcPseudo(fraComponent, "cmdCalcPseudo", "C&alculate mixture"),
+      cmdClear(fraComponent, "cmdClear", "Clea&r"),
       form_(form) {
     fraComponent.SetVisible(false);
     txtPercent.Each([this](TextBox& box, int i) {

@@ -95,8 +95,10 @@ bool MakeSureOfDatabase() {
 
 void TellReport(const Version5Report& report) {
     if (report.OtherPrograms > 0) {
+        const bool one = report.OtherPrograms == 1;
         Tell(std::to_string(report.OtherPrograms) +
-                 " records are of programs that this version does not have\nThey were passed over",
+                 (one ? " record is of a program" : " records are of programs") +
+                 " that this version does not have\n" + (one ? "It was" : "They were") + " passed over",
              ConvertTitle, Icon::Exclamation);
     }
     for (std::size_t first = 0; first < report.Unsaved.size(); first += ListedInABox) {

@@ -8,7 +8,7 @@ namespace quillmetra {
 PickList::PickList(CalculationForm& form, const Names& names)
     : Panel(form, names.Frame, names.Caption),
       List(Panel, names.List),
-      cmdSelect(Panel, names.Select, "&Select"),
+      cmdSelect(Panel, names.Select, names.SelectCaption),
       cmdCancel(Panel, names.Cancel, "Cancel"),
       form_(form) {
     Panel.SetVisible(false);

@@ -20,6 +20,7 @@ public:
         const char* List;
         const char* Select;
         const char* Cancel;
+        const char* SelectCaption = "Se&lect";
     };
 
     PickList(CalculationForm& form, const Names& names);

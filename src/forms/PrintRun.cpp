@@ -7,10 +7,12 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/frmPrintControl.h"
+#include "forms/PrintTargets.h"
 #include "forms/RecordInHand.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
+#include "records/RecordFiles.h"
 
 namespace quillmetra {
 
@@ -42,36 +44,41 @@ public:
     FormsOfRecord& operator=(const FormsOfRecord&) = delete;
 };
 
+std::string CountOfRecords(int count) {
+    return std::to_string(count) + (count == 1 ? " record" : " records");
+}
+
 }  // namespace
 
 void frmPrintControl::cmdProceed_Click() {
     if (!AnyPicked()) return;
     const RunWords words;
-    const auto choice = AskPrinter();
-    if (!choice) return;
-    Suite.PrintFromPage = choice->FromPage;
-    Suite.PrintToPage = choice->ToPage;
-    Suite.PrintCopies = std::max(choice->Copies, 1);
-    Run({.FromPage = choice->FromPage, .ToPage = choice->ToPage});
+    if (const auto job = AskPages(Caption())) Run(*job);
 }
 
 void frmPrintControl::cmdPdf_Click() {
     if (!AnyPicked()) return;
     const RunWords words;
-    const auto path = AskFile({.Title = "Save as PDF",
-                               .Filter = "PDF files(*.pdf)|*.pdf",
-                               .Folder = Suite.DefaultPaths[1],
-                               .ForSaving = true});
-    if (!path) return;
-    Suite.PrintFromPage = Suite.PrintToPage = 0;
-    Suite.PrintCopies = 1;
-    Run({.To = PrintJob::Target::Pdf, .Path = *path});
+    if (const auto job = AskPdf(NameForPdf())) Run(*job);
+}
+
+int frmPrintControl::CountPicked() const {
+    int picked = 0;
+    for (int row = 0; row < lstTags.RowCount(); ++row) picked += lstTags.IsPicked(row) ? 1 : 0;
+    return picked;
+}
+
+// The tag of one record, else the name of the database.
+std::string frmPrintControl::NameForPdf() const {
+    const std::string database(FileNameOf(Suite.DatabaseFile));
+    if (CountPicked() != 1) return database.substr(0, database.rfind('.'));
+    int row = 0;
+    while (!lstTags.IsPicked(row)) ++row;
+    return lstTags.Row(row);
 }
 
 bool frmPrintControl::AnyPicked() {
-    for (int row = 0; row < lstTags.RowCount(); ++row) {
-        if (lstTags.IsPicked(row)) return true;
-    }
+    if (CountPicked() > 0) return true;
     Tell("Select the records to print first", Caption(), Icon::Exclamation);
     return false;
 }
@@ -97,16 +104,14 @@ void frmPrintControl::Run(PrintJob job) {
 
     bool complete = false;
     ShowRunning(true);
-    SetStatus("");
+    SetStatus("Printing; Escape or Cancel stops it");
     try {
         Printer.Open(job);
         complete = PrintPicked();
-        if (complete) {
-            Printer.EndDoc();
-            Printer.Close();
-        } else {
-            SetStatus("Printing was stopped");
-        }
+        if (complete) Printer.EndDoc();
+        SetStatus(complete ? "" : "Printing was stopped");
+        complete = complete && HeldPages(job, Caption());
+        if (complete) Printer.Close();
     } catch (const RuntimeError& error) {
         complete = false;
         Tell(error.Description + " (Error " + std::to_string(error.Number) + ")", "Printing Problem",
@@ -116,12 +121,12 @@ void frmPrintControl::Run(PrintJob job) {
     ShowRunning(false);
     ShowTitles(runTitles_);
     TellUnprinted();
-    if (complete) cmdCancelPrint_Click();
+    if (complete)
+        Leave(CountOfRecords(CountPicked() - static_cast<int>(unprinted_.size())) + ", " + PrintedPages(job));
 }
 
 bool frmPrintControl::PrintPicked() {
-    int total = 0;
-    for (int row = 0; row < lstTags.RowCount(); ++row) total += lstTags.IsPicked(row) ? 1 : 0;
+    const int total = CountPicked();
     int done = 0;
     for (int row = 0; row < lstTags.RowCount(); ++row) {
         if (!lstTags.IsPicked(row)) continue;

@@ -18,8 +18,10 @@
 #include "forms/frmUnits.h"
 #include "forms/frmWaterHammer.h"
 #include "forms/WinSeek.h"
+#include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
+#include "platform/UserActs.h"
 
 namespace quillmetra {
 
@@ -33,24 +35,25 @@ std::unique_ptr<Form> MakeForm() {
 struct FormEntry {
     const char* Name;
     FormFactory Make;
+    int HelpTopic;
 };
 
 constexpr FormEntry FormTable[] = {
-    {"frmTRProg", MakeForm<frmTRProg>},
-    {"frmObxProg", MakeForm<frmObxProg>},
-    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>},
-    {"frmGasLineLoss", MakeForm<frmGasLineLoss>},
-    {"frmLiqData", MakeForm<frmLiqData>},
-    {"frmGasData", MakeForm<frmGasData>},
-    {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>},
-    {"FindDialog", MakeForm<FindDialog>},
-    {"frmPipeSize", MakeForm<frmPipeSize>},
-    {"frmPrintControl", MakeForm<frmPrintControl>},
-    {"frmTables", MakeForm<frmTables>},
-    {"frmWaterHammer", MakeForm<frmWaterHammer>},
-    {"frmUnits", MakeForm<frmUnits>},
-    {"frmCalcOptions", MakeForm<frmCalcOptions>},
-    {"WinSeek", MakeForm<WinSeek>},
+    {"frmTRProg", MakeForm<frmTRProg>, 400},
+    {"frmObxProg", MakeForm<frmObxProg>, 410},
+    {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>, 401},
+    {"frmGasLineLoss", MakeForm<frmGasLineLoss>, 402},
+    {"frmLiqData", MakeForm<frmLiqData>, 404},
+    {"frmGasData", MakeForm<frmGasData>, 405},
+    {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>, 417},
+    {"FindDialog", MakeForm<FindDialog>, 400},
+    {"frmPipeSize", MakeForm<frmPipeSize>, 411},
+    {"frmPrintControl", MakeForm<frmPrintControl>, 417},
+    {"frmTables", MakeForm<frmTables>, 415},
+    {"frmWaterHammer", MakeForm<frmWaterHammer>, 403},
+    {"frmUnits", MakeForm<frmUnits>, 412},
+    {"frmCalcOptions", MakeForm<frmCalcOptions>, 413},
+    {"WinSeek", MakeForm<WinSeek>, 414},
 };
 
 // Routines that fill a form leave FormLoading at "Yes"; the end of the user's act puts it back, so that the
@@ -59,11 +62,18 @@ void AfterAct() {
     if (!IsFormLoaded("frmUnits") && !IsFormLoaded("frmCalcOptions")) Calc.FormLoading = words::No;
 }
 
+void ShowHelpOf(const Form& form) {
+    for (const FormEntry& entry : FormTable) {
+        if (SameName(entry.Name, form.Name())) return ShowHelpTopic(entry.HelpTopic);
+    }
+}
+
 }  // namespace
 
 void RegisterForms() {
     for (const FormEntry& entry : FormTable) RegisterForm(entry.Name, entry.Make);
     SetAfterAct(AfterAct);
+    SetHelpKey(ShowHelpOf);
 }
 
 std::vector<std::string_view> FormNames() {

@@ -1,6 +1,7 @@
 // See WinSeek.h.
 #include "forms/WinSeek.h"
 
+#include <algorithm>
 #include <cctype>
 #include <utility>
 
@@ -39,6 +40,8 @@ constexpr const char* ResetCaption = "&Reset";
 constexpr const char* SearchCaption = "&Search";
 constexpr const char* ExitCaption = "E&xit";
 constexpr const char* StopCaption = "Cancel";
+constexpr const char* ReadyCaption = "Ready";
+constexpr const char* FindCaption = "F&ind ";
 
 }  // namespace
 
@@ -77,6 +80,8 @@ WinSeek::WinSeek() : SuiteForm(FormName) {
     cmdStop.SetEnabled(false);
 
     txtPath.KeyPress = [this](Key& key) { txtPath_KeyPress(key); };
+    txtPath.Change = [this] { txtPath_Change(); };
+    txtSearchSpec.Change = [this] { txtSearchSpec_Change(); };
     cmdOK.Click = [this] { cmdOK_Click(); };
     cmdSave.Click = [this] { cmdSave_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
@@ -89,7 +94,7 @@ WinSeek::WinSeek() : SuiteForm(FormName) {
     lstFoundFiles.Click = [this] { cmdSelect.SetEnabled(true); };
     lstFoundFiles.DoubleClick = [this] { cmdSelect_Click(); };
     drvList.Click = [this] { drvList_Click(); };
-    dirList.Click = [this] { lblSearch.SetCaption("Ready"); };
+    dirList.Click = [this] { lblSearch.SetCaption(ReadyCaption); };
     dirList.DoubleClick = dirList.LostFocus = [this] { dirList.OpenHighlighted(); };
     dirList.Change = [this] { filList.SetPath(dirList.Path()); };
     walk_.Yield = [this] { BetweenFolders(); };
@@ -121,22 +126,41 @@ void WinSeek::CloseBox() {
 }
 
 // Letters, digits and blanks may be typed, and the two keys that build a path, which are told. Whatever else
-// a path holds is pasted or picked.
+// a path holds is pasted or picked. The key "/" stands for "\".
 void WinSeek::txtPath_KeyPress(Key& key) {
+    SetStatus("");
     if (key.Name == ":") {
         Tell("Use Drive " + txtPath.Text() + ":", "Specify drive to be used");
-    } else if (key.Name == "\\") {
+    } else if (key.Name == "\\" || key.Name == "/") {
         Tell("Path " + txtPath.Text() + "\\", "Name next subroutine");
+        slashTyped_ = key.Name == "/";
     } else if (key.Name.size() == 1 && std::isalnum(static_cast<unsigned char>(key.Name[0])) == 0 &&
                key.Name != " ") {
         key.Handled = true;
+        SetStatus("The key " + key.Name + " is not taken here; a path that has it can be pasted or picked");
     }
+}
+
+void WinSeek::txtPath_Change() {
+    if (!std::exchange(slashTyped_, false)) return;
+    std::string path = txtPath.Text();
+    std::replace(path.begin(), path.end(), '/', '\\');
+    txtPath.SetText(path);
+}
+
+// What the captions say of the former pattern goes.
+void WinSeek::txtSearchSpec_Change() {
+    if (!fraSearch.Visible()) return;
+    cmdSearch.SetCaption(FindCaption + txtSearchSpec.Text());
+    cmdExit.SetCaption(ExitCaption);
+    lblSearch.SetCaption(ReadyCaption);
 }
 
 bool WinSeek::AcceptPath() {
     std::string path(Trim(txtPath.Text()));
     if (path.ends_with('\\')) path.pop_back();
     txtPath.SetText(path);
+    SetStatus(path.empty() ? "Type a path, or pick one by Browse" : "");
     const PathQuestions user{
         .MayCreate =
             [this](const std::string& level) {
@@ -186,7 +210,7 @@ void WinSeek::cmdCancel_Click() {
 
 void WinSeek::cmdBrouse_Click() {
     fraSearch.SetVisible(true);
-    cmdSearch.SetCaption("F&ind " + txtSearchSpec.Text());
+    cmdSearch.SetCaption(FindCaption + txtSearchSpec.Text());
     drvList.Renew();
     try {
         dirList.SetPath(MachineFolder(txtPath.Text()).empty() ? CurrentFolder()
@@ -204,6 +228,7 @@ void WinSeek::cmdSearch_Click() {
         ResetSearch();
         cmdSearch.SetCaption(SearchCaption);
         cmdExit.SetCaption(ExitCaption);
+        lblSearch.SetCaption(ReadyCaption);
         txtSearchSpec.SetFocus();
     } else {
         Search();

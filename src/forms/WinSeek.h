@@ -27,26 +27,26 @@ public:
     // Takes up the default path that is to be edited.
     void Begin(int slot, const std::string& title, const std::string& pattern);
 
-    Label lblPathName{*this, "lblPathName", "Path"};
+    Label lblPathName{*this, "lblPathName", "P&ath"};
     TextBox txtPath{*this, "txtPath"};
     CommandButton cmdOK{*this, "cmdOK", "OK"};
-    CommandButton cmdSave{*this, "cmdSave", "&Save"};
+    CommandButton cmdSave{*this, "cmdSave", "Sa&ve"};
     CommandButton cmdBrouse{*this, "cmdBrouse", "&Browse"};
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
     Frame fraSearch{*this, "fraSearch"};
-    Label lblDrive{fraSearch, "lblDrive", "Drives"};
+    Label lblDrive{fraSearch, "lblDrive", "&Drives"};
     DriveList drvList{fraSearch, "drvList"};
-    Label lblDir{fraSearch, "lblDir", "Folders"};
+    Label lblDir{fraSearch, "lblDir", "&Folders"};
     DirList dirList{fraSearch, "dirList"};
-    Label lblFiles{fraSearch, "lblFiles", "Files"};
+    Label lblFiles{fraSearch, "lblFiles", "Fil&es"};
     FileList filList{fraSearch, "filList"};
     CommandButton SelectPath{fraSearch, "SelectPath", "Select &path"};
-    Label lblSearchSpec{fraSearch, "lblSearchSpec", "File to find"};
+    Label lblSearchSpec{fraSearch, "lblSearchSpec", "File to fi&nd"};
     TextBox txtSearchSpec{fraSearch, "txtSearchSpec"};
     CommandButton cmdSearch{fraSearch, "cmdSearch", "&Search"};
     CommandButton cmdStop{fraSearch, "cmdStop", "S&top"};
-    Label lblFound{fraSearch, "lblFound", "Found"};
+    Label lblFound{fraSearch, "lblFound", "Fo&und"};
     ListBox lstFoundFiles{fraSearch, "lstFoundFiles"};
     Label lblSearch{fraSearch, "lblSearch", "Ready"};
     Label lblCount{fraSearch, "lblCount", "0"};
@@ -54,6 +54,8 @@ public:
     CommandButton cmdExit{fraSearch, "cmdExit", "E&xit"};
 
     void txtPath_KeyPress(Key& key);
+    void txtPath_Change();
+    void txtSearchSpec_Change();
     void cmdOK_Click();
     void cmdSave_Click();
     void cmdCancel_Click();
@@ -84,6 +86,7 @@ private:
     std::chrono::steady_clock::time_point shown_;  // when hits were last put into the list
     bool closeAfterSearch_ = false;
     bool saved_ = false;
+    bool slashTyped_ = false;  // and comes into the box next
 };
 
 }  // namespace quillmetra

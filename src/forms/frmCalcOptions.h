@@ -27,7 +27,7 @@ public:
     Frame fraPressure{*this, "fraPressure", "Pressure"};
     OptionButton OptGaugePress{fraPressure, "OptGaugePress", "Gauge pressure"};
     OptionButton optAbsolutePressure{fraPressure, "optAbsolutePressure", "Absolute pressure"};
-    Label lblSTPBaro{fraPressure, "lblSTPBaro", "Barometric pressure"};
+    Label lblSTPBaro{fraPressure, "lblSTPBaro", "&Barometric pressure"};
     TextBox txtSTPBaro{fraPressure, "txtSTPBaro"};
     CommandButton cmdBaroPress{fraPressure, "cmdBaroPress", "psia"};
 
@@ -46,8 +46,8 @@ public:
     OptionButton OptCalcValveSz{fraCalcOptions, "OptCalcValveSz", "Calculate data"};
 
     CommandButton cmdReviewUnits{*this, "cmdReviewUnits", "&Review units"};
-    CommandButton cmdChangeUnits{*this, "cmdChangeUnits", "Change units no conversion"};
-    CommandButton cmdBootUpUnits{*this, "cmdBootUpUnits", "Save as unit defaults"};
+    CommandButton cmdChangeUnits{*this, "cmdChangeUnits", "&Change units no conversion"};
+    CommandButton cmdBootUpUnits{*this, "cmdBootUpUnits", "&Save as unit defaults"};
     CommandButton cmdOKOptions{*this, "cmdOKOptions", "OK"};
     CommandButton cmdCancelOptions{*this, "cmdCancelOptions", "Cancel"};
 

@@ -8,11 +8,11 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
+#include "forms/PrintTargets.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
-#include "records/RecordFiles.h"
 
 namespace quillmetra {
 
@@ -149,13 +149,8 @@ void frmObxPrintCalc::cmdOK_Click() {
         PrintCopies(Suite.PrintCopies);
         return;
     }
-    const auto choice = AskPrinter();
-    if (!choice) return;
-    Suite.PrintFromPage = choice->FromPage;
-    Suite.PrintToPage = choice->ToPage;
-    Suite.PrintCopies = std::max(choice->Copies, 1);
-    const PrintJob job{.FromPage = choice->FromPage, .ToPage = choice->ToPage};
-    if (Print(job, Suite.PrintCopies)) UnloadForm(Name());
+    const auto job = AskPages(ProblemOfPrinting);
+    if (job && Print(*job, Suite.PrintCopies)) UnloadForm(Name());
 }
 
 void frmObxPrintCalc::mnuPreview_Click() {
@@ -164,14 +159,10 @@ void frmObxPrintCalc::mnuPreview_Click() {
 }
 
 void frmObxPrintCalc::mnuPdf_Click() {
-    const auto path = AskFile({.Title = "Save as PDF",
-                               .Filter = "PDF files(*.pdf)|*.pdf",
-                               .Folder = Suite.DefaultPaths[1],
-                               .ForSaving = true});
-    if (!path) return;
-    if (IsDatabaseName(*path)) return Tell("A database cannot be written over by a printout", "Save as PDF");
+    const auto job = AskPdf(Calc.Tag);
+    if (!job) return;
     StoreHeadings();
-    Print({.To = PrintJob::Target::Pdf, .Path = *path}, 1);
+    if (Print(*job, 1)) SetStatus(PrintedPages(*job));
 }
 
 // Prints the record in hand on a paper of its own; false after a failure, which is told.
@@ -181,6 +172,10 @@ bool frmObxPrintCalc::Print(PrintJob job, int copies) {
     try {
         Printer.Open(job);
         PrintCopies(copies);
+        if (!HeldPages(job, ProblemOfPrinting)) {
+            Printer.Abandon();
+            return false;
+        }
         Printer.Close();
         return true;
     } catch (const RuntimeError& error) {

@@ -25,21 +25,21 @@ public:
     MenuItem mnuPrinterFonts{mnuOptions, "mnuPrinterFonts", "Printer &fonts..."};
 
     Frame fraHeadings{*this, "fraHeadings", "Headings"};
-    Label lblDate{fraHeadings, "lblDate", "Printout date"};
+    Label lblDate{fraHeadings, "lblDate", "Printout &date"};
     CommandButton cmdDate{fraHeadings, "cmdDate"};
-    Label lblTitle{fraHeadings, "lblTitle", "Title"};
+    Label lblTitle{fraHeadings, "lblTitle", "&Title"};
     TextBox txtTitle{fraHeadings, "txtTitle"};
-    Label lblSubTitle{fraHeadings, "lblSubTitle", "Subtitle"};
+    Label lblSubTitle{fraHeadings, "lblSubTitle", "S&ubtitle"};
     TextBox txtSubTitle{fraHeadings, "txtSubTitle"};
-    Label lblProjectName{fraHeadings, "lblProjectName", "Project name"};
+    Label lblProjectName{fraHeadings, "lblProjectName", "Project &name"};
     TextBox txtProjectName{fraHeadings, "txtProjectName"};
-    Label lblProjectNo{fraHeadings, "lblProjectNo", "Project number"};
+    Label lblProjectNo{fraHeadings, "lblProjectNo", "Project num&ber"};
     TextBox txtProjectNo{fraHeadings, "txtProjectNo"};
-    Label lblManufacturer{fraHeadings, "lblManufacturer", "Manufacturer"};
+    Label lblManufacturer{fraHeadings, "lblManufacturer", "&Manufacturer"};
     TextBox txtManufacturer{fraHeadings, "txtManufacturer"};
-    Label lblModel{fraHeadings, "lblModel", "Model"};
+    Label lblModel{fraHeadings, "lblModel", "Mode&l"};
     TextBox txtModel{fraHeadings, "txtModel"};
-    Label lblComments{fraHeadings, "lblComments", "Note"};
+    Label lblComments{fraHeadings, "lblComments", "Not&e"};
     ControlArray<TextBox> txtComments{fraHeadings, "txtComments", {0, 1, 2}};
 
     CommandButton cmdOK{*this, "cmdOK", "OK"};

@@ -14,11 +14,11 @@ public:
     void CloseBox() override { cmdCancel_Click(); }
     void ControlGotFocus(Control& control) override;
 
-    Label lblNomSize{*this, "lblNomSize", "Nominal size"};
+    Label lblNomSize{*this, "lblNomSize", "&Nominal size"};
     TextBox txtNomSize{*this, "txtNomSize"};
     Label lblPipeUnits{*this, "lblPipeUnits"};
     CommandButton cmdSearch{*this, "cmdSearch", "&Search"};
-    Label lblPipeSize{*this, "lblPipeSize", "Size, schedule, inside diameter, wall"};
+    Label lblPipeSize{*this, "lblPipeSize", "Si&ze, schedule, inside diameter, wall"};
     ListBox lstPipeSize{*this, "lstPipeSize"};
     Label lblConvertUnits{*this, "lblConvertUnits"};
     CommandButton cmdOK{*this, "cmdOK", "OK"};

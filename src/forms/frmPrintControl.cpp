@@ -52,6 +52,8 @@ frmPrintControl::frmPrintControl() : SuiteForm("frmPrintControl") {
     lstTags.Multiple = true;
     lstTags.Describe(&fraTags);
     barProgress.Describe(&fraTags);
+    txtPrintoutDate.Locked = true;  // what is printed goes by the tick beside it
+    txtPrintoutDate.TabStop = false;
     barProgress.SetVisible(false);
     const struct {
         TextBox& Box;
@@ -63,10 +65,12 @@ frmPrintControl::frmPrintControl() : SuiteForm("frmPrintControl") {
                   {txtProjectNo, lblProjectNo}};
     for (const auto& field : fields) {
         field.Box.Describe(&field.Name);
-        field.Box.ColourGroup = 2;
+        field.Box.ColourGroup = field.Box.Locked ? 4 : 2;
         field.Box.MaxLength = TitleLength;
     }
-    chkPrintDate.SetToolTip("Not ticked, each page has the date of its calculation");
+    for (Control* control : std::initializer_list<Control*>{&chkPrintDate, &txtPrintoutDate}) {
+        control->SetToolTip("Not ticked, each page has the date of its calculation");
+    }
     lstTags.ColourGroup = 4;
     for (Control* control : Controls()) {
         const ControlKind kind = control->Kind();
@@ -150,6 +154,7 @@ void frmPrintControl::ClearPrintData() {
         if (control->Kind() == ControlKind::TextBox) static_cast<TextBox*>(control)->SetText("");
     }
     Calc.HeadingText.fill("");
+    chkPrintDate_Click();
 }
 
 // --- The headings ------------------------------------------------------------------------------------------
@@ -212,8 +217,11 @@ void frmPrintControl::cmdSaveInDb_Click() {
     if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag);
 }
 
-void frmPrintControl::cmdCancelPrint_Click() {
+void frmPrintControl::cmdCancelPrint_Click() { Leave(""); }
+
+void frmPrintControl::Leave(const std::string& said) {
     ShowForm("frmTRProg");
+    if (!said.empty()) LoadForm("frmTRProg").SetStatus(said);
     UnloadForm(Name());
 }
 

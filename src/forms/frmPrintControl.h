@@ -32,16 +32,16 @@ public:
     Frame fraHeadings{*this, "fraHeadings", "Headings"};
     Label lblPrintoutDate{fraHeadings, "lblPrintoutDate", "Printout date"};
     TextBox txtPrintoutDate{fraHeadings, "txtPrintoutDate"};
-    CheckBox chkPrintDate{fraHeadings, "chkPrintDate", "Use today's date"};
-    Label lblTitle{fraHeadings, "lblTitle", "Title"};
+    CheckBox chkPrintDate{fraHeadings, "chkPrintDate", "Use toda&y's date"};
+    Label lblTitle{fraHeadings, "lblTitle", "&Title"};
     TextBox txtTitle{fraHeadings, "txtTitle"};
-    Label lblSubTitle{fraHeadings, "lblSubTitle", "Subtitle"};
+    Label lblSubTitle{fraHeadings, "lblSubTitle", "Su&btitle"};
     TextBox txtSubTitle{fraHeadings, "txtSubTitle"};
-    Label lblProjectName{fraHeadings, "lblProjectName", "Project name"};
+    Label lblProjectName{fraHeadings, "lblProjectName", "Project na&me"};
     TextBox txtProjectName{fraHeadings, "txtProjectName"};
-    Label lblProjectNo{fraHeadings, "lblProjectNo", "Project number"};
+    Label lblProjectNo{fraHeadings, "lblProjectNo", "Project numbe&r"};
     TextBox txtProjectNo{fraHeadings, "txtProjectNo"};
-    CheckBox chkUse{fraHeadings, "chkUse", "Use default titles"};
+    CheckBox chkUse{fraHeadings, "chkUse", "&Use default titles"};
     CommandButton cmdTitleDefault{fraHeadings, "cmdTitleDefault", "&Get default titles"};
     CommandButton cmdDefaultTitles{fraHeadings, "cmdDefaultTitles", "Save as &default titles"};
     CommandButton cmdSaveInDb{fraHeadings, "cmdSaveInDb", "&Save in database"};
@@ -81,7 +81,11 @@ private:
     void ShowTitles(const Titles& titles);
     void ShowHead();
 
+    int CountPicked() const;
     bool AnyPicked();
+    std::string NameForPdf() const;
+    // Goes back to the browser, whose status line says what has come of the run.
+    void Leave(const std::string& said);
     void Run(PrintJob job);
     void ShowRunning(bool running);
     // Prints the records that are picked; false when the user has stopped it.

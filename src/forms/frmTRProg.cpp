@@ -64,14 +64,14 @@ void frmTRProg::HookColours() {
         ++slot;
         entry->Click = [this, entry, slot] {
             ClearColourChecks();
-            PickColour(*this, slot, (slot + 1) / 2, entry->Caption());
+            PickColour(*this, slot, (slot + 1) / 2, SpokenCaption(entry->Caption()));
             entry->SetChecked(true);
         };
     }
     mnuLoadColor.SeparatorBefore = true;
     mnuLoadColor.Click = [this] { LoadColourScheme(*this); };
     mnuSaveColor.Click = [] { SaveColours(); };
-    mnuBackgroundList.Click = [this] { ListBackgrounds(*this, mnuBackground.Caption()); };
+    mnuBackgroundList.Click = [this] { ListBackgrounds(*this, SpokenCaption(mnuBackground.Caption())); };
 }
 
 void frmTRProg::ClearColourChecks() {

@@ -83,6 +83,8 @@ frmTables::frmTables() : SuiteForm("frmTables") {
         box.GotFocus = [this, index] { txtHole_GotFocus(index); };
         box.LostFocus = [this] { txtHole_LostFocus(); };
     });
+    cmdRecall.SetToolTip("From the table into the boxes: the row of that number");
+    cmdLoadRow.SetToolTip("From the boxes into the table: over the row of that number");
     cmdRecall.Click = [this] { cmdRecall_Click(); };
     cmdLoadRow.Click = [this] { cmdLoadRow_Click(); };
     cmdClear.Click = [this] { cmdClear_Click(); };
@@ -213,8 +215,10 @@ void frmTables::StorePending(const std::string& row, const char* ending) {
 
 void frmTables::grdTable_Click() {
     const int row = grdTable.Selected();
+    const bool dropped = RowEdited == words::Yes;
     ShowRow(row);
     txtRecall.SetText(TrimmedStr(row));
+    if (dropped) SetStatus("What was typed into the boxes before is in no row");
     txtHole(std::max(1, grdTable.SelectedColumn())).SetFocus();
 }
 
@@ -351,10 +355,23 @@ void frmTables::TellLostLines() const {
     Tell(text, SaveTitle, Icon::Exclamation);
 }
 
-bool frmTables::Save() {
+std::string frmTables::RowsLeftOut() const {
+    const auto isEmpty = [](const std::string& field) { return Trim(field).empty(); };
+    const auto isLeftOut = [&](const TableFields& row) {
+        return !std::ranges::all_of(row, isEmpty) && !SavedTableLine(*table_, row);
+    };
+    std::vector<TableFields> rows = FieldsOfGrid();
+    const auto count = std::count_if(rows.begin() + 1, rows.end(), isLeftOut);
+    if (count == 0) return "";
+    return "; " + std::to_string(count) +
+           (count == 1 ? " row without a name was" : " rows without a name were") + " left out";
+}
+
+bool frmTables::Save(Answer preset) {
     StorePending(Str(CurrentRow), " OK?");
     TellLostLines();
-    if (!AskYesNo("Save the new file and destroy the old file?", SaveTitle)) return true;
+    if (!AskYesNo("Save the new file and destroy the old file?", SaveTitle, Icon::None, preset))
+        return true;
     try {
         const BusyPointer busy;
         SaveTable(*table_, FieldsOfGrid(), Variant());
@@ -365,19 +382,24 @@ bool frmTables::Save() {
     lost_.clear();
     FileEdited.clear();
     GridChanged.clear();
+    SetStatus("Saved as " + TableFile + RowsLeftOut());
     return true;
 }
 
-void frmTables::cmdSaveGrid_Click() { Save(); }
+void frmTables::cmdSaveGrid_Click() { Save(Answer::No); }
 
 void frmTables::cmdReloadGrid_Click() {
-    if (table_ != nullptr && ReadTableFile()) EnableWork(true);
+    const bool changed = FileEdited == words::Yes || GridChanged == words::Yes;
+    if (table_ == nullptr || !ReadTableFile()) return;
+    EnableWork(true);
+    SetStatus(changed ? "Read again from the file; what was changed since the last save is gone" : "");
 }
 
-// A save that failed keeps the form with what it holds.
+// A save that failed keeps the form with what it holds. Who has said here that the file is to be saved does not
+// lose it by Enter at the next question.
 void frmTables::cmdCancelGrid_Click() {
     const bool changed = FileEdited == words::Yes || GridChanged == words::Yes;
-    if (changed && HasTable() && AskYesNo("Save the new file?", ChangedTitle) && !Save()) return;
+    if (changed && HasTable() && AskYesNo("Save the new file?", ChangedTitle) && !Save(Answer::Yes)) return;
     FileEdited.clear();
     RowEdited.clear();
     GridChanged.clear();

@@ -41,7 +41,7 @@ public:
     Label lblNote3{picValveNotes, "lblNote3"};
     CommandButton cmdCancel{picValveNotes, "cmdCancel", "Cancel"};
 
-    Label lblRecall{*this, "lblRecall", "Row number"};
+    Label lblRecall{*this, "lblRecall", "Row &number"};
     TextBox txtRecall{*this, "txtRecall"};
     CommandButton cmdRecall{*this, "cmdRecall", "&Recall row"};
     CommandButton cmdLoadRow{*this, "cmdLoadRow", "&Load row"};
@@ -103,9 +103,11 @@ private:
     void AddRow(int row);
     // Tells what a save would leave out for good.
     void TellLostLines() const;
+    // "; 2 rows without a name were left out", of the save just done; empty for none.
+    std::string RowsLeftOut() const;
     std::vector<TableFields> FieldsOfGrid() const;
     // False when the file could not be written; a save that the user declines is none.
-    bool Save();
+    bool Save(Answer preset);
 
     const TableDescription* table_ = nullptr;
     std::vector<LostLine> lost_;

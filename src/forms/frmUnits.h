@@ -18,11 +18,11 @@ public:
     void Load() override;
     void CloseBox() override;
 
-    MenuItem mnuLibrary{*this, "mnuLibrary", "&Library"};
-    MenuItem mnuSaveUnLibrary{mnuLibrary, "mnuSaveUnLibrary", "Save user library"};
-    MenuItem mnuRecallSavedUnLibrary{mnuLibrary, "mnuRecallSavedUnLibrary", "Load user library"};
-    MenuItem mnuDefaultUnLibrary{mnuLibrary, "mnuDefaultUnLibrary", "Load default library"};
-    MenuItem mnuDeleteLib{mnuLibrary, "mnuDeleteLib", "Delete user library"};
+    MenuItem mnuLibrary{*this, "mnuLibrary", "U&nit library"};
+    MenuItem mnuSaveUnLibrary{mnuLibrary, "mnuSaveUnLibrary", "&Save user library"};
+    MenuItem mnuRecallSavedUnLibrary{mnuLibrary, "mnuRecallSavedUnLibrary", "&Load user library"};
+    MenuItem mnuDefaultUnLibrary{mnuLibrary, "mnuDefaultUnLibrary", "Load &default library"};
+    MenuItem mnuDeleteLib{mnuLibrary, "mnuDeleteLib", "D&elete user library"};
 
     Label lblInstruct{*this, "lblInstruct"};
 
@@ -35,20 +35,20 @@ public:
 
     // The panel for choosing one.
     Frame fraSelect{*this, "fraSelect"};
-    OptionButton optMass{fraSelect, "optMass", "&Mass"};
-    OptionButton optVol{fraSelect, "optVol", "&Volume"};
+    OptionButton optMass{fraSelect, "optMass", "Mass"};
+    OptionButton optVol{fraSelect, "optVol", "V&olume"};
     CommandButton cmdBasis{fraSelect, "cmdBasis", "OK"};
     CommandButton cmdCanBasis{fraSelect, "cmdCanBasis", "Cancel"};
     Label lblUnit{fraSelect, "lblUnit", "Unit"};
     ComboBox cboUnit{fraSelect, "cboUnit"};
     Label lblMultiplier{fraSelect, "lblMultiplier", "Multiplier"};
     ComboBox cboFactor{fraSelect, "cboFactor"};
-    CommandButton cmdReplace{fraSelect, "cmdReplace", "&Replace"};
-    CommandButton cmdSelect{fraSelect, "cmdSelect", "&Select"};
+    CommandButton cmdReplace{fraSelect, "cmdReplace", "Repla&ce"};
+    CommandButton cmdSelect{fraSelect, "cmdSelect", "Select &unit"};
     CommandButton cmdCancel{fraSelect, "cmdCancel", "Cancel"};
 
     CommandButton cmdOK{*this, "cmdOK", "OK"};
-    CommandButton cmdSaveUser{*this, "cmdSaveUser", "Save &user units"};
+    CommandButton cmdSaveUser{*this, "cmdSaveUser", "Sa&ve user units"};
     CommandButton cmdCancelUn{*this, "cmdCancelUn", "Cancel"};
 
     void Row_Click(int row);

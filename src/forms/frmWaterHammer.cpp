@@ -31,7 +31,8 @@ frmWaterHammer::frmWaterHammer()
                      .Caption = "Modulus of elasticity",
                      .List = "lstModulus",
                      .Select = "cmdSelectModulus",
-                     .Cancel = "cmdCancelModulus"}) {
+                     .Cancel = "cmdCancelModulus",
+                     .SelectCaption = "Select m&odulus"}) {
     SetCaption("Water Hammer Closing Time, Pressure Rise and Support Force");
     lblFluid.SetCaption("Liquid name");
     txtSelectedTime.SetToolTip(

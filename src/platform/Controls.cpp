@@ -115,7 +115,7 @@ std::string Control::AccessibleName() const {
     if (label_ != nullptr) add(SpokenCaption(label_->Caption()));
     if (label_ == nullptr && unitOf_ != nullptr) add(SpokenCaption(unitOf_->Caption()) + " unit");
     add(column_);
-    if (!showsText) add(SpokenCaption(text_));
+    if (!showsText && SpokenCaption(text_) != name) add(SpokenCaption(text_));
     return name;
 }
 

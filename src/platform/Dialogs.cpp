@@ -5,6 +5,8 @@
 
 #include "platform/Events.h"
 #include "platform/Host.h"
+#include "platform/TextCase.h"
+#include "platform/TextFiles.h"
 
 namespace quillmetra {
 
@@ -18,6 +20,18 @@ HeldMessages* Holding = nullptr;
 Host& RequiredHost() {
     if (InstalledHost == nullptr) throw std::logic_error("a question to the user without a host");
     return *InstalledHost;
+}
+
+// The ending of the filter's first pattern ("*.pdf") goes behind a name without it. False when nothing was
+// to be added.
+bool AddEnding(std::string& file, const std::string& filter) {
+    const std::size_t star = filter.find("|*.");
+    if (star == std::string::npos) return false;
+    const std::string ending = filter.substr(star + 2, filter.find_first_of("|;", star + 2) - star - 2);
+    if (file.size() > ending.size() && SameName(file.substr(file.size() - ending.size()), ending))
+        return false;
+    file += ending;
+    return true;
 }
 
 }  // namespace
@@ -55,7 +69,12 @@ std::string AskText(const std::string& prompt, const std::string& title) {
 
 std::optional<std::string> AskFile(const FileQuestion& question) {
     ++ShownBoxes;
-    return RequiredHost().FileDialog(question);
+    auto file = RequiredHost().FileDialog(question);
+    if (!file || file->empty() || !question.ForSaving || !AddEnding(*file, question.Filter)) return file;
+    // The dialog has asked about the name as it was typed.
+    const bool mayReplace = !FileExists(*file) || AskYesNo(*file + " is there already\nReplace it?",
+                                                           question.Title, Icon::Exclamation, Answer::No);
+    return mayReplace ? file : std::nullopt;
 }
 
 std::optional<FontChoice> AskFont(const FontChoice& preset) {

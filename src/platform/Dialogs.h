@@ -23,9 +23,9 @@ struct MessageBox {
 // The dialogs of the host, and what comes of them.
 struct FileQuestion {
     std::string Title;
-    std::string Filter;  // "Access DB Files(TRDB.MDB)|TRDB.MDB"
-    std::string Folder;
-    bool ForSaving = false;
+    std::string Filter;      // "Access DB Files(TRDB.MDB)|TRDB.MDB"
+    std::string Folder;      // where it begins; for a save it may end in the name to propose
+    bool ForSaving = false;  // a name without the ending of the filter gets it
 };
 
 struct FontChoice {

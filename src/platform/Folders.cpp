@@ -89,6 +89,17 @@ std::string Joined(const std::string& path, const std::string& name) {
     return path.ends_with('\\') ? path + name : path + "\\" + name;
 }
 
+std::string ProposedFile(const std::string& folder, std::string name) {
+    std::replace_if(
+        name.begin(), name.end(),
+        [](unsigned char c) {
+            return c < ' ' ||
+                   std::string_view("\\/:*?\"<>|").find(static_cast<char>(c)) != std::string_view::npos;
+        },
+        '-');
+    return folder.empty() ? name : Joined(folder, name);
+}
+
 FolderContents ListFolder(std::string_view suitePath) {
     FolderContents contents;
     std::error_code error;

@@ -20,6 +20,10 @@ std::filesystem::path MachineFolder(std::string_view suitePath);
 // Path, "\", name; a path that ends in "\" gets no second one.
 std::string Joined(const std::string& path, const std::string& name);
 
+// The file that a dialog proposes in a folder: what no file's name may hold becomes "-". Without a folder,
+// the name alone.
+std::string ProposedFile(const std::string& folder, std::string name);
+
 struct FolderContents {
     std::vector<std::string> Folders;  // links to folders are left out
     std::vector<std::string> Files;

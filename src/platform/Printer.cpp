@@ -80,6 +80,7 @@ void RecordingPrinter::Open(const PrintJob& job) {
     paper_ = host->OpenPaper(job);
     job_ = job;
     pageNumber_ = 1;
+    printed_ = 0;
 }
 
 void RecordingPrinter::Close() {
@@ -136,7 +137,9 @@ void RecordingPrinter::HandOver() {
     if (page.Ops.empty() || paper_ == nullptr) return;
     const bool wanted = (job_.FromPage <= 0 || pageNumber_ >= job_.FromPage) &&
                         (job_.ToPage <= 0 || pageNumber_ <= job_.ToPage);
-    if (wanted) paper_->Print(page);
+    if (!wanted) return;
+    paper_->Print(page);
+    ++printed_;
 }
 
 std::string PageAsText(const PrintedPage& page) {

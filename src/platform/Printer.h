@@ -79,6 +79,10 @@ public:
     // Gives the job up. Does nothing when there is none.
     void Abandon();
     bool IsOpen() const { return paper_ != nullptr; }
+    // Of the job opened last: the sheets that went to its paper, and the pages that it has ended, which its
+    // range may leave out.
+    int PagesPrinted() const { return printed_; }
+    int PagesEnded() const { return pageNumber_ - 1; }
 
     // Prints a line and puts the pen at the left border of the next.
     void Print(std::vector<PrintCell> cells, Anchor fit = Anchor::Left);
@@ -102,6 +106,7 @@ private:
     PrintJob job_;
     PrintedPage page_;
     int pageNumber_ = 1;  // of the job, the copies of a page counting as one
+    int printed_ = 0;
 };
 
 // The one printer of the suite.

@@ -12,6 +12,8 @@ namespace quillmetra {
 
 namespace {
 
+void (*ShowHelpOf)(const Form& form) = nullptr;
+
 void ClickInHandler(Control& control) {
     Form& form = control.Owner();
     if (control.TabStop) form.Focus.UserMoves(control);
@@ -50,6 +52,21 @@ char AccessKey(const std::string& caption) {
     return mark == std::string::npos || mark + 1 >= caption.size() ? '\0' : LowerCase(caption[mark + 1]);
 }
 
+bool IsKeyOf(const Control& control, const std::string& key) {
+    return control.Kind() == ControlKind::Label && control.Seen() &&
+           AccessKey(control.Caption()) == LowerCase(key.back());
+}
+
+// The key of a label leads to the first control that it names, and presses a button.
+bool EnterBeside(Form& form, const Control& label) {
+    for (Control* control : form.Controls()) {
+        if (control->LabelControl() != &label || !control->TabStop || !CanAct(*control)) continue;
+        const bool isButton = control->Kind() == ControlKind::CommandButton;
+        return isButton ? ClickControl(*control) : MoveFocus(*control);
+    }
+    return false;
+}
+
 bool PressShortcut(Form& form, const std::string& key) {
     const bool access = key.size() == 5 && key.starts_with("Alt+");
     for (Control* control : form.Controls()) {
@@ -59,8 +76,11 @@ bool PressShortcut(Form& form, const std::string& key) {
             CanAct(*control)) {
             return ClickControl(*control);
         }
+        if (access && IsKeyOf(*control, key)) return EnterBeside(form, *control);
     }
-    return false;
+    if (key != "F1" || ShowHelpOf == nullptr) return false;
+    form.Dispatch([&] { ShowHelpOf(form); });
+    return true;
 }
 
 bool MoveInList(ListBox& list, const std::string& key) {
@@ -263,6 +283,8 @@ bool PressKey(Control& control, const std::string& key) {
     if (!CanAct(control)) return false;
     return PressShortcut(control.Owner(), key) || PressPlainKey(control, key);
 }
+
+void SetHelpKey(void (*show)(const Form& form)) { ShowHelpOf = show; }
 
 void CloseWindow(Form& form) {
     if (TakesInput(form)) form.Dispatch([&] { form.CloseBox(); });

@@ -38,4 +38,7 @@ bool PressKey(Control& control, const std::string& key);
 
 void CloseWindow(Form& form);
 
+// What F1 does on a form without a menu entry for it.
+void SetHelpKey(void (*show)(const Form& form));
+
 }  // namespace quillmetra

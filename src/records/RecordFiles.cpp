@@ -205,7 +205,7 @@ bool CreateDB(bool agreed) {
     const fs::path file = MachinePath(Suite.DatabaseFile);
     if (fs::exists(file) && (!agreed || IsWriteProtected(file)) &&
         !AskYesNo("New database will Replace Existing DataBase\n0n " + folder + "\n\nOK?",
-                  "Create New Database File")) {
+                  "Create New Database File", Icon::None, Answer::No)) {
         return false;
     }
     {

@@ -186,7 +186,13 @@ void TakeAsSaved() {
     TakeSaved();
 }
 
-bool WriteRecord() {
+bool MayOverwrite(bool inARun) {
+    return AskYesNo(std::string("Tag Number ") + (inARun ? Calc.Tag + " " : "") +
+                        "is on file\nOverwrite the existing record?",
+                    "Calculation Save", Icon::None, inARun ? Answer::No : Answer::Yes);
+}
+
+bool WriteRecord(bool inARun) {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
     Recordset heads(*database, HeadTable().Shape, Recordset::Unplaced());
     heads.Index("Tag_Number");
@@ -195,8 +201,7 @@ bool WriteRecord() {
     for (bool done = false; !done;) {
         // The question waits outside the transaction, and another process may save the same tag meanwhile.
         if (heads.Seek(Calc.Tag) && !mayOverwrite) {
-            mayOverwrite =
-                AskYesNo("Tag Number is on file\nOverwrite the existing record?", "Calculation Save");
+            mayOverwrite = MayOverwrite(inARun);
             if (!mayOverwrite) return false;
         }
         Transaction all(*database);
@@ -217,7 +222,7 @@ bool WriteRecord() {
 
 }  // namespace
 
-bool SaveTRCalc() {
+bool SaveTRCalc(bool inARun) {
     Calc.Tag = std::string(Trim(Calc.Tag));
     if (Calc.Tag.empty()) {
         Tell("Each record must have a unique Tag number", Suite.DatabaseFile, Icon::Stop);
@@ -228,7 +233,7 @@ bool SaveTRCalc() {
         FindWhatToSave();
         ComposeCodes();
         CheckFields();
-        if (WriteRecord()) {
+        if (WriteRecord(inARun)) {
             TakeAsSaved();
             return true;
         }

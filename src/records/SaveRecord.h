@@ -11,7 +11,8 @@ namespace quillmetra {
 // after a question. True when all is saved: the record then counts as unchanged, InCalculation is "Yes" and
 // Suite.RecordTotal tells the number of records. False after a refusal, which the user has been told of; the
 // record then still counts as changed. When a row beside the head is refused by the database the head stays.
-bool SaveTRCalc();
+// In a run over many records the question names the tag, and Enter keeps what is on file.
+bool SaveTRCalc(bool inARun = false);
 
 // Writes all rows of the record in hand to an empty database, under its tag, without a question or a word.
 void WriteWholeRecord(Database& database);

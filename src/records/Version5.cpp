@@ -196,7 +196,7 @@ Version5Report SaveVersion5(const Version5File& records, const std::vector<std::
         const auto line = static_cast<std::size_t>(index);
         Calc.Tag = line < tags.size() ? std::string(Trim(tags[line])) : "";
         Calc.LoadedDatabaseFile.clear();  // the record is of no database: all of it is written
-        if (SaveTRCalc()) continue;
+        if (SaveTRCalc(true)) continue;
         report.Unsaved.push_back(NameInList(index, Calc.Tag));
         if (report.Unsaved.size() % RefusalsToAsk == 0 && !MayGoOn(report)) {
             report.Stopped = true;

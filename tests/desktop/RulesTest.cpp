@@ -1,8 +1,10 @@
 // Rules over all controls of all forms. They run once for each scale of the screen, in a process of its own.
+#include <map>
 #include <set>
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -114,6 +116,39 @@ TEST_P(Rules, EveryInputSpeaks) {
             EXPECT_TRUE(spoken->state().checked);
         }
     }
+}
+
+// Alt and a letter means one thing on a form, whatever is open or switched off, and every button of the suite's
+// own words has such a letter. Enter and Escape press OK and Cancel.
+TEST_P(Rules, NoAccessKeyStandsTwice) {
+    const std::set<std::string> withoutKey = {"OK", "Cancel", "Maximum", "Normal", "Minimum"};
+    std::map<std::pair<const Control*, QChar>, const Control*> owners;
+    for (const Control* control : Shown.Controls()) {
+        const bool isEntry = control->Kind() == ControlKind::MenuItem;
+        const QString caption = ToQt(control->Caption());
+        const QKeySequence keys = QKeySequence::mnemonic(caption);
+        const bool showsValue = control->LabelControl() != nullptr || control->Name() == "cmdUnits" ||
+                                control->Name() == "cmdBaroPress" || control->Name() == "cmdUnit";
+        const bool isButton = control->Kind() == ControlKind::CommandButton && !showsValue &&
+                              !withoutKey.contains(control->Caption());
+        if (isEntry || isButton) EXPECT_FALSE(keys.isEmpty()) << control->FullName();
+        if (keys.isEmpty() || control->Kind() == ControlKind::Frame) continue;
+        const Control* const menu = isEntry ? control->Container() : nullptr;
+        const QChar letter = caption.at(caption.indexOf('&') + 1).toUpper();
+        const Control* const former = owners.emplace(std::pair(menu, letter), control).first->second;
+        const bool bothQuantities = former->Name() == "cmdUnit" && control->Name() == "cmdUnit";
+        EXPECT_TRUE(former == control || bothQuantities)
+            << former->FullName() << " and " << control->FullName();
+    }
+}
+
+TEST_P(Rules, F1OpensTheHelp) {
+    QWidget* const focus = WindowOf(Shown).focusWidget();
+    QTest::keyClick(focus == nullptr ? &WindowOf(Shown) : focus, Qt::Key_F1);
+    Settle();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto isHelp = [](const QWidget* each) { return each->objectName() == "help" && each->isVisible(); };
+    EXPECT_TRUE(std::any_of(windows.begin(), windows.end(), isHelp));
 }
 
 // Every control that takes input can be reached without a mouse, and none keeps the keyboard.

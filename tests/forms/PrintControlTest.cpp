@@ -108,8 +108,11 @@ TEST_F(PrintControl, PickedRecordsAreShownAndPrintedWithTodaysDate) {
     PickRow(control.lstTags, 4);
     ClickControl(control.chkPrintDate);
     EXPECT_EQ(control.txtPrintoutDate.Text(), "02/03/2027");
-    User.ChosenFile = "any.pdf";
+    User.ChosenFile = "any";
     ClickControl(control.cmdPdf);
+    EXPECT_TRUE(User.Proposed.ends_with("\\TRDB.pdf")) << User.Proposed;
+    EXPECT_EQ(User.Jobs.back().Path, "any.pdf");
+    EXPECT_EQ(LoadForm("frmTRProg").Status(), "2 records, 2 pages: any.pdf");
     EXPECT_EQ(TagsPrinted(), "T-3 T-5 ");
     EXPECT_NE(PageAsText(User.Pages[1]).find("02/03/2027"), std::string::npos);
     EXPECT_EQ(User.Jobs.back().To, PrintJob::Target::Pdf);
@@ -153,6 +156,13 @@ TEST_F(PrintControl, StopsForTheUserAndForAPrinterThatFails) {
     ClickControl(control.cmdProceed);
     EXPECT_TRUE(User.Jobs.empty());
     staysUsable();
+    for (const auto& [from, to, told] : {std::tuple{4, 2, "The range of pages ends before it begins: 4 to 2"},
+                                         {6, 9, "There is no page 6 to 9"}}) {
+        User.Printing = PrinterChoice{.FromPage = from, .ToPage = to};
+        ClickControl(control.cmdProceed);
+        EXPECT_EQ(User.LastText(), told);
+        staysUsable();
+    }
 
     User.Printing = PrinterChoice{.Copies = 3};
     User.EscapePressed = true;

@@ -106,6 +106,19 @@ TEST_F(Printout, PrinterThatFailsIsToldAndHarmsNothing) {
     EXPECT_EQ(User.Pages.size(), 4U);
 }
 
+TEST_F(Printout, SaysWhereThePagesWentOrThatThereAreNone) {
+    frmObxPrintCalc& printout = Shown();
+    Calc.Tag = "FT-1/2";
+    User.ChosenFile = "one.of.PDF";
+    ClickControl(printout.mnuPdf);
+    EXPECT_TRUE(User.Proposed.ends_with("\\FT-1-2.pdf")) << User.Proposed;
+    EXPECT_EQ(printout.Status(), "1 page: one.of.PDF");
+    User.Printing = PrinterChoice{.FromPage = 3, .ToPage = 5};
+    ClickControl(printout.cmdOK);
+    EXPECT_EQ(User.LastText(), "There is no page 3 to 5");
+    EXPECT_TRUE(IsFormLoaded("frmObxPrintCalc"));
+}
+
 TEST_F(Printout, CancelledDialogPrintsNothing) {
     User.Printing.reset();
     ClickControl(Shown().cmdOK);

@@ -35,9 +35,13 @@ TEST_F(TablesForm, TellsWhatASaveDropsBeforeItAsks) {
         << User.Boxes[0].Text;
     EXPECT_NE(Bytes("W-PIPE.TXT").find("short"), std::string::npos);
     ClickControl(form.cmdSaveGrid);
+    EXPECT_NE(Bytes("W-PIPE.TXT").find("short"), std::string::npos) << "Enter alone destroys nothing";
+    User.Boxes.clear();
+    User.Answers = {Answer::Yes, Answer::Yes};
+    ClickControl(form.cmdSaveGrid);
     EXPECT_EQ(Bytes("W-PIPE.TXT"), "Size,,,,\r\n1,40,1.049,.133,\r\n6,40,6.065,.28,\r\n,,,,\r\n,,,,\r\n");
     ClickControl(form.cmdSaveGrid);
-    EXPECT_EQ(User.Boxes.size(), 5) << "told once, they are gone";
+    EXPECT_EQ(User.Boxes.size(), 3) << "told once, they are gone";
 }
 
 TEST_F(TablesForm, ATableThatCannotBeReadIsToldAndNotShown) {
@@ -55,6 +59,7 @@ TEST_F(TablesForm, ATableThatCannotBeReadIsToldAndNotShown) {
     ClickControl(form.cmdReloadGrid);
     EXPECT_EQ(User.LastText(), "File Liquid.txt\nFile not found");
     EXPECT_GT(form.grdTable.RowCount(), 100) << "what was read can still be saved";
+    User.Answers = {Answer::Yes};
     ClickControl(form.cmdSaveGrid);
     EXPECT_TRUE(fs::exists(DataFolder() / "Liquid.txt"));
 }
@@ -99,7 +104,12 @@ TEST_F(TablesForm, AnEmptyFileBecomesATable) {
     TypeText(form.txtHole(2), "6.8");
     TypeText(form.txtRecall, "1");
     ClickControl(form.cmdLoadRow);
+    TypeText(form.txtHole(1), "");
+    TypeText(form.txtRecall, "2");
+    ClickControl(form.cmdLoadRow);
+    User.Answers = {Answer::Yes};
     ClickControl(form.cmdSaveGrid);
+    EXPECT_EQ(form.Status(), "Saved as " + form.TableFile + "; 1 row without a name was left out");
     const std::string blanks(26, ' ');
     EXPECT_EQ(Bytes("MaTLDAT.TXT"), "Name " + blanks + ",,,\r\nSteel" + blanks + ",6.8,,\r\n");
 }

@@ -151,6 +151,7 @@ TEST_F(RecordFilesTest, CreateAsksAndReplaces) {
     EXPECT_EQ(User.Boxes[0].Text,
               "New database will Replace Existing DataBase\n0n " + Suite.DatabasePath + "\n\nOK?");
     EXPECT_EQ(User.Boxes[0].Title, "Create New Database File");
+    EXPECT_EQ(User.Boxes[0].Default, Answer::No);
     EXPECT_TRUE(HasRow(HeadTable(), "P-1"));
     // What a crash left beside the former database must not be taken for the new one's.
     WriteData("TRDB.MDB-journal", "left behind");

@@ -27,9 +27,15 @@ answer OK
 click cmdOKSTP
 expect-box "Base conditions" "Barometric pressure must be greater than zero" OK Stop
 expect-focus txtSTPBaro
+type txtSTPBaro 14.5
+type txtSTPTemp 4x
 click cmdSTPSI
-expect txtSTPBaro 101.351
+expect txtSTPPressure 101.351
+expect txtSTPTemp 4x
+expect txtSTPBaro 99.97
 expect unSTPBaro kPaa
+click cmdSTPEnglish
+expect txtSTPBaro 14.5
 click cmdCancelSTP
 expect-state fraSTP hidden
 expect txtDestPress(1) 95.89

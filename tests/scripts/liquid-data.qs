@@ -15,6 +15,9 @@ answer OK
 click mnuCase(1)
 expect-box "Fluid Properties" "Normal Case \nNeed the pressure and temperature" OK
 
+click cmdOK(0)
+expect-status Pick a fluid first, in the menu Fluid properties
+
 # --- A liquid of the table -----------------------------------------------------------------------------------
 click mnuLiquid1
 pick lstFluid "Toluene "

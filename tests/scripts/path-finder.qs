@@ -13,11 +13,17 @@ type txtPath ""
 answer OK
 key txtPath C
 key txtPath -
+expect-status "The key - is not taken here; a path that has it can be pasted or picked"
 key txtPath .
 key txtPath :
 expect-box "Specify drive to be used" "Use Drive C:" OK None
 answer OK
 key txtPath \
+expect-box "Name next subroutine" "Path C:\\" OK None
+expect txtPath C:\
+key txtPath Backspace
+answer OK
+key txtPath /
 expect-box "Name next subroutine" "Path C:\\" OK None
 expect txtPath C:\
 key txtPath a
@@ -37,6 +43,7 @@ type txtPath ""
 click cmdOK
 expect-no-message
 expect-focus txtPath
+expect-status Type a path, or pick one by Browse
 type txtPath Data
 answer OK
 click cmdSave
@@ -83,7 +90,13 @@ click cmdSearch
 expect cmdSearch &Search
 expect cmdExit E&xit
 expect lblCount 0
+expect lblSearch Ready
 expect-focus txtSearchSpec
+click cmdSearch
+type txtSearchSpec *.py
+expect cmdSearch F&ind *.py
+expect cmdExit E&xit
+expect lblSearch Ready
 click cmdExit
 expect-state fraSearch hidden
 click cmdOK

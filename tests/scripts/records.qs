@@ -19,6 +19,7 @@ expect-message Transition
 answer OK
 click mnuSave
 expect-message Each record must have a unique Tag number
+expect-focus txtTagNum
 type txtTagNum "  P-102 "
 answer No
 click mnuSave
@@ -262,7 +263,7 @@ expect-box "Database TRDB.MDB" "Compacting complete" OK
 file @TRData/TRDB.MDB
 answer No
 click mnuRepairDB
-expect-box "Database TRDB.MDB" "Repair the Process Data database?" YesNo
+expect-box "Database TRDB.MDB" "Repair the Process Data database?" YesNo None No
 file @TRData/TRDB.MDB
 answer Yes
 answer OK
@@ -290,6 +291,10 @@ save-as @TRDB.MDB
 answer OK
 click mnuSaveAs
 expect-message Open failed (Database invalid)
+save-as @none/TRDB.MDB
+answer No
+click mnuSaveAs
+expect-message Create it?
 click mnuProgram
 click optBrouseDB
 answer OK

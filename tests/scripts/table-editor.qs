@@ -42,6 +42,8 @@ key txtHole(1) Escape
 expect-state picValveNotes hidden
 expect-focus txtRecall
 
+expect-tip cmdRecall From the table into the boxes: the row of that number
+expect-tip cmdLoadRow From the boxes into the table: over the row of that number
 # Recall: the pending row first, then the row of that number.
 type txtHole(2) changed
 answer No
@@ -166,7 +168,7 @@ expect-cell grdTable 3 0 3
 # Save: No writes nothing, Yes does.
 answer No
 click cmdSaveGrid
-expect-box "Save a New File" "Save the new file and destroy the old file?" YesNo
+expect-box "Save a New File" "Save the new file and destroy the old file?" YesNo None No
 click cmdReloadGrid
 expect-cell grdTable 2 2 40S
 expect-cell grdTable 5 2 30

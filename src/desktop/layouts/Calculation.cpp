@@ -11,7 +11,7 @@ Node Identification() {
 Node Signatures() {
     return Panel("Prepared", Column({Table({{"lblBy", Item("txtBy").Wide(16).Grow()},
                                             {"lblApprov", Item("txtApprov").Wide(16).Grow()},
-                                            {Words("Date"), "cmdDate"}}),
+                                            {"lblDate", "cmdDate"}}),
                                      "lblComments", Item("txtComments(0)").Wide(24).Grow(),
                                      Item("txtComments(1)").Wide(24).Grow(), Stretch()}));
 }
