@@ -389,7 +389,8 @@ void frmUnits::cmdCancelUn_Click() {
     }
 }
 
-void frmUnits::CloseBox() { cmdCancelUn_Click(); }
+// What is open in front closes first.
+void frmUnits::CloseBox() { fraSelect.Visible() ? cmdCancel_Click() : cmdCancelUn_Click(); }
 
 // --- The library ---------------------------------------------------------------------------------------
 

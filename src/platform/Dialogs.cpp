@@ -1,11 +1,12 @@
 // See Dialogs.h.
 #include "platform/Dialogs.h"
 
+#include <algorithm>
+#include <cctype>
 #include <stdexcept>
 
 #include "platform/Events.h"
 #include "platform/Host.h"
-#include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -22,15 +23,22 @@ Host& RequiredHost() {
     return *InstalledHost;
 }
 
-// The ending of the filter's first pattern ("*.pdf") goes behind a name without it. False when nothing was
+// Two to four letters and digits behind a point, the first a letter: "FT-101.2" has no ending.
+bool HasEnding(const std::string& file) {
+    const std::size_t point = file.find_last_of(".\\/");
+    if (point == std::string::npos || file[point] != '.') return false;
+    const std::string ending = file.substr(point + 1);
+    const auto isPart = [](unsigned char c) { return std::isalnum(c) != 0; };
+    return ending.size() >= 2 && ending.size() <= 4 && std::ranges::all_of(ending, isPart) &&
+           std::isalpha(static_cast<unsigned char>(ending[0])) != 0;
+}
+
+// The ending of the filter's first pattern ("*.pdf") goes behind a name without any. False when nothing was
 // to be added.
 bool AddEnding(std::string& file, const std::string& filter) {
     const std::size_t star = filter.find("|*.");
-    if (star == std::string::npos) return false;
-    const std::string ending = filter.substr(star + 2, filter.find_first_of("|;", star + 2) - star - 2);
-    if (file.size() > ending.size() && SameName(file.substr(file.size() - ending.size()), ending))
-        return false;
-    file += ending;
+    if (star == std::string::npos || HasEnding(file)) return false;
+    file += filter.substr(star + 2, filter.find_first_of("|;", star + 2) - star - 2);
     return true;
 }
 
