@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -56,6 +57,35 @@ private:
     QWidget* view_;
     int rows_ = 0;
     QSize size_;
+};
+
+// Letters find the row that begins with them, from the one in hand on, which stays in hand when it does. The
+// same letter again goes on to the next.
+class TypedList : public QListView {
+public:
+    using QListView::QListView;
+
+    void keyboardSearch(const QString& letters) override {
+        if (!typedAt_.isValid() || typedAt_.elapsed() > QApplication::keyboardInputInterval()) typed_.clear();
+        typedAt_.start();
+        typed_ += letters;
+        QModelIndex found = Find(typed_, currentIndex().row());
+        const bool again =
+            typed_.size() > 1 && typed_.count(typed_.at(0), Qt::CaseInsensitive) == typed_.size();
+        if (!found.isValid() && again) found = Find(typed_.left(1), currentIndex().row() + 1);
+        if (found.isValid()) setCurrentIndex(found);
+    }
+
+private:
+    QModelIndex Find(const QString& start, int row) const {
+        const int rows = model() == nullptr ? 0 : model()->rowCount();
+        if (rows == 0) return {};
+        const QModelIndex first = model()->index(std::max(row, 0) % rows, 0);
+        return model()->match(first, Qt::DisplayRole, start, 1, Qt::MatchStartsWith | Qt::MatchWrap).value(0);
+    }
+
+    QString typed_;
+    QElapsedTimer typedAt_;
 };
 
 // Keeps a list widget and the selection of its model alike. While the mouse is down the user is still
@@ -376,7 +406,7 @@ ControlView* MakeListView(Control& control, QWidget* parent) {
     if (control.Kind() == ControlKind::Grid)
         return new GridView(static_cast<Grid&>(control), new QTableView(parent));
     if (control.Kind() == ControlKind::ListBox) {
-        auto* const view = new QListView(parent);
+        auto* const view = new TypedList(parent);
         return new ListBoxView(static_cast<ListBox&>(control), view, view);
     }
     auto* const whole = new QWidget(parent);

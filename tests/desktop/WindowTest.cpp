@@ -216,6 +216,23 @@ TEST_F(WindowTest, RowsArePickedByMouseAndKeys) {
 }
 
 // A list that gets the keyboard by Tab must not choose a row that nobody chose.
+// What is typed finds the row in hand first, and the same letter goes round.
+TEST_F(WindowTest, LettersKeepTheRowThatBeginsWithThem) {
+    ListBox& list = Sample->lstRows;
+    list.SetRows({"Acetaldehyde", "Acetic Acid", "Acetone", "Air"});
+    list.Preselect(1);
+    MoveFocus(list);
+    for (const auto& [letters, row] : {std::pair{"acet", 1}, {"o", 2}}) {
+        QTest::keyClicks(&Rows(list), letters);
+        EXPECT_EQ(list.Selected(), row) << letters;
+    }
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    for (const int row : {2, 3, 0}) {
+        QTest::keyClicks(&Rows(list), "a");
+        EXPECT_EQ(list.Selected(), row);
+    }
+}
+
 TEST_F(WindowTest, ReachingAListPicksNothing) {
     Sample->lstRows.SetRows({"a", "b"});
     MoveFocus(Sample->lstRows);

@@ -15,6 +15,8 @@ answer OK
 click mnuCase(1)
 expect-box "Fluid Properties" "Normal Case \nNeed the pressure and temperature" OK
 
+key txtTemp(0) Alt+n
+expect-focus txtTagNum
 click cmdOK(0)
 expect-status Pick a fluid first, in the menu Fluid properties
 
