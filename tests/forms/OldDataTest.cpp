@@ -189,7 +189,11 @@ TEST_F(OldData, ABadRecordDoesNotStopTheRun) {
         {good + good, "\nB", "B ", "Not saved:\nrecord 1, without a tag", {}},
         {good + good, std::string(31, 'x') + "\nB", "B ", "'Tag' holds at most 30", {}},
         {good + good, "A\na\n", "A ", "record 2, a", {Answer::Yes}},
-        {good + good, "A\na\n", "A ", "Tag Number a is on file\nOverwrite the existing record?", {Answer::Yes}},
+        {good + good,
+         "A\na\n",
+         "A ",
+         "Tag Number a is on file\nOverwrite the existing record?",
+         {Answer::Yes}},
         {of(0) + good + of(6) + of(-1), "Z\nA\nX\nY", "A ", "3 records are of programs", {}},
         {nonsense.Bytes + good, "N\nA\n", "A N ", "Conversion Complete!", {}},
     };
