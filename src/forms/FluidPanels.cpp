@@ -52,7 +52,7 @@ MixturePanel::MixturePanel(CalculationForm& form)
     fraComponent.SetVisible(false);
     txtPercent.Each([this](TextBox& box, int i) {
         box.IsNumber = true;
-        box.SetToolTip("R takes what remains");
+        box.SetToolTip("R takes what remains; Shift+Tab leads back to the list");
         box.Describe(&lblComponent(i), nullptr, "percent");
         box.Change = [this] { ShowRemaining(); };
         box.KeyPress = [this, i](Key& key) {
