@@ -11,6 +11,7 @@
 #include "desktop/DesktopHost.h"
 #include "desktop/Painting.h"
 #include "desktop/ReadyForUser.h"
+#include "forms/FileGuard.h"
 #include "paper/PagePainter.h"
 #include "paper/PdfPaper.h"
 #include "platform/RuntimeError.h"
@@ -80,6 +81,9 @@ std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& pre
     printer.setFromTo(preset.FromPage, preset.ToPage);
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    // The dialog may print into a file too.
+    const std::string file = printer.outputFileName().toStdString();
+    if (!file.empty() && !MayWrite(file, "a printout", "Print")) return std::nullopt;
     PrinterChoice choice{.Copies = printer.copyCount()};
     if (printer.printRange() == QPrinter::PageRange) {
         choice.FromPage = PageIn(dialog, "from", printer.fromPage());

@@ -3,6 +3,7 @@
 #include "core/CalcRecord.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
+#include "forms/FileGuard.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
 #include "platform/Folders.h"
@@ -93,8 +94,7 @@ void frmTRProg::mnuExport_Click() {
                                .Filter = "Comma separated values(*.csv)|*.csv",
                                .Folder = ProposedFile(Suite.DatabasePath, "TRDB.csv"),
                                .ForSaving = true});
-    if (!file || file->empty()) return;
-    if (IsDatabaseName(*file)) return Tell("A database cannot be written over by an export", title);
+    if (!file || file->empty() || !MayWrite(*file, "an export", title)) return;
     int count = 0;
     {
         const BusyPointer busy;

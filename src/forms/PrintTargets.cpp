@@ -4,10 +4,10 @@
 #include <algorithm>
 
 #include "core/Suite.h"
+#include "forms/FileGuard.h"
 #include "platform/Dialogs.h"
 #include "platform/Folders.h"
 #include "platform/Printer.h"
-#include "records/RecordFiles.h"
 
 namespace quillmetra {
 
@@ -47,11 +47,7 @@ std::optional<PrintJob> AskPdf(const std::string& name) {
                                .Filter = "PDF files(*.pdf)|*.pdf",
                                .Folder = ProposedFile(Suite.DefaultPaths[1], name + ".pdf"),
                                .ForSaving = true});
-    if (!path || path->empty()) return {};
-    if (IsDatabaseName(*path)) {
-        Tell("A database cannot be written over by a printout", PdfTitle);
-        return {};
-    }
+    if (!path || path->empty() || !MayWrite(*path, "a printout", PdfTitle)) return {};
     TakePages(0, 0, 1);
     return PrintJob{.To = PrintJob::Target::Pdf, .Path = *path};
 }

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <map>
 #include <utility>
 
@@ -164,11 +163,6 @@ void TextPaper::Print(const PrintedPage& page) {
     text_ += PageAsText(page);
 }
 
-void TextPaper::Finish() {
-    std::ofstream file(MachinePath(path_), std::ios::binary);
-    file << text_;
-    file.close();
-    if (!file) throw failure::PathAccess();
-}
+void TextPaper::Finish() { ReplaceFile(path_, text_); }
 
 }  // namespace quillmetra

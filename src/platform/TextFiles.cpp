@@ -254,15 +254,37 @@ std::string ItemReader::NextText() {
 
 double ItemReader::NextNumber() { return Val(NextText()); }
 
-TextWriter::TextWriter(std::string_view suitePath) : target_(MachinePath(suitePath)) {
-    beside_ = target_;
-    beside_ += ".quillmetra-new";
+namespace {
+
+void WriteBytes(const fs::path& path, std::string_view bytes) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    if (!file) throw failure::PathAccess();
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) throw failure::PathAccess();
 }
 
-TextWriter::~TextWriter() {
-    std::error_code ignored;
-    if (written_) fs::remove(beside_, ignored);
+}  // namespace
+
+void ReplaceFile(std::string_view suitePath, std::string_view bytes) {
+    const fs::path target = MachinePath(suitePath);
+    if (IsWriteProtected(target)) throw failure::PathAccess();
+    std::error_code error;
+    const fs::file_type type = fs::status(target, error).type();
+    // A pipe or a device has nothing that could be lost, and must stay what it is.
+    if (type == fs::file_type::fifo || type == fs::file_type::character) return WriteBytes(target, bytes);
+    fs::path beside = target;
+    beside += ".quillmetra-new";
+    try {
+        WriteBytes(beside, bytes);
+        MoveOver(beside, target);
+    } catch (const RuntimeError&) {
+        RemoveIfThere(beside);
+        throw;
+    }
 }
+
+TextWriter::TextWriter(std::string_view suitePath) : path_(suitePath) {}
 
 void TextWriter::Line(std::string_view text) {
     text_ += Code1252From(text);
@@ -274,17 +296,9 @@ void TextWriter::Quoted(std::string_view text) { Line('"' + std::string(text) + 
 void TextWriter::Number(double value) { Line(Str(value)); }
 
 void TextWriter::Commit() {
-    std::error_code error;
-    if (IsWriteProtected(target_)) throw failure::PathAccess();
-    fs::create_directories(target_.parent_path(), error);
-    std::ofstream file(beside_, std::ios::binary | std::ios::trunc);
-    if (!file) throw failure::PathAccess();
-    written_ = true;
-    file.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-    file.close();
-    if (!file) throw failure::PathAccess();
-    MoveOver(beside_, target_);
-    written_ = false;
+    std::error_code ignored;
+    fs::create_directories(MachinePath(path_).parent_path(), ignored);
+    ReplaceFile(path_, text_);
 }
 
 }  // namespace quillmetra

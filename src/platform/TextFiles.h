@@ -87,13 +87,13 @@ private:
 };
 
 // Writes a file beside its place and puts it there in one step, so that a failure leaves the old file as
-// it was. The folder of the file is made when it is not there. Without Commit nothing changes.
+// it was.
+void ReplaceFile(std::string_view suitePath, std::string_view bytes);
+
+// A text file that is written so; its folder is made when it is not there. Without Commit nothing changes.
 class TextWriter {
 public:
     explicit TextWriter(std::string_view suitePath);
-    ~TextWriter();
-    TextWriter(const TextWriter&) = delete;
-    TextWriter& operator=(const TextWriter&) = delete;
 
     void Line(std::string_view text);
     void Quoted(std::string_view text);  // a text item in quotes
@@ -101,9 +101,7 @@ public:
     void Commit();
 
 private:
-    std::filesystem::path target_;
-    std::filesystem::path beside_;
-    bool written_ = false;
+    std::string path_;
     std::string text_;
 };
 

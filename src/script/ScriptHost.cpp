@@ -5,8 +5,10 @@
 #include <sstream>
 #include <utility>
 
+#include "forms/FileGuard.h"
 #include "paper/PdfPaper.h"
 #include "platform/Form.h"
+#include "platform/RuntimeError.h"
 #include "script/ScriptFailure.h"
 
 namespace quillmetra {
@@ -150,6 +152,8 @@ std::optional<unsigned> ScriptHost::ColourDialog(unsigned, const std::string&) {
 std::unique_ptr<Paper> ScriptHost::OpenPaper(const PrintJob& job) {
     const PrintTarget target = std::exchange(NextPrint, {});
     if (target.Path.empty() && job.To != PrintJob::Target::Pdf) return std::make_unique<OutputPaper>(out_);
+    const std::string reason = target.Path.empty() ? "" : WhyNotToWrite(target.Path, "a printout");
+    if (!reason.empty()) throw RuntimeError(failure::PathAccess().Number, reason);
     if (target.AsText) return std::make_unique<TextPaper>(target.Path);
     PrintJob pdf = job;
     if (!target.Path.empty()) pdf.Path = target.Path;

@@ -246,7 +246,9 @@ const TableDescription Gas = {.KeyWord = "Gas",
                               .NameWidth = 31,
                               .TrimsFields = false,
                               .Kept = KeptRows::Named,
-                              .Separator = ","};
+                              .Separator = ",",
+                              .LongestName = 30,
+                              .LongestLine = 110};
 
 const TableDescription Liquid = {.KeyWord = "Liquid",
                                  .Title = "Liquid Data File Liquid.txt",
@@ -258,7 +260,9 @@ const TableDescription Liquid = {.KeyWord = "Liquid",
                                  .NameWidth = 31,
                                  .TrimsFields = false,
                                  .Kept = KeptRows::Named,
-                                 .Separator = ","};
+                                 .Separator = ",",
+                                 .LongestName = 30,
+                                 .LongestLine = 110};
 
 const TableDescription Pipe = {.KeyWord = "Pipe",
                                .Title = "Pipe Size Data File  W-PIPE.TXT",
@@ -282,7 +286,8 @@ const TableDescription Modulus = {.KeyWord = "Modulus",
                                   .NameWidth = 23,
                                   .TrimsFields = false,
                                   .Kept = KeptRows::Named,
-                                  .Separator = ","};
+                                  .Separator = ",",
+                                  .LongestName = 30};
 
 const TableDescription Material = {.KeyWord = "Material",
                                    .Title = "Coefficient of Expansion Data File  MATERIAL.DAT",
@@ -358,13 +363,25 @@ const TableDescription Elbow = {.KeyWord = "Elbow",
 
 }  // namespace table
 
+namespace {
+constexpr const TableDescription* AllTables[] = {
+    &table::Valve, &table::Valve3,    &table::Gas,      &table::Liquid, &table::Pipe,    &table::Modulus,
+    &table::Wedge, &table::Rotameter, &table::Material, &table::Ifoa,   &table::Annubar, &table::Elbow};
+
+template <typename Test>
+const TableDescription* FirstTable(Test test) {
+    const auto found = std::ranges::find_if(AllTables, test);
+    return found == std::end(AllTables) ? nullptr : *found;
+}
+}  // namespace
+
 const TableDescription* FindTable(string_view keyWord) {
-    using namespace table;
-    for (const TableDescription* each : {&Valve, &Valve3, &Gas, &Liquid, &Pipe, &Modulus, &Material, &Wedge,
-                                         &Rotameter, &Ifoa, &Annubar, &Elbow}) {
-        if (each->KeyWord == keyWord) return each;
-    }
-    return nullptr;
+    return FirstTable([&](const TableDescription* each) { return each->KeyWord == keyWord; });
+}
+
+bool IsTableFile(string_view fileName) {
+    return FirstTable([&](const TableDescription* each) { return SameName(each->FileName, fileName); }) !=
+           nullptr;
 }
 
 std::string TableTitle(const TableDescription& table, const TableVariant& variant) {

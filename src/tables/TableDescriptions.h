@@ -40,6 +40,8 @@ struct TableDescription {
     bool TrimsFields;   // the splitter takes the blanks off, else it keeps them
     KeptRows Kept;
     std::string_view Separator;  // written after each field
+    // What a saved calculation has room for of a row, in characters; 0 where it keeps nothing of it.
+    std::size_t LongestName = 0, LongestLine = 0;
 
     int ColumnCount() const { return static_cast<int>(Columns.size()); }
 };
@@ -61,6 +63,9 @@ struct TableVariant {
 
 // The table of an editor's key word; null when there is none.
 const TableDescription* FindTable(std::string_view keyWord);
+
+// Whether a table's file is named so, in whatever case.
+bool IsTableFile(std::string_view fileName);
 
 std::string TableTitle(const TableDescription& table, const TableVariant& variant = {});
 std::string TableHeading(const TableDescription& table, const TableVariant& variant = {});

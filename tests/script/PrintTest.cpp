@@ -133,16 +133,37 @@ TEST(Print, FileThatCannotBeWrittenIsTold) {
     }
 }
 
-TEST(Print, NoPdfGoesOverADatabase) {
+// A database by its name or by its first bytes, and what the suite reads from its own folders.
+TEST(Print, NoPrintGoesOverAFileOfTheSuite) {
     const TemporaryFolder folder;
-    const std::string database = folder.Path().string() + "/trdb.mdb";
-    std::ofstream(database) << "records";
-    const Outcome outcome =
-        Play("print-liquid-english.qs",
-             "save-as " + database +
-                 "\nanswer OK\nclick mnuPdf\nexpect-message A database cannot be written over");
+    const std::string path = folder.Path().string() + "/";
+    std::ofstream(path + "trdb.mdb") << "records";
+    std::ofstream(path + "other.pdf") << "SQLite format 3 and more";
+    const std::pair<std::string, std::string> cases[] = {
+        {path + "trdb.mdb", "A database"},
+        {path + "other.pdf", "A database"},
+        {"@TRData/LIQUID.TXT", "Liquid.txt is a file of the suite"},
+        {"@TRData/../trhdg.txt", "trhdg.txt is a file"}};
+    for (const auto& [file, told] : cases) {
+        std::string lines = "answer OK\nsave-as " + file + "\nclick mnuPdf\nexpect-message " + told + "\n";
+        if (!file.starts_with('@'))
+            lines += "answer OK\ntext " + file + "\nclick cmdOK\nexpect-message " + told + "\n";
+        const Outcome outcome = Play("print-liquid-english.qs", lines);
+        EXPECT_EQ(outcome.Code, 0) << outcome.Errors;
+    }
+    EXPECT_EQ(ReadFile(path + "trdb.mdb"), "records");
+}
+
+// A print that fails leaves the former file.
+TEST(Print, ATextIsWrittenWholeOrNotAtAll) {
+    const TemporaryFolder folder;
+    const std::string page = folder.Path().string() + "/page.txt";
+    std::ofstream(page) << "former";
+    std::filesystem::create_directory(page + ".quillmetra-new");
+    const Outcome outcome = Play("print-liquid-english.qs",
+                                 "text " + page + "\nanswer OK\nclick cmdOK\nexpect-message access error\n");
     EXPECT_EQ(outcome.Code, 0) << outcome.Errors;
-    EXPECT_EQ(ReadFile(database), "records");
+    EXPECT_EQ(ReadFile(page), "former");
 }
 
 TEST(Print, WithoutATargetThePageGoesToTheOutput) {

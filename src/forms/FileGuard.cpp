@@ -1,0 +1,72 @@
+// See FileGuard.h.
+#include "forms/FileGuard.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+
+#include "core/Suite.h"
+#include "platform/Dialogs.h"
+#include "platform/TextCase.h"
+#include "platform/TextFiles.h"
+#include "records/RecordFiles.h"
+#include "tables/TableDescriptions.h"
+
+namespace quillmetra {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the suite reads from its folders, beside its tables.
+constexpr std::array OwnFiles = {"TRDRV.txt", "TRcolr.txt", "TRSTP.TXT",      "TRUNS.txt", "TRLib.TXT",
+                                 "TRHDG.txt", "STEAM.txt",  "Background.TXT", "Stm07.Dat", "VOTR.HLP",
+                                 "TRDB.BAK",  "TRDB.BAD",   "TRRECOV.MDB"};
+
+bool IsOwnName(const std::string& name) {
+    const auto same = [&name](std::string_view own) { return SameName(own, name); };
+    return std::ranges::any_of(OwnFiles, same) || IsTableFile(name);
+}
+
+// Links and letters of another case lead to the same file.
+fs::path TrueName(const std::string& file) {
+    std::error_code error;
+    const fs::path path = MachinePath(file);
+    const fs::path name = fs::weakly_canonical(path, error);
+    return error ? path : name;
+}
+
+bool IsOwnFile(const fs::path& file) {
+    const auto holds = [&file](const std::string& folder) {
+        return !folder.empty() && TrueName(folder) == file.parent_path();
+    };
+    return IsOwnName(SuitePath(file.filename())) && std::ranges::any_of(Suite.DefaultPaths, holds);
+}
+
+bool BeginsAsDatabase(const fs::path& file) {
+    constexpr std::string_view mark = "SQLite format 3";
+    std::error_code error;
+    if (!fs::is_regular_file(file, error)) return false;
+    std::array<char, mark.size()> start{};
+    std::ifstream(file, std::ios::binary).read(start.data(), start.size());
+    return std::string_view(start.data(), start.size()) == mark;
+}
+
+}  // namespace
+
+std::string WhyNotToWrite(const std::string& file, const std::string& by) {
+    const fs::path name = TrueName(file);
+    if (IsDatabaseName(file) || BeginsAsDatabase(name)) return "A database cannot be written over by " + by;
+    if (!IsOwnFile(name)) return "";
+    return SuitePath(name.filename()) + " is a file of the suite: it cannot be written over by " + by;
+}
+
+bool MayWrite(const std::string& file, const std::string& by, const std::string& title) {
+    const std::string reason = WhyNotToWrite(file, by);
+    if (!reason.empty()) Tell(reason, title);
+    return reason.empty();
+}
+
+}  // namespace quillmetra
