@@ -45,6 +45,13 @@ private:
     bool& flag_;
 };
 
+// The fields of a row of the grid, whose first cell is the row's number.
+TableFields FieldsOf(const Grid::Cells& cells) {
+    TableFields fields;
+    for (std::size_t i = 1; i < cells.size() && i <= fields.size(); ++i) fields[i - 1] = cells[i];
+    return fields;
+}
+
 }  // namespace
 
 void EditTable(std::string_view keyWord, const TableVariant& variant) {
@@ -78,7 +85,7 @@ frmTables::frmTables() : SuiteForm("frmTables") {
         lblColumn(index).ColourGroup = 1;
         box.ColourGroup = 2;
         box.Describe(&lblColumn(index));
-        box.Change = [this, index] { txtHole_Change(index); };
+        box.Change = [this] { txtHole_Change(); };
         box.KeyPress = [this, index](Key& key) { txtHole_KeyPress(index, key); };
         box.GotFocus = [this, index] { txtHole_GotFocus(index); };
         box.LostFocus = [this] { txtHole_LostFocus(); };
@@ -184,12 +191,14 @@ void frmTables::ShowRow(int row) {
     txtHole.Each([&](TextBox& box, int index) {
         if (index < grdTable.ColumnCount()) box.SetText(grdTable.Cell(row, index));
     });
+    SetStatus(WarningOfRow(FieldsOf(CellsOfBoxes())));
 }
 
 void frmTables::ClearBoxes() {
     const ScopedTrue copying(copying_);
     txtHole.Each([](TextBox& box, int) { box.SetText(""); });
     lblRowNum.SetCaption("");
+    SetStatus("");
 }
 
 Grid::Cells frmTables::CellsOfBoxes() const {
@@ -206,6 +215,7 @@ void frmTables::StoreRow() {
     }
     RowEdited.clear();
     GridChanged = words::Yes;
+    SetStatus(WarningOfRow(FieldsOf(CellsOfBoxes())));
 }
 
 void frmTables::StorePending(const std::string& row, const char* ending) {
@@ -233,11 +243,28 @@ const char* WarningOf(const std::string& field) {
 }
 }  // namespace
 
-void frmTables::txtHole_Change(int index) {
+std::string frmTables::WarningOfRow(const TableFields& fields) const {
+    for (const std::string& field : fields) {
+        if (const char* warning = WarningOf(field); *warning != '\0') return warning;
+    }
+    return table_ == nullptr ? "" : RowWarning(*table_, fields);
+}
+
+// The first row that the file or a calculation will not keep.
+std::string frmTables::WarningOfGrid() const {
+    const std::vector<TableFields> rows = FieldsOfGrid();
+    for (std::size_t i = 1; i < rows.size(); ++i) {
+        const std::string warning = WarningOfRow(rows[i]);
+        if (!warning.empty()) return "Row " + std::to_string(i) + ": " + warning;
+    }
+    return "";
+}
+
+void frmTables::txtHole_Change() {
     if (copying_) return;
     RowEdited = words::Yes;
     FileEdited = words::Yes;
-    SetStatus(WarningOf(txtHole(index).Text()));
+    SetStatus(WarningOfRow(FieldsOf(CellsOfBoxes())));
 }
 
 void frmTables::txtHole_KeyPress(int index, Key& key) {
@@ -370,6 +397,7 @@ std::string frmTables::RowsLeftOut() const {
 bool frmTables::Save(Answer preset) {
     StorePending(Str(CurrentRow), " OK?");
     TellLostLines();
+    SetStatus(WarningOfGrid());
     if (!AskYesNo("Save the new file and destroy the old file?", SaveTitle, Icon::None, preset))
         return true;
     try {

@@ -55,7 +55,7 @@ public:
     CommandButton cmdCancelGrid{*this, "cmdCancelGrid", "E&xit"};
 
     void grdTable_Click();
-    void txtHole_Change(int index);
+    void txtHole_Change();
     void txtHole_KeyPress(int index, Key& key);
     void txtHole_GotFocus(int index);
     void txtHole_LostFocus();
@@ -106,6 +106,8 @@ private:
     // "; 2 rows without a name were left out", of the save just done; empty for none.
     std::string RowsLeftOut() const;
     std::vector<TableFields> FieldsOfGrid() const;
+    std::string WarningOfRow(const TableFields& fields) const;
+    std::string WarningOfGrid() const;
     // False when the file could not be written; a save that the user declines is none.
     bool Save(Answer preset);
 

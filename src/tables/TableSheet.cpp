@@ -79,6 +79,21 @@ std::optional<std::string> SavedTableLine(const TableDescription& table, const T
     return LineOf(table, fields);
 }
 
+std::string RowWarning(const TableDescription& table, const TableFields& fields) {
+    const auto exceeds = [](std::string_view text, std::size_t most) {
+        return most > 0 && CharacterCount(text) > most;
+    };
+    const auto words = [](const char* what, std::size_t most, const char* record) {
+        return what + std::to_string(most) + " letters: no " + record + " with this row can be saved";
+    };
+    if (exceeds(Trim(fields[0]), table.LongestName)) {
+        return words("The name has more than ", table.LongestName, "calculation");
+    }
+    const std::string line = SavedTableLine(table, fields).value_or("");
+    return exceeds(line, table.LongestLine) ? words("The row has more than ", table.LongestLine, "mixture")
+                                            : "";
+}
+
 void SaveTable(const TableDescription& table, const std::vector<TableFields>& rows,
                const TableVariant& variant) {
     TextWriter file(TablePath(table, variant));

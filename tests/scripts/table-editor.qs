@@ -216,6 +216,24 @@ expect-box "Save a New File" "Save the new file and destroy the old file?" YesNo
 expect-form frmObxProg
 click mnuGasTable
 expect-cell grdTable 1 1 "1-Butene                       "
+# A row that no calculation can be saved with is told as it is typed, loaded and saved.
+row grdTable 1
+type txtHole(1) "A gas of no less than 31 letters"
+expect-status "The name has more than 30 letters: no calculation with this row can be saved"
+answer Yes
+click cmdRecall
+expect-message "Load Input Data in row  1 OK?"
+row grdTable 2
+expect-status ""
+answer No
+click cmdSaveGrid
+expect-message "Save the new file"
+expect-status "Row 1: The name has more than 30 letters: no calculation with this row can be saved"
+click cmdReloadGrid
+row grdTable 2
+type txtHole(15) "a reference that goes on beyond the end of the line of a record"
+expect-status "The row has more than 110 letters: no mixture with this row can be saved"
+click cmdReloadGrid
 # A box that was changed and recalled over is no change.
 row grdTable 1
 type txtHole(5) 1
