@@ -42,6 +42,11 @@ constexpr std::size_t CommentLength = 60;
 
 std::string WithoutPrompt(const std::string& text, const char* prompt) { return text == prompt ? "" : text; }
 
+// The user has changed something that a save would keep.
+void NoteChange() {
+    if (Calc.FormLoading != words::Yes) Calc.ChangedFlag = words::No;
+}
+
 // A number goes into its field only when it differs from what the box was last filled with.
 void TakeNumber(double& field, const std::string& text) {
     const double typed = Val(text);
@@ -63,6 +68,7 @@ CalculationForm::CalculationForm(const Names& names)
     txtBy.MaxLength = txtApprov.MaxLength = NameLength;
     txtComments.Each([this](TextBox& box, int i) {
         box.MaxLength = CommentLength;
+        box.Change = NoteChange;
         box.Describe(&lblComments, nullptr, std::to_string(i + 1));
     });
     txtTagNum.Describe(&lblTagNum);
@@ -106,9 +112,7 @@ CalculationForm::CalculationForm(const Names& names)
     txtApprov.GotFocus = [this] {
         if (txtApprov.Text() == words::ApprovedPrompt) txtApprov.SelectAll();
     };
-    txtTagNum.Change = [] {
-        if (Calc.FormLoading != words::Yes) Calc.ChangedFlag = words::No;
-    };
+    for (TextBox* box : {&txtTagNum, &txtBy, &txtApprov}) box->Change = NoteChange;
     txtFluid.Change = [this] {
         if (Calc.FormLoading == words::Yes) return;
         // A name typed by hand is no longer the table's fluid: neither its row nor its vapour pressure hold.
@@ -153,8 +157,7 @@ void CalculationForm::Load() {
             ReopenRecord();
         } else {
             ApplyUnits();
-            BeginRecord();
-            TakeAsNew();
+            BeginNew();
         }
         ComposeHeading();
         if (Calc.PipeMaterialNumber <= 0) Calc.PipeMaterialNumber = 1;
@@ -167,6 +170,7 @@ void CalculationForm::Load() {
     Calc.FluidOk = mixture ? "" : words::FluidLoaded;
     ShowChoices();
     DrawResults();
+    if (Calc.InCalculation != words::Yes) TakeAsNew();
     mnuPrint.SetEnabled(Calc.InCalculation == words::Yes);  // a saved record has what it was saved with
 }
 
@@ -300,7 +304,13 @@ void CalculationForm::mnuPrint_Click() {
     printout.FillFromRecord();
     printout.cmdOK.SetFocus();
     ShowForm(printout.Name(), Modal::Yes);
-    if (!Calc.CaseText[10].empty()) cmdDate.SetCaption(Calc.CaseText[10]);  // the print has dated the record
+}
+
+void CalculationForm::ShowPrintedTexts() {
+    const Filling filling;
+    txtComments.Each(
+        [](TextBox& box, int i) { box.SetText(Calc.HeadingText[static_cast<std::size_t>(i) + 8]); });
+    if (!Calc.CaseText[10].empty()) cmdDate.SetCaption(Calc.CaseText[10]);
 }
 
 void CalculationForm::mnuNew_Click() {
@@ -308,9 +318,7 @@ void CalculationForm::mnuNew_Click() {
     const Filling filling;
     EmptyForm();
     ResetForNew();
-    Calc.PipeData[4] = Calc.PipeData[5] = 1;
-    Calc.PressureDirection = 1;
-    BeginRecord();
+    BeginNew();
     UnloadForm("frmUnits");
     UnloadForm("frmObxPrintCalc");
     mnuPrint.SetEnabled(false);
@@ -320,6 +328,12 @@ void CalculationForm::mnuNew_Click() {
     ShowChoices();
     TakeAsNew();
     txtTagNum.SetFocus();
+}
+
+void CalculationForm::BeginNew() {
+    Calc.PipeData[4] = Calc.PipeData[5] = 1;
+    Calc.PressureDirection = 1;
+    BeginRecord();
 }
 
 // What a fresh record begins with is no change of it, and it belongs to no database.
@@ -341,13 +355,14 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
         Calc.MessageTitle = DatabaseTitle;
         if (!CreateDB(true)) return false;
     }
+    const std::string cut = CutHeadings();
     if (!SaveTRCalc()) {
         if (Calc.Tag.empty()) txtTagNum.SetFocus();
         return false;
     }
     DropRecovery();
     ShowCalculation();
-    SetStatus("Saved as " + Calc.Tag);
+    SetStatus("Saved as " + Calc.Tag + cut);
     return true;
 }
 
@@ -430,6 +445,9 @@ void CalculationForm::mnuHelp_Click() {
     if (const Program* program = FindProgram(program_)) ShowHelpTopic(program->HelpTopic);
 }
 
-void CalculationForm::cmdDate_Click() { cmdDate.SetCaption(Today()); }
+void CalculationForm::cmdDate_Click() {
+    cmdDate.SetCaption(Today());
+    NoteChange();
+}
 
 }  // namespace quillmetra

@@ -86,6 +86,8 @@ public:
     // ReturnFromPanel.
     void OpenPanel(const char* panel);
     void ReturnFromPanel();
+    // Notes 1 and 2 and the date, which the printout form may have changed.
+    void ShowPrintedTexts();
 
     void mnuPrint_Click();
     void mnuNew_Click();
@@ -143,6 +145,7 @@ protected:
     void EmptyForm();
 
 private:
+    void BeginNew();
     void TakeAsNew();
     // Saves to the database on the default path; false, after a message, when it was refused.
     bool Save();

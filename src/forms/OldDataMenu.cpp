@@ -144,6 +144,7 @@ void frmTRProg::mnuConvertRandom_Click() {
     ResetRecord();
     LoadDefaults();
     if (view_ != nullptr && OpenView()) ShowRecord();
+    if (!report.HeadingsCut.empty()) SetStatus("Converted" + report.HeadingsCut);
 }
 
 }  // namespace quillmetra

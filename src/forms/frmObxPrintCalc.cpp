@@ -2,26 +2,34 @@
 #include "forms/frmObxPrintCalc.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 #include "core/CalcRecord.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
+#include "forms/CalculationForm.h"
 #include "forms/ColourSchemes.h"
 #include "forms/PrintTargets.h"
+#include "forms/UnitChange.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
+#include "records/SaveRecord.h"
 
 namespace quillmetra {
 
 namespace {
 
+using Headings = decltype(Calc.HeadingText);
+constexpr std::size_t FirstOfRecord = 6;  // manufacturer, model and notes; the lines before are of the page
+
 constexpr const char* ProblemOfPrinting = "Printing Problem";
-constexpr double SmallestFont = 8;         // points: below it a page is hard to read,
-constexpr double LargestFont = 12;         // above it lines run into each other
-constexpr std::size_t HeadingLength = 60;  // as the database keeps it
+constexpr double SmallestFont = 8;  // points: below it a page is hard to read,
+constexpr double LargestFont = 12;  // above it lines run into each other
+constexpr std::size_t HeadingLength = 60;
 
 bool IsBatch() { return Suite.BatchPrinting == words::Yes; }
 
@@ -46,6 +54,7 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
         box->Describe(label);
         box->MaxLength = HeadingLength;
     }
+    txtManufacturer.MaxLength = txtModel.MaxLength = LongestMaker;
     txtComments.Each([this](TextBox& box, int i) {
         box.Describe(&lblComments, nullptr, std::to_string(i + 1));
         box.MaxLength = HeadingLength;
@@ -80,33 +89,41 @@ void frmObxPrintCalc::Load() {
         return;
     }
     std::copy(Suite.ReportHeadings.begin(), Suite.ReportHeadings.end(), Calc.HeadingText.begin());
-    ShowHeadings(10);
+    ShowHeadings(Calc.HeadingText, 10);
     cmdOK_Click();
 }
 
 void frmObxPrintCalc::FillFromRecord() {
-    ShowHeadings(10);
+    ShowHeadings(Calc.HeadingText, 10);
     if (!Calc.CaseUnitsText[1].empty()) cmdDate.SetCaption(Calc.CaseUnitsText[1]);
     txtComments.Each([](TextBox& box, int i) {
         if (box.Text().empty()) box.SetText(Calc.NoteText[static_cast<std::size_t>(i) + 1]);
     });
 }
 
-// Shows the heading lines 1 to last.
-void frmObxPrintCalc::ShowHeadings(std::size_t last) {
-    cmdDate.SetCaption(Calc.HeadingText[1]);
+void frmObxPrintCalc::ShowHeadings(const Headings& lines, std::size_t last) {
+    cmdDate.SetCaption(lines[1]);
     std::size_t line = 2;
-    for (TextBox* box : HeadingBoxes()) box->SetText(Calc.HeadingText[line++]);
+    for (TextBox* box : HeadingBoxes()) box->SetText(lines[line++]);
     txtComments.Each([&](TextBox& box, int) {
-        if (line <= last) box.SetText(Calc.HeadingText[line++]);
+        if (line <= last) box.SetText(lines[line++]);
     });
 }
 
+// The calculation form shows two of the notes.
 void frmObxPrintCalc::StoreHeadings() {
+    const Headings before = Calc.HeadingText;
     Calc.HeadingText[1] = cmdDate.Caption();
     std::size_t line = 2;
     for (const TextBox* box : HeadingBoxes()) Calc.HeadingText[line++] = box->Text();
-    txtComments.Each([&](const TextBox& box, int) { Calc.HeadingText[line++] = box.Text(); });
+    txtComments.Each([&](const TextBox& box, int i) {
+        Calc.HeadingText[line++] = Calc.NoteText[static_cast<std::size_t>(i) + 1] = box.Text();
+    });
+    if (IsBatch()) return;
+    if (!std::equal(before.begin() + FirstOfRecord, before.end(), Calc.HeadingText.begin() + FirstOfRecord)) {
+        Calc.ChangedFlag = words::No;
+    }
+    if (CalculationForm* form = OpenCalculation()) form->ShowPrintedTexts();
 }
 
 void frmObxPrintCalc::cmdDate_Click() { cmdDate.SetCaption(Today()); }
@@ -126,8 +143,9 @@ void frmObxPrintCalc::cmdSave_Click() {
 }
 
 void frmObxPrintCalc::mnuReload_Click() {
-    LoadHeadings();
-    ShowHeadings(7);
+    Headings lines = Calc.HeadingText;
+    ReadHeadingLines(std::span(lines).first<8>());
+    ShowHeadings(lines, 7);
 }
 
 void frmObxPrintCalc::mnuPrinterFonts_Click() {
@@ -185,6 +203,13 @@ bool frmObxPrintCalc::Print(PrintJob job, int copies) {
     }
 }
 
+// A calculation that is of no database yet takes the date of its print.
+void frmObxPrintCalc::DateRecord() {
+    if (std::exchange(Calc.CaseText[10], Calc.HeadingText[1]) == Calc.HeadingText[1]) return;
+    Calc.ChangedFlag = words::No;
+    if (CalculationForm* form = OpenCalculation()) form->ShowPrintedTexts();
+}
+
 void frmObxPrintCalc::PrintCopies(int copies) {
     Printer.Font.Size = std::clamp(Printer.Font.Size, SmallestFont, LargestFont);
     const double base = Printer.Font.Size;
@@ -205,7 +230,7 @@ void frmObxPrintCalc::PrintCopies(int copies) {
         Printer.Font.Size = base;
         throw;
     }
-    if (Calc.BrowserOpen != words::Yes) Calc.CaseText[10] = Calc.HeadingText[1];
+    if (Calc.BrowserOpen != words::Yes) DateRecord();
 }
 
 }  // namespace quillmetra

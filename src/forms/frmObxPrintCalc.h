@@ -1,6 +1,7 @@
 // The printout of one calculation: the headings and notes of its page, and the ways to paper.
 #pragma once
 
+#include "core/CalcRecord.h"
 #include "forms/SuiteForm.h"
 #include "reports/ReportPage.h"
 
@@ -61,10 +62,12 @@ private:
     std::array<TextBox*, 6> HeadingBoxes() {
         return {&txtTitle, &txtSubTitle, &txtProjectName, &txtProjectNo, &txtManufacturer, &txtModel};
     }
-    void ShowHeadings(std::size_t last);
+    // Shows the lines 1 to last in the boxes.
+    void ShowHeadings(const Row<std::string, 13>& lines, std::size_t last);
     void StoreHeadings();
     bool Print(PrintJob job, int copies);
     void PrintCopies(int copies);
+    void DateRecord();
 };
 
 }  // namespace quillmetra

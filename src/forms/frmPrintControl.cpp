@@ -214,7 +214,8 @@ void frmPrintControl::cmdSaveInDb_Click() {
     if (Record.txtTagNum.Text().empty()) return;
     std::ranges::copy(TitleTexts(), Calc.HeadingText.begin() + FirstTitle);
     Calc.HeadingText[1] = txtPrintoutDate.Text();
-    if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag);
+    const std::string cut = CutHeadings();
+    if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag + cut);
 }
 
 void frmPrintControl::cmdCancelPrint_Click() { Leave(""); }

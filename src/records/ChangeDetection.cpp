@@ -120,7 +120,7 @@ void DetectChanges() {
     MarkIf(Calc.RecordChanged, !SameText(Calc.Tag, Calc.TagSaved));  // the case of its letters alone
     MarkIf(Calc.RecordChanged, !SameText(Calc.FluidName, Calc.FluidNameSaved) || IsYes(Calc.RecordUpdated) ||
                                    BasisDiffers() ||
-                                   TextsDiffer(Calc.HeadingText, Calc.HeadingTextSaved, 2, 9));
+                                   TextsDiffer(Calc.HeadingText, Calc.HeadingTextSaved, 2, 10));
     Calc.SaveFDRow = words::No;
     MarkIf(Calc.SaveFDRow, (program == 4 || program == 5) && CommonPartDiffers());
     Calc.SavePDRow = words::No;

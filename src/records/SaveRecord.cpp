@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/CalcRecord.h"
@@ -11,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
+#include "platform/Utf8.h"
 #include "records/ChangeDetection.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
@@ -221,6 +223,19 @@ bool WriteRecord(bool inARun) {
 }
 
 }  // namespace
+
+// The file of the headings has longer lines than the record has room for.
+std::string CutHeadings() {
+    constexpr std::size_t manufacturer = 6, model = 7;
+    std::string cut;
+    for (const auto& [line, name] : {std::pair{manufacturer, "manufacturer"}, {model, "model"}}) {
+        std::string& text = Calc.HeadingText[line];
+        if (CharacterCount(text) <= LongestMaker) continue;
+        text = FirstCharacters(text, LongestMaker);
+        cut += (cut.empty() ? ". Only the first 30 letters of the " : " and the ") + std::string(name);
+    }
+    return cut.empty() ? "" : cut + " in the headings go into the record";
+}
 
 bool SaveTRCalc(bool inARun) {
     Calc.Tag = std::string(Trim(Calc.Tag));

@@ -2,6 +2,9 @@
 // settings, in one transaction.
 #pragma once
 
+#include <cstddef>
+#include <string>
+
 #include "platform/Database.h"
 
 namespace quillmetra {
@@ -13,6 +16,12 @@ namespace quillmetra {
 // record then still counts as changed. When a row beside the head is refused by the database the head stays.
 // In a run over many records the question names the tag, and Enter keeps what is on file.
 bool SaveTRCalc(bool inARun = false);
+
+// The letters that the record has room for in manufacturer and model.
+inline constexpr std::size_t LongestMaker = 30;
+// Cuts these two, which may come from the file of the headings and then be longer; tells what was cut, in
+// words that go behind "Saved as P-101". To be called before a save, which refuses texts that are too long.
+std::string CutHeadings();
 
 // Writes all rows of the record in hand to an empty database, under its tag, without a question or a word.
 void WriteWholeRecord(Database& database);

@@ -189,6 +189,7 @@ Version5Report SaveVersion5(const Version5File& records, const std::vector<std::
         }
         ResetRecord();
         LoadHeadings();
+        report.HeadingsCut = CutHeadings();
         if (!records.Take(index)) {
             ++report.OtherPrograms;
             continue;

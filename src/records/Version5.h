@@ -37,6 +37,7 @@ struct Version5Report {
     int OtherPrograms = 0;             // records that were passed over
     std::vector<std::string> Unsaved;  // "record 3, P-101", as a list for the user
     bool Stopped = false;              // by the user, before the last record
+    std::string HeadingsCut;           // what CutHeadings tells
 };
 
 // Saves each record under the tag of its line in Suite.DatabaseFile, which must exist, with the headings in

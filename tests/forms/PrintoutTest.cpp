@@ -37,8 +37,13 @@ TEST_F(Printout, FillsFromRecordAndPrintsWhatItShows) {
     EXPECT_EQ(printout.txtComments(0).Text(), "typed one");
     EXPECT_EQ(printout.txtComments(1).Text(), "kept two");
 
+    Type(printout.txtComments(1), "changed two");
     User.Printing = PrinterChoice{.Copies = 2};
+    Calc.ChangedFlag.clear();
     ClickControl(printout.cmdOK);
+    EXPECT_EQ(Form().txtComments(1).Text(), "changed two") << "the form would store its own over it";
+    EXPECT_EQ(Calc.NoteText[2], "changed two");
+    EXPECT_EQ(Calc.ChangedFlag, words::No);
     EXPECT_FALSE(IsFormLoaded("frmObxPrintCalc"));
     ASSERT_EQ(User.Pages.size(), 2U);
     for (const char* words : {"Northfield Terminal", "typed one", "kept three", "1/2/2025", "Pipe ends"}) {

@@ -1,8 +1,12 @@
 // What a crash leaves, and what the next start makes of it.
 #include "forms/UnsavedWork.h"
 
+#include "forms/CalculationForm.h"
+#include "forms/RecordInHand.h"
+#include "forms/UnitChange.h"
 #include "records/Recovery.h"
 #include "tests/forms/LiquidFormFixture.h"
+#include "tests/records/RecordFixture.h"
 
 namespace quillmetra {
 namespace {
@@ -88,6 +92,64 @@ TEST_F(UnsavedWork, IsNotOfferedTwiceAndADamagedOneDoesNoHarm) {
     EXPECT_EQ(User.LastText(), "The calculation cannot be recovered");
     EXPECT_FALSE(HasRecovery());
     EXPECT_TRUE(LoadedForm("frmTRProg")->Visible());
+}
+
+// The saved record of a program on its form, as the browser opens it.
+CalculationForm& Reopen(int program, FakeHost& user) {
+    user.Boxes.clear();
+    RecordView view(Suite.DatabaseFile);
+    view.Find("P" + std::to_string(program));
+    EXPECT_TRUE(TakeRecord(view.Head()));
+    ShowLoadedRecord();
+    return *OpenCalculation();
+}
+
+// What a user can change at once: boxes, ticks, options and the date.
+bool IsInput(CalculationForm& form, Control& control) {
+    if (!CanAct(control)) return false;
+    switch (control.Kind()) {
+        case ControlKind::TextBox: return !static_cast<TextBox&>(control).Locked;
+        case ControlKind::CheckBox: return true;
+        case ControlKind::OptionButton: return !static_cast<OptionButton&>(control).Checked();
+        default: return &control == &form.cmdDate;
+    }
+}
+
+// Leaves the form, and tells whether it asked about what was changed.
+bool AsksWhenLeft(CalculationForm& form, FakeHost& user) {
+    LeaveFocus(form);
+    user.Answers.assign(9, Answer::No);
+    ClickControl(form.mnuProgram);
+    user.Answers.clear();
+    return user.LastText() == "Save changes?";
+}
+
+TEST_F(UnsavedWork, EveryInputOfAReopenedRecordIsAskedFor) {
+    Suite.DatabasePath = Suite.DefaultPaths[1];
+    CreateDB(true);
+    for (int program = 1; program <= 5; ++program) {
+        TakeFilledRecord(program, 1, "P" + std::to_string(program));
+        ASSERT_TRUE(SaveTRCalc()) << User.LastText();
+        std::vector<std::size_t> inputs;
+        {
+            CalculationForm& form = Reopen(program, User);
+            for (std::size_t i = 0; i < form.Controls().size(); ++i) {
+                if (IsInput(form, *form.Controls()[i])) inputs.push_back(i);
+            }
+            EXPECT_FALSE(AsksWhenLeft(form, User)) << "nothing was changed in program " << program;
+        }
+        EXPECT_GE(inputs.size(), 13U);
+        for (const std::size_t i : inputs) {
+            CalculationForm& form = Reopen(program, User);
+            Control& control = *form.Controls()[i];
+            if (control.Kind() == ControlKind::TextBox) {
+                Type(control, "7.5");
+            } else {
+                ClickControl(control);
+            }
+            EXPECT_TRUE(AsksWhenLeft(form, User)) << control.FullName() << " of program " << program;
+        }
+    }
 }
 
 TEST_F(UnsavedWork, ASaveNeedsNoRecovery) {
