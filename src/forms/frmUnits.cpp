@@ -26,6 +26,8 @@ constexpr int GasViscosityRow = 13;
 constexpr int SkippedPosition = 6;
 constexpr int DensityPosition = 11;
 
+constexpr std::pair<int, int> FlowParts[] = {{0, 19}, {1, 5}};  // quantity and time base of a flow unit
+
 constexpr const char* ChooseText =
     "To select, double click the required unit.   To add a unit, click an empty line. Type in the name and "
     "the "
@@ -118,8 +120,7 @@ void frmUnits::ShowUnits() {
         lblFactor(row).Describe(&button);
         SelectedFactor[At(row)] = {Calc.UnitFactor[At(row)], false};
     });
-    const std::pair<int, int> flows[] = {{0, 19}, {1, 5}};
-    for (const auto& [row, base] : flows) {
+    for (const auto& [row, base] : FlowParts) {
         const auto [quantity, time] = SplitFlowUnit(Calc.UnitName[At(row)]);
         lblFactor(row).SetCaption(quantity);
         lblFactor(base).SetCaption(time);
@@ -219,9 +220,25 @@ void frmUnits::cboText_Change() {
     cboFactor.Preselect(-1);
 }
 
+// The other part of a flow unit, the quantity of a time base and the time base of a quantity; -1 for other
+// units.
+int frmUnits::OtherFlowPart() const {
+    for (const auto& [row, base] : FlowParts) {
+        if (UnitRow == row) return base;
+        if (UnitRow == base) return row;
+    }
+    return -1;
+}
+
+// The two parts of a flow unit make one name in the end.
 bool frmUnits::NameIsTooLong(const std::string& name) {
-    if (CharacterCount(name) <= LongestUnitName) return false;
-    Tell("Maximum of 8 characters", "New Unit Name", Icon::Stop);
+    const int other = OtherFlowPart();
+    const std::string whole = other < 0 ? name : name + lblFactor(other).Caption();
+    if (CharacterCount(whole) <= LongestUnitName) return false;
+    const bool alone = CharacterCount(name) > LongestUnitName;
+    Tell(
+        alone ? "Maximum of 8 characters" : "Maximum of 8 characters for the flow unit and its time together",
+        "New Unit Name", Icon::Stop);
     cboUnit.SetFocus();
     return true;
 }
@@ -314,7 +331,9 @@ bool frmUnits::TakeFlowUnit(int row, int baseRow) {
 }
 
 bool frmUnits::TakeUnits() {
-    if (!TakeFlowUnit(0, 19) || !TakeFlowUnit(1, 5)) return false;
+    for (const auto& [row, base] : FlowParts) {
+        if (!TakeFlowUnit(row, base)) return false;
+    }
     const auto order = UnitDisplayOrder(IsGas());
     for (int position = 2; position <= UnitPositions; ++position) {
         // Position 6 is passed over: a liquid's viscosity is taken at position 12, and a gas keeps the unit

@@ -82,6 +82,7 @@ private:
     void OfferBasis(bool offer);
     void ListUnits();
     bool NameIsTooLong(const std::string& name);  // and says so
+    int OtherFlowPart() const;
     std::string& BasisOfRow() const;
     bool AskUpdate() const;
     // Steps of OK: the chosen units go into the record; false, with a message, when one has no multiplier.

@@ -2,6 +2,7 @@
 #include "units/ModeChange.h"
 
 #include <cmath>
+#include <utility>
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
@@ -25,17 +26,21 @@ double GaugeFromAbsolute(double pressure, double barometer) {
     return Expressible(RoundedFour(pressure - barometer));
 }
 
+// A number that a change of mode makes anew waits for the rounding as a converted one does.
+template <typename Change>
+void Renew(double& number, Change change) {
+    const double before = std::exchange(number, change(number));
+    if (number != before) Calc.RoundedFlag = words::No;
+}
+
 // The final pressures of a line have their unit in the row of its source pressure, and so have the two wave
 // pressures of a water hammer.
 template <typename Change>
 void ChangePressures(Change change) {
     for (std::size_t i = 0; i < CaseCount; ++i) {
-        for (double* pressure : {&Calc.CaseInput[3][i], &Calc.CaseResult[1][i]})
-            *pressure = change(*pressure);
+        for (double* pressure : {&Calc.CaseInput[3][i], &Calc.CaseResult[1][i]}) Renew(*pressure, change);
     }
-    for (const std::size_t element : {14U, 17U}) {
-        Calc.HammerResult[element] = change(Calc.HammerResult[element]);
-    }
+    for (const std::size_t element : {14U, 17U}) Renew(Calc.HammerResult[element], change);
 }
 
 // The line forms show all cases anew, not only the one in hand.
@@ -90,7 +95,7 @@ void ChangeDensityMode(const std::string& mode) {
     if (toDensity) FillDensityUnit();
     for (double& value : Calc.CaseInput[6]) {
         if (value > 0 && Calc.NoConversion != words::Yes)
-            value = toDensity ? DensityFromGravity(value) : GravityFromDensity(value);
+            Renew(value, toDensity ? DensityFromGravity : GravityFromDensity);
     }
     Calc.UnitFactorPrevious[6] = Calc.UnitFactor[6];
     Calc.UnitNamePrevious[6] = Calc.UnitName[6];

@@ -155,13 +155,32 @@ void ConvertCases(std::span<const CaseStep> steps, ZeroTemperature zero) {
     for (int i = 0; i < CaseCount; ++i) ConvertCase(steps, i, zero);
 }
 
-// Rounds, and takes the units in force as those of the values.
-void FinishConversion() {
-    Calc.RoundedFlag = words::No;
-    RoundRecord();
-    RenewChosenUnitNames();
-    RememberUnits();
-}
+// The life of a conversion. At its end it rounds, unless it left every number as it was and none waits from
+// before, and takes the units in force as those of the values.
+class Conversion {
+public:
+    void Finish() const {
+        if (HasChangedNumbers()) Calc.RoundedFlag = words::No;
+        if (Calc.RoundedFlag == words::No) {
+            RoundRecord();
+        } else {
+            Calc.RoundedFlag = words::Yes;
+        }
+        RenewChosenUnitNames();
+        RememberUnits();
+    }
+
+private:
+    bool HasChangedNumbers() const {
+        return inputs_ != Calc.CaseInput || results_ != Calc.CaseResult || pipe_ != Calc.PipeData ||
+               hammer_ != Calc.HammerResult;
+    }
+
+    const decltype(Calc.CaseInput) inputs_ = Calc.CaseInput;
+    const decltype(Calc.CaseResult) results_ = Calc.CaseResult;
+    const decltype(Calc.PipeData) pipe_ = Calc.PipeData;
+    const decltype(Calc.HammerResult) hammer_ = Calc.HammerResult;
+};
 
 }  // namespace
 
@@ -186,21 +205,24 @@ void ConvertCommonRows() {
 }
 
 void ConvertGasLineData(ZeroTemperature zero) {
+    const Conversion conversion;
     ConvertCommonRows();
     ConvertCases(GasLineSteps, zero);
     Calc.UnitsConverted = words::Yes;
-    FinishConversion();
+    conversion.Finish();
 }
 
 void ConvertLiquidLineData(ZeroTemperature zero) {
+    const Conversion conversion;
     ConvertCommonRows();  // first: the gravity of a flow reads row 6 in its new unit
     ConvertCases(LiquidLineSteps, zero);
     Calc.UnitsConverted = words::Yes;
-    FinishConversion();
+    conversion.Finish();
     RoundSix();
 }
 
 void ConvertWaterHammerData(ZeroTemperature zero) {
+    const Conversion conversion;
     if (Calc.LiquidDensityMode == words::Density) Rescale(Calc.CaseInput[6][0], 6);
     Calc.FlowingSG = GravityOfFirstCase();
     ConvertCase(HammerFlowSteps, 0, zero);
@@ -209,22 +231,24 @@ void ConvertWaterHammerData(ZeroTemperature zero) {
     }
     SetForceUnit();
     RescaleElements(Calc.HammerResult, HammerElements);
-    FinishConversion();
+    conversion.Finish();
     UnloadForm("frmPipeSize");
 }
 
 void ConvertLiquidData(ZeroTemperature zero) {
+    const Conversion conversion;
     ConvertCommonRows();
     ConvertCases(LiquidDataSteps, zero);
     ConvertStandardTemperature();
-    FinishConversion();
+    conversion.Finish();
 }
 
 void ConvertGasData(ZeroTemperature zero) {
+    const Conversion conversion;
     ConvertCases(GasDataSteps, zero);
     ConvertStandardTemperature();
     ConvertCommonRows();
-    FinishConversion();
+    conversion.Finish();
 }
 
 void ConvertProgramData(ZeroTemperature zero) {

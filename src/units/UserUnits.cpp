@@ -11,6 +11,7 @@
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
+#include "platform/Utf8.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
 #include "units/UnitCatalogue.h"
@@ -63,7 +64,7 @@ void ReadSet(LineReader& file, UserSet& set, std::span<const std::size_t> rows) 
     set.Basis = NextWord(file, words::Mass, words::Volume);
     set.UnitSet = NextUnitSet(file);
     for (const std::size_t row : rows) {
-        set.Names[row] = file.NextWhole();
+        set.Names[row] = FirstCharacters(file.NextWhole(), LongestUnitName);
         const double factor = NextNumber(file);
         set.Factors[row] = IsUsableFactor(factor) ? factor : 0;
     }

@@ -2,6 +2,23 @@
 # up leaves the numbers alone; what is taken converts inputs and results together.
 strict on
 start
+# What converts no number asks no rounding, and leaves what was typed: an empty form, another mode of no pressure.
+new 1
+type txtFlow(0) 100.1234567
+click cmdFormLayout
+click optAbsolutePressure
+click cmdOKOptions
+expect txtFlow(0) 100.1234567
+type txtFlow(0) ""
+click cmdFormLayout
+click optMassSIUnits
+click OptGaugePress
+click cmdOKOptions
+expect cmdUnits(3) kPag
+answer No
+click mnuProgram
+expect-message Save changes?
+start
 new 1
 include good-case.qs
 answer No

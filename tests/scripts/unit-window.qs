@@ -72,6 +72,19 @@ click cmdBasis
 pick cboUnit m3
 click cmdCancel
 expect lblFactor(1) lb
+# Flow and time make one name of at most 8 characters.
+click cmdUnit(1)
+click cmdBasis
+pick cboUnit 9
+type cboUnit sevenLB
+type cboFactor 7
+answer OK
+click cmdReplace
+expect-box "New Unit Name" "Maximum of 8 characters for the flow unit and its time together" OK Stop
+answer OK
+click cmdSelect
+expect-message flow unit and its time together
+click cmdCancel
 
 # --- OK and Cancel -----------------------------------------------------------------------------------------
 answer No
