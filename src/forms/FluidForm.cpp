@@ -118,13 +118,15 @@ bool FluidForm::CanPick(int caseIndex) const {
            (Entries[i].Saturated != nullptr && Calc.PressureEntered[i] == words::Entered);
 }
 
-// A mixture that is being put together counts as picked, as a pure fluid does whose list is open.
+// A mixture that is being put together counts as picked, as a pure fluid does whose list is open. A name typed by
+// hand has no entry.
 void FluidForm::TickEntries() {
     const bool building = Mixture.fraComponent.Visible();
     const bool mixture = building || Calc.MixtureFlag == words::Yes;
     const bool steam = !building && !Calc.SteamKind.empty();
+    const bool ofTable = Fluids.IsOpen() || Calc.FluidDataSource == words::Loaded;
     for (const FluidEntries& entries : Entries) {
-        entries.Pure->SetChecked(!steam && !mixture && Calc.MixtureFlag == words::No);
+        entries.Pure->SetChecked(ofTable && !steam && !mixture && Calc.MixtureFlag == words::No);
         entries.Mixture->SetChecked(!steam && mixture);
         if (entries.Saturated == nullptr) continue;
         entries.Saturated->SetChecked(steam && Calc.SteamKind == words::Saturated);
@@ -165,7 +167,7 @@ void FluidForm::CloseOverlays() {
 void FluidForm::FluidTyped() {
     fluidHints_.fill("");
     ShowHint("");
-    if (Calc.MixtureFlag != words::Yes && Calc.SteamKind.empty()) return;
+    if (Calc.MixtureFlag != words::Yes && Calc.SteamKind.empty()) return TickEntries();
     Calc.MixtureFlag = words::No;
     Calc.SteamKind.clear();
     ShowTitle();

@@ -96,8 +96,8 @@ void FluidForm::OpenPure(int caseIndex) {
     Calc.MixtureFlag = words::No;
     Calc.SteamKind.clear();
     Calc.FluidOk = words::FluidPicked;
-    TickEntries();
     Fluids.Open(Calc.FluidType);
+    TickEntries();
 }
 
 void FluidForm::PickPure() {

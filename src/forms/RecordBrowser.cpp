@@ -121,9 +121,11 @@ void frmTRProg::cmdDBClose_Click() {
     optDefaultDB.SetChecked(true);
 }
 
+// Nor does the path of a database that was looked at outlast it.
 void frmTRProg::CloseView() {
     ShowTags(false);
     view_.reset();
+    if (!Suite.ChosenDataPath.empty()) Suite.DefaultPaths[1] = Suite.ChosenDataPath;
     lblPath(0).SetCaption("");
     ShowFields(false);
 }

@@ -190,16 +190,6 @@ void frmCalcOptions::ApplyModes() {
     Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
 }
 
-// Programs above 3 have a title of their own, which ComposeHeading would overwrite.
-void frmCalcOptions::RefreshTitle() {
-    if (Calc.CurrentProgram > 3) {
-        Calc.UnitsTitle = Calc.UnitSystem + " units, calculate data";
-        ShowCalculation();
-    } else {
-        ComposeHeading();
-    }
-}
-
 void frmCalcOptions::CloseCalcOpts() {
     if (Calc.NoConversion == words::Yes &&
         !AskYesNo("Option 'Change units no conversion' was selected\n\nOK?", "Change Units")) {
@@ -213,11 +203,11 @@ void frmCalcOptions::CloseCalcOpts() {
     Calc.DataMode = DataChoice();
     Calc.CalcMode = CalcChoice();
     Calc.HideResults = words::Yes;
-    RefreshTitle();
+    ComposeHeading();
     Calc.HideResults = words::No;
     if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::IsConverted);
     TakeBarometer();
-    RefreshTitle();
+    ComposeHeading();
     const bool modeStays = Calc.PressureMode != PressureChoice();
     InstallOptions();
     CalculationForm* const form = OpenCalculation();

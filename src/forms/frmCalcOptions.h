@@ -77,7 +77,6 @@ private:
     bool ApplySet();
     void ApplyModes();
     void TakeBootUpUnits();
-    void RefreshTitle();
     void ResetOptionData();
     void InstallOptions();
 

@@ -251,9 +251,9 @@ void ShowWaterHammer() {
     SetForceUnit();  // it goes by the unit of the pipe
     ShowUnits(form, WaterHammerUnits);
     ShowDensityMode(form, " Enter Specific gravity @ FTP");
-    // The basis shows from the first calculation on.
+    // The basis shows from the first calculation on, which a record that is opened again has behind it.
     Control& basis = Named(form, "lblLiqTestBasis");
-    if (!basis.Caption().empty()) basis.SetCaption(Calc.LiquidBasis);
+    if (!basis.Caption().empty() || Calc.HammerResult[12] > 0) basis.SetCaption(Calc.LiquidBasis);
     Control& material = Named(form, "txtPipeMatl");
     SetText(material, Calc.PipeMaterial);
     PaintValue(material, TextSlot(Calc.PipeMaterial, Calc.PipeMaterialSaved));
@@ -314,14 +314,17 @@ void ComposeHeading() {
                                            {words::FlowRate, ", calculate flowrate"},
                                            {words::ValveSize, ", calculate data"},
                                            {"", ", calculate data"}};
+    constexpr int lastLineProgram = 3;
+    if (Calc.CurrentProgram > lastLineProgram) {
+        Calc.UnitsTitle = Calc.UnitSystem + " units, calculate data";
+        return ShowCalculation();
+    }
     Calc.UnitsTitle = Calc.UnitSetName;
-    if (Calc.CurrentProgram < 4) {
-        for (const Choice& choice : dataModes) {
-            if (Calc.DataMode == choice.Mode) Calc.UnitsTitle += choice.Words;
-        }
-        for (const Choice& choice : calcModes) {
-            if (Calc.CalcMode == choice.Mode) Calc.UnitsTitle += choice.Words;
-        }
+    for (const Choice& choice : dataModes) {
+        if (Calc.DataMode == choice.Mode) Calc.UnitsTitle += choice.Words;
+    }
+    for (const Choice& choice : calcModes) {
+        if (Calc.CalcMode == choice.Mode) Calc.UnitsTitle += choice.Words;
     }
     ShowCalculation();
 }

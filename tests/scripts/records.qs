@@ -329,6 +329,23 @@ click mnuExport
 expect-message A database cannot be written over by an export
 click cmdDBClose
 expect-state txtTagNum hidden
+# A database that was looked at is not the default when it is closed, neither to save to nor to open.
+click optBrouseDB
+answer OK
+key txtPath \
+expect-message Path
+key txtPath V
+click cmdOK
+click cmdDBOpen
+expect lblNumRecords 1
+click cmdDBClose
+new 4
+type txtTagNum A-1
+click mnuSave
+click mnuProgram
+click cmdDBOpen
+expect lblNumRecords 6
+click cmdDBClose
 
 # --- Numbers that are nothing and numbers that are zero, in SI units -----------------------------------------------
 start

@@ -32,6 +32,13 @@ click mnuSave
 click mnuProgram
 start
 open H-1
+expect lblLiqTestBasis Mas
+# A name of one's own is no fluid of the table, nor is it one after a look at the table.
+expect-state mnuPureLiquids unchecked
+click mnuPureLiquids
+expect-state mnuPureLiquids checked
+click cmdCancel
+expect-state mnuPureLiquids unchecked
 expect pltClosing "Pressure wave 754 to 199.5 psig over 0.9128 to 6 secs, critical 1.141 secs, minimum 2.985 secs, selected 4 secs, allowable 300 psig"
 expect txtSelectedForce 4311
 answer No
@@ -125,6 +132,8 @@ click mnuSave
 click mnuProgram
 open D-5
 expect txtCompFactor(0) 0.9859
+expect lblSetupSelections "English units, calculate data"
+expect-state mnuPureGases1 checked
 answer No
 type txtPressure(0) 90
 leave
@@ -144,6 +153,7 @@ expect-box "Temperature Has Changed" "Update Fluid Properties?" YesNo
 expect txtCompFactor(0) 0.9891
 # A name typed over is no fluid of the table; then Yes ends the reminders for this run.
 type txtFluid My own
+expect-state mnuPureGases1 unchecked
 answer Yes
 type txtPressure(0) 90
 leave
@@ -161,9 +171,7 @@ new 5
 type txtTagNum S-5
 click cmdFormLayout
 click optMassSIUnits
-answer Yes
 click cmdOKOptions
-expect-message Round converted data?
 type txtPressure(0) 1000
 click mnuSatSteam1
 expect txtCritPressure(0) 22119.4
@@ -172,6 +180,53 @@ click mnuProgram
 open S-5
 expect txtCritPressure(0) 22119.4
 click mnuProgram
+
+# --- Texts that the record keeps -----------------------------------------------------------------------------------
+# The headings may name a longer manufacturer than a record has room for; their file stays as it is.
+write-file TRData/TRHDG.txt "\n\n\n\n\nNorthfield Pump and Valve Company Limited\n"
+start
+new 4
+type txtTagNum N-1
+type txtTemp(0) 80
+type txtPressure(0) 100
+click mnuLiquid1
+pick lstFluid "Toluene "
+click cmdSelect
+click mnuSave
+expect-status "Saved as N-1. Only the first 30 letters of the manufacturer in the headings go into the record"
+click mnuPrint
+expect txtManufacturer "Northfield Pump and Valve Comp"
+click mnuReload
+expect txtManufacturer "Northfield Pump and Valve Company Limited"
+type txtManufacturer Southfield
+type txtComments(2) third
+printer 1 1 1
+click cmdOK
+answer No
+click mnuProgram
+expect-message Save changes?
+open N-1
+answer No
+click cmdDate
+click mnuProgram
+expect-message Save changes?
+
+# A tag typed and taken out again is no change.
+new 1
+type txtTagNum A
+type txtTagNum ""
+click mnuProgram
+expect-no-message
+new 2
+type txtTagNum A
+type txtTagNum ""
+click mnuProgram
+expect-no-message
+new 3
+type txtTagNum A
+type txtTagNum ""
+click mnuProgram
+expect-no-message
 
 # --- A fluid whose row is gone from its table, and another whose table is gone ------------------------------------
 start
