@@ -27,6 +27,7 @@ using Headings = decltype(Calc.HeadingText);
 constexpr std::size_t FirstOfRecord = 6;  // manufacturer, model and notes; the lines before are of the page
 
 constexpr const char* ProblemOfPrinting = "Printing Problem";
+constexpr const char* DatePrompt = "Date";
 constexpr double SmallestFont = 8;  // points: below it a page is hard to read,
 constexpr double LargestFont = 12;  // above it lines run into each other
 constexpr std::size_t HeadingLength = 60;
@@ -70,7 +71,7 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
         if (key.Name != "Escape") return;
-        cmdDate.SetCaption(Calc.CaseText[10]);
+        ShowDate(Calc.CaseText[10]);
         key.Handled = true;
     };
     cmdOK.Click = [this] { cmdOK_Click(); };
@@ -95,14 +96,14 @@ void frmObxPrintCalc::Load() {
 
 void frmObxPrintCalc::FillFromRecord() {
     ShowHeadings(Calc.HeadingText, 10);
-    if (!Calc.CaseUnitsText[1].empty()) cmdDate.SetCaption(Calc.CaseUnitsText[1]);
+    if (!Calc.CaseUnitsText[1].empty()) ShowDate(Calc.CaseUnitsText[1]);
     txtComments.Each([](TextBox& box, int i) {
         if (box.Text().empty()) box.SetText(Calc.NoteText[static_cast<std::size_t>(i) + 1]);
     });
 }
 
 void frmObxPrintCalc::ShowHeadings(const Headings& lines, std::size_t last) {
-    cmdDate.SetCaption(lines[1]);
+    ShowDate(lines[1]);
     std::size_t line = 2;
     for (TextBox* box : HeadingBoxes()) box->SetText(lines[line++]);
     txtComments.Each([&](TextBox& box, int) {
@@ -113,7 +114,7 @@ void frmObxPrintCalc::ShowHeadings(const Headings& lines, std::size_t last) {
 // The calculation form shows two of the notes.
 void frmObxPrintCalc::StoreHeadings() {
     const Headings before = Calc.HeadingText;
-    Calc.HeadingText[1] = cmdDate.Caption();
+    Calc.HeadingText[1] = ShownDate();
     std::size_t line = 2;
     for (const TextBox* box : HeadingBoxes()) Calc.HeadingText[line++] = box->Text();
     txtComments.Each([&](const TextBox& box, int i) {
@@ -126,7 +127,16 @@ void frmObxPrintCalc::StoreHeadings() {
     if (CalculationForm* form = OpenCalculation()) form->ShowPrintedTexts();
 }
 
-void frmObxPrintCalc::cmdDate_Click() { cmdDate.SetCaption(Today()); }
+void frmObxPrintCalc::cmdDate_Click() { ShowDate(Today()); }
+
+// Without a date the button says what it is for.
+void frmObxPrintCalc::ShowDate(const std::string& date) {
+    cmdDate.SetCaption(date.empty() ? DatePrompt : date);
+}
+
+std::string frmObxPrintCalc::ShownDate() const {
+    return cmdDate.Caption() == DatePrompt ? "" : cmdDate.Caption();
+}
 
 void frmObxPrintCalc::cmdSave_Click() {
     StoreHeadings();
@@ -213,7 +223,7 @@ void frmObxPrintCalc::DateRecord() {
 void frmObxPrintCalc::PrintCopies(int copies) {
     Printer.Font.Size = std::clamp(Printer.Font.Size, SmallestFont, LargestFont);
     const double base = Printer.Font.Size;
-    const ReportTexts texts{.Date = cmdDate.Caption(),
+    const ReportTexts texts{.Date = ShownDate(),
                             .Title = txtTitle.Text(),
                             .SubTitle = txtSubTitle.Text(),
                             .ProjectName = txtProjectName.Text(),

@@ -65,6 +65,8 @@ private:
     // Shows the lines 1 to last in the boxes.
     void ShowHeadings(const Row<std::string, 13>& lines, std::size_t last);
     void StoreHeadings();
+    void ShowDate(const std::string& date);
+    std::string ShownDate() const;
     bool Print(PrintJob job, int copies);
     void PrintCopies(int copies);
     void DateRecord();

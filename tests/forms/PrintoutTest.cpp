@@ -113,11 +113,13 @@ TEST_F(Printout, PrinterThatFailsIsToldAndHarmsNothing) {
 
 TEST_F(Printout, SaysWhereThePagesWentOrThatThereAreNone) {
     frmObxPrintCalc& printout = Shown();
+    EXPECT_EQ(printout.cmdDate.Caption(), "Date");
     Calc.Tag = "FT-1/2";
     User.ChosenFile = "one.of.PDF";
     ClickControl(printout.mnuPdf);
     EXPECT_TRUE(User.Proposed.ends_with("\\FT-1-2.pdf")) << User.Proposed;
     EXPECT_EQ(printout.Status(), "1 page: one.of.PDF");
+    EXPECT_EQ(Calc.HeadingText[1], "");  // the prompt is no date
     User.Printing = PrinterChoice{.FromPage = 3, .ToPage = 5};
     ClickControl(printout.cmdOK);
     EXPECT_EQ(User.LastText(), "There is no page 3 to 5");
