@@ -120,6 +120,11 @@ TEST_F(Printout, SaysWhereThePagesWentOrThatThereAreNone) {
     EXPECT_TRUE(User.Proposed.ends_with("\\FT-1-2.pdf")) << User.Proposed;
     EXPECT_EQ(printout.Status(), "1 page: one.of.PDF");
     EXPECT_EQ(Calc.HeadingText[1], "");  // the prompt is no date
+    WriteData("two.pdf", "of the user");
+    User.ChosenFile = SuitePath(DataFolder() / "two");  // a dialog has seen no file of that name
+    ClickControl(printout.mnuPdf);
+    EXPECT_TRUE(User.LastText().ends_with("two.pdf is there already\nReplace it?")) << User.LastText();
+    EXPECT_EQ(User.Jobs.size(), 1U);
     User.Printing = PrinterChoice{.FromPage = 3, .ToPage = 5};
     ClickControl(printout.cmdOK);
     EXPECT_EQ(User.LastText(), "There is no page 3 to 5");
