@@ -11,6 +11,7 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/ProgramPlaces.h"
+#include "platform/SafeFiles.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -101,6 +102,7 @@ void SeedShippedData(const std::string& programFolder) {
 }
 
 void StartUp(const std::string& programFolder) {
+    OutliveFileSizeLimit();
     Suite.VersionText = "Ver." + std::to_string(version::Major) + "." + std::to_string(version::Minor) + "." +
                         std::to_string(version::Revision) + ".  ";
     Boot(programFolder);

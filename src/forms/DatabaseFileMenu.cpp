@@ -95,12 +95,12 @@ void frmTRProg::mnuExport_Click() {
                                .Folder = ProposedFile(Suite.DatabasePath, "TRDB.csv"),
                                .ForSaving = true});
     if (!file || file->empty() || !MayWrite(*file, "an export", title)) return;
-    int count = 0;
+    std::size_t count = 0;
     {
         const BusyPointer busy;
-        count = ExportRecords(Suite.DatabaseFile, *file);
+        count = static_cast<std::size_t>(ExportRecords(Suite.DatabaseFile, *file));
     }
-    const std::string records = std::to_string(count) + (count == 1 ? " record" : " records");
+    const std::string records = Counted(count, "record");
     SetStatus(records + ": " + *file);
     Tell(records + " written to\n" + *file, title);
 }

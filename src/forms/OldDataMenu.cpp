@@ -63,6 +63,10 @@ std::optional<OldData> ReadOldData(const std::string& dataFile, const std::strin
     const std::string* file = &dataFile;
     try {
         Version5File records(ReadBytes(*file));
+        if (records.Count() == 0) {
+            Tell("There is no whole record in\n" + *file, ConvertTitle, Icon::Stop);
+            return {};
+        }
         file = &tagFile;
         std::vector<std::string> tags = LinesOf(*file);
         file = &headingsFile;
@@ -81,10 +85,10 @@ void TakeHeadings(const std::vector<std::string>& lines) {
     SaveHeadings(Calc.HeadingText, HeadingLines);
 }
 
-// Without the file a conversion would be refused record by record.
+// Without the file, or with one that cannot be written, a conversion would be refused record by record.
 bool MakeSureOfDatabase() {
     if (FileExists(Suite.DatabaseFile)) {
-        OpenRecords(Suite.DatabaseFile);  // throws for what is none
+        OpenRecords(Suite.DatabaseFile)->TryToWrite();  // throws for what is none, too
         return true;
     }
     if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", ConvertTitle))
@@ -93,13 +97,17 @@ bool MakeSureOfDatabase() {
     return CreateDB(true);
 }
 
-void TellReport(const Version5Report& report) {
-    if (report.OtherPrograms > 0) {
-        const bool one = report.OtherPrograms == 1;
-        Tell(std::to_string(report.OtherPrograms) +
-                 (one ? " record is of a program" : " records are of programs") +
-                 " that this version does not have\n" + (one ? "It was" : "They were") + " passed over",
+void TellReport(const Version5Report& report, const Version5File& records) {
+    const auto others = static_cast<std::size_t>(report.OtherPrograms);
+    if (others > 0) {
+        Tell(Counted(others, "record") +
+                 (others == 1 ? " is of a program that this version does not have\nIt was passed over"
+                              : " are of programs that this version does not have\nThey were passed over"),
              ConvertTitle, Icon::Exclamation);
+    }
+    if (records.IsCut()) {
+        Tell("The data file ends in the middle of a record\nThat record was left out", ConvertTitle,
+             Icon::Exclamation);
     }
     for (std::size_t first = 0; first < report.Unsaved.size(); first += ListedInABox) {
         std::string list = "Not saved:";
@@ -140,7 +148,7 @@ void frmTRProg::mnuConvertRandom_Click() {
         TakeHeadings(old->Headings);
         report = SaveVersion5(old->Records, old->Tags);
     }
-    TellReport(report);
+    TellReport(report, old->Records);
     ResetRecord();
     LoadDefaults();
     if (view_ != nullptr && OpenView()) ShowRecord();

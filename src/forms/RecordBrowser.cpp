@@ -29,6 +29,15 @@ void CloseCalculations() {
     UnloadForm(PrintoutForm);
 }
 
+// What a user can do about a database that does not open.
+const char* HintOnFailure(const RuntimeError& error) {
+    if (!FileExists(Suite.DatabaseFile))
+        return "There is no database yet: the first calculation that is saved makes it";
+    if (error.Number == failure::DatabaseInvalid().Number)
+        return "Repair database, in the menu File, saves what can still be read of a damaged database";
+    return "";
+}
+
 }  // namespace
 
 void frmTRProg::HookDatabase() {
@@ -74,7 +83,7 @@ void frmTRProg::optBrouseDB_Click() {
 }
 
 bool frmTRProg::ChooseDatabase() {
-    if (optBrouseDB.Checked() && SameName(Suite.BrowsePath, Suite.DefaultPaths[1])) {
+    if (optBrouseDB.Checked() && IsSameFolder(Suite.BrowsePath, Suite.DefaultPaths[1])) {
         optDefaultDB.SetChecked(true);
         Suite.BrowsePath.clear();
     }
@@ -93,9 +102,7 @@ bool frmTRProg::OpenView() {
         SetStatus("");
         return true;
     } catch (const RuntimeError& error) {
-        SetStatus(FileExists(Suite.DatabaseFile)
-                      ? ""
-                      : "There is no database yet: the first calculation that is saved makes it");
+        SetStatus(HintOnFailure(error));
         Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
         return false;
     }

@@ -1,15 +1,16 @@
 // See Database.h.
 #include "platform/Database.h"
 
-#include <charconv>
-#include <cmath>
+#include <algorithm>
+#include <cerrno>
 #include <fstream>
-#include <limits>
+#include <system_error>
 
 #include <sqlite3.h>
 
 #include "platform/Engine.h"
 #include "platform/KeyOrder.h"
+#include "platform/SafeFiles.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -26,6 +27,38 @@ int CompareForEngine(void*, int lengthA, const void* a, int lengthB, const void*
                        {static_cast<const char*>(b), static_cast<std::size_t>(lengthB)});
 }
 
+struct FailureWords {
+    int Code;
+    const char* Text;
+    bool TellsReason;  // the words of the system belong to it
+};
+constexpr FailureWords WordsOfFailures[] = {
+    {SQLITE_BUSY, "The database is locked by another program", false},
+    {SQLITE_LOCKED, "The database is locked by another program", false},
+    {SQLITE_FULL, "The disk is full", false},
+    {SQLITE_READONLY, "The database is write-protected", false},
+    {SQLITE_PERM, "The database may not be opened", true},
+    {SQLITE_CANTOPEN, "The database, or a file beside it, cannot be opened", true},
+    {SQLITE_IOERR, "The disk reports an error", true},
+};
+// What a damaged file, or one whose tables are not those of the suite, brings about.
+constexpr int DamageCodes[] = {SQLITE_ERROR, SQLITE_CORRUPT, SQLITE_NOTADB, SQLITE_FORMAT};
+
+bool IsDamage(int code) { return std::ranges::find(DamageCodes, code) != std::end(DamageCodes); }
+
+RuntimeError FailureOf(sqlite3* engine, const fs::path& file) {
+    const int code = sqlite3_errcode(engine) & 0xFF;
+    if (IsDamage(code)) return failure::DatabaseInvalid();
+    for (const FailureWords& each : WordsOfFailures) {
+        if (each.Code != code) continue;
+        std::string words = each.Text + ("\n" + SuitePath(file));
+        const int reason = sqlite3_system_errno(engine);
+        if (each.TellsReason && reason != 0) words += "\n" + std::generic_category().message(reason);
+        return {EngineFailures + code, words};
+    }
+    return {EngineFailures + code, sqlite3_errmsg(engine)};
+}
+
 // A number of the file's first bytes, high byte first.
 std::uint32_t NumberAt(std::string_view header, std::size_t place) {
     std::uint32_t number = 0;
@@ -40,7 +73,9 @@ void CheckKind(const fs::path& file, const DatabaseKind& kind) {
     std::error_code error;
     if (!fs::is_regular_file(file, error)) throw failure::DatabaseInvalid();
     std::string header(headerLength, '\0');
+    errno = 0;
     std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw FileFailure(file, {errno, std::generic_category()});
     if (!stream.read(header.data(), headerLength) || !header.starts_with(mark)) {
         throw failure::DatabaseInvalid();
     }
@@ -58,8 +93,8 @@ const char* EngineType(FieldType type) {
 }
 
 // The key has an index of its own beside the rows, so that keys are listed and counted without reading rows.
-std::string CreateSql(const TableShape& table) {
-    std::string sql = "CREATE TABLE IF NOT EXISTS " + Quoted(table.Name) + "(";
+std::string DefinitionOf(const TableShape& table) {
+    std::string sql = Quoted(table.Name) + "(";
     for (std::size_t i = 0; i < table.Fields.size(); ++i) {
         const FieldShape& field = table.Fields[i];
         if (i > 0) sql += ", ";
@@ -84,14 +119,9 @@ Database::~Database() {
 // A file from elsewhere may hold triggers and views, which stay without effect, and may lack fields, whose
 // quoted names the engine would else take for texts.
 void Database::Open(const fs::path& file, int flags) {
-    if (sqlite3_open_v2(SuitePath(file).c_str(), &handle_, flags | SQLITE_OPEN_NOMUTEX, nullptr) !=
-        SQLITE_OK) {
-        const int code = sqlite3_errcode(handle_);
-        const std::string description = sqlite3_errmsg(handle_);
-        sqlite3_close(handle_);
-        handle_ = nullptr;
-        throw RuntimeError(EngineFailures + code, description);
-    }
+    file_ = file;
+    sqlite3_open_v2(SuitePath(file).c_str(), &handle_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (sqlite3_errcode(handle_) != SQLITE_OK) GiveUp();
     sqlite3_busy_timeout(handle_, BusyMilliseconds);
     for (const int harmful :
          {SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_TRUSTED_SCHEMA,
@@ -100,7 +130,18 @@ void Database::Open(const fs::path& file, int flags) {
     }
     sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_create_collation_v2(handle_, KeyCollation, SQLITE_UTF8, nullptr, CompareForEngine, nullptr);
-    sqlite3_exec(handle_, "PRAGMA synchronous = FULL", nullptr, nullptr, nullptr);
+    // What is deleted is overwritten: a repair, which goes by the pages, must not bring it back.
+    sqlite3_exec(handle_, "PRAGMA secure_delete = ON", nullptr, nullptr, nullptr);
+    // The first look at the file, which waits for a lock: it must not be waited for again.
+    if (sqlite3_exec(handle_, "PRAGMA synchronous = FULL", nullptr, nullptr, nullptr) == SQLITE_BUSY)
+        GiveUp();
+}
+
+void Database::GiveUp() {
+    const RuntimeError error = FailureOf(handle_, file_);
+    sqlite3_close(handle_);
+    handle_ = nullptr;
+    throw error;
 }
 
 void Database::Create(const fs::path& file, const DatabaseKind& kind, const std::vector<TableShape>& tables) {
@@ -120,7 +161,10 @@ void Database::Create(const fs::path& file, const DatabaseKind& kind, const std:
 }
 
 void Database::Fail() const {
-    throw RuntimeError(EngineFailures + sqlite3_errcode(handle_), sqlite3_errmsg(handle_));
+    // The engine takes the new file for a fault of the disk or a protected one.
+    const int code = sqlite3_errcode(handle_) & 0xFF;
+    if ((code == SQLITE_IOERR || code == SQLITE_READONLY) && IsReplaced()) throw failure::DatabaseReplaced();
+    throw FailureOf(handle_, file_);
 }
 
 void Database::Execute(const std::string& sql) {
@@ -147,7 +191,11 @@ bool Database::HasTable(std::string_view name) {
     return result == SQLITE_ROW;
 }
 
-void Database::AddTable(const TableShape& table) { Execute(CreateSql(table)); }
+std::string Database::SchemaText(const TableShape& table) { return "CREATE TABLE " + DefinitionOf(table); }
+
+void Database::AddTable(const TableShape& table) {
+    Execute("CREATE TABLE IF NOT EXISTS " + DefinitionOf(table));
+}
 
 void Database::CompactInto(const fs::path& file) {
     sqlite3_stmt* const statement = Prepared("VACUUM INTO ?1");
@@ -161,13 +209,21 @@ void Database::Reindex() { Execute("REINDEX"); }
 
 std::string Database::Fault() {
     sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(handle_, "PRAGMA integrity_check(1)", -1, &statement, nullptr) != SQLITE_OK) {
-        return sqlite3_errmsg(handle_);
+    std::string found;
+    if (sqlite3_prepare_v2(handle_, "PRAGMA integrity_check(1)", -1, &statement, nullptr) == SQLITE_OK &&
+        sqlite3_step(statement) == SQLITE_ROW) {
+        found = TextAt(statement, 0);
     }
-    const std::string found =
-        sqlite3_step(statement) == SQLITE_ROW ? TextAt(statement, 0) : sqlite3_errmsg(handle_);
+    const int code = sqlite3_errcode(handle_) & 0xFF;
+    if (found.empty()) found = sqlite3_errmsg(handle_);
     sqlite3_finalize(statement);
+    if (code != SQLITE_ROW && !IsDamage(code)) Fail();
     return found == "ok" ? "" : found;
+}
+
+void Database::TryToWrite() {
+    const Transaction never(*this);
+    Execute("CREATE TABLE \"TryToWrite\"(x)");
 }
 
 std::int64_t Database::Version() {
@@ -183,6 +239,10 @@ bool Database::IsReplaced() const {
     int moved = 0;
     sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     return moved != 0;
+}
+
+bool IsLock(const RuntimeError& error) {
+    return error.Number == EngineFailures + SQLITE_BUSY || error.Number == EngineFailures + SQLITE_LOCKED;
 }
 
 Transaction::Transaction(Database& database) : database_(database), level_(database.depth_) {

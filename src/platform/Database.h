@@ -2,8 +2,8 @@
 // key order, add, edit, delete, in transactions.
 //
 // Keys compare as KeyOrder.h tells. A single field keeps 32 bits and reads back as the shortest decimal text
-// of its value, so 0.1 comes back as 0.1. The engine's failures are RuntimeErrors with its own words and a
-// number from 3000 on.
+// of its value, so 0.1 comes back as 0.1. The engine's failures are RuntimeErrors with a number from 3000 on,
+// in words for the user where he can do something about it, else in its own.
 #pragma once
 
 #include <array>
@@ -76,6 +76,9 @@ inline RuntimeError DatabaseNewer() {
 }
 }  // namespace failure
 
+// Whether a failure is one of another program that has locked the file.
+bool IsLock(const RuntimeError& error);
+
 // What tells a database of the suite from any other file.
 struct DatabaseKind {
     std::uint32_t Application = 0;
@@ -95,6 +98,9 @@ public:
     static void Create(const std::filesystem::path& file, const DatabaseKind& kind,
                        const std::vector<TableShape>& tables);
 
+    // How the engine writes a table down in its list of tables.
+    static std::string SchemaText(const TableShape& table);
+
     bool HasTable(std::string_view name);
     // Adds a table that is absent. Inside a transaction it goes with it.
     void AddTable(const TableShape& table);
@@ -102,8 +108,10 @@ public:
     // Writes a copy without gaps, sorted by key, to a file that must not exist.
     void CompactInto(const std::filesystem::path& file);
     void Reindex();
-    // The first fault that the engine finds in the file; empty for none.
+    // The first fault that the engine finds in the file; empty for none. Throws when it cannot look.
     std::string Fault();
+    // Throws when nothing can be written, as for a lock or for want of room or rights. Writes nothing.
+    void TryToWrite();
     // A number that changes whenever the file does, by whatever process.
     std::int64_t Version();
     // Whether another file has taken the place of the one that is open, as a compaction by another process
@@ -125,8 +133,10 @@ private:
     // A statement stays prepared for the life of the database.
     sqlite3_stmt* Prepared(const std::string& sql);
     [[noreturn]] void Fail() const;
+    [[noreturn]] void GiveUp();  // of a file that is not open yet
 
     sqlite3* handle_ = nullptr;
+    std::filesystem::path file_;
     std::map<std::string, sqlite3_stmt*> statements_;
     int depth_ = 0;
 };
@@ -175,8 +185,6 @@ public:
     std::int64_t RecordCount();
     // All keys in their order, at one go.
     std::vector<std::string> Keys();
-    // The same as far as a damaged file can be read.
-    std::vector<std::string> ReadableKeys();
 
     // Fields of the current row.
     const FieldValue& Value(std::string_view field) const;
@@ -190,46 +198,26 @@ public:
     void Edit();
     void Set(std::string_view field, FieldValue value);
     void Set(std::size_t field, FieldValue value);
-    // Sets all fields to those of another recordset's current row.
-    void SetAll(const Recordset& other);
+    void SetAll(const std::vector<FieldValue>& values);
     void Update();
     // The deleted row stays current, without fields, until a move.
     void Delete();
 
-    // For what can still be read of a damaged file: the row with an inner number of the engine, made
-    // current; false when there is none or it cannot be read. Rows are numbered from 1, with gaps.
-    bool ReadNumbered(std::int64_t number);
-    std::int64_t LargestNumber();
-
 private:
     enum class Place { Empty, Start, Row, Deleted, End, Nowhere };
-    enum class Act {
-        Seek,
-        First,
-        Last,
-        Next,
-        Following,
-        Previous,
-        Count,
-        Insert,
-        Update,
-        Delete,
-        Numbered,
-        Largest
-    };
+    enum class Act { Seek, First, Last, Next, Following, Previous, Count, Insert, Update, Delete };
 
     sqlite3_stmt* Statement(Act act);
     std::string SqlOf(Act act) const;
     bool Fetch(Act act, std::string_view key = {});
     void ReadRow(sqlite3_stmt* statement);
-    bool AppendKeys(std::vector<std::string>& keys);
     void Step(Act act, Place past);
     std::size_t FieldNumber(std::string_view name) const;
     std::string Key() const;
 
     Database& database_;
     const TableShape& table_;
-    std::array<sqlite3_stmt*, 12> statements_{};
+    std::array<sqlite3_stmt*, 10> statements_{};
     std::vector<FieldValue> row_, buffer_;
     Place place_ = Place::Empty;
     bool indexed_ = false, noMatch_ = false;

@@ -16,6 +16,9 @@ inline std::string Quoted(std::string_view name) {
     return quoted.append(1, '"');
 }
 
+// A number as a field reads it; one that no field of ours can have written reads 0.
+double NumberRead(FieldType type, double stored);
+
 // Ends the run of a prepared statement on every way out, so that no lock outlives a call.
 class Run {
 public:

@@ -23,21 +23,21 @@ RuntimeError OutOfRange(const FieldShape& field) {
                       : "The field '" + field.Name + "' holds no number above 3.402823E+38"};
 }
 
-// A number that no field of ours can have written reads 0.
-double IntegerRead(double stored) { return std::abs(stored) <= 32768 ? std::trunc(stored) : 0; }
-
 FieldValue ValueAt(sqlite3_stmt* statement, int column, FieldType type) {
     if (sqlite3_column_type(statement, column) == SQLITE_NULL) return {};
     switch (type) {
         case FieldType::Text:
         case FieldType::Date: return TextAt(statement, column);
-        case FieldType::Integer: return IntegerRead(sqlite3_column_double(statement, column));
-        case FieldType::Single: return SingleRead(sqlite3_column_double(statement, column));
+        default: return NumberRead(type, sqlite3_column_double(statement, column));
     }
-    return {};
 }
 
 }  // namespace
+
+double NumberRead(FieldType type, double stored) {
+    if (type != FieldType::Integer) return SingleRead(stored);
+    return stored >= -32768 && stored < 32768 ? std::trunc(stored) : 0;
+}
 
 double SingleRead(double stored) {
     if (!std::isfinite(stored) || std::abs(stored) > std::numeric_limits<float>::max()) return 0;
@@ -95,8 +95,6 @@ std::string Recordset::SqlOf(Act act) const {
         case Act::Insert: return "INSERT INTO " + table + "(" + fields + ") VALUES(" + marks + ")";
         case Act::Update: return "UPDATE " + table + " SET " + sets + " WHERE " + key + " = ?";
         case Act::Delete: return "DELETE FROM " + table + " WHERE " + key + " = ?1";
-        case Act::Numbered: return select + " NOT INDEXED WHERE rowid = ?1";
-        case Act::Largest: return "SELECT max(rowid) FROM " + table + " NOT INDEXED";
     }
     return {};
 }
@@ -191,25 +189,15 @@ std::int64_t Recordset::RecordCount() {
 }
 
 std::vector<std::string> Recordset::Keys() {
-    std::vector<std::string> keys;
-    if (!AppendKeys(keys)) database_.Fail();
-    return keys;
-}
-
-std::vector<std::string> Recordset::ReadableKeys() {
-    std::vector<std::string> keys;
-    AppendKeys(keys);
-    return keys;
-}
-
-bool Recordset::AppendKeys(std::vector<std::string>& keys) {
     const std::string key = Quoted(table_.Fields[0].Name);
     sqlite3_stmt* const statement =
         database_.Prepared("SELECT " + key + " FROM " + Quoted(table_.Name) + " ORDER BY " + key);
     const Run run(statement);
+    std::vector<std::string> keys;
     int result = SQLITE_ROW;
     while ((result = sqlite3_step(statement)) == SQLITE_ROW) keys.push_back(TextAt(statement, 0));
-    return result == SQLITE_DONE;
+    if (result != SQLITE_DONE) database_.Fail();
+    return keys;
 }
 
 std::size_t Recordset::FieldNumber(std::string_view name) const {
@@ -259,8 +247,8 @@ void Recordset::Set(std::size_t field, FieldValue value) {
 
 void Recordset::Set(std::string_view field, FieldValue value) { Set(FieldNumber(field), std::move(value)); }
 
-void Recordset::SetAll(const Recordset& other) {
-    for (std::size_t i = 0; i < table_.Fields.size(); ++i) Set(i, other.Value(i));
+void Recordset::SetAll(const std::vector<FieldValue>& values) {
+    for (std::size_t i = 0; i < table_.Fields.size(); ++i) Set(i, values.at(i));
 }
 
 void Recordset::Update() {
@@ -289,24 +277,6 @@ void Recordset::Delete() {
     Bind(statement, 1, row_[0]);
     if (sqlite3_step(statement) != SQLITE_DONE) database_.Fail();
     place_ = Place::Deleted;
-}
-
-bool Recordset::ReadNumbered(std::int64_t number) {
-    sqlite3_stmt* const statement = Statement(Act::Numbered);
-    const Run run(statement);
-    sqlite3_bind_int64(statement, 1, number);
-    place_ = Place::Nowhere;
-    if (sqlite3_step(statement) != SQLITE_ROW) return false;
-    ReadRow(statement);
-    if (!std::holds_alternative<std::string>(row_[0])) return false;
-    place_ = Place::Row;
-    return true;
-}
-
-std::int64_t Recordset::LargestNumber() {
-    sqlite3_stmt* const statement = Statement(Act::Largest);
-    const Run run(statement);
-    return sqlite3_step(statement) == SQLITE_ROW ? sqlite3_column_int64(statement, 0) : 0;
 }
 
 }  // namespace quillmetra

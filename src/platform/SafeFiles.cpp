@@ -1,16 +1,17 @@
 // See SafeFiles.h.
 #include "platform/SafeFiles.h"
 
-#include <system_error>
+#include <csignal>
 
 #ifdef _WIN32
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
-#include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
 
 namespace quillmetra {
 
@@ -35,27 +36,60 @@ void Synchronise(const fs::path& path) {
 #endif
 }
 
+// A colleague who could write the former file must be able to write the new one. Owner and group are kept as
+// far as this user may give files away; without a former file the new one keeps its own rights.
+void TakeRights([[maybe_unused]] const fs::path& former, [[maybe_unused]] const fs::path& file) {
+#ifndef _WIN32
+    struct stat rights {};
+    if (stat(former.c_str(), &rights) != 0 || !S_ISREG(rights.st_mode)) return;
+    const bool given = chown(file.c_str(), rights.st_uid, rights.st_gid) == 0 ||
+                       chown(file.c_str(), static_cast<uid_t>(-1), rights.st_gid) == 0;
+    // Another group gets no more than everybody.
+    const mode_t mode = given ? rights.st_mode : (rights.st_mode & ~070U) | (rights.st_mode & 07U) << 3U;
+    if (chmod(file.c_str(), mode & 0777U) != 0) return;
+#endif
+}
+
 }  // namespace
 
 void MoveOver(const fs::path& from, const fs::path& to) {
+    TakeRights(to, from);
     Synchronise(from);
     std::error_code error;
     fs::rename(from, to, error);
-    if (error) throw failure::PathAccess();
+    if (error) throw FileFailure(to, error);
     Synchronise(to.parent_path());
 }
 
 void CopyWhole(const fs::path& from, const fs::path& to) {
     std::error_code error;
     fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
-    if (!error) return Synchronise(to);
-    RemoveIfThere(to);
-    throw failure::PathAccess();
+    if (error) {
+        RemoveIfThere(to);
+        throw FileFailure(to, error);
+    }
+    TakeRights(from, to);
+    Synchronise(to);
 }
 
 void RemoveIfThere(const fs::path& file) {
     std::error_code ignored;
     fs::remove(file, ignored);
+}
+
+RuntimeError FileFailure(const fs::path& file, const std::error_code& reason) {
+    return {failure::PathAccess().Number,
+            failure::PathAccess().Description + "\n" + SuitePath(file) + "\n" + reason.message()};
+}
+
+RuntimeError WriteProtected(const fs::path& file) {
+    return FileFailure(file, std::make_error_code(std::errc::permission_denied));
+}
+
+void OutliveFileSizeLimit() {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 }  // namespace quillmetra

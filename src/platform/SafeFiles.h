@@ -2,6 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <system_error>
+
+#include "platform/RuntimeError.h"
 
 namespace quillmetra {
 
@@ -12,14 +15,23 @@ inline constexpr bool OpenFilesCanBeReplaced = false;
 inline constexpr bool OpenFilesCanBeReplaced = true;
 #endif
 
-// Puts a file in the place of another, in one step that is on the disk when the routine returns. Throws
-// "Path/File access error" with both files as they were.
+// Puts a file in the place of another, whose rights it takes over, in one step that is on the disk when the
+// routine returns. Throws, with the file and the reason, and both files are as they were.
 void MoveOver(const std::filesystem::path& from, const std::filesystem::path& to);
 
-// Copies a file to a name that is overwritten. A failure throws the same and leaves no copy.
+// Copies a file and its rights to a name that is overwritten. A failure throws the same and leaves no copy.
 void CopyWhole(const std::filesystem::path& from, const std::filesystem::path& to);
 
 // Removes a file if it is there; never throws.
 void RemoveIfThere(const std::filesystem::path& file);
+
+// What tells a user that a file could not be written or read, with the reason.
+RuntimeError FileFailure(const std::filesystem::path& file, const std::error_code& reason);
+// Of a file that is there and that this user may not write (IsWriteProtected).
+RuntimeError WriteProtected(const std::filesystem::path& file);
+
+// A write beyond the limit that the system sets to the size of a file fails from here on as any other write;
+// by itself it would end the program.
+void OutliveFileSizeLimit();
 
 }  // namespace quillmetra

@@ -6,6 +6,11 @@
 #include <fstream>
 #include <system_error>
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/SafeFiles.h"
@@ -79,6 +84,14 @@ void SkipEndOfLine(const std::string& text, std::size_t& next) {
     }
 }
 
+bool UserMayWrite([[maybe_unused]] const fs::path& path) {
+#ifdef _WIN32
+    return true;  // the system's only mark is the one that nobody may write
+#else
+    return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+#endif
+}
+
 // The name in a folder that matches a wanted one without regard to case.
 fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
     std::error_code error;
@@ -119,8 +132,10 @@ bool FileExists(std::string_view suitePath) {
 bool IsWriteProtected(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
+    if (!fs::exists(status)) return false;
+    // A file that nobody may write was protected on purpose, also against an administrator.
     constexpr fs::perms anyone = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    return fs::exists(status) && (status.permissions() & anyone) == fs::perms::none;
+    return (status.permissions() & anyone) == fs::perms::none || !UserMayWrite(path);
 }
 
 std::string ReadBytes(std::string_view suitePath) {

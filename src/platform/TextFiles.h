@@ -22,7 +22,7 @@ std::string SuitePath(const std::filesystem::path& path);
 
 bool FileExists(std::string_view suitePath);
 
-// Whether a file is there that its owner does not allow to be written. Renaming over it would not ask.
+// Whether a file is there that this user may not write, or nobody. Renaming over it would not ask.
 bool IsWriteProtected(const std::filesystem::path& path);
 
 // A file's bytes as they are. A file of more than 256 MB is refused.

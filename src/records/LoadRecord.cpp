@@ -15,6 +15,7 @@
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
+#include "records/StoredRows.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
 #include "units/UnitCatalogue.h"
@@ -169,6 +170,7 @@ bool GetTRCalc() {
     TakeOptions(*database);
     if (!GetProgramRow(*database)) TakeRow(table, heads, true);
     if (!GetSettings(*database)) MarkBlankTemperatures();
+    RememberRows(*database);
     FinishLoad();
     return true;
 }

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 
 #include "core/CalcRecord.h"
@@ -13,6 +12,7 @@
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/RecordTables.h"
+#include "records/Salvage.h"
 
 namespace quillmetra {
 
@@ -33,15 +33,24 @@ fs::path InFolder(const std::string& folder, const char* name) {
     return MachinePath(folder + "\\" + std::string(name));
 }
 
-// What an engine leaves beside a database after a crash belongs to it under its name: it must be gone before
-// another file takes the name.
-void ForgetJournal(const fs::path& file) {
+// Puts a new database in the place of a former one, which no other program may be writing. What an engine
+// leaves beside a database after a crash belongs to it under its name: it is undone, and gone before another
+// file takes the name.
+void Replace(const fs::path& beside, const fs::path& file) {
+    std::unique_ptr<Database> former;
+    std::optional<Transaction> lock;
     try {
-        Database(file, Kind).HasTable(FileName);  // the first look recovers
-    } catch (const RuntimeError&) {
-        // No database of ours: there is nothing to recover.
+        former = std::make_unique<Database>(file, Kind);
+        lock.emplace(*former);
+    } catch (const RuntimeError& error) {
+        if (IsLock(error)) throw;  // else it is no database that anybody could be at work on
     }
     for (const char* ending : {"-journal", "-wal", "-shm"}) RemoveIfThere(fs::path(file) += ending);
+    if (!OpenFilesCanBeReplaced) {
+        lock.reset();
+        former.reset();
+    }
+    MoveOver(beside, file);
 }
 
 // A file that is removed on every way out, and first of all when a former run has left it behind.
@@ -71,86 +80,34 @@ std::vector<std::int64_t> RowCounts(Database& database) {
     return counts;
 }
 
-bool SameFile(const std::string& a, const std::string& b) { return SameName(a, b); }
-
-// --- What can still be read of a damaged file --------------------------------------------------------------
-
-std::int64_t LastNumber(Recordset& rows, std::size_t known) {
-    // Behind the largest number that can be found so many more are tried; a damaged number may be any.
-    constexpr std::int64_t beyond = 1000, most = 10'000'000;
-    return std::min(std::max(rows.LargestNumber(), static_cast<std::int64_t>(known)), most) + beyond;
-}
-
-// Copies each row that can be read by its number, and tells the tags that the key knows but that are lost.
-// Gives the number of rows that were kept.
-std::size_t Salvage(Database& from, Database& to, const RecordTable& table, std::vector<std::string>& lost) {
-    const TableShape& shape = table.Shape;
-    Recordset source(from, shape, Recordset::Unplaced());
-    Recordset target(to, shape);
-    target.Index("Tag_Number");
-    const std::vector<std::string> known = source.ReadableKeys();
-    std::vector<std::string> kept;
-    const std::int64_t last = LastNumber(source, known.size());
-    for (std::int64_t number = 1; number <= last; ++number) {
-        if (!source.ReadNumbered(number)) continue;
-        const std::string tag = source.Text("Tag");
-        if (target.Seek(tag)) continue;
-        try {
-            target.AddNew();
-            target.SetAll(source);
-            target.Update();
-            kept.push_back(tag);
-        } catch (const RuntimeError&) {
-            lost.push_back(shape.Name + ": " + tag);
-        }
+// Sorts the keys of a sound database anew. Gives what is wrong with a damaged one, and throws what no repair
+// can help.
+std::optional<RuntimeError> FaultOf(const std::string& name) {
+    try {
+        const std::unique_ptr<Database> database = OpenRecords(name);
+        if (!database->Fault().empty()) return failure::DatabaseInvalid();
+        RowCounts(*database);  // the engine does not mind a field that is misspelt
+        database->Reindex();
+        return {};
+    } catch (const RuntimeError& error) {
+        const bool noRight =
+            error.Number == failure::PathAccess().Number || IsWriteProtected(MachinePath(name));
+        if (noRight || IsLock(error)) throw;
+        return error;
     }
-    std::sort(kept.begin(), kept.end());
-    for (const std::string& tag : known) {
-        if (!std::binary_search(kept.begin(), kept.end(), tag)) lost.push_back(shape.Name + ": " + tag);
+}
+
+// A file that says that it is of a later version is one, unless its tables are those of this version.
+SalvageReport SalvageInto(const fs::path& beside, const fs::path& file, const RuntimeError& fault) {
+    Database::Create(beside, Kind, Shapes());
+    Database target(beside, Kind);
+    SalvageReport found = Salvage(file, target);
+    if (!found.IsOurs && fault.Number == failure::DatabaseNewer().Number) throw fault;
+    if (found.Rows == 0) {
+        throw RuntimeError(fault.Number,
+                           fault.Description + "\nNothing of it can be read; it stays as it is");
     }
-    return kept.size();
-}
-
-std::vector<std::string> SalvageAll(Database& from, const fs::path& to) {
-    Database::Create(to, Kind, Shapes());
-    Database target(to, Kind);
-    Transaction all(target);
-    std::vector<std::string> lost;
-    std::size_t kept = 0;
-    for (const RecordTable* table : RecordTables()) {
-        try {
-            kept += Salvage(from, target, *table, lost);
-        } catch (const RuntimeError& error) {
-            lost.push_back(table->Shape.Name + ": " + error.Description);
-        }
-    }
-    if (kept == 0) throw RuntimeError(3049, "Nothing of this database can be read; it stays as it is");
-    all.Commit();
-    return lost;
-}
-
-std::uintmax_t BigEndian(std::string_view bytes) {
-    std::uintmax_t value = 0;
-    for (const char byte : bytes) value = value << 8U | static_cast<unsigned char>(byte);
-    return value;
-}
-
-// The engine refuses a file that is shorter than its first page says, as a copy that broke off. Makes a copy
-// of the full length, whose missing pages are blank; false for a file that is not cut.
-bool PadCutFile(const fs::path& file, const fs::path& padded) {
-    constexpr std::size_t header = 100, pageSizeAt = 16, pageCountAt = 28;
-    constexpr std::uintmax_t mostMissing = 256U << 20U;
-    std::string first(header, '\0');
-    std::ifstream source(file, std::ios::binary);
-    if (!source.read(first.data(), static_cast<std::streamsize>(header))) return false;
-    std::uintmax_t pageSize = BigEndian(std::string_view(first).substr(pageSizeAt, 2));
-    if (pageSize == 1) pageSize = 65536;
-    const std::uintmax_t full = pageSize * BigEndian(std::string_view(first).substr(pageCountAt, 4));
-    const std::uintmax_t size = fs::file_size(file);
-    if (size >= full || full - size > mostMissing) return false;
-    CopyWhole(file, padded);
-    fs::resize_file(padded, full);
-    return true;
+    return found;
 }
 
 void DeleteRows(Database& database, const std::string& tag) {
@@ -181,6 +138,17 @@ std::string FolderOf(const std::string& file) {
     return end == std::string::npos ? "" : file.substr(0, end);
 }
 
+bool IsSameFolder(const std::string& a, const std::string& b) {
+    const fs::path first = MachinePath(a);
+    const fs::path second = MachinePath(b);
+    std::error_code error;
+    return first == second || fs::equivalent(first, second, error);
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+    return SameName(FileNameOf(a), FileNameOf(b)) && IsSameFolder(FolderOf(a), FolderOf(b));
+}
+
 std::unique_ptr<Database> OpenRecords(const std::string& file) {
     auto database = std::make_unique<Database>(MachinePath(file), Kind);
     for (const RecordTable* table : RecordTables()) {
@@ -195,8 +163,7 @@ void MakeEmptyDatabase(const std::string& name) {
     const fs::path file = MachinePath(name);
     const Scratch beside(InFolder(FolderOf(name), "TRDB.new"));
     Database::Create(beside.File, Kind, Shapes());
-    ForgetJournal(file);
-    MoveOver(beside.File, file);
+    Replace(beside.File, file);
 }
 
 bool CreateDB(bool agreed) {
@@ -219,7 +186,7 @@ bool CreateDB(bool agreed) {
 void CompactDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
     const fs::path file = MachinePath(name);
-    if (IsWriteProtected(file)) throw failure::PathAccess();
+    if (IsWriteProtected(file)) throw WriteProtected(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch backup(InFolder(folder, "TRDB.BAK.new"));
     std::unique_ptr<Database> database = OpenRecords(name);
@@ -241,37 +208,42 @@ void CompactDB(const std::string& folder) {
 
 RepairReport RepairDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
-    const Scratch padded(InFolder(folder, "TRDB.FIX"));
-    const bool isCut = PadCutFile(MachinePath(name), padded.File);
-    std::unique_ptr<Database> database = OpenRecords(isCut ? SuitePath(padded.File) : name);
-    RepairReport report;
-    if (!isCut && database->Fault().empty()) {
-        database->Reindex();
-        return report;
-    }
-    report.WasDamaged = true;
+    const std::optional<RuntimeError> fault = FaultOf(name);
+    if (!fault) return {};
     const fs::path file = MachinePath(name);
-    if (IsWriteProtected(file)) throw failure::PathAccess();
+    if (IsWriteProtected(file)) throw WriteProtected(file);
+    const FileStamp stamp = StampOf(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch aside(InFolder(folder, "TRDB.BAD.new"));
-    report.Lost = SalvageAll(*database, beside.File);
+    SalvageReport found = SalvageInto(beside.File, file, *fault);
     CopyWhole(file, aside.File);
-    report.KeptAs = SuitePath(InFolder(folder, "TRDB.BAD"));
-    if (!OpenFilesCanBeReplaced) database.reset();
+    if (StampOf(file) != stamp) throw failure::DatabaseReplaced();
+    RepairReport report{true, found.Records, found.MissingPages, std::move(found.Lost),
+                        SuitePath(InFolder(folder, "TRDB.BAD"))};
     MoveOver(aside.File, report.KeptAs);
-    MoveOver(beside.File, file);
+    Replace(beside.File, file);
     return report;
+}
+
+std::string Counted(std::size_t count, const std::string& thing) {
+    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
 std::string RepairText(const RepairReport& report) {
     if (!report.WasDamaged) return "";
     constexpr std::size_t mostShown = 20;
-    std::string text = "The database was damaged. ";
-    text += report.Lost.empty() ? "All its records could be read." : "These rows could not be read:";
-    for (std::size_t i = 0; i < std::min(report.Lost.size(), mostShown); ++i) text += "\n" + report.Lost[i];
-    if (report.Lost.size() > mostShown) {
-        text += "\nand " + std::to_string(report.Lost.size() - mostShown) + " more";
+    const std::size_t lost = report.Lost.size();
+    std::string text = "The database was damaged.\n";
+    if (report.MissingPages > 0) {
+        text += "It broke off: " + Counted(report.MissingPages, "page") + " of its end " +
+                (report.MissingPages == 1 ? "is" : "are") + " missing.\n";
     }
+    text += Counted(report.Records, "record") + (report.Records == 1 ? " was saved.\n" : " were saved.\n");
+    text += lost > 0                  ? Counted(lost, "row") + " could not be read:"
+            : report.MissingPages > 0 ? "All rows that left a trace could be read."
+                                      : "All its rows could be read.";
+    for (std::size_t i = 0; i < std::min(lost, mostShown); ++i) text += "\n" + report.Lost[i];
+    if (lost > mostShown) text += "\nand " + std::to_string(lost - mostShown) + " more";
     return text + "\nThe damaged file is kept as " + report.KeptAs;
 }
 
@@ -284,7 +256,7 @@ bool DeleteRecord(const std::string& file, const std::string& tag) {
     Transaction all(*database);
     DeleteRows(*database, tag);
     all.Commit();
-    if (SameName(Calc.TagSaved, tag) && SameFile(Calc.LoadedDatabaseFile, file)) {
+    if (SameName(Calc.TagSaved, tag) && IsSameFile(Calc.LoadedDatabaseFile, file)) {
         // The record may still be open in a form: its next save writes every row.
         Calc.TagSaved.clear();
         Calc.LoadedDatabaseFile.clear();

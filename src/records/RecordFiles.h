@@ -30,12 +30,18 @@ bool IsDatabaseName(const std::string& file);
 std::string_view FileNameOf(std::string_view file);
 std::string FolderOf(const std::string& file);
 
+// Whether two full names mean one file: the file's own name without regard to case, the folder as the machine
+// tells folders apart.
+bool IsSameFile(const std::string& a, const std::string& b);
+bool IsSameFolder(const std::string& a, const std::string& b);
+
 // Opens a database and checks that it is one of the suite's with its six tables. "Open failed (Database
 // invalid)" for anything else, which is left untouched; a database of a later version, a locked one and a
 // damaged one are refused in words of their own.
 std::unique_ptr<Database> OpenRecords(const std::string& file);
 
-// Makes an empty database under a name, in place of one that is there, without a word.
+// Makes an empty database under a name, in place of one that is there, without a word. Throws when another
+// program is at work on that.
 void MakeEmptyDatabase(const std::string& name);
 
 // Makes an empty database in Suite.DatabasePath and tells so with the title Calc.MessageTitle; sets
@@ -49,12 +55,16 @@ void CompactDB(const std::string& folder);
 
 struct RepairReport {
     bool WasDamaged = false;
-    std::vector<std::string> Lost;  // what could not be read, in words; empty when all was kept
+    std::size_t Records = 0;        // that were saved
+    std::size_t MissingPages = 0;   // of a file that broke off; what was on them may have left no trace
+    std::vector<std::string> Lost;  // rows that could not be read, in words; empty when all was kept
     std::string KeptAs;             // where the damaged file stays
 };
-// Checks the database. A sound one gets its keys sorted anew; of a damaged one all that can be read goes to a
-// new file, and the damaged file stays beside it as TRDB.BAD.
+// Checks the database. A sound one gets its keys sorted anew; of a damaged one every row that can be read
+// goes to a new file, and the damaged file stays beside it as TRDB.BAD.
 RepairReport RepairDB(const std::string& folder);
+// "1 record", "2 records".
+std::string Counted(std::size_t count, const std::string& thing);
 // The report in words for the user; empty for a sound database.
 std::string RepairText(const RepairReport& report);
 

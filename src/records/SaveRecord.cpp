@@ -17,6 +17,7 @@
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
+#include "records/StoredRows.h"
 
 namespace quillmetra {
 
@@ -61,27 +62,22 @@ void MarkEverything() {
 
 void FindWhatToSave() {
     Calc.ChangedFlag = words::Yes;
-    if (SameName(Suite.DatabaseFile, Calc.LoadedDatabaseFile)) {
+    if (IsSameFile(Suite.DatabaseFile, Calc.LoadedDatabaseFile)) {
         DetectChanges();
     } else {
         MarkEverything();
     }
 }
 
-bool HasRow(Database& database, const RecordTable& table) {
-    Recordset rows(database, table.Shape, Recordset::Unplaced());
-    rows.Index("Tag_Number");
-    return rows.Seek(Calc.Tag);
-}
-
-// A row that is not there is written whatever was detected, and so is that of another tag's record which is
-// about to be overwritten: no save leaves a head without its row, or with the row of another record.
-void AddMissingRows(Database& database) {
-    const bool newTag = !SameName(Calc.Tag, std::string(Trim(Calc.TagSaved)));
+// A row that is not there is written whatever was detected, and so is one that another program has written
+// since it was loaded, and that of another tag's record which is about to be overwritten: no save leaves a
+// head without its row, or with the row of another record. A tag spelled otherwise is written to every row.
+void AddForeignRows(Database& database) {
+    const bool newTag = Calc.Tag != Trim(Calc.TagSaved);
     if (const RowWords* row = RowWordsInHand()) {
-        if (newTag || !HasRow(database, row->Table())) Calc.*(row->Save) = words::Yes;
+        if (newTag || !IsAsRemembered(database, row->Table())) Calc.*(row->Save) = words::Yes;
     }
-    if (IsYes(Calc.MixtureFlag) && (newTag || !HasRow(database, MixtureTable())))
+    if (IsYes(Calc.MixtureFlag) && (newTag || !IsAsRemembered(database, MixtureTable())))
         Calc.MixtureSave = words::Yes;
 }
 
@@ -208,12 +204,13 @@ bool WriteRecord(bool inARun) {
         }
         Transaction all(*database);
         if (heads.Seek(Calc.Tag) && !mayOverwrite) continue;
-        AddMissingRows(*database);
+        AddForeignRows(*database);
         DropForeignFlags();
         ComposeCodes();
         WriteRow(heads, HeadTable());
         database->AddTable(SettingsTable().Shape);
         refused = SaveRows(*database);
+        if (refused.empty()) RememberRows(*database);
         all.Commit();
         done = true;
     }

@@ -8,6 +8,7 @@
 #include "core/CalcRecord.h"
 #include "core/Programs.h"
 #include "core/StartUp.h"
+#include "core/Suite.h"
 #include "core/Words.h"
 #include "lineloss/PipeMaterials.h"
 #include "platform/Database.h"
@@ -15,6 +16,7 @@
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
+#include "records/RecordFiles.h"
 #include "records/SaveRecord.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
@@ -132,9 +134,19 @@ std::string NameInList(int index, const std::string& tag) {
     return "record " + std::to_string(index + 1) + ", " + (tag.empty() ? "without a tag" : tag);
 }
 
+// Whether the next record has any chance.
+bool CanWrite() {
+    try {
+        OpenRecords(Suite.DatabaseFile)->TryToWrite();
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
 bool MayGoOn(const Version5Report& report) {
-    const std::string count = std::to_string(report.Unsaved.size());
-    return AskYesNo(count + " records could not be saved so far\nContinue", "Convert 5.x to 6 data");
+    return AskYesNo(Counted(report.Unsaved.size(), "record") + " could not be saved so far\nContinue",
+                    "Convert 5.x to 6 data");
 }
 
 }  // namespace
@@ -199,7 +211,8 @@ Version5Report SaveVersion5(const Version5File& records, const std::vector<std::
         Calc.LoadedDatabaseFile.clear();  // the record is of no database: all of it is written
         if (SaveTRCalc(true)) continue;
         report.Unsaved.push_back(NameInList(index, Calc.Tag));
-        if (report.Unsaved.size() % RefusalsToAsk == 0 && !MayGoOn(report)) {
+        const bool asks = report.Unsaved.size() % RefusalsToAsk == 0;
+        if (!CanWrite() || (asks && !MayGoOn(report))) {
             report.Stopped = true;
             break;
         }

@@ -17,6 +17,7 @@ public:
     explicit Version5File(std::string bytes);
 
     int Count() const { return static_cast<int>(bytes_.size() / RecordSize); }
+    bool IsCut() const { return bytes_.size() % RecordSize != 0; }
 
     // Takes a record, counted from 0, into the record in hand, which was reset before: numbers in the units
     // that were shown, units, basis, pipe and fittings. Numbers that are none read 0, an unusable factor
@@ -36,13 +37,13 @@ private:
 struct Version5Report {
     int OtherPrograms = 0;             // records that were passed over
     std::vector<std::string> Unsaved;  // "record 3, P-101", as a list for the user
-    bool Stopped = false;              // by the user, before the last record
+    bool Stopped = false;              // before the last record, by the user or since nothing can be written
     std::string HeadingsCut;           // what CutHeadings tells
 };
 
 // Saves each record under the tag of its line in Suite.DatabaseFile, which must exist, with the headings in
-// force. What cannot be saved has been told by the save, and the run goes on. Leaves the record in hand in no
-// particular state.
+// force. What cannot be saved has been told by the save, and the run goes on as long as the database can be
+// written. Leaves the record in hand in no particular state.
 Version5Report SaveVersion5(const Version5File& records, const std::vector<std::string>& tags);
 
 }  // namespace quillmetra

@@ -183,8 +183,7 @@ TEST_F(OldData, ABadRecordDoesNotStopTheRun) {
         std::string Records, Tags, Saved, Told;
         std::deque<Answer> Answers;
     } cases[] = {
-        {"", "", "", "Conversion Complete!", {}},
-        {good + good.substr(0, 920), "A\nB\n", "A ", "Conversion Complete!", {}},
+        {good + good.substr(0, 920), "A\nB\n", "A ", "ends in the middle of a record", {}},
         {good + good + good, "A\n\n", "A ", "Each record must have a unique Tag number", {}},
         {good + good, "\nB", "B ", "Not saved:\nrecord 1, without a tag", {}},
         {good + good, std::string(31, 'x') + "\nB", "B ", "'Tag' holds at most 30", {}},
@@ -195,6 +194,7 @@ TEST_F(OldData, ABadRecordDoesNotStopTheRun) {
          "Tag Number a is on file\nOverwrite the existing record?",
          {Answer::Yes}},
         {of(0) + good + of(6) + of(-1), "Z\nA\nX\nY", "A ", "3 records are of programs", {}},
+        {of(0) + good, "Z\nA", "A ", "1 record is of a program", {}},
         {nonsense.Bytes + good, "N\nA\n", "A N ", "Conversion Complete!", {}},
     };
     for (const auto& each : cases) {
@@ -212,6 +212,35 @@ TEST_F(OldData, ABadRecordDoesNotStopTheRun) {
         for (const double value : row) EXPECT_TRUE(std::isfinite(value));
     }
     for (const double factor : Calc.UnitFactor) EXPECT_GT(factor, 0);
+    for (const std::string& bytes : {std::string(), good.substr(0, 920)}) {
+        Convert(bytes, "A");
+        EXPECT_TRUE(Host.LastText().starts_with("There is no whole record in\n"));
+    }
+}
+
+// A database that cannot be written is found out before anything is written, and once.
+TEST_F(OldData, ADatabaseThatCannotBeWrittenIsLeftAlone) {
+    std::string records;
+    for (int i = 0; i < 5; ++i) records += OldRecord(1).Bytes;
+    std::filesystem::permissions(DataFolder() / "TRDB.MDB", std::filesystem::perms::owner_read);
+    Convert(records, "A\nB\nC\nD\nE");
+    EXPECT_EQ(Host.Boxes.size(), 4U);
+    EXPECT_TRUE(Host.LastText().starts_with("The database is write-protected\n"));
+    EXPECT_EQ(ReadBytes(FileOf("TRHDG.txt")), "now 1\r\nnow 2\r\n");
+    // It is protected in the middle of the run, when the first record that is on file already asks.
+    std::filesystem::permissions(DataFolder() / "TRDB.MDB", std::filesystem::perms::owner_all);
+    Convert(records.substr(0, 921), "A");
+    Host.Boxes.clear();
+    Host.Answers = {Answer::Yes, Answer::Yes};
+    Host.WhileAsked = [&] {
+        if (Host.LastText().find("is on file") == std::string::npos) return;
+        std::filesystem::rename(DataFolder() / "TRDB.MDB", DataFolder() / "away");
+    };
+    Convert(records, "A\nB\nC\nD\nE");
+    Host.WhileAsked = {};
+    EXPECT_EQ(Host.LastText(), "The conversion was stopped");
+    EXPECT_TRUE(WasTold("Not saved:\nrecord 1, A"));
+    EXPECT_FALSE(WasTold("record 2, B"));
 }
 
 // One count above zero decides for the whole file; what fits neither width reads as singles.

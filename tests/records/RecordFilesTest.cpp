@@ -2,12 +2,19 @@
 // the export.
 #include "records/RecordFiles.h"
 
+#include <chrono>
 #include <csignal>
+#include <functional>
 
+#include <grp.h>
 #include <sqlite3.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "platform/NumberText.h"
+#include "platform/SafeFiles.h"
 #include "records/RecordExport.h"
 #include "tests/records/RecordFixture.h"
 
@@ -15,6 +22,23 @@ namespace quillmetra {
 namespace {
 
 namespace fs = std::filesystem;
+
+// What another user finds, who does not own the files: the outcome of an act in a process of his. Without the
+// right to become another one the user stays, and is no administrator.
+bool AsAnotherUser(const std::function<bool()>& act) {
+    constexpr unsigned nobody = 65534;
+    const pid_t child = fork();
+    if (child == 0) {
+        const bool changed =
+            geteuid() != 0 || (setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0);
+        _exit(changed && act() ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+constexpr const char* Invalid = "Open failed (Database invalid)";
 
 class RecordFilesTest : public RecordTest {
 protected:
@@ -37,13 +61,16 @@ protected:
         sqlite3_close(engine);
     }
 
-    std::string OpenFailure() const {
+    static std::string FailureOf(const std::function<void()>& act) {
         try {
-            OpenRecords(Suite.DatabaseFile);
+            act();
         } catch (const RuntimeError& error) {
             return error.Description;
         }
         return "";
+    }
+    static std::string OpenFailure() {
+        return FailureOf([] { OpenRecords(Suite.DatabaseFile); });
     }
 
     std::vector<std::string> FilesBeside() const {
@@ -56,8 +83,6 @@ protected:
         return names;
     }
 };
-
-constexpr const char* Invalid = "Open failed (Database invalid)";
 
 TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
     const std::string own = Bytes();
@@ -98,7 +123,7 @@ TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
     fs::permissions(File(), fs::perms::owner_read);
     EXPECT_TRUE(Display("P-1"));
     EXPECT_FALSE(SaveTRCalc());
-    EXPECT_EQ(User.LastText(), "attempt to write a readonly database");
+    EXPECT_EQ(User.LastText(), "The database is write-protected\n" + SuitePath(File()));
     fs::permissions(File(), fs::perms::owner_read | fs::perms::owner_write);
 
     sqlite3* other = nullptr;
@@ -106,7 +131,15 @@ TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
     sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
     TakeFilledRecord(1, 1, "P-2");
     EXPECT_FALSE(SaveTRCalc());
-    EXPECT_EQ(User.LastText(), "database is locked");
+    const std::string locked = "The database is locked by another program\n" + SuitePath(File());
+    EXPECT_EQ(User.LastText(), locked);
+    EXPECT_EQ(FailureOf([] { CreateDB(true); }), locked) << "nobody's database goes while he writes";
+    Database::BusyMilliseconds = 200;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(FailureOf([] { OpenRecords(Suite.DatabaseFile); }), locked);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(390)) << "waited for once";
+    EXPECT_EQ(FailureOf([] { RepairDB(Suite.DatabasePath); }), locked);
+    Database::BusyMilliseconds = 20;
     EXPECT_EQ(Calc.ChangedFlag, words::Yes) << "still to be saved";
     sqlite3_close(other);
     EXPECT_TRUE(SaveTRCalc());
@@ -114,13 +147,52 @@ TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
     const std::string whole = Bytes();
     for (std::size_t length = 100; length < whole.size(); length += 4099) {
         WriteData("TRDB.MDB", whole.substr(0, length));
-        try {
+        const std::string failure = FailureOf([&] {
             RecordView view(Suite.DatabaseFile);
             Display("P-1");
-        } catch (const RuntimeError& error) {
-            EXPECT_NE(error.Description, "");
-        }
+        });
+        EXPECT_TRUE(failure.empty() || failure == Invalid) << failure;
     }
+}
+
+// Rights of the file are those of the people who work with it, whoever compacts, repairs or creates it anew.
+TEST_F(RecordFilesTest, RightsAreKeptAndAsked) {
+    SaveNew("P-1");
+    const bool isRoot = geteuid() == 0;
+    const auto damage = [&] { WriteData("TRDB.MDB", Bytes().replace(20, 8, "damaged!")); };
+    const std::function<void()> acts[] = {[] { CompactDB(Suite.DatabasePath); },
+                                          [&] {
+                                              damage();
+                                              RepairDB(Suite.DatabasePath);
+                                          },
+                                          [] { CreateDB(true); }};
+    for (const auto& act : acts) {
+        fs::permissions(File(), fs::perms(0664));
+        ASSERT_TRUE(!isRoot || chown(File().c_str(), 7, 12) == 0);
+        act();
+        struct stat rights {};
+        ASSERT_EQ(stat(File().c_str(), &rights), 0);
+        EXPECT_EQ(rights.st_mode & 0777, 0664);
+        EXPECT_TRUE(!isRoot || (rights.st_uid == 7 && rights.st_gid == 12));
+    }
+    // A file that belongs to somebody else, in a folder where everybody may put files.
+    fs::permissions(Folder, fs::perms(0777));
+    fs::permissions(DataFolder(), fs::perms(0777));
+    fs::permissions(File(), fs::perms(isRoot ? 0644 : 0444));
+    const std::string denied = "Path/File access error\n" + SuitePath(File()) + "\nPermission denied";
+    EXPECT_TRUE(AsAnotherUser(
+        [&] { return IsWriteProtected(File()) && RecordView(Suite.DatabaseFile).Count() == 0; }));
+    EXPECT_TRUE(AsAnotherUser([&] { return FailureOf([] { CompactDB(Suite.DatabasePath); }) == denied; }));
+    EXPECT_TRUE(AsAnotherUser([&] {
+        User.Answers = {Answer::No};
+        return !CreateDB(true);
+    })) << "asks once more";
+    EXPECT_TRUE(AsAnotherUser([&] {
+        TakeFilledRecord(1, 1, "P-2");
+        return !SaveTRCalc() && User.LastText().starts_with("The database is write-protected");
+    }));
+    fs::permissions(File(), fs::perms(isRoot ? 0600 : 0));
+    EXPECT_TRUE(AsAnotherUser([&] { return OpenFailure() == denied; }));
 }
 
 // A database without the table of settings, as one made elsewhere, opens and gets it with the first save.
@@ -177,51 +249,11 @@ TEST_F(RecordFilesTest, CompactKeepsRecordsAndOneBackup) {
     SaveNew("P-99");
 }
 
-// Pages of the file are overwritten one after the other: whatever can be read stays, the rest is named.
-TEST_F(RecordFilesTest, RepairKeepsWhatCanBeRead) {
-    EXPECT_FALSE(RepairDB(Suite.DatabasePath).WasDamaged);
-    EXPECT_EQ(RepairText({}), "");
-    constexpr int count = 60;
-    for (int i = 0; i < count; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
-    const std::string whole = Bytes();
-    constexpr std::size_t page = 4096;
-    int damagedFiles = 0;
-    for (std::size_t place = page; place < whole.size(); place += page) {
-        std::string damaged = whole;
-        damaged.replace(place, page, std::string(page, '\x5a'));
-        WriteData("TRDB.MDB", damaged);
-        RepairReport report;
-        try {
-            report = RepairDB(Suite.DatabasePath);
-        } catch (const RuntimeError&) {
-            EXPECT_EQ(Bytes(), damaged) << "nothing can be done, nothing is changed";
-            continue;
-        }
-        if (!report.WasDamaged) continue;
-        ++damagedFiles;
-        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
-        EXPECT_EQ(database->Fault(), "");
-        int missing = 0;
-        for (const RecordTable* table : RecordTables()) {
-            const auto rows = static_cast<int>(Recordset(*database, table->Shape).RecordCount());
-            const int full = table == &HeadTable() || table == &UnitsTable() || table == &SettingsTable()
-                                 ? count
-                             : table == &WaterhammerTable() ? count / 5
-                             : table == &MixtureTable()     ? 0
-                                                            : count * 2 / 5;
-            missing += full - rows;
-        }
-        // Lost rows are named one by one, or their whole table is.
-        EXPECT_EQ(missing > 0, !report.Lost.empty()) << RepairText(report);
-        EXPECT_EQ(ReadBytes(report.KeptAs), damaged);
-    }
-    EXPECT_GT(damagedFiles, 20);
-}
-
 // No file may grow for the life of this, as on a disk that is full.
 class FullDisk {
 public:
-    explicit FullDisk(std::uintmax_t size) : former_(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit FullDisk(std::uintmax_t size) : former_(std::signal(SIGXFSZ, SIG_DFL)) {
+        OutliveFileSizeLimit();
         getrlimit(RLIMIT_FSIZE, &limit_);
         const rlimit full{size, limit_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &full);
@@ -247,6 +279,7 @@ TEST_F(RecordFilesTest, AFullDiskLosesNothing) {
             TakeFilledRecord(i % 5 + 1, 1, "P-" + std::to_string(i));
             if (!SaveTRCalc()) ++refused;
         }
+        EXPECT_TRUE(User.LastText().starts_with("The disk reports an error\n" + SuitePath(File())));
         EXPECT_GT(refused, 0);
         EXPECT_EQ(Calc.ChangedFlag, words::Yes) << "still to be saved";
     }
@@ -254,23 +287,6 @@ TEST_F(RecordFilesTest, AFullDiskLosesNothing) {
     EXPECT_EQ(database->Fault(), "");
     EXPECT_EQ(Recordset(*database, HeadTable().Shape).RecordCount(), 45 - refused);
     EXPECT_TRUE(SaveTRCalc()) << "once there is room";
-}
-
-// The commonest damage: a copy that broke off.
-TEST_F(RecordFilesTest, RepairReadsAFileThatWasCutShort) {
-    constexpr int count = 60;
-    for (int i = 0; i < count; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
-    const std::string whole = Bytes();
-    for (const std::size_t lost : {std::size_t{100}, std::size_t{4096}, whole.size() / 4}) {
-        const std::string cut = whole.substr(0, whole.size() - lost);
-        WriteData("TRDB.MDB", cut);
-        const RepairReport report = RepairDB(Suite.DatabasePath);
-        EXPECT_TRUE(report.WasDamaged) << lost;
-        EXPECT_EQ(ReadBytes(report.KeptAs), cut);
-        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
-        EXPECT_EQ(database->Fault(), "");
-        EXPECT_EQ(report.Lost.empty(), lost == 100) << "the blank end of the last page, or rows";
-    }
 }
 
 TEST_F(RecordFilesTest, DeleteTakesAllRowsOfATag) {
@@ -299,6 +315,11 @@ TEST_F(RecordFilesTest, SaveToAnotherDatabase) {
     CreateDB(true);
     EXPECT_TRUE(SaveTRCalc());
     EXPECT_EQ(AllValues("P-1"), saved);
+    // A folder whose name differs in capitals alone is another one where the machine says so.
+    fs::create_directory(Folder / "ONE");
+    Suite.DatabasePath = SuitePath(Folder / "ONE");
+    EXPECT_EQ(IsSameFile(Suite.DatabaseFile, DatabaseFileOf(Suite.DatabasePath)), fs::exists(Folder / "oNE"));
+    EXPECT_TRUE(IsSameFile(Suite.DatabaseFile, SuitePath(Folder / "one/../one/trdb.mdb")));
 }
 
 // Another program compacts while this one has the file open: what is open is then no file any more.

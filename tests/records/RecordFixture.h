@@ -59,6 +59,18 @@ inline void TakeFilledRecord(int program, int set, const std::string& tag) {
     Calc.FluidDataSource = words::Loaded;
 }
 
+// A mixture of sixteen components, whose rows are made long by a letter.
+inline void TakeMixture(const std::string& tag, const std::string& letter = " ") {
+    TakeFilledRecord(2, 1, tag);
+    Calc.MixtureFlag = words::Yes;
+    for (std::size_t i = 0; i < 16; ++i) {
+        Calc.FluidPercent[i] = 6.25;
+        Calc.FluidData[i] = "Fluid " + std::to_string(i) + "  ,  ";
+        for (int k = 0; k < 80; ++k) Calc.FluidData[i] += letter;
+        Calc.FluidData[i] += "1.5 , 2,";
+    }
+}
+
 class RecordTest : public SuiteTest {
 protected:
     RecordTest() {

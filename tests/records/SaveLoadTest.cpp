@@ -211,6 +211,38 @@ TEST_F(SaveLoadTest, NoSaveLeavesARecordWithoutItsRow) {
     }
 }
 
+// Another program has the record open too and saves it in its own way, or takes a row out: a save that
+// changes a comment alone must not put its units beside the other's numbers.
+TEST_F(SaveLoadTest, ASaveLeavesNothingOfAnotherProgramsRecord) {
+    const auto other = [](const RecordTable& table, const char* field) {
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        Recordset rows(*database, table.Shape);
+        rows.Index("Tag_Number");
+        rows.Seek("M-1");
+        if (*field == '\0') return rows.Delete();
+        rows.Edit();
+        rows.Set(field, 4711.0);
+        rows.Update();
+    };
+    TakeMixture("M-1");
+    ASSERT_TRUE(SaveTRCalc());
+    const std::vector<FieldValue> saved = AllValues("M-1");
+    for (const bool reopened : {false, true}) {
+        if (reopened) Display("M-1");
+        for (const RecordTable* table : {&UnitsTable(), &PressureDropTable(), &MixtureTable()}) {
+            for (const char* field : {table->Fields[1].Shape.Name == "Fluid Type" ? "Pipe Length" : "", ""}) {
+                other(*table, field);
+                EXPECT_TRUE(SaveTRCalc());
+                EXPECT_EQ(AllValues("M-1"), saved) << table->Shape.Name << field << reopened;
+            }
+        }
+    }
+    // The spelling of the tag goes to every row.
+    Calc.Tag = "m-1";
+    ASSERT_TRUE(SaveTRCalc());
+    for (const FieldValue& value : AllValues("M-1")) EXPECT_NE(value, FieldValue("M-1"));
+}
+
 // The form shows no results of a case whose inputs were changed; the database keeps none either.
 TEST_F(SaveLoadTest, BlankedResultsAreNotSaved) {
     TakeFilledRecord(1, 1, "B-1");
@@ -241,15 +273,6 @@ TEST_F(SaveLoadTest, AnEmptyTemperatureIsNoZero) {
 }
 
 // --- Mixtures ----------------------------------------------------------------------------------------------
-
-void TakeMixture(const std::string& tag) {
-    TakeFilledRecord(2, 1, tag);
-    Calc.MixtureFlag = words::Yes;
-    for (std::size_t i = 0; i < 16; ++i) {
-        Calc.FluidPercent[i] = 6.25;
-        Calc.FluidData[i] = "Fluid " + std::to_string(i) + "  ,  " + std::string(80, ' ') + "1.5 , 2,";
-    }
-}
 
 TEST_F(SaveLoadTest, MixturesKeepTheirComponents) {
     TakeMixture("M-1");

@@ -9,6 +9,12 @@ expect-state txtTagNum hidden
 answer OK
 click cmdDBOpen
 expect-message Open failed (Database invalid)
+write-file TRData/TRDB.MDB "words"
+answer OK
+click cmdDBOpen
+expect-message Open failed (Database invalid)
+expect-status Repair database, in the menu File, saves what can still be read of a damaged database
+remove-file TRData/TRDB.MDB
 new 1
 
 # --- Saving ------------------------------------------------------------------------------------------------

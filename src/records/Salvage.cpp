@@ -1,0 +1,161 @@
+// See Salvage.h.
+#include "records/Salvage.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+
+#include "platform/DatabasePages.h"
+#include "platform/KeyOrder.h"
+#include "records/RecordTables.h"
+
+namespace quillmetra {
+
+namespace {
+
+// The engine's own list of tables, by the fields that it has.
+const TableShape& SchemaShape() {
+    static const TableShape shape = {"sqlite_master",
+                                     {{"type", FieldType::Text},
+                                      {"name", FieldType::Text},
+                                      {"tbl_name", FieldType::Text},
+                                      {"rootpage", FieldType::Integer},
+                                      {"sql", FieldType::Text}}};
+    return shape;
+}
+
+std::vector<TableShape> AllShapes() {
+    std::vector<TableShape> shapes;
+    for (const RecordTable* table : RecordTables()) shapes.push_back(table->Shape);
+    shapes.push_back(SchemaShape());
+    return shapes;
+}
+
+std::string TextOf(const FieldValue& value) {
+    const auto* text = std::get_if<std::string>(&value);
+    return text == nullptr ? "" : *text;
+}
+
+// What is known of a record: which tables gave a row of it, and what its head says.
+struct Trace {
+    std::set<const RecordTable*> Found;
+    const RecordTable* Program = nullptr;
+    bool IsMixture = false;
+
+    bool Has(const RecordTable& table) const { return Found.contains(&table); }
+    bool HasProgramRow() const {
+        return Has(PressureDropTable()) || Has(WaterhammerTable()) || Has(FluidDataTable());
+    }
+};
+
+struct InKeyOrder {
+    bool operator()(const std::string& a, const std::string& b) const { return CompareKeys(a, b) < 0; }
+};
+
+class Salvager {
+public:
+    explicit Salvager(Database& target) {
+        for (const RecordTable* table : RecordTables()) {
+            rows_.push_back(std::make_unique<Recordset>(target, table->Shape, Recordset::Unplaced()));
+            rows_.back()->Index("Tag_Number");
+        }
+    }
+
+    void TakeRow(const PageRow& row) {
+        if (row.Table == rows_.size()) return TakeSchema(row.Values);
+        const RecordTable& table = *RecordTables()[row.Table];
+        const std::string tag = TextOf(row.Values[0]);
+        Trace& trace = traces_[tag];
+        if (trace.Has(table) || !Copied(*rows_[row.Table], row.Values)) return;
+        trace.Found.insert(&table);
+        if (&table == &HeadTable()) TakeHead(trace, *rows_[row.Table], tag);
+    }
+
+    void TakeKey(const std::string& tag) { traces_[tag]; }
+
+    SalvageReport Report() const {
+        SalvageReport report{.IsOurs = IsOurs()};
+        for (const auto& [tag, trace] : traces_) {
+            report.Records += trace.Has(HeadTable()) ? 1 : 0;
+            report.Rows += trace.Found.size();
+            for (const std::string& name : Missing(trace)) report.Lost.push_back(name + ": " + tag);
+        }
+        return report;
+    }
+
+private:
+    // False for values that no field can hold: the row is damaged.
+    static bool Copied(Recordset& target, const std::vector<FieldValue>& values) {
+        target.AddNew();
+        try {
+            target.SetAll(values);
+        } catch (const RuntimeError&) {
+            return false;
+        }
+        target.Update();
+        return true;
+    }
+
+    static void TakeHead(Trace& trace, Recordset& heads, const std::string& tag) {
+        heads.Seek(tag);
+        const auto stored = static_cast<int>(heads.Number("Program Number"));
+        trace.Program = ProgramTable(stored > 90 ? stored / 100 : stored);
+        trace.IsMixture = heads.Text("Other Calcs").ends_with("MX");
+    }
+
+    void TakeSchema(const std::vector<FieldValue>& values) {
+        if (TextOf(values[0]) == "table") schema_[TextOf(values[1])] = TextOf(values[4]);
+    }
+
+    bool IsOurs() const {
+        std::size_t known = 0;
+        for (const RecordTable* table : RecordTables()) {
+            const auto found = schema_.find(table->Shape.Name);
+            if (found == schema_.end()) continue;
+            if (found->second != Database::SchemaText(table->Shape)) return false;
+            ++known;
+        }
+        return known == schema_.size() && known + 1 >= RecordTables().size();
+    }
+
+    // A database that was made elsewhere may have no table of settings: it knows all the others.
+    bool HasSettings() const {
+        return schema_.size() + 1 != RecordTables().size() || schema_.contains(SettingsTable().Shape.Name);
+    }
+
+    std::vector<std::string> Missing(const Trace& trace) const {
+        std::vector<std::string> names;
+        const auto expect = [&](const RecordTable& table) {
+            if (!trace.Has(table)) names.push_back(table.Shape.Name);
+        };
+        expect(HeadTable());
+        expect(UnitsTable());
+        if (trace.Program != nullptr) expect(*trace.Program);
+        if (trace.Program == nullptr && !trace.HasProgramRow()) names.emplace_back("Calculation");
+        if (trace.IsMixture) expect(MixtureTable());
+        if (HasSettings()) expect(SettingsTable());
+        return names;
+    }
+
+    std::vector<std::unique_ptr<Recordset>> rows_;
+    std::map<std::string, Trace, InKeyOrder> traces_;
+    std::map<std::string, std::string> schema_;
+};
+
+}  // namespace
+
+SalvageReport Salvage(const std::filesystem::path& damaged, Database& target) {
+    const std::vector<TableShape> shapes = AllShapes();
+    DatabasePages pages(damaged, shapes);
+    Salvager salvager(target);
+    Transaction all(target);
+    pages.Read([&](const PageRow& row) { salvager.TakeRow(row); },
+               [&](const std::string& key) { salvager.TakeKey(key); });
+    all.Commit();
+    SalvageReport report = salvager.Report();
+    report.MissingPages = pages.MissingPages();
+    return report;
+}
+
+}  // namespace quillmetra
