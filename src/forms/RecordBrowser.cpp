@@ -137,15 +137,18 @@ void frmTRProg::CloseView() {
     ShowFields(false);
 }
 
-// The record that a calculation has left, which may be new.
+// The record that a calculation has left, which may be new; the one shown before when it has left none.
 void frmTRProg::Activated() {
     if (view_ == nullptr) return;
     // A calculation may have been saved to another database; what is done here is done to the one shown.
     Suite.DatabaseFile = lblPath(0).Caption();
     Suite.DatabasePath = FolderOf(Suite.DatabaseFile);
+    const std::string before = view_->Head().Tag;
     // Another process may have put a new file in its place meanwhile.
     if (!OpenView()) return CloseView();
-    if (!Calc.Tag.empty()) view_->Find(Calc.Tag);
+    for (const std::string& tag : {before, Calc.Tag}) {
+        if (!tag.empty()) view_->Find(tag);
+    }
     if (!view_->HasRecord()) view_->First();
     ShowRecord();
 }

@@ -227,6 +227,10 @@ expect txtDensity(1) 0.2563
 expect-state mnuSatSteam1 checked
 expect-title Ver.6.0.0.  Gas properties at pressure and temperature - Saturated Steam
 click mnuProgram
+# A calculation that is given up leaves the browser where it was.
+new 1
+click mnuProgram
+expect txtTagNum S-1
 
 # --- Delete ------------------------------------------------------------------------------------------------------
 answer No
