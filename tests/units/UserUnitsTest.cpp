@@ -117,10 +117,10 @@ TEST_F(UserUnitsTest, OtherFilesAreNotTaken) {
 TEST_F(UserUnitsTest, ReadsLeniently) {
     auto lines = GoodLines;
     lines[0] = "  Vol ";
-    lines[1] = "17";            // no unit set
-    lines[2] = "gal,UK/m";      // a name with a comma
-    lines[45] = "";             // the usual mode
-    lines[46] = "a barometer";  // none
+    lines[1] = "17";             // no unit set
+    lines[2] = "gal,UK/minute";  // a name with a comma, longer than a record takes
+    lines[45] = "";              // the usual mode
+    lines[46] = "a barometer";   // none
     lines.emplace_back("more");
     std::string text;
     for (const std::string& line : lines) text += line + "\n";
