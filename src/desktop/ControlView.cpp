@@ -1,6 +1,7 @@
 // See ControlView.h.
 #include "desktop/ControlView.h"
 
+#include "desktop/FormWindow.h"
 #include "desktop/Painting.h"
 #include "platform/Plot.h"
 
@@ -47,6 +48,8 @@ void ControlView::RenewColours() {
 }
 
 void ControlView::RenewToolTip() { widget_->setToolTip(ToQt(control_->ToolTip())); }
+
+void ControlView::Later(const Handler& act) { static_cast<FormWindow*>(widget_->window())->Later(act); }
 
 ControlView* MakeView(Control& control, QWidget* parent) {
     switch (control.Kind()) {

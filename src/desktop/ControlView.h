@@ -44,6 +44,8 @@ protected:
     virtual void RenewVisible();
     virtual void RenewColours();
     virtual void RenewToolTip();
+    // See FormWindow.
+    void Later(const Handler& act);
 
 private:
     Control* control_;

@@ -1,8 +1,6 @@
 // See DesktopHost.h. The questions to the user are in Questions.cpp.
 #include "desktop/DesktopHost.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -93,12 +91,9 @@ void DesktopHost::PutInPlace(FormWindow& window) {
     } else if (lastCentre_) {
         centre = *lastCentre_;
     }
-    QRect place(QPoint(), window.size());
-    place.moveCenter(centre);
-    place.moveLeft(
-        std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
-    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
-    window.move(place.topLeft());
+    QRect frame = QRect(QPoint(), window.size()).marginsAdded(FrameOf(window));
+    frame.moveCenter(centre);
+    PlaceWithin(window, frame.marginsRemoved(FrameOf(window)), room);
 }
 
 void DesktopHost::FormHidden(Form& form) {

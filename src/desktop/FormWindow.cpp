@@ -2,6 +2,7 @@
 #include "desktop/FormWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -17,6 +19,7 @@
 #include "desktop/KeyNames.h"
 #include "desktop/Menus.h"
 #include "desktop/Painting.h"
+#include "desktop/WindowPlaces.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
 
@@ -39,6 +42,15 @@ bool IsIn(const Control& control, const Control& container) {
 // The keys that go by the form's rules; all others are the widget's own.
 bool FormRules(const std::string& key) {
     return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab" || key == "F1";
+}
+
+// A letter with Alt that is nobody's access key is no text; a keyboard that makes another character with it
+// is.
+bool IsStrayAccessKey(const QKeyEvent& event) {
+    const auto held = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    const QString text = event.text();
+    return held == Qt::AltModifier && text.size() == 1 && text.at(0).isLetter() &&
+           text.at(0).toUpper() == QChar(static_cast<char16_t>(event.key()));
 }
 
 // The toolkit's own way from option to option would leave the model behind.
@@ -91,7 +103,7 @@ void FormWindow::MakeViews() {
     areas_ = builder.PaintedAreas();
 
     if (HasMenus(*form_)) {
-        const std::vector<ControlView*> menus = MakeMenus(*form_, *menuBar());
+        const std::vector<ControlView*> menus = MakeMenus(*form_, *menuBar(), [this] { FollowFocus(); });
         views_.insert(views_.end(), menus.begin(), menus.end());
     }
     for (ControlView* view : views_) Connect(*view);
@@ -148,8 +160,7 @@ void FormWindow::TakeFirstSize() {
         size.rheight() += menuBar()->sizeHint().height();
     }
     size.rheight() += statusBar()->sizeHint().height();
-    constexpr int frame = 40;  // title bar and borders of the window manager
-    const QSize most = screen()->availableSize() - QSize(8, frame);
+    const QSize most = screen()->availableGeometry().marginsRemoved(FrameOf(*this)).size();
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     if (size.height() > most.height()) size.rwidth() += bar;
     if (size.width() > most.width()) size.rheight() += bar;
@@ -159,6 +170,7 @@ void FormWindow::TakeFirstSize() {
     } else {
         resize(size);
     }
+    if (isVisible()) MoveIntoScreen(*this);
 }
 
 void FormWindow::Forget() {
@@ -259,6 +271,22 @@ void FormWindow::FollowFocusSoon() {
         Qt::QueuedConnection);
 }
 
+void FormWindow::Later(std::function<void()> act) {
+    acts_.push_back(std::move(act));
+    QMetaObject::invokeMethod(
+        this, [this] { RunActs(); }, Qt::QueuedConnection);
+}
+
+void FormWindow::RunActs() {
+    if (acting_) return;
+    const QScopedValueRollback now(acting_, true);
+    while (!acts_.empty()) {
+        const std::function<void()> act = std::move(acts_.front());
+        acts_.pop_front();
+        act();
+    }
+}
+
 void FormWindow::UserReached(Control& control) {
     MoveFocus(control);
     FollowFocus();  // the model may have stayed, or gone elsewhere
@@ -268,19 +296,16 @@ bool FormWindow::focusNextPrevChild(bool) { return true; }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (form_ != nullptr) CloseWindow(*form_);
-        },
-        Qt::QueuedConnection);
+    Later([this] {
+        if (form_ != nullptr) CloseWindow(*form_);
+    });
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (form_ == nullptr) return false;
     const auto found = byTarget_.find(watched);
     ControlView* const view = found == byTarget_.end() ? nullptr : found->second;
-    if (event->type() == QEvent::KeyPress) return KeyPressed(view, *static_cast<QKeyEvent*>(event));
+    if (event->type() == QEvent::KeyPress) return KeyCame(*watched, view, *static_cast<QKeyEvent*>(event));
     if (view == nullptr) return false;
     Control& control = *view->Model();
     switch (event->type()) {
@@ -289,12 +314,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             if (form_->Focus.Current() == &control) break;
             if (reason == Qt::MouseFocusReason) pressed_ = view;
             if (reason == Qt::ShortcutFocusReason) {
-                QMetaObject::invokeMethod(
-                    view,
-                    [this, view] {
-                        if (view->Model() != nullptr) UserReached(*view->Model());
-                    },
-                    Qt::QueuedConnection);
+                Later([this, view] {
+                    if (view->Model() != nullptr) UserReached(*view->Model());
+                });
             }
             if (reason == Qt::OtherFocusReason || reason == Qt::TabFocusReason) FollowFocusSoon();
             break;
@@ -305,12 +327,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             break;
         case QEvent::MouseButtonDblClick:
             if (!control.DoubleClick) break;
-            QMetaObject::invokeMethod(
-                view,
-                [view] {
-                    if (view->Model() != nullptr) DoubleClickControl(*view->Model());
-                },
-                Qt::QueuedConnection);
+            Later([view] {
+                if (view->Model() != nullptr) DoubleClickControl(*view->Model());
+            });
             break;
         default: break;
     }
@@ -319,23 +338,28 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 
 // The release first goes on to the widget; then the focus moves, as its handlers may put up boxes.
 void FormWindow::MouseTookFocus(ControlView& view) {
-    QMetaObject::invokeMethod(
-        &view,
-        [this, &view] {
-            if (pressed_ == &view) pressed_ = nullptr;
-            if (view.Model() != nullptr) UserReached(*view.Model());
-        },
-        Qt::QueuedConnection);
+    Later([this, &view] {
+        if (pressed_ == &view) pressed_ = nullptr;
+        if (view.Model() != nullptr) UserReached(*view.Model());
+    });
 }
 
-bool FormWindow::KeyPressed(ControlView* view, const QKeyEvent& event) {
-    const std::string key = NameOfKey(event);
-    if (key.empty()) return false;
-    if (view == nullptr) {  // no control has the keyboard
-        if (key == "Tab" || key == "Shift+Tab") MoveAlong(*form_, key != "Tab");
-        return false;
+// A key that its receiver has no use for comes by again on its way up: past the frames around the receiver,
+// and past the pane. It counts once, and a frame never has the keyboard.
+bool FormWindow::KeyCame(const QObject& receiver, ControlView* view, const QKeyEvent& event) {
+    if (view == nullptr) {
+        const bool hasKeyboard = &receiver == pane_ && pane_->hasFocus();
+        return hasKeyboard && PressKey(*form_, NameOfKey(event));
     }
     Control& control = *view->Model();
+    const bool isBackground = control.Kind() == ControlKind::Frame || control.Kind() == ControlKind::Label;
+    if (isBackground || &receiver != view->KeyTarget()) return false;
+    return KeyPressed(control, event) || IsStrayAccessKey(event);
+}
+
+bool FormWindow::KeyPressed(Control& control, const QKeyEvent& event) {
+    const std::string key = NameOfKey(event);
+    if (key.empty()) return false;
     if (form_->Focus.Current() != &control) {  // typed with the mouse still down
         pressed_ = nullptr;
         UserReached(control);

@@ -5,6 +5,8 @@
 // focus.
 #pragma once
 
+#include <deque>
+#include <functional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -32,6 +34,9 @@ public:
     void RenewForm();
     // Gives the keyboard to the control that has the focus in the model.
     void FollowFocus();
+    // Runs an act of the user once the event in hand has ended, and after the acts that wait already: none
+    // begins while a box of the one before is still open.
+    void Later(std::function<void()> act);
 
     // Null for a control of another form.
     ControlView* ViewOf(const Control& control) const;
@@ -51,7 +56,9 @@ private:
     void NameForReaders(ControlView& view);
     void SetTabOrder();
 
-    bool KeyPressed(ControlView* view, const class QKeyEvent& event);
+    bool KeyCame(const QObject& receiver, ControlView* view, const class QKeyEvent& event);
+    bool KeyPressed(Control& control, const QKeyEvent& event);
+    void RunActs();
     void MouseTookFocus(ControlView& view);
     void UserReached(Control& control);
     void FollowFocusSoon();
@@ -66,6 +73,8 @@ private:
     std::vector<LayoutBuilder::PaintedArea> areas_;
     ControlView* pressed_ = nullptr;  // took the keyboard at the press of the mouse, its release is to come
     bool followSoon_ = false;
+    std::deque<std::function<void()>> acts_;  // see Later
+    bool acting_ = false;
 };
 
 }  // namespace quillmetra

@@ -1,6 +1,7 @@
 // Views of lists, combos and grids. The rows are read from the model as they are drawn, so that a list of
 // 100,000 rows costs no more than the few that show.
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
@@ -60,10 +61,13 @@ private:
 };
 
 // Letters find the row that begins with them, from the one in hand on, which stays in hand when it does. The
-// same letter again goes on to the next.
-class TypedList : public QListView {
+// same letter again goes on to the next. A row that a key has chosen is told when the widget has done with the
+// key: the click of a row may put up a box or fill the list anew.
+class RowList : public QListView {
 public:
     using QListView::QListView;
+    Handler KeyDone;
+    bool InKey() const { return inKey_; }
 
     void keyboardSearch(const QString& letters) override {
         if (!typedAt_.isValid() || typedAt_.elapsed() > QApplication::keyboardInputInterval()) typed_.clear();
@@ -76,6 +80,15 @@ public:
         if (found.isValid()) setCurrentIndex(found);
     }
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        {
+            const QScopedValueRollback now(inKey_, true);
+            QListView::keyPressEvent(event);
+        }
+        if (KeyDone) KeyDone();
+    }
+
 private:
     QModelIndex Find(const QString& start, int row) const {
         const int rows = model() == nullptr ? 0 : model()->rowCount();
@@ -86,13 +99,14 @@ private:
 
     QString typed_;
     QElapsedTimer typedAt_;
+    bool inKey_ = false;
 };
 
 // Keeps a list widget and the selection of its model alike. While the mouse is down the user is still
 // choosing; the model hears of it at the release.
 class ListBoxView : public ControlView {
 public:
-    ListBoxView(ListBox& list, QWidget* widget, QListView* view)
+    ListBoxView(ListBox& list, QWidget* widget, RowList* view)
         : ControlView(list, widget),
           list_(list),
           view_(view),
@@ -106,8 +120,15 @@ public:
         view_->setModel(rows_);
         view_->viewport()->installEventFilter(this);
         connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-            if (!mouseDown_ && !renewing_) Chosen(false);
+            if (view_->InKey()) {
+                chosenByKey_ = chosenByKey_ || !renewing_;
+            } else if (!mouseDown_ && !renewing_) {
+                Chosen(false);
+            }
         });
+        view_->KeyDone = [this] {
+            if (std::exchange(chosenByKey_, false)) Chosen(false);
+        };
     }
 
     QWidget* KeyTarget() const override { return view_; }
@@ -124,8 +145,7 @@ public:
         if (event->type() == QEvent::MouseButtonPress) mouseDown_ = true;
         if (event->type() == QEvent::MouseButtonRelease && mouseDown_) {
             mouseDown_ = false;
-            QMetaObject::invokeMethod(
-                this, [this] { Chosen(true); }, Qt::QueuedConnection);
+            Later([this] { Chosen(true); });
         }
         return ControlView::eventFilter(watched, event);
     }
@@ -199,19 +219,20 @@ private:
 
 protected:
     ListBox& list_;
-    QListView* view_;
+    RowList* view_;
 
 private:
     RowsModel* rows_;
     const QObject* viewport_;  // also asked for while the view is being destroyed
     bool mouseDown_ = false;
+    bool chosenByKey_ = false;
     bool renewing_ = false;
 };
 
 // A box over a list that is always open.
 class ComboView : public ListBoxView {
 public:
-    ComboView(ComboBox& combo, QWidget* widget, QLineEdit* edit, QListView* view)
+    ComboView(ComboBox& combo, QWidget* widget, QLineEdit* edit, RowList* view)
         : ListBoxView(combo, widget, view), edit_(edit) {
         auto* const column = new QVBoxLayout(widget);
         column->setContentsMargins(0, 0, 0, 0);
@@ -345,9 +366,9 @@ public:
         table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
         table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
         // Later, as the grid first takes the focus of the mouse, which its click may pass on.
-        connect(
-            table_, &QTableView::clicked, this, [this](const QModelIndex& cell) { Chosen(cell); },
-            Qt::QueuedConnection);
+        connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+            Later([this, place = QPersistentModelIndex(cell)] { Chosen(place); });
+        });
         connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex& cell) { Reached(cell); });
     }
@@ -406,11 +427,11 @@ ControlView* MakeListView(Control& control, QWidget* parent) {
     if (control.Kind() == ControlKind::Grid)
         return new GridView(static_cast<Grid&>(control), new QTableView(parent));
     if (control.Kind() == ControlKind::ListBox) {
-        auto* const view = new TypedList(parent);
+        auto* const view = new RowList(parent);
         return new ListBoxView(static_cast<ListBox&>(control), view, view);
     }
     auto* const whole = new QWidget(parent);
-    return new ComboView(static_cast<ComboBox&>(control), whole, new QLineEdit(whole), new QListView(whole));
+    return new ComboView(static_cast<ComboBox&>(control), whole, new QLineEdit(whole), new RowList(whole));
 }
 
 }  // namespace quillmetra

@@ -3,13 +3,18 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTimer>
 
+#include "desktop/HeldBoxes.h"
 #include "desktop/Painting.h"
+#include "desktop/ReadyForUser.h"
 #include "platform/Form.h"
 
 namespace quillmetra {
@@ -66,19 +71,35 @@ public:
 
 class HeadView : public MenuView {
 public:
-    HeadView(MenuItem& item, HeadMenu* menu, QMenuBar* bar)
-        : MenuView(item, menu->menuAction(), bar), menu_(menu), bar_(bar) {
+    HeadView(MenuItem& item, HeadMenu* menu, QMenuBar* bar, std::function<void()> closed)
+        : MenuView(item, menu->menuAction(), bar), menu_(menu), bar_(bar), closed_(std::move(closed)) {
         connect(menu_, &QMenu::aboutToShow, this, [this] { Open(); });
+        // Later, as another menu may open in its place.
+        connect(
+            menu_, &QMenu::aboutToHide, this, [this] { Hidden(); }, Qt::QueuedConnection);
     }
 
 private:
     void Open() {
+        const HeldBoxes held;
         menu_->Refused = Model() == nullptr || !OpenMenu(Entry());
-        if (menu_->Refused) QTimer::singleShot(0, bar_, [bar = bar_] { bar->setActiveAction(nullptr); });
+        if (!menu_->Refused) return;
+        QTimer::singleShot(0, this, [this, boxes = held.Boxes()] {
+            const QPointer<HeadView> self(this);
+            CloseMenus();
+            bar_->setActiveAction(nullptr);
+            for (const MessageBox& box : boxes) ShowMessage(box);
+            if (self != nullptr) closed_();
+        });
+    }
+
+    void Hidden() {
+        if (QApplication::activePopupWidget() == nullptr) closed_();
     }
 
     HeadMenu* menu_;
     QMenuBar* bar_;
+    std::function<void()> closed_;
 };
 
 // In the order of their making, but for those that stand last.
@@ -94,7 +115,7 @@ std::vector<MenuItem*> EntriesOf(const Form& form) {
 
 }  // namespace
 
-std::vector<ControlView*> MakeMenus(const Form& form, QMenuBar& bar) {
+std::vector<ControlView*> MakeMenus(const Form& form, QMenuBar& bar, const std::function<void()>& closed) {
     std::vector<ControlView*> views;
     std::unordered_map<const Control*, HeadMenu*> heads;
     const std::vector<MenuItem*> entries = EntriesOf(form);
@@ -114,7 +135,7 @@ std::vector<ControlView*> MakeMenus(const Form& form, QMenuBar& bar) {
         } else {
             head->second = new HeadMenu(place);
             place->addAction(head->second->menuAction());
-            views.push_back(new HeadView(item, head->second, &bar));
+            views.push_back(new HeadView(item, head->second, &bar, closed));
         }
     }
     return views;

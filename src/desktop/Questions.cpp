@@ -17,6 +17,7 @@
 
 #include "core/Suite.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/HeldBoxes.h"
 #include "desktop/HelpWindow.h"
 #include "desktop/Painting.h"
 #include "desktop/ReadyForUser.h"
@@ -96,6 +97,7 @@ QString FilterOf(const std::string& filter) {
 }  // namespace
 
 Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
+    if (HeldBoxes::Hold(box)) return Answer::Ok;
     const ReadyForUser ready;
     Question question(box.Choice == Buttons::YesNo);
     question.setWindowTitle(ToQt(box.Title));

@@ -6,13 +6,17 @@
 
 namespace quillmetra {
 
+inline void CloseMenus() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) return;
+    }
+}
+
 // An open menu would keep the mouse from a box, and a busy pointer would say that nobody waits for the user.
 class ReadyForUser {
 public:
     ReadyForUser() {
-        while (QWidget* popup = QApplication::activePopupWidget()) {
-            if (!popup->close()) break;
-        }
+        CloseMenus();
         QApplication::setOverrideCursor(Qt::ArrowCursor);
     }
     ~ReadyForUser() { QApplication::restoreOverrideCursor(); }

@@ -131,21 +131,12 @@ bool PressEnter(Control& control) {
         auto& grid = static_cast<Grid&>(control);
         return PickCell(grid, grid.Selected(), grid.SelectedColumn());
     }
-    if (form.DefaultButton != nullptr && CanAct(*form.DefaultButton))
-        return ClickControl(*form.DefaultButton);
-    if (!form.EnterMovesOn) return false;
-    MoveAlong(form, false);
-    return true;
+    return PressKey(form, "Enter");
 }
 
 bool PressPlainKey(Control& control, const std::string& key) {
-    Form& form = control.Owner();
     if (key == "Enter") return PressEnter(control);
-    if (key == "Escape") return form.CancelButton != nullptr && ClickControl(*form.CancelButton);
-    if (key == "Tab" || key == "Shift+Tab") {
-        MoveAlong(form, key != "Tab");
-        return true;
-    }
+    if (key == "Escape" || key == "Tab" || key == "Shift+Tab") return PressKey(control.Owner(), key);
     switch (control.Kind()) {
         case ControlKind::TextBox: return EditByKey(static_cast<TextBox&>(control), key);
         case ControlKind::ListBox:
@@ -285,6 +276,16 @@ bool PressKey(Control& control, const std::string& key) {
 }
 
 void SetHelpKey(void (*show)(const Form& form)) { ShowHelpOf = show; }
+
+bool PressKey(Form& form, const std::string& key) {
+    const FormHold hold(form);
+    const bool enter = key == "Enter";
+    CommandButton* const button = enter ? form.DefaultButton : key == "Escape" ? form.CancelButton : nullptr;
+    if (button != nullptr && CanAct(*button)) return ClickControl(*button);
+    const bool moves = key == "Tab" || key == "Shift+Tab" || (enter && form.EnterMovesOn);
+    if (moves) MoveAlong(form, key == "Shift+Tab");
+    return moves;
+}
 
 void CloseWindow(Form& form) {
     if (TakesInput(form)) form.Dispatch([&] { form.CloseBox(); });

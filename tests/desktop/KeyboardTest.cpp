@@ -7,8 +7,12 @@
 #include <QElapsedTimer>
 #include <QKeySequence>
 #include <QMenu>
+#include <QMenuBar>
+#include <QToolButton>
 
 #include "core/Words.h"
+#include "desktop/KeyNames.h"
+#include "forms/CalculationForm.h"
 #include "platform/NumberText.h"
 #include "tests/desktop/DesktopFixture.h"
 
@@ -20,8 +24,8 @@ class Keyboard : public DesktopTest {
 protected:
     // Plays keys one after the other, each when what the one before brought about has come to rest, also
     // while a dialog waits. A text is typed; "{Alt+G}" is a key; "@txtFlow(0)" is Tab until that control has
-    // the keyboard, and "#frmObxProg" waits for a window, as a button that is pressed by its letter takes a
-    // moment.
+    // the keyboard, and "#frmObxProg" waits for a window ("#" for a message box), as a button that is
+    // pressed by its letter takes a moment.
     void Play(std::deque<std::string> keys) {
         keys_ = std::move(keys);
         Next();
@@ -55,6 +59,20 @@ protected:
         QTest::keyClick(Target(), combination.key(), combination.keyboardModifiers());
     }
 
+    // The mouse goes from head to head, pressing each.
+    void ClickMenu(std::initializer_list<Control*> heads) {
+        QWidget* place = WindowOf((*heads.begin())->Owner()).menuBar();
+        for (Control* head : heads) {
+            auto* const action = WindowOf(head->Owner()).findChild<QAction*>(ToQt(head->FullName()));
+            auto* const menu = qobject_cast<QMenu*>(place);
+            const QRect at = menu == nullptr ? static_cast<QMenuBar*>(place)->actionGeometry(action)
+                                             : menu->actionGeometry(action);
+            QTest::mouseMove(place, at.center());
+            QTest::mouseClick(place, Qt::LeftButton, {}, at.center());
+            place = action->menu();
+        }
+    }
+
 private:
     void Next() {
         QTimer::singleShot(10, &turns_, [this] {
@@ -64,7 +82,10 @@ private:
             }
             const std::string key = keys_.front();
             if (key[0] == '#') {
-                if (Target()->window()->objectName() == ToQt(key.substr(1))) keys_.pop_front();
+                const QWidget* const window = Target()->window();
+                const bool isThere = key == "#" ? qobject_cast<const QMessageBox*>(window) != nullptr
+                                                : window->objectName() == ToQt(key.substr(1));
+                if (isThere) keys_.pop_front();
                 return Next();
             }
             if (key[0] == '@') {
@@ -191,6 +212,118 @@ const ByKeys Ways[] = {
      0,
      0.9678},
 };
+
+// The ways to the entries of the other cases.
+const std::deque<std::string> ToOtherCases[] = {{"{Alt+U}", "{Down}", "{Right}"},
+                                                {"{Alt+U}", "{Up}", "{Right}"}};
+
+TEST_F(Keyboard, AnEmptyCaseTellsWhatItNeedsAndTypingGoesOn) {
+    for (const char* name : {"frmLiqLineLoss", "frmGasLineLoss", "frmLiqData", "frmGasData"}) {
+        SCOPED_TRACE(name);
+        auto& form = static_cast<CalculationForm&>(Show(name));
+        for (const char* box : {"txtTemp", "txtPressure"}) TypeText(*form.Find(box, 0), "80");
+        TextBox& tag = form.txtTagNum;
+        MoveFocus(tag);
+        for (std::deque<std::string> keys : ToOtherCases) {
+            TypeText(tag, "");
+            keys.insert(keys.end(), {"#", "{Return}", "#" + form.Name(), "7"});
+            Play(keys);
+            EXPECT_EQ(tag.Text(), "7") << keys.at(1);
+        }
+        TypeText(tag, "");
+        ClickMenu({&form.mnuFluiProp, &form.mnuCase(2)});
+        Play({"#", "{Return}", "#" + form.Name(), "7"});
+        EXPECT_EQ(tag.Text(), "7") << "by mouse";
+        Calc.ChangedFlag.clear();
+        ResetForms();
+        Settle();
+    }
+}
+
+// In a very narrow window the whole menu bar is behind its extension.
+TEST_F(Keyboard, AnEmptyMenuTellsItThroughTheBarsExtension) {
+    auto& form = static_cast<CalculationForm&>(Show("frmGasLineLoss"));
+    QMenuBar& bar = *WindowOf(form).menuBar();
+    WindowOf(form).resize(60, 400);
+    Settle();
+    auto* const extension = bar.findChild<QToolButton*>("qt_menubar_ext_button");
+    ASSERT_TRUE(extension != nullptr && extension->isVisible());
+    QTimer::singleShot(50, qApp, [&] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        const QRect place =
+            menu->actionGeometry(WindowOf(form).findChild<QAction*>(ToQt(form.mnuFluiProp.Name())));
+        QTest::mouseMove(menu, place.center());
+        QTest::mouseClick(menu, Qt::LeftButton, {}, place.center());
+    });
+    QTimer::singleShot(0, qApp, [&] { QTest::mouseClick(extension, Qt::LeftButton); });
+    Play({"#", "{Return}", "#" + form.Name(), "7"});
+    EXPECT_EQ(form.txtTagNum.Text(), "7");
+}
+
+TEST_F(Keyboard, EscapeOutOfAMenuGivesTheKeyboardBack) {
+    Control& tag = *Show("frmLiqLineLoss").Find("txtTagNum");
+    Play({"{Alt+F}", "{Down}", "{Escape}", "7"});
+    EXPECT_EQ(tag.Text(), "7");
+}
+
+// What a key is called that has something to do on the form: it is no key for a box.
+bool IsUsed(const Form& form, const std::string& key) {
+    if (key == "Enter" || key == "Tab" || key == "Shift+Tab" || key == "F1") return true;
+    if (key == "Escape") return form.CancelButton != nullptr;
+    return std::any_of(form.Controls().begin(), form.Controls().end(), [&](const Control* control) {
+        const std::string& text = control->Caption();
+        const std::size_t mark = text.find('&');
+        if (mark != std::string::npos && key == "Alt+" + std::string(1, LowerCase(text[mark + 1])))
+            return true;
+        return control->Kind() == ControlKind::MenuItem && CanAct(*control) &&
+               SameName(static_cast<const MenuItem*>(control)->Shortcut, key);
+    });
+}
+
+// The keys of a keyboard, but for those that only hold others down.
+std::vector<int> KeyCodes() {
+    std::vector<int> codes = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Insert, Qt::Key_Delete,
+                              Qt::Key_Pause,  Qt::Key_Print,  Qt::Key_Menu,   Qt::Key_Backspace};
+    for (int code = Qt::Key_Space; code <= Qt::Key_Z; ++code) codes.push_back(code);
+    for (int code = Qt::Key_Home; code <= Qt::Key_PageDown; ++code) codes.push_back(code);
+    for (int code = Qt::Key_F1; code <= Qt::Key_F12; ++code) codes.push_back(code);
+    return codes;
+}
+
+class EveryForm : public Keyboard, public testing::WithParamInterface<std::string_view> {};
+
+TEST_P(EveryForm, AKeyThatABoxDoesNotUseLeavesTheKeyboardThere) {
+    Form& form = Show(GetParam());
+    const auto stops = form.TabStops();
+    const auto isBox = [](Control* stop) { return stop->Kind() == ControlKind::TextBox && CanAct(*stop); };
+    const auto firstBox = std::find_if(stops.begin(), stops.end(), isBox);
+    Control& stop = firstBox != stops.end() ? **firstBox : *form.Focus.Current();
+    MoveFocus(stop);
+    QWidget* const widget = ViewOf(stop).KeyTarget();
+    for (const int code : KeyCodes()) {
+        for (const Qt::KeyboardModifier held :
+             {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+            const bool types = held == Qt::NoModifier || held == Qt::ShiftModifier;
+            const QKeyEvent key(QEvent::KeyPress, code, held, types ? QString(QChar(code)) : QString());
+            if (IsUsed(form, NameOfKey(key)) || (stop.KeyPress && types && code < 0x100)) continue;
+            if (!isBox(&stop) && (code == Qt::Key_Space || (code >= Qt::Key_Left && code <= Qt::Key_Down)))
+                continue;
+            QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(code), held);
+            Settle();
+            while (QWidget* menu = QApplication::activePopupWidget()) QTest::keyClick(menu, Qt::Key_Escape);
+            Settle();
+            ASSERT_EQ(QApplication::focusWidget(), widget) << NameOfKey(key);
+        }
+    }
+    if (!isBox(&stop)) return;
+    TypeText(stop, "");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Y, Qt::AltModifier);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_7);
+    EXPECT_EQ(stop.Text(), "7");
+}
+
+INSTANTIATE_TEST_SUITE_P(Keyboard, EveryForm, testing::ValuesIn(FormNames()),
+                         [](const auto& each) { return std::string(each.param); });
 
 TEST_F(Keyboard, ReachesTheBaseConditions) {
     Form& form = Show("frmGasLineLoss");

@@ -323,19 +323,24 @@ TEST_F(WindowTest, EscapeIsHeardWithinALongCalculationAndNothingElse) {
     EXPECT_EQ(Sample->txtOne.Text(), "");
 }
 
-TEST_F(WindowTest, ASearchForFilesIsStoppedByTheMouse) {
+TEST_F(WindowTest, ASearchForFilesIsStoppedByMouseAndKey) {
     auto& finder = static_cast<WinSeek&>(Show("WinSeek"));
     const QSize folded = WindowOf(finder).size();
     ClickControl(finder.cmdBrouse);
     EXPECT_GT(WindowOf(finder).height(), folded.height());
-    finder.txtSearchSpec.SetText("*");
-    QTimer::singleShot(0, qApp, [&] {
-        EXPECT_FALSE(ViewOf(finder.cmdOK).Widget()->isEnabled());
-        QTest::mouseClick(ViewOf(finder.cmdStop).Widget(), Qt::LeftButton);
-    });
-    ClickControl(finder.cmdSearch);
-    EXPECT_EQ(finder.lblSearch.Caption(), "Search Complete");
-    EXPECT_EQ(finder.lblCount.Caption(), "0");
+    for (const bool byKey : {false, true}) {
+        finder.txtSearchSpec.SetText("*");
+        QTest::qWait(30);  // the user is let in at the first folder
+        QTimer::singleShot(1, qApp, [&] {
+            EXPECT_FALSE(ViewOf(finder.cmdOK).Widget()->isEnabled());
+            if (byKey) return QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            QTest::mouseClick(ViewOf(finder.cmdStop).Widget(), Qt::LeftButton);
+        });
+        ClickControl(finder.cmdSearch);
+        EXPECT_EQ(finder.lblSearch.Caption(), "Search Complete");
+        EXPECT_EQ(finder.lblCount.Caption(), "0") << (byKey ? "by key" : "by mouse");
+        ClickControl(finder.cmdSearch);  // Reset
+    }
 
     ClickControl(finder.cmdExit);
     Settle();
