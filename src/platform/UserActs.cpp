@@ -282,6 +282,7 @@ bool PressKey(Form& form, const std::string& key) {
     const bool enter = key == "Enter";
     CommandButton* const button = enter ? form.DefaultButton : key == "Escape" ? form.CancelButton : nullptr;
     if (button != nullptr && CanAct(*button)) return ClickControl(*button);
+    if (PressShortcut(form, key)) return true;
     const bool moves = key == "Tab" || key == "Shift+Tab" || (enter && form.EnterMovesOn);
     if (moves) MoveAlong(form, key == "Shift+Tab");
     return moves;

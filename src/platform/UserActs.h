@@ -35,7 +35,8 @@ bool MoveToCell(Grid& grid, int row, int column);
 bool OfferKey(Control& control, const std::string& key);
 // One key: the control's KeyPress first, then Enter and Escape by the form's rules. True when used up.
 bool PressKey(Control& control, const std::string& key);
-// One key while no control can have the focus: Tab goes on, Enter and Escape press the form's buttons.
+// One key while no control can have the focus: Tab goes on, Enter and Escape press the form's buttons,
+// and F1 and access keys work.
 bool PressKey(Form& form, const std::string& key);
 
 void CloseWindow(Form& form);
