@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
 #include <QWidget>
 
@@ -15,6 +15,16 @@ namespace {
 // The first window of a run: more than most window managers take.
 QMargins LastFrame(4, 36, 4, 4);
 
+// False for a window that has no frame, or has not got it yet.
+bool TakeFrame(const QWidget& window) {
+    const QRect inside = window.geometry();
+    const QRect outside = window.frameGeometry();
+    if (outside == inside) return false;
+    LastFrame = QMargins(inside.left() - outside.left(), inside.top() - outside.top(),
+                         outside.right() - inside.right(), outside.bottom() - inside.bottom());
+    return true;
+}
+
 int Within(int from, int size, int first, int last) {
     return std::clamp(from, first, std::max(first, last + 1 - size));
 }
@@ -22,12 +32,9 @@ int Within(int from, int size, int first, int last) {
 }  // namespace
 
 QMargins FrameOf(const QWidget& window) {
-    const QRect inside = window.geometry();
-    const QRect outside = window.frameGeometry();
-    if (outside != inside) {
-        LastFrame = QMargins(inside.left() - outside.left(), inside.top() - outside.top(),
-                             outside.right() - inside.right(), outside.bottom() - inside.bottom());
-    }
+    if (TakeFrame(window)) return LastFrame;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    std::any_of(all.begin(), all.end(), [](const QWidget* each) { return TakeFrame(*each); });
     return LastFrame;
 }
 

@@ -309,6 +309,21 @@ TEST_F(WindowTest, AModalFormHoldsTheOthersUntilItGoes) {
     EXPECT_TRUE(TakesInput(*Sample));
 }
 
+TEST_F(WindowTest, AModalFormComesBackWhereItWas) {
+    Screen.RememberPlaces(SuitePath(Folder / "places.ini"));
+    std::vector<QRect> places;
+    for (int i = 0; i < 3; ++i) {
+        WhenDialogOpens([&](QWidget& window) {
+            Settle();
+            places.push_back(window.geometry());
+            CloseWindow(LoadForm("frmPipeSize"));
+        });
+        ShowForm("frmPipeSize", Modal::Yes);
+        UnloadForm("frmPipeSize");
+    }
+    EXPECT_EQ(places, std::vector<QRect>(3, places.at(0)));
+}
+
 TEST_F(WindowTest, TheEndOfTheProcessEndsAModalForm) {
     WhenDialogOpens([](QWidget&) { EndProcess(); });
     ShowForm("frmPipeSize", Modal::Yes);
@@ -326,8 +341,10 @@ TEST_F(WindowTest, EscapeIsHeardWithinALongCalculationAndNothingElse) {
 TEST_F(WindowTest, ASearchForFilesIsStoppedByMouseAndKey) {
     auto& finder = static_cast<WinSeek&>(Show("WinSeek"));
     const QSize folded = WindowOf(finder).size();
+    WindowOf(finder).move(700, 700);
     ClickControl(finder.cmdBrouse);
     EXPECT_GT(WindowOf(finder).height(), folded.height());
+    EXPECT_TRUE(WindowOf(finder).screen()->availableGeometry().contains(WindowOf(finder).frameGeometry()));
     for (const bool byKey : {false, true}) {
         finder.txtSearchSpec.SetText("*");
         QTest::qWait(30);  // the user is let in at the first folder

@@ -1,258 +1,40 @@
 // A user who wanders at random through the whole suite: browser, database, calculations, printout, table
 // editor, panels, and the end of the program and its next start. Nothing that he does may leave a number that
 // is none, a form that is dead, or a damaged database. QUILLMETRA_ACTS and QUILLMETRA_SEEDS make it long.
-#include <cmath>
-#include <functional>
-
-#include "records/RecordFiles.h"
-#include "tests/forms/RestlessFixture.h"
-#include "tests/Memory.h"
-#include "tests/records/RecordFixture.h"
+#include "tests/forms/RestlessSuite.h"
 
 namespace quillmetra {
 namespace {
 
-int Setting(const char* name, int usual) {
-    const char* const text = std::getenv(name);
-    return text == nullptr ? usual : std::atoi(text);
-}
-
-// Answers everything at random.
-class RestlessHost : public FakeHost {
+// Without a screen.
+class RestlessFake : public RestlessHost<FakeHost> {
 public:
-    std::function<int(int)> Below;
-    std::function<void(Form&)> Stay;
-    std::vector<std::string> Files;
+    using RestlessHost::RestlessHost;
 
     Answer ShowMessageBox(const MessageBox& box) override {
-        Boxes.push_back(box);
+        User.Boxes.push_back(box);
         if (box.Choice == Buttons::Ok) return Answer::Ok;
-        if (box.Choice == Buttons::YesNoCancel && Below(3) == 0) return Answer::Cancel;
-        return Below(2) == 0 ? Answer::Yes : Answer::No;
+        if (box.Choice == Buttons::YesNoCancel && User.Below(3) == 0) return Answer::Cancel;
+        return User.Below(2) == 0 ? Answer::Yes : Answer::No;
     }
-    std::optional<std::string> InputBox(const std::string&, const std::string&) override {
-        static const char* const texts[] = {"0.9", "1", "", "x", "1e300", "-2"};
-        if (Below(3) == 0) return std::nullopt;
-        return texts[Below(6)];
-    }
-    std::optional<std::string> FileDialog(const FileQuestion&) override {
-        if (Below(3) == 0) return std::nullopt;
-        return Files[static_cast<std::size_t>(Below(static_cast<int>(Files.size())))];
-    }
-    std::optional<PrinterChoice> PrinterDialog(const PrinterChoice&) override {
-        if (Below(3) == 0) return std::nullopt;
-        return PrinterChoice{.Copies = Below(3)};
-    }
-    bool Yield() override { return Below(50) == 0; }
-    void RunModal(Form& form) override { Stay(form); }
+    bool Yield() override { return User.Below(50) == 0; }
+    void RunModal(Form& form) override { User.Stay(form); }
 };
 
-class RestlessSuite : public RestlessFixture, public ::testing::WithParamInterface<int> {
+class RestlessSuite : public RestlessWalk {
 protected:
-    RestlessSuite() : RestlessFixture(static_cast<unsigned>(GetParam())) {
-        StartUp(SuitePath(Folder));
-        const std::string data = SuitePath(DataFolder());
-        for (const char* name : {"TRDB.MDB", "records.csv", "HEADINGS.DAT", "OBXDAT.DAT", "page.pdf"}) {
-            Host.Files.push_back(data + "\\" + name);
-        }
-        WriteData("HEADINGS.DAT", "old\r\n");
-        WriteData("OBXDAT.TAG", "O-1\r\nO-2\r\n");
-        std::string old(1842, '\1');
-        old[1] = old[922] = '\0';  // liquid line losses
-        WriteData("OBXDAT.DAT", old);
-        Suite.DatabaseFile = DatabaseFileOf(data);
-        MakeEmptyDatabase(Suite.DatabaseFile);
-        for (int program = 1; program <= 5; ++program) {
-            TakeFilledRecord(program, 1 + program % 4, "T-" + std::to_string(program));
-            SaveTRCalc();
-        }
-        Calc = CalcRecord();
-        Host.Below = [this](int count) { return Below(static_cast<std::size_t>(count)); };
-        Host.Stay = [this](Form& form) { StayWith(form); };
-    }
+    RestlessSuite() { Begin(); }
 
-    // The forms that can be used; a modal one is alone.
-    static std::vector<quillmetra::Form*> UsableForms() {
-        std::vector<quillmetra::Form*> forms;
-        for (const std::string_view name : FormNames()) {
-            quillmetra::Form* const form = LoadedForm(name);
-            if (form != nullptr && TakesInput(*form)) forms.push_back(form);
-        }
-        return forms;
-    }
-
-    // Chance alone would seldom open the database, and seldom leave a panel.
-    Control* Favourite(const quillmetra::Form& form) {
-        static constexpr struct {
-            const char *Form, *Control;
-            int OneIn;
-        } favourites[] = {{"frmTRProg", "cmdDBOpen", 20},  {"frmTRProg", "cmdDisplayCalc", 8},
-                          {"frmTRProg", "cmdDelete", 200}, {"frmTRProg", "cmdSelect", 4},
-                          {"frmUnits", "cmdOK", 5},        {"frmUnits", "cmdCancel", 5},
-                          {"frmCalcOptions", "cmdOK", 6},  {"frmObxPrintCalc", "cmdOK", 8},
-                          {"FindDialog", "cmdFind", 4},    {"frmObxProg", "cmdOK", 6},
-                          {nullptr, "mnuProgram", 30},     {nullptr, "mnuSave", 50},
-                          {nullptr, "mnuPrint", 50}};
-        for (const auto& each : favourites) {
-            if (each.Form != nullptr && form.Name() != each.Form) continue;
-            if (Below(static_cast<std::size_t>(each.OneIn)) == 0) return form.Find(each.Control);
-        }
-        return nullptr;
-    }
-
-    Control& AnyControl(quillmetra::Form& form) {
-        if (Control* const favourite = Favourite(form); favourite != nullptr && CanAct(*favourite)) {
-            return *favourite;
-        }
-        const auto any = [&]() -> Control& {
-            return *form.Controls()[static_cast<std::size_t>(Below(form.Controls().size()))];
-        };
-        for (int tries = 0; tries < 30; ++tries) {
-            Control& control = any();
-            const bool still = control.Kind() == ControlKind::Label || control.Kind() == ControlKind::Frame;
-            if (CanAct(control) && !Avoids(control) && (!still || control.Click)) return control;
-        }
-        return any();
-    }
-
-    // What would end most walks before they get anywhere.
-    bool Avoids(const Control& control) {
-        const std::string& name = control.Name();
-        const bool leaves =
-            name == "mnuExit" || name == "mnuNew" || name == "mnuProgram" || name == "cmdCancelGrid";
-        return leaves && Below(10) != 0;
-    }
-
-    void Act() {
-        const std::vector<quillmetra::Form*> forms = UsableForms();
-        ASSERT_FALSE(forms.empty()) << "after " << last_;
-        quillmetra::Form& form = *forms[static_cast<std::size_t>(Below(forms.size()))];
-        CalculationForm* const calculation = dynamic_cast<CalculationForm*>(&form);
-        const int anyCase = Below(CaseCount);
-        if (calculation != nullptr && Below(20) == 0 && CanAct(calculation->txtTagNum)) {
-            if (Control* const button = CalculateButton(*calculation, anyCase)) {
-                last_ = "a good case of " + form.Name();
-                Type(calculation->txtTagNum, "T-" + std::to_string(Below(9)));
-                FillGoodCase(*calculation, anyCase);
-                ClickControl(*button);
-            }
-        } else if (Below(200) == 0) {
-            last_ = "closing " + form.Name();
-            CloseWindow(form);
-        } else {
-            Control& control = AnyControl(form);
-            last_ = form.Name() + "." + control.FullName();
-            ActOn(control);
-            if (const auto now = UsableForms(); Below(4) == 0 && !now.empty()) PressAnyKey(*now.back());
-        }
-        ExpectSound();
-    }
-
-    void StayWith(quillmetra::Form& form) {
-        for (int act = Below(20); act > 0 && form.Visible() && !ProcessHasEnded(); --act) {
-            Act();
-            if (HasFatalFailure()) break;
-        }
-        for (int tries = 0; form.Visible() && !ProcessHasEnded(); ++tries) {
-            CloseWindow(form);
-            if (tries == 100) {
-                ADD_FAILURE() << form.Name() << " cannot be closed";
-                HideForm(form.Name());
-            }
-        }
-    }
-
-    // A user who leaves comes back.
-    void StartAgain() {
-        ResetForms();
-        RegisterForms();
-        Calc = CalcRecord();
-        StartUp(SuitePath(Folder));
-        StayInFolder();
-    }
-
-    // The path finder shows the whole machine, and what he finds there is not his to write to.
-    void StayInFolder() const {
-        const std::string own = SuitePath(Folder);
-        for (std::string& path : Suite.DefaultPaths) {
-            if (!path.empty() && !path.starts_with(own)) path = SuitePath(DataFolder());
-        }
-        if (!Suite.DatabasePath.starts_with(own)) {
-            Suite.DatabasePath = SuitePath(DataFolder());
-            Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
-        }
-        if (!Suite.BrowsePath.starts_with(own)) Suite.BrowsePath.clear();
-    }
-
-    static bool PanelIsOpen() { return IsFormLoaded("frmUnits") || IsFormLoaded("frmCalcOptions"); }
-
-    void ExpectSound() {
-        if (ProcessHasEnded()) return;
-        StayInFolder();
-        const auto finite = [](double value) { return std::isfinite(value); };
-        for (const auto& row : Calc.CaseInput)
-            ASSERT_TRUE(std::all_of(row.begin(), row.end(), finite)) << last_;
-        for (const auto& row : Calc.CaseResult)
-            ASSERT_TRUE(std::all_of(row.begin(), row.end(), finite)) << last_;
-        const auto expectFinite = [&](const auto& row) {
-            ASSERT_TRUE(std::all_of(row.begin(), row.end(), finite)) << last_;
-        };
-        expectFinite(Calc.HammerResult);
-        expectFinite(Calc.PipeData);
-        expectFinite(Calc.FittingCount);
-        expectFinite(Calc.UnitFactor);
-        expectFinite(Calc.FluidPercent);
-        for (const MessageBox& box : Host.Boxes) {
-            for (const char* slip : {"control", "vector", "basic_string", "bad_", "std::"}) {
-                ASSERT_EQ(box.Text.find(slip), std::string::npos) << last_ << ": " << box.Text;
-            }
-        }
-        Host.Boxes.clear();
+    void Act() override {
+        RestlessWalk::Act();
         Host.Pages.clear();
         Host.Jobs.clear();
-        for (const std::string_view name : FormNames()) {
-            const quillmetra::Form* const form = LoadedForm(name);
-            if (form == nullptr || !form->Visible()) continue;
-            ASSERT_TRUE(form->Enabled() || PanelIsOpen()) << name << " is dead after " << last_;
-            ExpectNumbers(*form);
-        }
     }
 
-    void ExpectNumbers(const quillmetra::Form& form) {
-        for (const Control* control : form.Controls()) {
-            const std::string& text = control->Text();
-            if (text.size() < 3 || text.size() > 4) continue;
-            for (const char* none : {"nan", "-nan", "inf", "-inf"}) {
-                ASSERT_NE(text, none) << form.Name() << "." << control->FullName() << " after " << last_;
-            }
-        }
-    }
-
-    void ExpectSoundDatabase() {
-        if (!FileExists(Suite.DatabaseFile)) return;
-        ASSERT_EQ(OpenRecords(Suite.DatabaseFile)->Fault(), "") << last_;
-    }
-
-    RestlessHost Host;
-
-private:
-    std::string last_;
+    RestlessFake Host{User};
 };
 
-TEST_P(RestlessSuite, StaysWhole) {
-    const int acts = Setting("QUILLMETRA_ACTS", 1500);
-    double before = 0;
-    for (int act = 0; act < acts; ++act) {
-        Act();
-        if (ProcessHasEnded()) StartAgain();
-        if (act % 300 == 299) ExpectSoundDatabase();
-        if (HasFatalFailure()) FAIL() << "at act " << act;
-        if (act == acts / 2) before = ResidentMegabytes();
-    }
-    if (MemoryIsOurs) {
-        EXPECT_LT(ResidentMegabytes(), before + 10);
-    }
-}
+TEST_P(RestlessSuite, StaysWhole) { Walk(1500); }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RestlessSuite, ::testing::Range(1, 1 + Setting("QUILLMETRA_SEEDS", 4)));
 
