@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <QApplication>
@@ -26,6 +27,16 @@ namespace quillmetra {
 inline void Settle() {
     for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// The keys of a keyboard, but for those that only hold others down.
+inline std::vector<int> KeyCodes() {
+    std::vector<int> codes = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Insert, Qt::Key_Delete,
+                              Qt::Key_Pause,  Qt::Key_Print,  Qt::Key_Menu,   Qt::Key_Backspace};
+    for (int code = Qt::Key_Space; code <= Qt::Key_Z; ++code) codes.push_back(code);
+    for (int code = Qt::Key_Home; code <= Qt::Key_PageDown; ++code) codes.push_back(code);
+    for (int code = Qt::Key_F1; code <= Qt::Key_F12; ++code) codes.push_back(code);
+    return codes;
 }
 
 class DesktopTest : public SuiteTest {

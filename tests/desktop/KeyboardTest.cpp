@@ -280,16 +280,6 @@ bool IsUsed(const Form& form, const std::string& key) {
     });
 }
 
-// The keys of a keyboard, but for those that only hold others down.
-std::vector<int> KeyCodes() {
-    std::vector<int> codes = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Insert, Qt::Key_Delete,
-                              Qt::Key_Pause,  Qt::Key_Print,  Qt::Key_Menu,   Qt::Key_Backspace};
-    for (int code = Qt::Key_Space; code <= Qt::Key_Z; ++code) codes.push_back(code);
-    for (int code = Qt::Key_Home; code <= Qt::Key_PageDown; ++code) codes.push_back(code);
-    for (int code = Qt::Key_F1; code <= Qt::Key_F12; ++code) codes.push_back(code);
-    return codes;
-}
-
 class EveryForm : public Keyboard, public testing::WithParamInterface<std::string_view> {};
 
 TEST_P(EveryForm, AKeyThatABoxDoesNotUseLeavesTheKeyboardThere) {

@@ -103,8 +103,7 @@ private:
             Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier};
         const QPointer<QWidget> there(&window);
         for (int i = Below(4); i >= 0 && there != nullptr; --i) {
-            const bool letter = Below(2) == 0;
-            const int code = letter ? Qt::Key_Space + Below(59) : Qt::Key_Escape + Below(64);
+            const int code = codes_[static_cast<std::size_t>(Below(codes_.size()))];
             const Qt::KeyboardModifier held = modifiers[Below(std::size(modifiers))];
             Note(window, QKeySequence(code | static_cast<int>(held)).toString());
             QWidget* const focus = window.focusWidget();
@@ -177,6 +176,7 @@ private:
     }
 
     RestlessScreen Screen{User};
+    const std::vector<int> codes_ = KeyCodes();
     QObject turns_;
 };
 
