@@ -61,6 +61,7 @@ public:
 double SingleRead(double stored);
 
 namespace failure {
+inline constexpr int ValueRefused = 3163;  // the number of a value that its field cannot hold
 inline RuntimeError NoIndex() { return {3019, "Seek needs an index"}; }
 inline RuntimeError NothingToUpdate() { return {3020, "Update needs AddNew or Edit before it"}; }
 inline RuntimeError NoCurrentRecord() { return {3021, "No current record."}; }

@@ -13,14 +13,15 @@ namespace quillmetra {
 namespace {
 
 RuntimeError TooLong(const FieldShape& field) {
-    return {3163,
+    return {failure::ValueRefused,
             "The field '" + field.Name + "' holds at most " + std::to_string(field.Size) + " characters"};
 }
 
 RuntimeError OutOfRange(const FieldShape& field) {
-    return {3163, field.Type == FieldType::Integer
-                      ? "The field '" + field.Name + "' holds whole numbers from -32768 to 32767"
-                      : "The field '" + field.Name + "' holds no number above 3.402823E+38"};
+    return {failure::ValueRefused,
+            field.Type == FieldType::Integer
+                ? "The field '" + field.Name + "' holds whole numbers from -32768 to 32767"
+                : "The field '" + field.Name + "' holds no number above 3.402823E+38"};
 }
 
 FieldValue ValueAt(sqlite3_stmt* statement, int column, FieldType type) {

@@ -23,6 +23,8 @@ namespace quillmetra {
 
 namespace {
 
+bool StoreHasFailed = false;
+
 bool IsYes(const std::string& word) { return word == words::Yes; }
 const char* YesIf(bool yes) { return yes ? words::Yes : words::No; }
 
@@ -234,6 +236,8 @@ std::string CutHeadings() {
     return cut.empty() ? "" : cut + " in the headings go into the record";
 }
 
+bool StoreFailed() { return StoreHasFailed; }
+
 bool SaveTRCalc(bool inARun) {
     Calc.Tag = std::string(Trim(Calc.Tag));
     if (Calc.Tag.empty()) {
@@ -241,6 +245,7 @@ bool SaveTRCalc(bool inARun) {
         return false;
     }
     const std::string updated = Calc.RecordUpdated;
+    StoreHasFailed = false;
     try {
         FindWhatToSave();
         ComposeCodes();
@@ -250,6 +255,7 @@ bool SaveTRCalc(bool inARun) {
             return true;
         }
     } catch (const RuntimeError& error) {
+        StoreHasFailed = error.Number != failure::ValueRefused;
         Tell(error.Description, Suite.DatabaseFile, Icon::Stop);
     }
     Calc.RecordUpdated = updated;  // the detection has dropped it, and the record is still to be saved
@@ -263,7 +269,7 @@ void WriteWholeRecord(Database& database) {
     Recordset heads(database, HeadTable().Shape, Recordset::Unplaced());
     heads.Index("Tag_Number");
     WriteRow(heads, HeadTable());
-    for (const std::string& each : SaveRows(database)) throw RuntimeError(3163, each);
+    for (const std::string& each : SaveRows(database)) throw RuntimeError(failure::ValueRefused, each);
     all.Commit();
 }
 

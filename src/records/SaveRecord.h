@@ -16,6 +16,8 @@ namespace quillmetra {
 // record then still counts as changed. When a row beside the head is refused by the database the head stays.
 // In a run over many records the question names the tag, and Enter keeps what is on file.
 bool SaveTRCalc(bool inARun = false);
+// Whether the last save failed for what lies with the database, so that no other record has any chance.
+bool StoreFailed();
 
 // The letters that the record has room for in manufacturer and model.
 inline constexpr std::size_t LongestMaker = 30;

@@ -8,7 +8,6 @@
 #include "core/CalcRecord.h"
 #include "core/Programs.h"
 #include "core/StartUp.h"
-#include "core/Suite.h"
 #include "core/Words.h"
 #include "lineloss/PipeMaterials.h"
 #include "platform/Database.h"
@@ -134,16 +133,6 @@ std::string NameInList(int index, const std::string& tag) {
     return "record " + std::to_string(index + 1) + ", " + (tag.empty() ? "without a tag" : tag);
 }
 
-// Whether the next record has any chance.
-bool CanWrite() {
-    try {
-        OpenRecords(Suite.DatabaseFile)->TryToWrite();
-        return true;
-    } catch (const RuntimeError&) {
-        return false;
-    }
-}
-
 bool MayGoOn(const Version5Report& report) {
     return AskYesNo(Counted(report.Unsaved.size(), "record") + " could not be saved so far\nContinue",
                     "Convert 5.x to 6 data");
@@ -212,7 +201,7 @@ Version5Report SaveVersion5(const Version5File& records, const std::vector<std::
         if (SaveTRCalc(true)) continue;
         report.Unsaved.push_back(NameInList(index, Calc.Tag));
         const bool asks = report.Unsaved.size() % RefusalsToAsk == 0;
-        if (!CanWrite() || (asks && !MayGoOn(report))) {
+        if (StoreFailed() || (asks && !MayGoOn(report))) {
             report.Stopped = true;
             break;
         }
