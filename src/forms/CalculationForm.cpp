@@ -357,6 +357,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
     }
     const std::string cut = CutHeadings();
     if (!SaveTRCalc()) {
+        SetStatus("Not saved");  // no "Saved as" of an earlier save stands on
         if (Calc.Tag.empty()) txtTagNum.SetFocus();
         return false;
     }
