@@ -41,6 +41,7 @@ click cmdDate
 answer No
 click mnuSave
 expect-box "Calculation Save" "Tag Number is on file\nOverwrite the existing record?" YesNo
+expect-status Not saved
 answer Yes
 click mnuSave
 expect-message Overwrite
