@@ -19,6 +19,7 @@ frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
     CancelButton = &cmdCancel;
 
     txtNomSize.IsNumber = true;
+    txtNomSize.SetToolTip("As 6, 0.5, 1/2 or 1 1/2");
     txtNomSize.Describe(&lblNomSize, &lblPipeUnits);
     lstPipeSize.Describe(&lblPipeSize);
     for (Label* label : {&lblNomSize, &lblPipeUnits, &lblPipeSize, &lblConvertUnits}) label->ColourGroup = 1;
@@ -43,6 +44,12 @@ void frmPipeSize::Load() { ApplyColours(*this); }
 void frmPipeSize::ControlGotFocus(Control& control) {
     SuiteForm::ControlGotFocus(control);
     DefaultButton = &control == &txtNomSize ? &cmdSearch : &cmdOK;
+}
+
+// A fraction is a size too; the search tells of what is none.
+void frmPipeSize::ControlLostFocus(Control& control) {
+    SuiteForm::ControlLostFocus(control);
+    SetStatus("");
 }
 
 void frmPipeSize::txtNomSize_Change() {

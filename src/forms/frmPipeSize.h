@@ -13,6 +13,7 @@ public:
     void Load() override;
     void CloseBox() override { cmdCancel_Click(); }
     void ControlGotFocus(Control& control) override;
+    void ControlLostFocus(Control& control) override;
 
     Label lblNomSize{*this, "lblNomSize", "&Nominal size"};
     TextBox txtNomSize{*this, "txtNomSize"};

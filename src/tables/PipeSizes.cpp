@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <regex>
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
@@ -63,9 +64,25 @@ void SetPipeUnits() {
     Calc.UnitName[pipeunit::PipeSizeRound] = metric ? "mm" : "in";
 }
 
+// A size as it is typed: 6, .5, 1/2, 1 1/2, 2-1/2, with a unit behind it or not. 0 for anything else that a
+// number could be read from, such as two of them: another pipe would be found.
+double NominalSize(std::string_view typed) {
+    constexpr std::size_t longest = 40;
+    const std::string text(Trim(typed));
+    if (text.size() > longest) return 0;
+    static const std::regex fraction(R"((?:(\d+)(?: +| *- *))?(\d+) */ *(\d+)[ "a-z.]*)", std::regex::icase);
+    static const std::regex number(R"(([+-]?(?:\d+\.?\d*|\.\d+)(?:[ed][+-]?\d+)?)[ "a-z.]*)",
+                                   std::regex::icase);
+    std::smatch part;
+    if (std::regex_match(text, part, number)) return Val(part[1].str());
+    if (!std::regex_match(text, part, fraction)) return 0;
+    const double above = Val(part[2].str()), below = Val(part[3].str());
+    return above < below ? Val(part[1].str()) + above / below : 0;
+}
+
 // The size on the table's inch grid up to which rows count.
 double TargetSize(std::string_view typed) {
-    const double target = Val(typed) * Calc.UnitFactor[pipeunit::PipeSizeFactor];
+    const double target = NominalSize(typed) * Calc.UnitFactor[pipeunit::PipeSizeFactor];
     if (!ListsMillimetres()) return target;
     return (target / InchesPerMillimetre + TypedSizeOffset) * MillimetreGrid;
 }

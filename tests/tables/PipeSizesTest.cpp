@@ -101,7 +101,7 @@ TEST_F(PipeSizes, SearchOffersTheLargestSizeNotAboveTheTypedOne) {
     using Sizes = std::vector<std::string>;
     const struct {
         double Factor;
-        const char* Typed;
+        std::string Typed;
         Sizes Offered;
     } cases[] = {
         {1, "1", {"1"}},
@@ -115,6 +115,19 @@ TEST_F(PipeSizes, SearchOffersTheLargestSizeNotAboveTheTypedOne) {
         {1, "", {}},
         {1, "six", {}},
         {1, "nan", {}},
+        {1, "1/2", {".5"}},
+        {1, " 3 / 4 \"", {".75"}},
+        {1, "1 1/2", {"1.5"}},
+        {1, "2-1/2 in", {"2.5"}},
+        {1, "6\"", {"6"}},
+        {1, "6 In.", {"6"}},
+        {1, "1,5", {}},
+        {1, "1 2", {}},
+        {1, "6/2", {}},
+        {1, "1/", {}},
+        {1, "4 sch 40", {}},
+        {1, std::string(100000, '1'), {}},
+        {0.03937, "12 1/2 mm", {"10"}},
         {0.03937, "25", {"25"}},
         {0.03937, "26", {"25"}},
         {0.03937, "24", {"19"}},
