@@ -117,10 +117,9 @@ void frmWaterHammer::TellNeedsState(int) {
 // Gravity and bulk modulus, rounded, in the units shown. A liquid whose modulus is not known leaves its box
 // blank.
 void frmWaterHammer::FillCase() {
-    Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
-    const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
-                                           ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[6] * WaterDensity)
-                                           : Calc.FlowingSG);
+    const bool density = Calc.LiquidDensityMode == words::Density;
+    const double gravity = CheckFinite(
+        RoundedFour(density ? Calc.FlowingSG / Calc.UnitFactor[6] * WaterDensity : Calc.FlowingSG));
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
     const double modulus = CheckFinite(RoundedFour(Calc.BulkModulus / Calc.UnitFactor[27]));
     Calc.CaseInput[6][0] = gravity;

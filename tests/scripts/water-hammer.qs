@@ -282,4 +282,19 @@ answer No
 close
 expect-message Save changes?
 expect-form frmTRProg
+
+# A density is rounded by itself, not made of a gravity that was rounded.
+new 3
+click cmdFormLayout
+click optMassSIUnits
+click optLiqDensity
+answer No
+click cmdOKOptions
+expect-message Round converted data?
+type txtFlowTemp 60
+type txtOperPressure 700
+click mnuPureLiquids
+pick lstFluid "Cyclohexane "
+click cmdSelect
+expect txtSGFlow 739.4
 quit
