@@ -58,9 +58,16 @@ bool ResultsStand(int caseIndex) {
     return Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)] != words::No;
 }
 
+// A case that has been calculated has a velocity.
+bool LineResultStands() {
+    for (int i = 0; i < CaseCount; ++i) {
+        if (StandingResult(2, i) != 0) return true;
+    }
+    return false;
+}
+
 double StandingResult(int row, int caseIndex) {
-    const bool stands =
-        row == 5 ? ResultsStand(0) || ResultsStand(1) || ResultsStand(2) : ResultsStand(caseIndex);
+    const bool stands = row == 5 ? LineResultStands() : ResultsStand(caseIndex);
     return stands ? Calc.CaseResult[static_cast<std::size_t>(row)][static_cast<std::size_t>(caseIndex)] : 0;
 }
 
@@ -126,6 +133,7 @@ void TakeSaved() {
     for (int row = 0; row < 19; ++row) {
         Calc.HammerResultSaved[static_cast<std::size_t>(row)] = StandingHammerResult(row);
     }
+    Calc.BaroPressureSaved = Calc.BaroPressure;
     Calc.PipeDataSaved = Calc.PipeData;
     Calc.HeadingTextSaved = Calc.HeadingText;
     Calc.CaseTextSaved = Calc.CaseText;

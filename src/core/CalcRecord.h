@@ -135,6 +135,7 @@ struct CalcRecord {
     double StdTemperature = 0;  // degF
     double StdPressure = 0;     // psia
     double BaroPressure = 0;    // psia
+    double BaroPressureSaved = 0;
 
     // Of the water hammer, see hammer/WaterHammer.h.
     double LiquidMassFlow = 0;                   // lb/h
@@ -261,8 +262,10 @@ void RestoreShown();
 // refresh nor a save then takes the numbers that are left of them.
 bool ResultsStand(int caseIndex);
 
-// The result of a case as the form shows it: 0 where results do not stand. Row 5, one number for the line,
-// stands as long as any case does.
+// The same of row 5 of CaseResult, one number for the line: it stands as long as any case has results.
+bool LineResultStands();
+
+// The result of a case as the form shows it: 0 where results do not stand.
 double StandingResult(int row, int caseIndex);
 // The same for the one case of the water hammer program.
 double StandingHammerResult(int row);

@@ -214,6 +214,15 @@ void CalculationForm::BlankResults(int caseIndex) {
     }
 }
 
+// Results that are one number for all cases.
+void CalculationForm::BlankLineResults() {
+    for (const FormRow& row : FormRows(program_)) {
+        if (row.IsResult() && !row.PerCase) {
+            static_cast<TextBox&>(RowControl(*this, row, 0)).SetText("");
+        }
+    }
+}
+
 void CalculationForm::ClearCase(int caseIndex) {
     if (Calc.FormLoading == words::Yes) return;
     Calc.ChangedFlag = words::No;
@@ -225,16 +234,13 @@ void CalculationForm::ClearCase(int caseIndex) {
     ResultsBlanked(caseIndex);
     if (caseIndex == hintedCase_) ShowHint("");
     clearable = words::No;
+    if (!LineResultStands()) BlankLineResults();
 }
 
 void CalculationForm::ClearAllCases() {
     if (Calc.FormLoading == words::Yes) return;
     for (int i = 0; i < CaseCount; ++i) ClearCase(i);
-    for (const FormRow& row : FormRows(program_)) {
-        if (row.IsResult() && !row.PerCase) {
-            static_cast<TextBox&>(RowControl(*this, row, 0)).SetText("");
-        }
-    }
+    BlankLineResults();
 }
 
 int CalculationForm::InputSlot(const Control& box) const {

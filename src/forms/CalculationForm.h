@@ -151,6 +151,7 @@ private:
     bool Save();
     bool SaveTo(const std::string& databaseFile);
     void BlankResults(int caseIndex);
+    void BlankLineResults();
     void SetCalculateButtons(bool enabled);
 
     int program_;

@@ -41,6 +41,12 @@ bool BasisDiffers() {
     return Calc.FluidType == words::Gas && !SameText(Calc.Basis, Calc.BasisSaved);
 }
 
+// A record that was begun without a barometer has the usual one.
+bool BarometerDiffers() {
+    const auto inForce = [](double barometer) { return barometer > 0 ? barometer : 14.7; };
+    return inForce(Calc.BaroPressure) != inForce(Calc.BaroPressureSaved);
+}
+
 // Inputs and units, without the rows of the standard conditions.
 bool RowsDiffer() {
     for (std::size_t row = 0; row < UnitRowsKept; ++row) {
@@ -119,7 +125,7 @@ void DetectChanges() {
     const int program = Calc.CurrentProgram;
     MarkIf(Calc.RecordChanged, !SameText(Calc.Tag, Calc.TagSaved));  // the case of its letters alone
     MarkIf(Calc.RecordChanged, !SameText(Calc.FluidName, Calc.FluidNameSaved) || IsYes(Calc.RecordUpdated) ||
-                                   BasisDiffers() ||
+                                   BasisDiffers() || BarometerDiffers() ||
                                    TextsDiffer(Calc.HeadingText, Calc.HeadingTextSaved, 2, 10));
     Calc.SaveFDRow = words::No;
     MarkIf(Calc.SaveFDRow, (program == 4 || program == 5) && CommonPartDiffers());

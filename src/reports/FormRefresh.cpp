@@ -100,15 +100,17 @@ constexpr UnitControl GasDataUnits[] = {
 };
 
 // After a conversion a text that one of the first two rules leaves standing would be a number in the former
-// unit.
-void ShowConverted(Control& control, double value) {
-    if (value <= 0 && Val(control.Text()) != Val(Str(value))) SetText(control, value == 0 ? "" : Str(value));
+// unit. Of a property nothing below zero is shown.
+void ShowConverted(Control& control, const FormRow& row, double value) {
+    if (value > 0 || (row.IsResult() && value != 0) || Val(control.Text()) == Val(Str(value))) return;
+    SetText(control, value == 0 ? "" : Str(value));
 }
 
 void ShowRow(Form& form, const FormRow& row, int caseIndex, bool converted) {
     Control& control = RowControl(form, row, caseIndex);
     double& value = LiveValue(row, caseIndex);
-    if (converted && !row.IsResult() && row.Rule != ShowRule::LegalZero) ShowConverted(control, value);
+    const bool mayStay = !row.IsResult() || row.From == Source::Property;
+    if (converted && mayStay && row.Rule != ShowRule::LegalZero) ShowConverted(control, row, value);
     switch (row.Rule) {
         case ShowRule::Positive:
             if (value > 0) ShowNumber(control, value);
@@ -137,15 +139,20 @@ std::pair<int, int> CasesToShow(int program) {
     return {Calc.CaseIndex, Calc.CaseIndex};
 }
 
+// A result of the line is one number for all cases.
+bool Stands(const FormRow& row, int caseIndex) {
+    if (row.From == Source::CaseResult && !row.PerCase) return LineResultStands();
+    return !row.IsResult() || ResultsStand(caseIndex);
+}
+
 void ShowRows(Form& form, int program) {
     const auto [first, last] = CasesToShow(program);
     const bool results = Calc.HideResults != words::Yes;
     const bool converted = Calc.UnitsConverted == words::Yes;
     for (const FormRow& row : FormRows(program)) {
-        const bool isResult = row.IsResult();
-        if (isResult && !results) continue;
+        if (row.IsResult() && !results) continue;
         for (int i = row.PerCase ? first : Calc.CaseIndex; i <= (row.PerCase ? last : Calc.CaseIndex); ++i) {
-            if (!isResult || ResultsStand(i)) ShowRow(form, row, i, converted);
+            if (Stands(row, i)) ShowRow(form, row, i, converted);
         }
     }
     Calc.UnitsConverted.clear();

@@ -43,6 +43,10 @@ protected:
 };
 
 TEST_F(UnitForms, SiUnitsConvertInputsAndResultsTogether) {
+    FillGoodCase(1);
+    for (const int i : {0, 1}) Calculate(i);
+    Type(Form().txtEquip(1), "1");
+    User.Boxes.clear();
     OpenOptions();
     EXPECT_FALSE(CanAct(Form().txtFlow(0))) << "the calculation waits for its panel";
     EXPECT_EQ(Options().fraUnits.Caption(), "Liquid - Unit options");
@@ -66,6 +70,7 @@ TEST_F(UnitForms, SiUnitsConvertInputsAndResultsTogether) {
     EXPECT_NEAR(Number(Form().txtInletPipeID), 4.026 / 0.03937, 1e-3);
     EXPECT_NEAR(Number(Form().txtViscosity(0)), 0.001, 1e-9);
     EXPECT_NEAR(Number(Form().txtDestPress(0)), 90.31 / 0.14504, 1e-2) << "results follow their unit";
+    EXPECT_NEAR(Number(Form().txtEquivLen), 1000 / 3.281, 1e-3) << "that of the line stands by one case";
     const double converted = Number(Form().txtDestPress(0));
     Calculate(0);
     EXPECT_NEAR(Number(Form().txtDestPress(0)), converted, 0.1) << "and agree with a new calculation";
@@ -257,6 +262,7 @@ TEST_F(UnitForms, ANewCalculationInVolumeUnitsHasNothingToConvertYet) {
 TEST_F(UnitForms, NoTextOutlivesItsUnit) {
     Type(Form().txtEquip(0), "-20");  // a pump
     Type(Form().txtSGFlow(0), "");
+    EXPECT_EQ(Form().txtEquivLen.Text(), "") << "no case has results";
     OpenUnits();
     Choose(4, "kPa");
     Choose(7, "cs");

@@ -44,6 +44,7 @@ const Change Changes[] = {
          Calc.UnitName[22] = "bara";
      },
      ""},
+    {"barometer", 1, [] { Calc.BaroPressure += 0.5; }, "record "},
     {"reserved input", 1, [] { Calc.CaseInput[28][0] += 1; }, ""},
     {"unit factor", 4, [] { Calc.UnitFactor[20] *= 2; }, "record FD "},
     {"unit name", 3, [] { Calc.UnitName[27] = "bar"; }, "record WH "},

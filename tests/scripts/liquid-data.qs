@@ -146,4 +146,28 @@ type txtPercent(2) 1
 click cmdCalcPseudo
 expect txtNormalBP(1) 382.2
 expect txtFlashpoint(1) ""
+
+# Without a gravity in the first case the kinematic viscosity of the others is not known, nor is it what it was.
+answer No
+click mnuProgram
+expect-message Save changes?
+new 4
+type txtTemp(1) 37.7778
+type txtPressure(1) 0
+leave
+click mnuLiquid2
+pick lstFluid "n-Octane "
+click cmdSelect
+expect txtViscosity(1) 0.0004406
+click cmdUnits(2)
+click cmdUnit(7)
+pick cboUnit cs
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect unViscosity cs
+expect txtViscosity(1) ""
 quit
