@@ -33,6 +33,8 @@ struct SuiteState {
     Row<std::string, 36> UserLiquidUnitName{}, UserGasUnitName{};
     UnitFactors UserLiquidUnitFactor{}, UserGasUnitFactor{};  // 0 where there is no unit
     std::string UserLiquidBasis, UserGasBasis;                // of the two flow units
+    int LiquidBootSet = 0, GasBootSet = 0;                    // unit sets of new calculations
+    std::string BootDensityMode;                              // of a new liquid calculation
     Row<UnitList, 21> UnitLibrary{};  // the unit lists 0 to 20, see units/UnitCatalogue.h
     UnitList PressureStem{};          // pressure units without the ending "g" or "a"
     std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded

@@ -91,6 +91,17 @@ void KeepUserSets(const UserFile& file) {
     Suite.UserGasUnitName = file.Gas.Names;
     Suite.UserGasUnitFactor = file.Gas.Factors;
     Suite.UserGasBasis = file.Gas.Basis;
+    Suite.LiquidBootSet = file.Liquid.UnitSet;
+    Suite.GasBootSet = file.Gas.UnitSet;
+    Suite.BootDensityMode = file.DensityMode;
+}
+
+// The other fluid's part of the file stays what it was.
+void TakeBootSet() {
+    if (Calc.FluidType == words::Gas) Suite.GasBootSet = Calc.GasUnitSet;
+    if (Calc.FluidType != words::Liquid) return;
+    Suite.LiquidBootSet = Calc.LiquidUnitSet;
+    Suite.BootDensityMode = Calc.LiquidDensityMode;
 }
 
 // --- Taking a set ----------------------------------------------------------------------------------------
@@ -205,16 +216,17 @@ bool ReadUserUnits() {
 }
 
 bool WriteUserUnits() {
+    TakeBootSet();
     try {
         TextWriter file(FileName());
         const UnitFactors& liquid = Suite.UserLiquidUnitFactor;
         const UnitFactors& gas = Suite.UserGasUnitFactor;
-        WriteSet(file, BasisToWrite(liquid[1], Suite.UserLiquidBasis, Calc.LiquidBasis), Calc.LiquidUnitSet,
+        WriteSet(file, BasisToWrite(liquid[1], Suite.UserLiquidBasis, Calc.LiquidBasis), Suite.LiquidBootSet,
                  LiquidRows, Suite.UserLiquidUnitName, liquid);
-        WriteSet(file, BasisToWrite(gas[0], Suite.UserGasBasis, Calc.Basis), Calc.GasUnitSet, GasRows,
+        WriteSet(file, BasisToWrite(gas[0], Suite.UserGasBasis, Calc.Basis), Suite.GasBootSet, GasRows,
                  Suite.UserGasUnitName, gas);
         file.Line(Calc.PressureMode);
-        file.Line(Calc.LiquidDensityMode);
+        file.Line(Suite.BootDensityMode);
         file.Number(Calc.BaroPressure);
         file.Commit();
         return true;

@@ -21,8 +21,9 @@ bool ReadUserUnits();
 // user sets empty, for a missing, cut or damaged file. For a choice of set 5 in the midst of a calculation.
 bool ReadUserUnitSets();
 
-// Writes the file, whole or not at all; false when it cannot be written. Unit sets, modes and barometer are
-// those of the record.
+// Writes the file, whole or not at all; false when it cannot be written. Pressure mode and barometer are
+// those of the record, and so are unit set and density mode of the record's fluid; those of the other fluid
+// stay as they were read.
 bool WriteUserUnits();
 
 // Puts the record on the user set of its fluid type: units, flow basis (the old one becomes the previous),

@@ -69,6 +69,15 @@ TEST_F(UserUnitsTest, WritesWhatItRead) {
     fs::remove(DataFolder() / "TRUNS.txt");
     // The bases in force belong to other units by now; the file keeps those of its own.
     Calc.LiquidBasis = Calc.Basis = "else";
+    // So do the unit sets of records that were displayed: the other fluid's part of the file stays.
+    Calc.FluidType = words::Liquid;
+    Calc.GasUnitSet = 3;
+    ASSERT_TRUE(WriteUserUnits());
+    EXPECT_EQ(FileText(), Joined(GoodLines));
+    Calc.FluidType = words::Gas;
+    Calc.GasUnitSet = 2;
+    Calc.LiquidUnitSet = 1;
+    Calc.LiquidDensityMode = words::Gravity;
     ASSERT_TRUE(WriteUserUnits());
     EXPECT_EQ(FileText(), Joined(GoodLines));
 }
