@@ -62,16 +62,21 @@ std::uint32_t ColourFrom(const std::string& item) {
 struct StandardCondition {
     std::size_t Row;
     double CalcRecord::*Field;
+    double StandardFile::*InFile;
     double Usual;
     const char* Unit;
     bool ZeroAlone;  // only exactly zero counts as missing: minus 10 degF is a temperature
 };
 
 constexpr std::array StandardConditions = {
-    StandardCondition{22, &CalcRecord::StdPressure, 14.7, "psia", false},
-    StandardCondition{21, &CalcRecord::StdTemperature, 60, "degF", true},
-    StandardCondition{23, &CalcRecord::BaroPressure, 14.7, "psia", false},
+    StandardCondition{22, &CalcRecord::StdPressure, &StandardFile::Pressure, 14.7, "psia", false},
+    StandardCondition{21, &CalcRecord::StdTemperature, &StandardFile::Temperature, 60, "degF", true},
+    StandardCondition{23, &CalcRecord::BaroPressure, &StandardFile::Barometer, 14.7, "psia", false},
 };
+
+bool IsMissing(const StandardCondition& condition, double value) {
+    return condition.ZeroAlone ? value == 0 : !(value > 0);
+}
 
 }  // namespace
 
@@ -185,17 +190,39 @@ void SaveHeadings(std::span<const std::string> lines, std::size_t count) {
     file.Commit();
 }
 
-void ReadStandardConditions() {
+namespace {
+
+// The first three numbers of the file; those that a short one lacks count 0.
+std::optional<Row<double, 4>> StandardItems() {
+    Row<double, 4> items{};
     bool opened = false;
     try {
         ItemReader file(Suite.DefaultPaths[2] + "\\TRSTP.TXT");
         opened = true;
-        Calc.StdFileValues.fill(0);
-        for (std::size_t i = 1; i <= 3; ++i) Calc.StdFileValues[i] = file.NextNumber();
+        for (std::size_t i = 1; i <= 3; ++i) items[i] = file.NextNumber();
     } catch (const RuntimeError&) {
-        if (!opened) return;
-        // short: what is missing counts 0
+        if (!opened) return std::nullopt;
     }
+    return items;
+}
+
+}  // namespace
+
+std::optional<StandardFile> ReadStandardFile() {
+    const auto items = StandardItems();
+    if (!items) return std::nullopt;
+    StandardFile file{(*items)[1], (*items)[2], (*items)[3]};
+    for (const StandardCondition& condition : StandardConditions) {
+        double& value = file.*condition.InFile;
+        if (IsMissing(condition, value)) value = condition.Usual;
+    }
+    return file;
+}
+
+void ReadStandardConditions() {
+    const auto items = StandardItems();
+    if (!items) return;
+    Calc.StdFileValues = *items;
     for (std::size_t i = 1; i <= 3; ++i) Calc.CaseInput[20 + i][0] = Calc.StdFileValues[i];
     Calc.StdTemperature = Calc.StdFileValues[1];
     Calc.StdPressure = Calc.StdFileValues[2];
@@ -206,7 +233,7 @@ void ReadStandardConditions() {
 void RestoreStandardConditions(double usualPressure) {
     for (const StandardCondition& condition : StandardConditions) {
         double& value = Calc.*condition.Field;
-        if (condition.ZeroAlone ? value != 0 : value > 0) continue;
+        if (!IsMissing(condition, value)) continue;
         value = condition.Field == &CalcRecord::StdPressure ? usualPressure : condition.Usual;
         Calc.CaseInput[condition.Row][0] = value;
         Calc.UnitName[condition.Row] = condition.Unit;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -54,9 +55,14 @@ std::size_t ReadHeadingLines(std::span<std::string> lines);
 // written.
 void SaveHeadings(std::span<const std::string> lines, std::size_t count = 10);
 
-// Reads TRSTP.TXT: standard temperature (degF), standard pressure (psia), barometric pressure (psia), in
-// this order, and replaces what is missing by 60, 14.7 and 14.7. A file that cannot be opened changes
-// nothing.
+// What TRSTP.TXT holds: standard temperature (degF), standard pressure (psia), barometric pressure (psia), in
+// this order; 60, 14.7 and 14.7 where it is missing there. None when the file cannot be opened.
+struct StandardFile {
+    double Temperature = 0, Pressure = 0, Barometer = 0;
+};
+std::optional<StandardFile> ReadStandardFile();
+
+// Takes them into the record; without the file nothing changes.
 void ReadStandardConditions();
 
 // Gives a standard condition that is missing its usual value: a standard pressure not above zero becomes the

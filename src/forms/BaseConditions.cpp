@@ -7,8 +7,10 @@
 #include "forms/CalculationForm.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/CorrelationRange.h"
 #include "units/NamedUnitSets.h"
 #include "units/Rounding.h"
+#include "units/StandardRange.h"
 #include "units/Temperature.h"
 
 namespace quillmetra {
@@ -53,6 +55,10 @@ BaseConditions::BaseConditions(CalculationForm& form)
       lblSTPBaro(fraSTP, "lblSTPBaro", "Barometric pressure"),
       txtSTPBaro(fraSTP, "txtSTPBaro"),
       unSTPBaro(fraSTP, "unSTPBaro"),
+      lblSTPNote(
+          fraSTP, "lblSTPNote",
+          "Base pressure and temperature change no flow: a pound mole counts as 378.751445 ft3 whatever "
+          "they are. The barometric pressure turns gauge into absolute."),
       cmdSTPEnglish(fraSTP, "cmdSTPEnglish", "En&glish units"),
       cmdSTPSI(fraSTP, "cmdSTPSI", "S&I units"),
       cmdOKSTP(fraSTP, "cmdOKSTP", "OK"),
@@ -168,14 +174,31 @@ bool BaseConditions::Take() {
     return true;
 }
 
+std::string BaseConditions::ReadDifferently() const {
+    const std::array<const TextBox*, 3> boxes = {&txtSTPPressure, &txtSTPTemp, &txtSTPBaro};
+    std::string notes;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        if (boxes[i]->Text() == shown_[i]) continue;
+        if (const std::string note = ReadAs(boxes[i]->Text()); !note.empty())
+            notes = Sentences(notes, note + ".");
+    }
+    return notes;
+}
+
+void BaseConditions::CloseWith(const std::string& note) {
+    const std::string notes = Sentences(ReadDifferently(), note);
+    Close();
+    if (!notes.empty()) form_.SetStatus(notes);
+}
+
 void BaseConditions::cmdOKSTP_Click() {
-    if (Take()) Close();
+    if (Take()) CloseWith("");
 }
 
 void BaseConditions::cmdSaveSTP_Click() {
     if (!Take()) return;
     SaveStandardConditions();
-    Close();
+    CloseWith(FileConditionsNote());
 }
 
 void BaseConditions::cmdCancelSTP_Click() {

@@ -38,6 +38,7 @@ public:
     Label lblSTPBaro;
     TextBox txtSTPBaro;
     Label unSTPBaro;
+    Label lblSTPNote;
     CommandButton cmdSTPEnglish;
     CommandButton cmdSTPSI;
     CommandButton cmdOKSTP;
@@ -51,6 +52,9 @@ private:
     void SwitchTo(bool si);
     void Show();
     bool Take();
+    std::string ReadDifferently() const;
+    // Closes the frame and says in the status line what was not read to its end, and what else there is.
+    void CloseWith(const std::string& note);
 
     CalculationForm& form_;
     Control* cameFrom_ = nullptr;

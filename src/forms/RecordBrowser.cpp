@@ -99,7 +99,7 @@ bool frmTRProg::OpenView() {
     const BusyPointer busy;
     try {
         view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
-        SetStatus("");
+        SetStatus(StandingStatus());
         return true;
     } catch (const RuntimeError& error) {
         SetStatus(HintOnFailure(error));
@@ -139,7 +139,10 @@ void frmTRProg::CloseView() {
 
 // The record that a calculation has left, which may be new; the one shown before when it has left none.
 void frmTRProg::Activated() {
-    if (view_ == nullptr) return;
+    if (view_ == nullptr) {
+        if (Status().empty()) SetStatus(StandingStatus());
+        return;
+    }
     // A calculation may have been saved to another database; what is done here is done to the one shown.
     Suite.DatabaseFile = lblPath(0).Caption();
     Suite.DatabasePath = FolderOf(Suite.DatabaseFile);
@@ -231,7 +234,7 @@ void frmTRProg::lstTags_Click() { cmdSelect.SetEnabled(lstTags.Selected() >= 0);
 void frmTRProg::txtSearchTag_Change() {
     if (!fraTags.Visible() || txtSearchTag.Text().empty()) return;
     const auto [first, end] = view_->StartingWith(txtSearchTag.Text());
-    SetStatus(first == end ? "No tag number starts with " + txtSearchTag.Text() : "");
+    SetStatus(first == end ? "No tag number starts with " + txtSearchTag.Text() : StandingStatus());
     if (first != end) lstTags.Select(static_cast<int>(first));
     cmdSelect.SetEnabled(first != end);
 }
@@ -248,7 +251,7 @@ void frmTRProg::cmdSelect_Click() {
 
 void frmTRProg::cmdCancel_Click() {
     ShowTags(false);
-    SetStatus("");
+    SetStatus(StandingStatus());
     cmdBrowse.SetFocus();
 }
 

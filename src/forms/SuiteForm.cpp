@@ -13,6 +13,11 @@ bool IsInput(const Control& control) {
 }
 }  // namespace
 
+std::string ReadAs(const std::string& text) {
+    if (ValReadsAll(text)) return {};
+    return std::string(Trim(text)) + " is read as " + TrimmedStr(Val(text));
+}
+
 std::string SuiteForm::ProblemTitle() const {
     return Calc.ProgramTitle.empty() ? Caption() : Calc.ProgramTitle;
 }
@@ -30,9 +35,8 @@ void SuiteForm::ControlLostFocus(Control& control) {
     if (!IsInput(control)) return;
     auto& box = static_cast<TextBox&>(control);
     box.SetColours(SlotColour(slot::InputBack), SlotColour(InputSlot(box)));
-    const bool readWhole = !box.IsNumber || ValReadsAll(box.Text());
-    SetStatus(readWhole ? StandingStatus()
-                        : std::string(Trim(box.Text())) + " is read as " + TrimmedStr(Val(box.Text())));
+    const std::string readAs = box.IsNumber ? ReadAs(box.Text()) : "";
+    SetStatus(readAs.empty() ? StandingStatus() : readAs);
 }
 
 }  // namespace quillmetra

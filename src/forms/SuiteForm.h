@@ -6,6 +6,9 @@
 
 namespace quillmetra {
 
+// What the status line says of a number that is not read to its end: "2,5 is read as 2". Empty when it is.
+std::string ReadAs(const std::string& text);
+
 class SuiteForm : public Form {
 public:
     using Form::Form;

@@ -1,7 +1,8 @@
 // See UnitChange.h.
 #include "forms/UnitChange.h"
 
-#include <algorithm>
+#include <string>
+#include <utility>
 
 #include "core/CalcRecord.h"
 #include "core/Programs.h"
@@ -28,12 +29,13 @@ bool UnitsHaveChanged() {
 
 void ConvertToNewUnits(ZeroTemperature zero) {
     if (Calc.NoConversion == words::Yes) {
-        Calc.FormLoading = words::No;
-        if (CalculationForm* form = OpenCalculation()) form->ClearAllCases();
-        Calc.FormLoading = words::Yes;
+        BlankAllResults();
         RenewChosenUnitNames();
     } else if (UnitsHaveChanged()) {
         ConvertProgramData(zero);
+        Calc.ChangedFlag = words::No;
+    } else if (Calc.RoundedFlag == words::No) {
+        RoundRecord();
         Calc.ChangedFlag = words::No;
     }
     MendUnitFactors();
@@ -41,6 +43,12 @@ void ConvertToNewUnits(ZeroTemperature zero) {
     Calc.UnitsConverted = words::Yes;  // the refresh shows all cases
     Calc.HideResults = words::No;
     ComposeHeading();
+}
+
+void BlankAllResults() {
+    const std::string loading = std::exchange(Calc.FormLoading, words::No);
+    if (CalculationForm* form = OpenCalculation()) form->ClearAllCases();
+    Calc.FormLoading = loading;
 }
 
 void ReturnToCalculation() {

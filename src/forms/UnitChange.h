@@ -14,8 +14,12 @@ bool UnitsHaveChanged();
 
 // Converts the record from the previous units to the units in force and refreshes the form; with NoConversion
 // "Yes" the numbers stay as they are and all results are blanked, since they no longer belong to the inputs.
-// Renews the previous units. Without a change of units nothing is converted or rounded.
+// Renews the previous units. Without a change of units nothing is converted; what an earlier change has left
+// unrounded is asked about again.
 void ConvertToNewUnits(ZeroTemperature zero);
+
+// Blanks the results of the open calculation, while a panel is open over it too.
+void BlankAllResults();
 
 // The calculation form takes input again, with its calculate buttons; NoConversion and OptionsLoaded end.
 void ReturnToCalculation();

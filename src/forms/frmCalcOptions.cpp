@@ -14,10 +14,12 @@
 #include "platform/NumberText.h"
 #include "platform/Utf8.h"
 #include "reports/FormRefresh.h"
+#include "units/CorrelationRange.h"
 #include "units/ModeChange.h"
 #include "units/NamedUnitSets.h"
 #include "units/RecordUnits.h"
 #include "units/Rounding.h"
+#include "units/StandardRange.h"
 #include "units/UnitCatalogue.h"
 #include "units/UserUnits.h"
 
@@ -130,14 +132,21 @@ double frmCalcOptions::BarometerInPsia() const {
 }
 
 // A new calculation reads the barometer from the file of the standard conditions, when there is one.
-void frmCalcOptions::TakeBarometer() {
+bool frmCalcOptions::TakeBarometer() {
     const double barometer = BarometerInPsia();
     const double inKilopascal = barometer / PsiPerKPa;
-    if (barometer == Calc.BaroPressure || !std::isfinite(inKilopascal)) return;
+    if (barometer == Calc.BaroPressure || !std::isfinite(inKilopascal)) return false;
     Calc.BaroPressure = barometer;
     Calc.CaseInput[23][0] = Calc.UnitName[23] == Kilopascal ? RoundedSix(inKilopascal) : barometer;
     opened_.CaseInput[23] = Calc.CaseInput[23];  // a new barometer outlasts the panel's Cancel
     SaveStandardConditions();
+    return true;
+}
+
+std::string frmCalcOptions::BarometerNote(bool taken) const {
+    const std::string& text = txtSTPBaro.Text();
+    const std::string readAs = text == barometerShown_ ? "" : ReadAs(text);
+    return Sentences(readAs.empty() ? "" : readAs + ".", taken ? FileConditionsNote() : "");
 }
 
 std::string frmCalcOptions::PressureChoice() const {
@@ -206,14 +215,16 @@ void frmCalcOptions::CloseCalcOpts() {
     ComposeHeading();
     Calc.HideResults = words::No;
     if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::IsConverted);
-    TakeBarometer();
+    const bool newBarometer = TakeBarometer();
+    if (newBarometer) BlankAllResults();
     ComposeHeading();
-    const bool modeStays = Calc.PressureMode != PressureChoice();
+    std::string note = BarometerNote(newBarometer);
+    if (Calc.PressureMode != PressureChoice()) {
+        note = Calc.UnitName[3] + " is neither gauge nor absolute: the pressures stay as they were";
+    }
     InstallOptions();
     CalculationForm* const form = OpenCalculation();
-    if (modeStays && form != nullptr) {
-        form->SetStatus(Calc.UnitName[3] + " is neither gauge nor absolute: the pressures stay as they were");
-    }
+    if (form != nullptr && !note.empty()) form->SetStatus(note);
 }
 
 void frmCalcOptions::InstallOptions() {
@@ -237,16 +248,21 @@ void frmCalcOptions::cmdBootUpUnits_Click() {
         question += optLiqDensity.Checked() ? "\nand liquid density instead of specific gravity"
                                             : "\nand liquid specific gravity instead of density";
     }
+    bool newBarometer = false;
     if (AskYesNo(question + "\nSave?", "New boot up Configuration for " + Calc.FluidType)) {
-        TakeBarometer();
+        newBarometer = TakeBarometer();
         TakeBootUpUnits();
+        const std::string note = BarometerNote(newBarometer);
+        if (!ReadAs(txtSTPBaro.Text()).empty()) txtSTPBaro.SetText(Str(Val(txtSTPBaro.Text())));
         SaveUserUnits(*this);
+        if (!note.empty()) SetStatus(Sentences(Status() + ".", note));
         before.LiquidUnitSet = Calc.LiquidUnitSet;
         before.GasUnitSet = Calc.GasUnitSet;
         before.BaroPressure = Calc.BaroPressure;
         before.CaseInput[23] = Calc.CaseInput[23];
     }
     Calc = before;
+    if (newBarometer) BlankAllResults();
 }
 
 // Units that belong to no named set become the user's set. A gas keeps its own set throughout, and the first

@@ -72,7 +72,10 @@ private:
     // The number of the set that is picked, 0 for "leave as is".
     int SetChoice() const;
     double BarometerInPsia() const;
-    void TakeBarometer();
+    // Takes the barometer of the box into the record and the file; true when it is another one.
+    bool TakeBarometer();
+    // What the status line has to say of the barometer that was taken from the box.
+    std::string BarometerNote(bool taken) const;
     // Applies the picked unit set; false when the user's file is empty, which it says.
     bool ApplySet();
     void ApplyModes();

@@ -7,6 +7,8 @@
 #include "forms/DataCheck.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
+#include "units/CorrelationRange.h"
+#include "units/StandardRange.h"
 #include "units/Temperature.h"
 #include "units/Viscosity.h"
 
@@ -114,6 +116,8 @@ std::string frmGasData::TitleTail() const {
     if (Calc.SteamKind.empty()) return " - Gas Flow";
     return " - " + Calc.SteamKind + " Steam";
 }
+
+std::string frmGasData::Hints() const { return Sentences(DataForm::Hints(), StandardConditionsHint()); }
 
 void frmGasData::PropertiesTaken() {
     Calc.FluidKind = Calc.SteamKind.empty() ? words::Gas : "";

@@ -9,7 +9,9 @@
 #include "platform/Arithmetic.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
+#include "units/CorrelationRange.h"
 #include "units/Rounding.h"
+#include "units/StandardRange.h"
 #include "units/Temperature.h"
 #include "units/Viscosity.h"
 
@@ -117,6 +119,10 @@ bool frmGasLineLoss::CheckFluid() {
         return RefuseData("Viscosity must be greater than zero", txtViscosity(caseIndex));
     }
     return true;
+}
+
+std::string frmGasLineLoss::Hints() const {
+    return Sentences(LineLossForm::Hints(), StandardConditionsHint());
 }
 
 // --- Calculation -------------------------------------------------------------------------------------------

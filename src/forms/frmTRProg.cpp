@@ -10,6 +10,7 @@
 #include "forms/WinSeek.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "units/StandardRange.h"
 
 namespace quillmetra {
 
@@ -83,6 +84,7 @@ void frmTRProg::Load() {
     SetCaption(Suite.VersionText + SuiteName);
     LoadDefaults();
     CloseView();
+    SetStatus(StandingStatus());
 }
 
 void frmTRProg::cmdOK_Click() {
@@ -102,7 +104,10 @@ void frmTRProg::mnuDoNotShow_Click() {
     Suite.HideFluidReminder = Suite.HideRoundReminder = Suite.HideFlowStatus = word;
     mnuDoNotShow.SetChecked(PromptsAreHidden());
     SaveStandardConditions();
+    SetStatus(StandingStatus());
 }
+
+std::string frmTRProg::StandingStatus() const { return FileConditionsHint(); }
 
 void frmTRProg::mnuAbout_Click() {
     Tell(std::string(SuiteName) + "\n" + Suite.VersionText, SuiteName, Icon::Information);

@@ -122,6 +122,8 @@ public:
     void mnuConvertRandom_Click();
 
 private:
+    // Standard conditions that a new calculation had better not start from.
+    std::string StandingStatus() const override;
     void HookDatabase();
     // Sets Suite.DatabasePath and DatabaseFile from the chosen path; false, after a message, when there is
     // none.

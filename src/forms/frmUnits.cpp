@@ -140,6 +140,7 @@ void frmUnits::Row_Click(int row) {
 
 void frmUnits::OpenPanel(int row) {
     UnitRow = row;
+    SetStatus("");
     fraSelect.SetCaption(SpokenCaption(cmdUnit(row).Caption()));
     fraSelect.SetVisible(true);
     fraRows.SetEnabled(false);
@@ -250,16 +251,19 @@ void frmUnits::cmdReplace_Click() {
     if (NameIsTooLong(name)) return;
     ReplaceUnitLine(UnitListOf(UnitRow), line + 1, name, Val(cboFactor.Text()));
     const std::string factor(Trim(cboFactor.Text()));
+    const std::string readAs = ReadAs(factor);
     ListUnits();
     cboUnit.Preselect(line);
     cboFactor.Preselect(line);
-    cboFactor.SetText(factor);
+    cboFactor.SetText(readAs.empty() ? factor : TrimmedStr(Val(factor)));
     cmdReplace.SetEnabled(false);
+    SetStatus(readAs);
 }
 
 void frmUnits::cmdSelect_Click() {
     const std::string name(Trim(cboUnit.Text()));
     const double factor = Val(cboFactor.Text());
+    const std::string readAs = ReadAs(cboFactor.Text());
     if (name.empty()) {
         Tell("Unit must have a name", "Unit ");
         cboUnit.SetFocus();
@@ -274,6 +278,7 @@ void frmUnits::cmdSelect_Click() {
     lblFactor(UnitRow).SetCaption(name);
     SelectedFactor[At(UnitRow)] = {factor, true};
     ClosePanel();
+    SetStatus(readAs);
 }
 
 void frmUnits::cmdCancel_Click() {

@@ -50,6 +50,7 @@ expect txtDestPress(1) 95.78
 click mnuSTP
 type txtSTPBaro 14.7
 click cmdSaveSTP
+expect-status "The next start reads standard conditions of 60 psia and 14.7 degF: check Base conditions."
 click cmdCalculate(1)
 
 # --- Data checking -----------------------------------------------------------------------------------------
@@ -206,4 +207,36 @@ expect-box "Data checking" "Flow pressure must be greater than zero" OK Stop
 type txtPressure(1) 114.7
 click cmdCalculate(1)
 expect txtDestPress(1) 110.6
+
+# What was left unrounded is asked about at the next OK, whether or not a unit changes.
+answer OK
+click mnuPrint
+expect-box "Print Calculation" "Please round before printing" OK Stop
+click cmdFormLayout
+answer Yes
+click cmdOKOptions
+expect-message Round converted data?
+click cmdFormLayout
+click cmdOKOptions
+expect txtDestPress(1) 110.6
+expect-state mnuPrint enabled
+# Another barometer takes all results away.
+click cmdFormLayout
+type txtSTPBaro 12,5
+click cmdOKOptions
+expect-status "12,5 is read as 12. The next start reads standard conditions of 60 psia and 14.7 degF: check Base conditions."
+expect txtDestPress(1) ""
+expect-state mnuPrint disabled
+
+# The file of the standard conditions is read in another order than it is written, and nobody calculates with it
+# unwarned.
+start
+expect-status "Standard pressure and temperature are 60 psia and 14.7 degF: check Base conditions."
+new 2
+include good-gas-case.qs
+answer No
+click cmdCalculate(1)
+expect-message Transition
+expect-status "Standard pressure and temperature are 60 psia and 14.7 degF: check Base conditions."
+expect txtDestPress(1) 95.78
 quit

@@ -54,10 +54,14 @@ type cboFactor -3
 answer OK
 click cmdSelect
 expect-box "Unit µ,/56789" "Multiplier must be greater than zero" OK
-type cboFactor 2
+type cboFactor 2,5
 click cmdReplace
+expect cboFactor 2
+expect-status "2,5 is read as 2"
+type cboFactor 2,7
 click cmdSelect
 expect lblFactor(25) µ,/56789
+expect-status "2,7 is read as 2"
 
 # --- The basis of a flow -----------------------------------------------------------------------------------
 click lblFactor(1)

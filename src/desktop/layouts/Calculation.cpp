@@ -39,11 +39,12 @@ Node Fluids(const char* frame) {
 }
 
 Node BaseConditions() {
-    return Frame("fraSTP", Column({Table({{"lblSTPPressure", "txtSTPPressure", "unSTPPressure"},
-                                          {"lblSTPTemp", "txtSTPTemp", "unSTPTemp"},
-                                          {"lblSTPBaro", "txtSTPBaro", "unSTPBaro"}}),
-                                   Row({"cmdSTPEnglish", "cmdSTPSI", Stretch()}),
-                                   Buttons({"cmdOKSTP", "cmdSaveSTP", "cmdCancelSTP"})}));
+    return Frame("fraSTP",
+                 Column({Table({{"lblSTPPressure", "txtSTPPressure", "unSTPPressure"},
+                                {"lblSTPTemp", "txtSTPTemp", "unSTPTemp"},
+                                {"lblSTPBaro", "txtSTPBaro", "unSTPBaro"}}),
+                         Item("lblSTPNote").Wrapped().Wide(44), Row({"cmdSTPEnglish", "cmdSTPSI", Stretch()}),
+                         Buttons({"cmdOKSTP", "cmdSaveSTP", "cmdCancelSTP"})}));
 }
 
 }  // namespace quillmetra::layout
