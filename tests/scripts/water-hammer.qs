@@ -288,9 +288,7 @@ new 3
 click cmdFormLayout
 click optMassSIUnits
 click optLiqDensity
-answer No
 click cmdOKOptions
-expect-message Round converted data?
 type txtFlowTemp 60
 type txtOperPressure 700
 click mnuPureLiquids
