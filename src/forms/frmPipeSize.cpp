@@ -19,7 +19,7 @@ frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
     CancelButton = &cmdCancel;
 
     txtNomSize.IsNumber = true;
-    txtNomSize.SetToolTip("As 6, 0.5, 1/2 or 1 1/2");
+    cmdSearch.SetToolTip("Finds a size such as 6, 0.5, 1/2 or 1 1/2");
     txtNomSize.Describe(&lblNomSize, &lblPipeUnits);
     lstPipeSize.Describe(&lblPipeSize);
     for (Label* label : {&lblNomSize, &lblPipeUnits, &lblPipeSize, &lblConvertUnits}) label->ColourGroup = 1;
