@@ -207,7 +207,19 @@ void Database::CompactInto(const fs::path& file) {
 
 void Database::Reindex() { Execute("REINDEX"); }
 
+// The engine reads a last page that is cut as if it ended in zeros.
+bool Database::IsCutShort() {
+    sqlite3_stmt* const statement =
+        Prepared("SELECT page_size * page_count FROM pragma_page_size, pragma_page_count");
+    const Run run(statement);
+    if (sqlite3_step(statement) != SQLITE_ROW) Fail();
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(file_, error);
+    return !error && size < static_cast<std::uintmax_t>(sqlite3_column_int64(statement, 0));
+}
+
 std::string Database::Fault() {
+    if (IsCutShort()) return "The file is cut short";
     sqlite3_stmt* statement = nullptr;
     std::string found;
     if (sqlite3_prepare_v2(handle_, "PRAGMA integrity_check(1)", -1, &statement, nullptr) == SQLITE_OK &&

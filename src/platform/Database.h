@@ -133,6 +133,7 @@ private:
     void Execute(const std::string& sql);
     // A statement stays prepared for the life of the database.
     sqlite3_stmt* Prepared(const std::string& sql);
+    bool IsCutShort();
     [[noreturn]] void Fail() const;
     [[noreturn]] void GiveUp();  // of a file that is not open yet
 
