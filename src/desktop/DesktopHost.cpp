@@ -12,6 +12,7 @@
 
 #include "desktop/FormWindow.h"
 #include "desktop/HelpWindow.h"
+#include "desktop/ReadyForUser.h"
 #include "desktop/WindowPlaces.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
@@ -66,7 +67,7 @@ void DesktopHost::FormShown(Form& form) {
 void DesktopHost::RunModal(Form& form) {
     if (ProcessHasEnded()) return;
     FormWindow& window = Window(form);
-    const QPointer<QWidget> under = QApplication::activeWindow();
+    const QPointer<QWidget> under = WindowInHand();
     window.setWindowModality(Qt::ApplicationModal);
     window.winId();  // makes the native window, which knows the one that it stands over
     if (under != nullptr) window.windowHandle()->setTransientParent(under->windowHandle());

@@ -61,8 +61,8 @@ private:
 };
 
 // Letters find the row that begins with them, from the one in hand on, which stays in hand when it does. The
-// same letter again goes on to the next. A row that a key has chosen is told when the widget has done with the
-// key: the click of a row may put up a box or fill the list anew.
+// same letter again goes on to the next. A row that a key has chosen is told when the widget has done with
+// the key: the click of a row may put up a box or fill the list anew.
 class RowList : public QListView {
 public:
     using QListView::QListView;

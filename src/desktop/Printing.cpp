@@ -56,7 +56,7 @@ void PreviewPaper::Finish() {
     printer_.setDocName(ToQt(name_));
     printer_.setFullPage(true);
     const ReadyForUser ready;
-    QPrintPreviewDialog dialog(&printer_, QApplication::activeWindow());
+    QPrintPreviewDialog dialog(&printer_, WindowInHand());
     dialog.setWindowTitle(ToQt(name_));
     dialog.resize(dialog.screen()->availableSize() * 0.85);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [this](QPrinter* printer) {
@@ -79,7 +79,7 @@ std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& pre
     QPrinter& printer = ThePrinter();
     printer.setCopyCount(preset.Copies);
     printer.setFromTo(preset.FromPage, preset.ToPage);
-    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    QPrintDialog dialog(&printer, WindowInHand());
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     // The dialog may print into a file too.
     const std::string file = printer.outputFileName().toStdString();
@@ -94,7 +94,7 @@ std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& pre
 
 void DesktopHost::PageSetupDialog() {
     const ReadyForUser ready;
-    QPageSetupDialog(&ThePrinter(), QApplication::activeWindow()).exec();
+    QPageSetupDialog(&ThePrinter(), WindowInHand()).exec();
 }
 
 std::unique_ptr<Paper> DesktopHost::OpenPaper(const PrintJob& job) {

@@ -30,7 +30,7 @@ namespace {
 // A question that wants Yes or No has no way round it: Escape and the close box do nothing.
 class Question : public QMessageBox {
 public:
-    explicit Question(bool mustAnswer) : QMessageBox(QApplication::activeWindow()), mustAnswer_(mustAnswer) {
+    explicit Question(bool mustAnswer) : QMessageBox(WindowInHand()), mustAnswer_(mustAnswer) {
         if (mustAnswer_) setWindowFlag(Qt::WindowCloseButtonHint, false);
     }
 
@@ -119,8 +119,8 @@ Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
 std::optional<std::string> DesktopHost::InputBox(const std::string& prompt, const std::string& title) {
     const ReadyForUser ready;
     bool accepted = false;
-    const QString text = QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(prompt),
-                                               QLineEdit::Normal, {}, &accepted);
+    const QString text =
+        QInputDialog::getText(WindowInHand(), ToQt(title), ToQt(prompt), QLineEdit::Normal, {}, &accepted);
     if (!accepted) return std::nullopt;
     return text.toStdString();
 }
@@ -128,7 +128,7 @@ std::optional<std::string> DesktopHost::InputBox(const std::string& prompt, cons
 std::optional<std::string> DesktopHost::FileDialog(const FileQuestion& question) {
     const ReadyForUser ready;
     const QString folder = QString::fromStdU16String(MachinePath(question.Folder).u16string());
-    QWidget* const over = QApplication::activeWindow();
+    QWidget* const over = WindowInHand();
     const QString title = ToQt(question.Title);
     const QString filter = FilterOf(question.Filter);
     const QString name = question.ForSaving ? QFileDialog::getSaveFileName(over, title, folder, filter)
@@ -145,7 +145,7 @@ std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {
     font.setItalic(preset.Italic);
     font.setUnderline(preset.Underline);
     bool accepted = false;
-    font = QFontDialog::getFont(&accepted, font, QApplication::activeWindow());
+    font = QFontDialog::getFont(&accepted, font, WindowInHand());
     if (!accepted) return std::nullopt;
     return FontChoice{font.family().toStdString(), font.pointSizeF(), font.bold(), font.italic(),
                       font.underline()};
@@ -154,7 +154,7 @@ std::optional<FontChoice> DesktopHost::FontDialog(const FontChoice& preset) {
 std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset, const std::string& title) {
     const ReadyForUser ready;
     const QColor colour =
-        QColorDialog::getColor(ToQt(Colour{preset & 0xFFFFFFU}), QApplication::activeWindow(), ToQt(title));
+        QColorDialog::getColor(ToQt(Colour{preset & 0xFFFFFFU}), WindowInHand(), ToQt(title));
     if (!colour.isValid()) return std::nullopt;
     return static_cast<unsigned>(colour.red()) | static_cast<unsigned>(colour.green()) << 8U |
            static_cast<unsigned>(colour.blue()) << 16U;

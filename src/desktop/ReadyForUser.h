@@ -12,6 +12,13 @@ inline void CloseMenus() {
     }
 }
 
+// The window that a dialog belongs to. One that has closed may still count as active, and would take the
+// dialog with it when it goes.
+inline QWidget* WindowInHand() {
+    QWidget* const window = QApplication::activeWindow();
+    return window != nullptr && window->isVisible() ? window : nullptr;
+}
+
 // An open menu would keep the mouse from a box, and a busy pointer would say that nobody waits for the user.
 class ReadyForUser {
 public:

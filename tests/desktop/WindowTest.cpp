@@ -324,6 +324,14 @@ TEST_F(WindowTest, AModalFormComesBackWhereItWas) {
     EXPECT_EQ(places, std::vector<QRect>(3, places.at(0)));
 }
 
+TEST_F(WindowTest, ABoxOutlivesTheWindowThatHasJustClosed) {
+    FormWindow& window = WindowOf(Show("frmPipeSize"));
+    UnloadForm("frmPipeSize");
+    QApplication::setActiveWindow(&window);  // as long as the system has not told otherwise
+    WhenDialogOpens([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    Tell("Text", "Title");
+}
+
 TEST_F(WindowTest, TheEndOfTheProcessEndsAModalForm) {
     WhenDialogOpens([](QWidget&) { EndProcess(); });
     ShowForm("frmPipeSize", Modal::Yes);
