@@ -10,7 +10,7 @@ BuildPackages=(build-essential cmake ninja-build ccache qt6-base-dev libqcustomp
 TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils locales file desktop-file-utils
               appstream python3)
 BenchPackages=(libbenchmark-dev)
-CheckPackages=(clang-format clang-tidy git python3)
+CheckPackages=(clang clang-format clang-tidy libclang-rt-14-dev git python3)
 
 # Where the release build puts its programs.
 ProgramFolder=build/release/bin
