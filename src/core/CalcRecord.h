@@ -14,6 +14,8 @@
 #include <array>
 #include <string>
 
+#include "core/Rows.h"
+
 namespace quillmetra {
 
 constexpr int CaseCount = 3;

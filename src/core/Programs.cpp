@@ -14,16 +14,16 @@ constexpr const char* FluidMethod = "NGPA and various";
 }  // namespace
 
 const std::array<Program, 5> Programs = {{
-    {1, "Line Loss  - Liquid flow", LineLossMethod, words::Liquid, "frmLiqLineLoss", "LiqLoss",
-     words::PipeLiquidLoss, 401},
-    {2, "Line Loss  - Gas Flow", LineLossMethod, words::Gas, "frmGasLineLoss", "GasLoss", words::PipeGasLoss,
-     402},
-    {3, "Water Hammer  - Liquid flow", "Joukowski Formula", words::Liquid, "frmWaterHammer", "WaterHammer",
-     words::PipeWaterHammer, 403},
-    {4, "Liquid properties at pressure and temperature", FluidMethod, words::Liquid, "frmLiqData", "LiqData",
-     "", 404},
-    {5, "Gas properties at pressure and temperature", FluidMethod, words::Gas, "frmGasData", "GasData", "",
-     405},
+    {program::LiquidLine, "Line Loss  - Liquid flow", LineLossMethod, words::Liquid, "frmLiqLineLoss",
+     "LiqLoss", words::PipeLiquidLoss, 401},
+    {program::GasLine, "Line Loss  - Gas Flow", LineLossMethod, words::Gas, "frmGasLineLoss", "GasLoss",
+     words::PipeGasLoss, 402},
+    {program::WaterHammer, "Water Hammer  - Liquid flow", "Joukowski Formula", words::Liquid,
+     "frmWaterHammer", "WaterHammer", words::PipeWaterHammer, 403},
+    {program::LiquidData, "Liquid properties at pressure and temperature", FluidMethod, words::Liquid,
+     "frmLiqData", "LiqData", "", 404},
+    {program::GasData, "Gas properties at pressure and temperature", FluidMethod, words::Gas, "frmGasData",
+     "GasData", "", 405},
 }};
 
 const Program* FindProgram(int number) {

@@ -5,6 +5,15 @@
 
 namespace quillmetra {
 
+// What CurrentProgram holds; 0 before a choice.
+namespace program {
+inline constexpr int LiquidLine = 1;
+inline constexpr int GasLine = 2;
+inline constexpr int WaterHammer = 3;
+inline constexpr int LiquidData = 4;
+inline constexpr int GasData = 5;
+}  // namespace program
+
 struct Program {
     int Number;
     const char* Title;   // the default ProgramTitle

@@ -20,8 +20,9 @@ std::size_t At(int index) { return static_cast<std::size_t>(index); }
 // --- Rows that go by factors alone -----------------------------------------------------------------------
 
 constexpr unsigned ProgramBit(int program) { return 1U << static_cast<unsigned>(program); }
-constexpr unsigned LiquidLine = ProgramBit(1), GasLine = ProgramBit(2), Hammer = ProgramBit(3);
-constexpr unsigned LiquidData = ProgramBit(4), GasData = ProgramBit(5);
+constexpr unsigned LiquidLine = ProgramBit(program::LiquidLine), GasLine = ProgramBit(program::GasLine);
+constexpr unsigned Hammer = ProgramBit(program::WaterHammer);
+constexpr unsigned LiquidData = ProgramBit(program::LiquidData), GasData = ProgramBit(program::GasData);
 constexpr unsigned Lines = LiquidLine | GasLine | Hammer;
 constexpr unsigned Every = Lines | LiquidData | GasData;
 
@@ -34,16 +35,16 @@ struct InputRow {
     Mode Needs = Mode::Any;  // gravities have no unit
 };
 
-// Of each case, in order. Row 6 of the liquid data program, and its row 5, have the unit of its density.
+// Of each case, in order. Both gravities of the liquid data program have the unit of its density.
 constexpr InputRow CommonInputs[] = {
-    {3, 3, Every},
-    {4, 4, Lines},
-    {11, 11, GasLine | LiquidData | GasData},
-    {6, 6, LiquidLine, Mode::Density},
-    {5, 9, LiquidData, Mode::Density},
-    {6, 9, LiquidData, Mode::Density},
-    {8, 8, LiquidLine | LiquidData | GasData},
-    {9, 9, GasLine | LiquidData | GasData},
+    {input::Pressure, unit::Pressure, Every},
+    {input::EquipLoss, unit::PressureDrop, Lines},
+    {input::CritPressure, unit::CritPressure, GasLine | LiquidData | GasData},
+    {input::FlowGravity, unit::LiquidDensity, LiquidLine, Mode::Density},
+    {input::StandardGravity, unit::Density, LiquidData, Mode::Density},
+    {input::FlowGravity, unit::Density, LiquidData, Mode::Density},
+    {input::VaporPressure, unit::VaporPressure, LiquidLine | LiquidData | GasData},
+    {input::Density, unit::Density, GasLine | LiquidData | GasData},
 };
 
 bool Applies(const InputRow& row) {
@@ -57,10 +58,17 @@ struct ElementRow {
 };
 
 // Results of each case, beside the loss per 100 of length.
-constexpr ElementRow CommonResults[] = {{1, 3}, {2, 20}, {3, 20}};
-// Elements 4 and 5 of PipeData are flags.
-constexpr ElementRow PipeElements[] = {{1, 25}, {3, 25}, {2, 18}};
-constexpr ElementRow HammerElements[] = {{13, 20}, {14, 3}, {15, 0}, {17, 3}, {18, 0}};
+constexpr ElementRow CommonResults[] = {{result::FinalPressure, unit::Pressure},
+                                        {result::Velocity, unit::Velocity},
+                                        {result::SonicVelocity, unit::Velocity}};
+constexpr ElementRow PipeElements[] = {{pipe::Length, unit::Length},
+                                       {pipe::StartElevation, unit::Length},
+                                       {pipe::InsideDiameter, unit::PipeSize}};
+constexpr ElementRow HammerElements[] = {{wave::Velocity, unit::Velocity},
+                                         {wave::Pressure, unit::Pressure},
+                                         {wave::Force, unit::Force},
+                                         {wave::SelectedPressure, unit::Pressure},
+                                         {wave::SelectedForce, unit::Force}};
 
 void Rescale(double& value, int unitRow) { value = Rescaled(value, unitRow); }
 
@@ -71,7 +79,8 @@ void RescaleElements(Values& values, std::span<const ElementRow> rows) {
 
 // The length stands below the line: its factors are inverted.
 double RescaledLoss(double value) {
-    return Rescaled(value * Calc.UnitFactor[25] / Calc.UnitFactorPrevious[25], 4);
+    return Rescaled(value * Calc.UnitFactor[unit::Length] / Calc.UnitFactorPrevious[unit::Length],
+                    unit::PressureDrop);
 }
 
 // --- Steps of a program ----------------------------------------------------------------------------------
@@ -97,32 +106,34 @@ void ConvertViscosity(int caseIndex) {
 }
 
 constexpr CaseStep GasLineSteps[] = {
-    {0, When::Positive, ConvertLineFlowGas},
-    {2, When::NotZero, ConvertTemperature},
-    {12, When::NotZero, ConvertCritTemperature},
-    {7, When::Positive, ConvertViscosity<ConvertViscosityGas>},
+    {input::GasFlow, When::Positive, ConvertLineFlowGas},
+    {input::Temperature, When::NotZero, ConvertTemperature},
+    {input::CritTemperature, When::NotZero, ConvertCritTemperature},
+    {input::Viscosity, When::Positive, ConvertViscosity<ConvertViscosityGas>},
 };
 
 constexpr CaseStep LiquidLineSteps[] = {
-    {1, When::Positive, ConvertLineFlowLiquid},
-    {2, When::NotZero, ConvertTemperature},
-    {7, When::Positive, ConvertViscosity<ConvertViscosityLiquid>},
+    {input::LiquidFlow, When::Positive, ConvertLineFlowLiquid},
+    {input::Temperature, When::NotZero, ConvertTemperature},
+    {input::Viscosity, When::Positive, ConvertViscosity<ConvertViscosityLiquid>},
 };
 
 constexpr CaseStep LiquidDataSteps[] = {
-    {2, When::NotZero, ConvertTemperature},
-    {12, When::NotZero, ConvertCritTemperature},
-    {4, When::NotZero, ConvertBoilingPoint},
-    {1, When::NotZero, ConvertFlashPoint},
-    {7, When::Positive, ConvertViscosity<ConvertViscosityLiquid>},
-    {27, When::NotZero, RescaleInput<27, 27>},
+    {input::Temperature, When::NotZero, ConvertTemperature},
+    {input::CritTemperature, When::NotZero, ConvertCritTemperature},
+    {input::BoilingPoint, When::NotZero, ConvertBoilingPoint},
+    {input::FlashPoint, When::NotZero, ConvertFlashPoint},
+    {input::Viscosity, When::Positive, ConvertViscosity<ConvertViscosityLiquid>},
+    {input::Modulus, When::NotZero, RescaleInput<input::Modulus, unit::Modulus>},
 };
 
-// Both latent heats go by the unit of row 16.
 constexpr CaseStep GasDataSteps[] = {
-    {2, When::NotZero, ConvertTemperature},      {4, When::NotZero, ConvertBoilingPoint},
-    {12, When::NotZero, ConvertCritTemperature}, {7, When::Positive, ConvertViscosity<ConvertViscosityGas>},
-    {16, When::NotZero, RescaleInput<16, 16>},   {13, When::NotZero, RescaleInput<13, 16>},
+    {input::Temperature, When::NotZero, ConvertTemperature},
+    {input::BoilingPoint, When::NotZero, ConvertBoilingPoint},
+    {input::CritTemperature, When::NotZero, ConvertCritTemperature},
+    {input::Viscosity, When::Positive, ConvertViscosity<ConvertViscosityGas>},
+    {input::BoilingLatentHeat, When::NotZero, RescaleInput<input::BoilingLatentHeat, unit::LatentHeat>},
+    {input::LatentHeat, When::NotZero, RescaleInput<input::LatentHeat, unit::LatentHeat>},
 };
 
 // The water hammer does not ask for a gravity: without one a flow that changes its basis stays as it is.
@@ -133,20 +144,25 @@ void ConvertHammerFlow(int caseIndex) {
 
 // It has one case; some rows use a second or third column for another quantity.
 constexpr CaseStep HammerFlowSteps[] = {
-    {1, When::Positive, ConvertHammerFlow},
-    {2, When::NotZero, ConvertTemperature},
+    {input::LiquidFlow, When::Positive, ConvertHammerFlow},
+    {input::Temperature, When::NotZero, ConvertTemperature},
 };
 
 struct InputCell {
     int Row, Column, UnitRow;
 };
-constexpr InputCell HammerInputs[] = {{3, 0, 3},   {3, 1, 3},   {27, 0, 27}, {27, 1, 27},
-                                      {25, 0, 25}, {18, 0, 18}, {18, 2, 18}};
+constexpr InputCell HammerInputs[] = {{input::Pressure, column::Operating, unit::Pressure},
+                                      {input::Pressure, column::Allowable, unit::Pressure},
+                                      {input::Modulus, column::OfLiquid, unit::Modulus},
+                                      {input::Modulus, column::OfPipe, unit::Modulus},
+                                      {input::LineLength, 0, unit::Length},
+                                      {input::PipeSize, column::InsideDiameter, unit::PipeSize},
+                                      {input::PipeSize, column::Wall, unit::PipeSize}};
 
 void ConvertCase(std::span<const CaseStep> steps, int caseIndex, ZeroTemperature zero) {
     for (const CaseStep& step : steps) {
         const double value = Calc.CaseInput[At(step.Row)][At(caseIndex)];
-        const bool typedZero = step.Row == 2 && zero == ZeroTemperature::IsConverted;
+        const bool typedZero = step.Row == input::Temperature && zero == ZeroTemperature::IsConverted;
         if (step.Condition == When::Positive ? value > 0 : value != 0 || typedZero) step.Convert(caseIndex);
     }
 }
@@ -199,8 +215,8 @@ void ConvertCommonRows() {
         Calc.CaseResult[0][i] = RescaledLoss(Calc.CaseResult[0][i]);
         for (const ElementRow& row : CommonResults) Rescale(Calc.CaseResult[At(row.Element)][i], row.UnitRow);
     }
-    Rescale(Calc.CaseResult[5][0], 25);
-    Rescale(Calc.CaseInput[25][0], 25);
+    Rescale(Calc.CaseResult[result::EquivLength][0], unit::Length);
+    Rescale(Calc.CaseInput[input::EndElevation][0], unit::Length);
     RescaleElements(Calc.PipeData, PipeElements);
 }
 
@@ -223,7 +239,8 @@ void ConvertLiquidLineData(ZeroTemperature zero) {
 
 void ConvertWaterHammerData(ZeroTemperature zero) {
     const Conversion conversion;
-    if (Calc.LiquidDensityMode == words::Density) Rescale(Calc.CaseInput[6][0], 6);
+    if (Calc.LiquidDensityMode == words::Density)
+        Rescale(Calc.CaseInput[input::FlowGravity][0], unit::LiquidDensity);
     Calc.FlowingSG = GravityOfFirstCase();
     ConvertCase(HammerFlowSteps, 0, zero);
     for (const InputCell& cell : HammerInputs) {

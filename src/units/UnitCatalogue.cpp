@@ -11,7 +11,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t PressureRow = 3;
 constexpr std::size_t PressureList = 5;
 
 struct DefaultUnit {
@@ -142,34 +141,48 @@ constexpr UnitRow::Choice None{};
 // The mass and volume columns differ for the two flows alone. The protected counts of rows 26 and 27 are not
 // the lengths of their lists, and "kpa" of row 27 is spelled so.
 const std::array<UnitRow, UnitRowCount> UnitRows = {{
-    {0, "gas flow", "&Gas flow", {0, 6}, {2, 4}, "", "", 1},
-    {1, "liquid flow", "&Liquid flow", {0, 6}, {1, 7}, "", "", 1},
-    {2, "temperature", "&Temperature", {4, 4}, {4, 4}, "degF", "degC", 1},
-    {3, "operating pressure", "Gauge &pressure", {5, 9}, {5, 9}, "psig", "kPag", 0.14504},
-    {4, "pressure drop", "Pr&essure drop", {6, 9}, {6, 9}, "psi", "kPa", 0.14504},
-    {5, "liquid time base", "Liquid time &base", {3, 4}, {3, 4}, "", "", 1},
-    {6, "liquid density", "Den&sity", None, None, "lb/ft3", "kg/m3", 0.062428},
-    {7, "viscosity", "Li&quid viscosity", {7, 5}, {7, 5}, "cp", "Pa.s", 1000},
-    {8, "vapor pressure", "", None, None, "psia", "kPaa", 0.14504},
-    {9, "density", "Den&sity", {9, 4}, {9, 4}, "lb/ft3", "kg/m3", 0.062428},
+    {unit::GasFlow, "gas flow", "&Gas flow", {0, 6}, {2, 4}, "", "", 1},
+    {unit::LiquidFlow, "liquid flow", "&Liquid flow", {0, 6}, {1, 7}, "", "", 1},
+    {unit::Temperature, "temperature", "&Temperature", {4, 4}, {4, 4}, "degF", "degC", 1},
+    {unit::Pressure, "operating pressure", "Gauge &pressure", {5, 9}, {5, 9}, "psig", "kPag", 0.14504},
+    {unit::PressureDrop, "pressure drop", "Pr&essure drop", {6, 9}, {6, 9}, "psi", "kPa", 0.14504},
+    {unit::LiquidTimeBase, "liquid time base", "Liquid time &base", {3, 4}, {3, 4}, "", "", 1},
+    {unit::LiquidDensity, "liquid density", "Den&sity", None, None, "lb/ft3", "kg/m3", 0.062428},
+    {unit::Viscosity, "viscosity", "Li&quid viscosity", {7, 5}, {7, 5}, "cp", "Pa.s", 1000},
+    {unit::VaporPressure, "vapor pressure", "", None, None, "psia", "kPaa", 0.14504},
+    {unit::Density, "density", "Den&sity", {9, 4}, {9, 4}, "lb/ft3", "kg/m3", 0.062428},
     {10, "", "", None, None, "", "", 1},
-    {11, "critical pressure", "Gas cr&it pressure", {10, 8}, {10, 8}, "psia", "kPaa", 0.14504},
-    {12, "critical temperature", "Gas c&ritical temp", {11, 4}, {11, 4}, "degR", "degK", 1},
-    {13, "gas viscosity", "Gas vi&scosity", {7, 5}, {7, 5}, "cp", "Pa.s", 1000},
+    {unit::CritPressure,
+     "critical pressure",
+     "Gas cr&it pressure",
+     {10, 8},
+     {10, 8},
+     "psia",
+     "kPaa",
+     0.14504},
+    {unit::CritTemperature,
+     "critical temperature",
+     "Gas c&ritical temp",
+     {11, 4},
+     {11, 4},
+     "degR",
+     "degK",
+     1},
+    {unit::GasViscosity, "gas viscosity", "Gas vi&scosity", {7, 5}, {7, 5}, "cp", "Pa.s", 1000},
     {14, "", "", None, None, "", "", 1},
     {15, "", "", None, None, "", "", 1},
-    {16, "latent heat", "", None, None, "btu/lb", "kJ/kg", 0.42992},
+    {unit::LatentHeat, "latent heat", "", None, None, "btu/lb", "kJ/kg", 0.42992},
     {17, "", "", None, None, "", "", 0.04},
-    {18, "exact pipe size", "E&xact pipe size", {14, 5}, {14, 5}, "in", "mm", 0.03937},
-    {19, "gas time base", "Gas time b&ase", {3, 4}, {3, 4}, "", "", 1},
-    {20, "velocity", "Velocit&y", {15, 2}, {15, 2}, "ft/s", "m/s", 3.281},
-    {21, "standard temperature", "", None, None, "degF", "degC", 1},
-    {22, "standard pressure", "", None, None, "psia", "kPaa", 0.14504},
-    {23, "barometric pressure", "", None, None, "psia", "kPaa", 0.14504},
-    {24, "second gauge pressure", "", None, None, "psig", "kPag", 0.14504},
-    {25, "length and height", "Length &/ height", {16, 2}, {16, 2}, "ft", "m", 3.281},
-    {26, "absolute pressure", "", {17, 8}, {17, 8}, "psia", "kPaa", 0.14504},
-    {27, "modulus", "&Modulus", {18, 2}, {18, 2}, "psi", "kpa", 0.14504},
+    {unit::PipeSize, "exact pipe size", "E&xact pipe size", {14, 5}, {14, 5}, "in", "mm", 0.03937},
+    {unit::GasTimeBase, "gas time base", "Gas time b&ase", {3, 4}, {3, 4}, "", "", 1},
+    {unit::Velocity, "velocity", "Velocit&y", {15, 2}, {15, 2}, "ft/s", "m/s", 3.281},
+    {unit::StdTemperature, "standard temperature", "", None, None, "degF", "degC", 1},
+    {unit::StdPressure, "standard pressure", "", None, None, "psia", "kPaa", 0.14504},
+    {unit::Barometer, "barometric pressure", "", None, None, "psia", "kPaa", 0.14504},
+    {unit::SecondGauge, "second gauge pressure", "", None, None, "psig", "kPag", 0.14504},
+    {unit::Length, "length and height", "Length &/ height", {16, 2}, {16, 2}, "ft", "m", 3.281},
+    {unit::AbsolutePressure, "absolute pressure", "", {17, 8}, {17, 8}, "psia", "kPaa", 0.14504},
+    {unit::Modulus, "modulus", "&Modulus", {18, 2}, {18, 2}, "psi", "kpa", 0.14504},
 }};
 
 void LoadDefaultUnits() {
@@ -192,8 +205,7 @@ void ApplyPressureSuffix() {
 }
 
 std::string UnitRowCaption(int row) {
-    if (row == static_cast<int>(PressureRow) && Calc.PressureMode == words::Absolute)
-        return "Absolute pressure";
+    if (row == unit::Pressure && Calc.PressureMode == words::Absolute) return "Absolute pressure";
     return UnitRows.at(static_cast<std::size_t>(row)).Caption;
 }
 
@@ -204,7 +216,7 @@ void ResetUnits(bool english) {
         Calc.UnitName[row] = english ? UnitRows[row].EnglishName : UnitRows[row].SIName;
         Calc.UnitFactor[row] = english ? 1 : UnitRows[row].SIFactor;
     }
-    Calc.UnitName[PressureRow].back() = *PressureEnding();
+    Calc.UnitName[unit::Pressure].back() = *PressureEnding();
 }
 
 }  // namespace
