@@ -41,36 +41,36 @@ inline constexpr int ListedWall = 33;
 inline constexpr int Count = 28;  // rows that are a unit of the calculation
 }  // namespace unit
 
-// Rows of CaseInput.                            programs  unit row
+// Rows of CaseInput: programs, unit row.
 namespace input {
-inline constexpr int GasFlow = 0;          // G         GasFlow
-inline constexpr int LiquidWeight = 0;     // l         none: molecular weight
-inline constexpr int CompressFactor = 0;   // g         none
-inline constexpr int LiquidFlow = 1;       // L H       LiquidFlow
-inline constexpr int FlashPoint = 1;       // l         Temperature
-inline constexpr int Temperature = 2;      // all       Temperature
-inline constexpr int Pressure = 3;         // all       Pressure; H: of the line and allowable, by column
-inline constexpr int EquipLoss = 4;        // L G       PressureDrop
-inline constexpr int BoilingPoint = 4;     // l g       Temperature
-inline constexpr int MolecularWeight = 5;  // G g       none
-inline constexpr int StandardGravity = 5;  // l         none, or Density in density mode
-inline constexpr int FlowGravity = 6;      // L H l     none, or LiquidDensity (l: Density) in density mode
-inline constexpr int Viscosity = 7;        // L G l g   Viscosity
-inline constexpr int VaporPressure = 8;    // L G l g   VaporPressure
-inline constexpr int Density = 9;          // L G l g   Density
+inline constexpr int GasFlow = 0;              // G         GasFlow
+inline constexpr int LiquidWeight = 0;         // l         none: molecular weight
+inline constexpr int CompressFactor = 0;       // g         none
+inline constexpr int LiquidFlow = 1;           // L H       LiquidFlow
+inline constexpr int FlashPoint = 1;           // l         Temperature
+inline constexpr int Temperature = 2;          // all       Temperature
+inline constexpr int Pressure = 3;             // all       Pressure; H by column
+inline constexpr int EquipLoss = 4;            // L G       PressureDrop
+inline constexpr int BoilingPoint = 4;         // l g       Temperature
+inline constexpr int MolecularWeight = 5;      // G g       none
+inline constexpr int StandardGravity = 5;      // l         none; a density Density
+inline constexpr int FlowGravity = 6;          // L H l     none; a density LiquidDensity, l Density
+inline constexpr int Viscosity = 7;            // L G l g   Viscosity
+inline constexpr int VaporPressure = 8;        // L G l g   VaporPressure
+inline constexpr int Density = 9;              // L G l g   Density
 inline constexpr int RatioSpecificHeats = 10;  // G g       none
 inline constexpr int SelectedTime = 10;        // H         s, always
 inline constexpr int CritPressure = 11;        // G l g     CritPressure
 inline constexpr int CritTemperature = 12;     // L G l g   CritTemperature
 inline constexpr int LatentHeat = 13;          // g         LatentHeat; at the flow temperature
-inline constexpr int BoilingLatentHeat = 16;   // g         LatentHeat; at the normal boiling point
-inline constexpr int PipeSize = 18;            // H         PipeSize; inside diameter and wall, by column
+inline constexpr int BoilingLatentHeat = 16;   // g         LatentHeat; at the boiling point
+inline constexpr int PipeSize = 18;            // H         PipeSize, by column
 inline constexpr int StdTemperature = 21;      // all       StdTemperature, case 0 alone
 inline constexpr int StdPressure = 22;         // all       StdPressure, case 0 alone
 inline constexpr int Barometer = 23;           // all       Barometer, case 0 alone
 inline constexpr int EndElevation = 25;        // L G       Length, case 0 alone
 inline constexpr int LineLength = 25;          // H         Length
-inline constexpr int Modulus = 27;             // H l       Modulus; H: of liquid and of pipe, by column
+inline constexpr int Modulus = 27;             // H l       Modulus; H by column
 inline constexpr int Count = 28;               // rows in use; the record has room for more
 }  // namespace input
 
@@ -81,7 +81,7 @@ inline constexpr int InsideDiameter = 0, Wall = 2;  // of input::PipeSize
 inline constexpr int OfLiquid = 0, OfPipe = 1;      // of input::Modulus
 }  // namespace column
 
-// Rows of CaseResult.                           programs  unit row
+// Rows of CaseResult: programs, unit row.
 namespace result {
 inline constexpr int LossPer100 = 0;      // L G       PressureDrop per 100 of Length
 inline constexpr int FinalPressure = 1;   // L G       Pressure; at the end that was not given
@@ -92,7 +92,7 @@ inline constexpr int EquivLength = 5;     // L G       Length, case 0 alone: of 
 inline constexpr int Count = 6;           // the record has one more, always 0
 }  // namespace result
 
-// Elements of PipeData, of L and G.             unit row
+// Elements of PipeData, of L and G: unit row.
 namespace pipe {
 inline constexpr int Length = 1;              // Length
 inline constexpr int InsideDiameter = 2;      // PipeSize
@@ -112,7 +112,7 @@ inline constexpr int ThruTees = 6;
 inline constexpr int BranchTees = 7;
 }  // namespace fitting
 
-// Elements of HammerResult.                     unit row
+// Elements of HammerResult: unit row.
 namespace wave {
 inline constexpr int CriticalTime = 12;      // s
 inline constexpr int Velocity = 13;          // Velocity
