@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "platform/Forms.h"
@@ -51,7 +52,8 @@ void ResetForNew() {
     Calc.StdTemperature = old.StdTemperature;
     Calc.StdPressure = old.StdPressure;
     Calc.BaroPressure = old.BaroPressure;
-    for (const std::size_t row : {21U, 22U, 23U}) Calc.CaseInput[row][0] = old.CaseInput[row][0];
+    for (const int row : {input::StdTemperature, input::StdPressure, input::Barometer})
+        Calc.CaseInput[row][0] = old.CaseInput[row][0];
 }
 
 bool ResultsStand(int caseIndex) {
@@ -67,7 +69,7 @@ bool LineResultStands() {
 }
 
 double StandingResult(int row, int caseIndex) {
-    const bool stands = row == 5 ? LineResultStands() : ResultsStand(caseIndex);
+    const bool stands = row == result::EquivLength ? LineResultStands() : ResultsStand(caseIndex);
     return stands ? Calc.CaseResult[static_cast<std::size_t>(row)][static_cast<std::size_t>(caseIndex)] : 0;
 }
 
@@ -76,7 +78,8 @@ double StandingHammerResult(int row) {
 }
 
 double StandingInput(int row, int caseIndex) {
-    const bool isTyped = Calc.CurrentProgram < 4 || row == 2 || row == 3 || (row >= 21 && row <= 23);
+    const bool isTyped = !program::IsFluidData(Calc.CurrentProgram) || row == input::Temperature ||
+                         row == input::Pressure || (row >= input::StdTemperature && row <= input::Barometer);
     if (!isTyped && !ResultsStand(caseIndex)) return 0;
     return Calc.CaseInput[static_cast<std::size_t>(row)][static_cast<std::size_t>(caseIndex)];
 }

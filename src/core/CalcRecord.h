@@ -25,6 +25,9 @@ constexpr int CaseCount = 3;
 template <typename T, int Size>
 using Row = std::array<T, static_cast<std::size_t>(Size)>;
 
+// The place of an element whose number is an int, as rows, cases and programs have it.
+constexpr std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
 // Rows of three cases, addressed row first, then case.
 template <int Rows>
 using CaseTable = Row<Row<double, CaseCount>, Rows>;
@@ -39,8 +42,8 @@ using UnitFactors = Row<double, 36>;     // rows 0 to 27; 31 to 33 belong to the
 
 struct CalcRecord {
     // --- Display layer, in the units shown ------------------------------------------------------------
-    CaseInputs CaseInput{};    // row by quantity (see InputRow), column by case
-    CaseResults CaseResult{};  // row by result (see ResultRow), column by case
+    CaseInputs CaseInput{};    // row by quantity (input), column by case
+    CaseResults CaseResult{};  // row by result (result), column by case
     PipeValues PipeData{};     // length, diameter, start elevation; flags 2 ticked, 1 not
     FittingCounts FittingCount{};
     HammerResults HammerResult{};

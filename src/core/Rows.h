@@ -123,9 +123,13 @@ inline constexpr int SelectedPressure = 17;  // Pressure; at the selected closin
 inline constexpr int SelectedForce = 18;     // Force, as above
 }  // namespace wave
 
-// Elements of HeadingText and of the headings of Suite.
+// Elements of HeadingText and of the headings of Suite: the lines of the headings' file.
 namespace heading {
-inline constexpr int Company = 1;  // the first of the printed headings; see reports/ReportPage.h
+inline constexpr int PrintDate = 1;
+inline constexpr int Title = 2;
+inline constexpr int Subtitle = 3;
+inline constexpr int ProjectName = 4;
+inline constexpr int ProjectNumber = 5;
 inline constexpr int Manufacturer = 6;
 inline constexpr int Model = 7;
 inline constexpr int Note1 = 8;  // notes 1 and 2 are the two comments of the form

@@ -42,7 +42,7 @@ void UseDefaultColours() {
 
 void ReadColours() {
     try {
-        ReadColourFile(Suite.DefaultPaths[4] + "\\TRColr.txt");
+        ReadColourFile(Suite.DefaultPaths[path::DataFiles] + "\\TRColr.txt");
     } catch (const RuntimeError&) {
         UseDefaultColours();
     }
@@ -115,11 +115,11 @@ void StartUp(const std::string& programFolder) {
 
 void Boot(const std::string& programFolder) {
     UseDefaultColours();
-    Suite.DefaultPaths[5] = programFolder;
+    Suite.DefaultPaths[path::Program] = programFolder;
     Suite.HelpFile = programFolder + "\\VOTR.HLP";
     if (!ReadDefaultPaths()) {
         for (std::size_t i = 1; i <= 4; ++i) Suite.DefaultPaths[i] = programFolder + "\\TRData";
-        Suite.ChosenDataPath = Suite.DefaultPaths[1];
+        Suite.ChosenDataPath = Suite.DefaultPaths[path::Database];
     }
     ReadColours();
     ShowForm("frmTRProg");
@@ -127,7 +127,7 @@ void Boot(const std::string& programFolder) {
 
 bool ReadDefaultPaths(std::size_t count) {
     try {
-        ItemReader file(Suite.DefaultPaths[5] + "\\TRDrv.txt");
+        ItemReader file(Suite.DefaultPaths[path::Program] + "\\TRDrv.txt");
         Row<std::string, 6> paths = Suite.DefaultPaths;
         for (std::size_t i = 1; i <= count; ++i) paths[i] = file.NextText();
         Suite.DefaultPaths = paths;
@@ -139,7 +139,7 @@ bool ReadDefaultPaths(std::size_t count) {
 }
 
 void SaveDefaultPaths() {
-    TextWriter file(Suite.DefaultPaths[5] + "\\TRDRV.txt");
+    TextWriter file(Suite.DefaultPaths[path::Program] + "\\TRDRV.txt");
     for (std::size_t i = 1; i <= 4; ++i) {
         const std::string& path = i == 1 ? Suite.ChosenDataPath : Suite.DefaultPaths[i];
         if (path.find_first_of("\"\r\n\x1A") != std::string::npos || !IsIn1252(path))
@@ -157,7 +157,7 @@ void ReadColourFile(const std::string& name) {
 }
 
 void SaveColours() {
-    TextWriter file(Suite.DefaultPaths[4] + "\\TRcolr.txt");
+    TextWriter file(Suite.DefaultPaths[path::DataFiles] + "\\TRcolr.txt");
     for (std::size_t slot = 1; slot <= 12; ++slot) {
         file.Line(TrimmedStr(static_cast<std::int32_t>(Suite.Colours[slot])));
     }
@@ -165,7 +165,7 @@ void SaveColours() {
 }
 
 namespace {
-std::string HeadingsFile() { return Suite.DefaultPaths[3] + "\\TRHDG.txt"; }
+std::string HeadingsFile() { return Suite.DefaultPaths[path::Headings] + "\\TRHDG.txt"; }
 }  // namespace
 
 std::size_t ReadHeadingLines(std::span<std::string> lines) {
@@ -197,7 +197,7 @@ std::optional<Row<double, 4>> StandardItems() {
     Row<double, 4> items{};
     bool opened = false;
     try {
-        ItemReader file(Suite.DefaultPaths[2] + "\\TRSTP.TXT");
+        ItemReader file(Suite.DefaultPaths[path::UserUnits] + "\\TRSTP.TXT");
         opened = true;
         for (std::size_t i = 1; i <= 3; ++i) items[i] = file.NextNumber();
     } catch (const RuntimeError&) {
@@ -243,7 +243,7 @@ void RestoreStandardConditions(double usualPressure) {
 void SaveStandardConditions() {
     Calc.MessageTitle = "User units file";
     try {
-        TextWriter file(Suite.DefaultPaths[4] + "\\TRSTP.TXT");
+        TextWriter file(Suite.DefaultPaths[path::DataFiles] + "\\TRSTP.TXT");
         file.Number(Calc.StdPressure);
         file.Number(Calc.StdTemperature);
         file.Number(Calc.BaroPressure);

@@ -14,9 +14,10 @@ namespace quillmetra {
 bool GoOnInOtherPhase(const char* phase, const char* title) {
     const double pressure =
         Calc.PressureMode == words::Gauge ? Calc.VaporPressure - Calc.BaroPressure : Calc.VaporPressure;
-    const std::string shown = TrimmedStr(RoundedFour(pressure / Calc.UnitFactor[3]));
+    const std::string shown = TrimmedStr(RoundedFour(pressure / Calc.UnitFactor[unit::Pressure]));
     if (AskYesNo("At the pressure and temperature entered\n The Vapor Pressure is " + shown + " " +
-                     Calc.UnitName[3] + "\nThis indicates that the fluid is a " + phase + "!\nContinue ?",
+                     Calc.UnitName[unit::Pressure] + "\nThis indicates that the fluid is a " + phase +
+                     "!\nContinue ?",
                  title)) {
         return true;
     }

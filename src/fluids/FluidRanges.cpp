@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/GasCorrelations.h"
 #include "fluids/LiquidCorrelations.h"
@@ -16,9 +17,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double OrganicClass = 1, WaterClass = 3;
-constexpr int WaterHammer = 3, LiquidData = 4, GasData = 5;  // programs
-
 double Temperature(const CalcRecord& record) { return record.FlowTemperature; }
 double Pressure(const CalcRecord& record) { return record.FlowPressure; }
 double ReducedTemperature(const CalcRecord& record) {
@@ -29,18 +27,18 @@ double ReducedPressure(const CalcRecord& record) { return record.FlowPressure / 
 bool IsSteam(const CalcRecord& record) { return !record.SteamKind.empty(); }
 bool IsPure(const CalcRecord& record) { return !IsSteam(record) && record.MixtureFlag != words::Yes; }
 bool IsLiquid(const CalcRecord& record) { return record.FluidType == words::Liquid; }
-bool IsOfClass(const CalcRecord& record, double number) { return Val(record.FluidClass) == number; }
+bool IsOfClass(const CalcRecord& record, int number) { return Val(record.FluidClass) == number; }
 bool IsPureWater(const CalcRecord& record) {
-    return IsLiquid(record) && IsPure(record) && IsOfClass(record, WaterClass);
+    return IsLiquid(record) && IsPure(record) && IsOfClass(record, fluidclass::Water);
 }
 bool IsLiquidButWater(const CalcRecord& record) {
-    return IsLiquid(record) && !(IsPure(record) && IsOfClass(record, WaterClass));
+    return IsLiquid(record) && !(IsPure(record) && IsOfClass(record, fluidclass::Water));
 }
 bool IsPureGas(const CalcRecord& record) { return !IsLiquid(record) && IsPure(record); }
 bool IsSuperheated(const CalcRecord& record) { return record.SteamKind == words::Superheated; }
 
 bool IsLiquidMixture(const CalcRecord& record) {
-    return IsLiquid(record) && record.MixtureFlag == words::Yes && !IsOfClass(record, WaterClass);
+    return IsLiquid(record) && record.MixtureFlag == words::Yes && !IsOfClass(record, fluidclass::Water);
 }
 double MixtureVaporPressure60(const CalcRecord& record) {
     if (!MixtureHasOffset(record)) return 0;
@@ -74,7 +72,7 @@ constexpr CorrelationRange Ranges[] = {
      [](const CalcRecord& record) { return std::max(record.ViscosityTemp1, record.ViscosityTemp2) + 20; },
      BoundUnit::Temperature, "viscosity is extrapolated from its two points",
      [](const CalcRecord& record) {
-         return IsLiquidButWater(record) && IsPure(record) && record.CurrentProgram != WaterHammer;
+         return IsLiquidButWater(record) && IsPure(record) && record.CurrentProgram != program::WaterHammer;
      }},
     // The correction for pressure begins at the vapor pressure at 60 degF when it is above the barometer.
     {"Vapor pressure at 60 degF", MixtureVaporPressure60, NoBound,
@@ -84,12 +82,14 @@ constexpr CorrelationRange Ranges[] = {
     {"Flash point", [](const CalcRecord& record) { return record.FlashPoint; }, 0, NoBound,
      BoundUnit::Temperature, "it is not shown",
      [](const CalcRecord& record) {
-         return IsLiquid(record) && IsPure(record) && record.CurrentProgram == LiquidData;
+         return IsLiquid(record) && IsPure(record) && record.CurrentProgram == program::LiquidData;
      }},
     // Customary limit of this form of Kouzel's equation.
     {"Pressure", Pressure, NoBound, 10000, BoundUnit::Pressure,
      "the correction of viscosity for pressure is extrapolated",
-     [](const CalcRecord& record) { return IsLiquidButWater(record) && IsOfClass(record, OrganicClass); }},
+     [](const CalcRecord& record) {
+         return IsLiquidButWater(record) && IsOfClass(record, fluidclass::Organic);
+     }},
     // The last band of specific volumes, up to the critical point, is up to 15 % off.
     {"Temperature", Temperature, 32, 637, BoundUnit::Temperature,
      "the gravity and viscosity of water are far off", IsPureWater},
@@ -98,13 +98,15 @@ constexpr CorrelationRange Ranges[] = {
      "the gravity of water is not corrected for pressure, which is 1 % and more", IsPureWater},
     // The table's modulus is that at 68 degF; organic liquids lose some 0.4 % for each degF.
     {"Temperature", Temperature, 32, 150, BoundUnit::Temperature, "the bulk modulus is that at 68 degF",
-     [](const CalcRecord& record) { return IsLiquid(record) && record.CurrentProgram == WaterHammer; }},
+     [](const CalcRecord& record) {
+         return IsLiquid(record) && record.CurrentProgram == program::WaterHammer;
+     }},
 
     // --- Gases
     // The factor jumps to more than twice the viscosity where the true rise may be a tenth of that.
     {"Reduced pressure", ReducedPressure, NoBound, 0.9, BoundUnit::None,
      "the viscosity of a dense gas is an estimate",
-     [](const CalcRecord& record) { return IsPureGas(record) && IsOfClass(record, OrganicClass); }},
+     [](const CalcRecord& record) { return IsPureGas(record) && IsOfClass(record, fluidclass::Organic); }},
     // Two points at 60 degF and 300 to 500 degF; a power law and a straight line stay good a little outside.
     {"Temperature", Temperature, 0, 600, BoundUnit::Temperature,
      "viscosity and specific heat are extrapolated", IsPureGas},
@@ -115,7 +117,7 @@ constexpr CorrelationRange Ranges[] = {
      },
      BoundUnit::Pressure, "so near to the liquid the compressibility factor is rough",
      [](const CalcRecord& record) {
-         return record.CurrentProgram == GasData && !IsLiquid(record) && !IsSteam(record);
+         return record.CurrentProgram == program::GasData && !IsLiquid(record) && !IsSteam(record);
      }},
 
     // --- Steam, see data/SOURCES.md

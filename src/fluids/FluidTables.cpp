@@ -17,7 +17,7 @@ namespace quillmetra {
 namespace {
 
 std::string TablePath(std::string_view fluidType) {
-    return Suite.DefaultPaths[4] + "\\" + std::string(fluidType) + ".txt";
+    return Suite.DefaultPaths[path::DataFiles] + "\\" + std::string(fluidType) + ".txt";
 }
 
 // Column numbers count from 1, as the tables' descriptions do.

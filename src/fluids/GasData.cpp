@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
 #include "fluids/GasCorrelations.h"
@@ -18,7 +19,6 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* Title = "Gas Calculation";
-constexpr int Organic = 1;
 constexpr int GasDataProgram = 5;
 constexpr double DensePressure = 0.9;  // reduced; above it an organic gas is dense
 
@@ -76,7 +76,7 @@ void CalcGasProperties() {
     Calc.ViscosityB = line.Exponent;
     Calc.ViscosityA = line.A;
     Calc.FluidViscosity = GasViscosityAt(line, Calc.FlowTemperature);
-    if (Val(Calc.FluidClass) == Organic && Calc.ReducedPressure > DensePressure) {
+    if (Val(Calc.FluidClass) == fluidclass::Organic && Calc.ReducedPressure > DensePressure) {
         Calc.CompressFactor = DenseGasFactor(Calc.ReducedBoilingTemperature, Calc.ReducedPressure);
         Calc.FluidViscosity *= Calc.CompressFactor;
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
 #include "fluids/LiquidCorrelations.h"
@@ -19,12 +20,11 @@ constexpr double Base = 60;         // degF, of the gravities
 constexpr double BaseRankine = 519.67;
 
 constexpr const char* Title = "Liquid Calculation";
-constexpr int Organic = 1;
-constexpr int Water = 3;
 
 int FluidClassNumber() {
     const double number = Val(Calc.FluidClass);
-    return number == Organic ? Organic : number == Water ? Water : 0;
+    return number == fluidclass::Organic || number == fluidclass::Water ? static_cast<int>(number)
+                                                                        : fluidclass::Inorganic;
 }
 
 bool IsMixture() { return Calc.FluidOk != words::FluidPicked; }
@@ -41,12 +41,12 @@ bool ResultsMakeSense() {
 }
 
 void CalcGravityAndViscosity() {
-    if (FluidClassNumber() == Water) {
+    if (FluidClassNumber() == fluidclass::Water) {
         CalcWaterProperties();
         return;
     }
     CalcLiquidSG();
-    if (FluidClassNumber() != Organic) return;
+    if (FluidClassNumber() != fluidclass::Organic) return;
     if (Calc.FlowingSG < 1) CalcLightLiquidCompressibility();
     if (Calc.FluidViscosity > 1.2) {
         Calc.FluidViscosity *= PressureViscosityFactor(Calc.FluidViscosity, Calc.FlowPressure);
@@ -56,7 +56,7 @@ void CalcGravityAndViscosity() {
 // How far the vapor pressure at 60 degF lies above the barometer, psi. The water hammer program does without
 // for a mixture, and does not put the vapor pressure at flow back, since it does not show it.
 double PressureOffset() {
-    const bool waterHammer = Calc.CurrentProgram == 3;
+    const bool waterHammer = Calc.CurrentProgram == program::WaterHammer;
     if (IsMixture() && !MixtureHasOffset(Calc)) return 0;
     const double flowTemperature = Calc.FlowTemperature;
     const double vaporPressure = Calc.VaporPressure;
@@ -133,7 +133,7 @@ bool ProcessLiquidData() {
     if (!(Calc.FlowingSG > 0)) return TellNotCalculated();  // nor may a correction below 0 turn it round
     const double offset = PressureOffset();
     Calc.PressureCorrection = 1 + (Calc.LiquidCompressibility * (Calc.FlowPressure - offset)) / 1000;
-    if (FluidClassNumber() != Water) {
+    if (FluidClassNumber() != fluidclass::Water) {
         Calc.FlowingSG = Calc.FlowingSG * Calc.PressureCorrection / Calc.CompressibilityAt60;
         if (Calc.MixtureFlag == words::Yes) {
             Calc.SGAtStandard = BaseGravityOf(Calc.CritCompressFactor, Calc.CritTemperature,

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
 #include "fluids/FluidTables.h"
@@ -20,11 +21,8 @@ namespace quillmetra {
 namespace {
 
 constexpr int LastPlace = MostComponents - 1;
-constexpr int Water = 3;
 
 using Components = std::span<const double>;
-
-std::size_t At(int place) { return static_cast<std::size_t>(place); }
 
 // A mixture that was calculated passes with any remainder, but not without any component.
 bool PercentagesAddUp(Icon sign) {
@@ -56,7 +54,7 @@ struct KeptComponents {
 // Parses the components one after the other; each is then in the record when `add` gets its fraction.
 template <typename Parse, typename Add>
 void ForEachComponent(Parse parse, Add add) {
-    const bool keepsAll = Calc.CurrentProgram == 3;
+    const bool keepsAll = Calc.CurrentProgram == program::WaterHammer;
     Kept.Clear();
     const int count = ComponentCount();
     for (int place = 0; place < count; ++place) {
@@ -102,7 +100,7 @@ struct LiquidSums {
         } else {
             BulkIsKnown = 0;
         }
-        if (Val(liquid.FluidClass) != Water) Class = liquid.FluidClass;
+        if (Val(liquid.FluidClass) != fluidclass::Water) Class = liquid.FluidClass;
     }
 };
 
@@ -245,10 +243,10 @@ bool CalcGasMixtureForData() {
 void CalcMixtureLatentHeat() {
     const double heat = MixtureLatentHeatOf(Calc.NormalBoilingPoint, Calc.LatentHeatBP, Calc.CritTemperature,
                                             Calc.CritPressure, Calc.EnteredPressure);
-    const double shown = Int(heat / Calc.UnitFactor[16] + 0.5);
+    const double shown = Int(heat / Calc.UnitFactor[unit::LatentHeat] + 0.5);
     const bool finite = std::isfinite(heat) && std::isfinite(shown);
     Calc.LatentHeatAtPressure = finite ? Int(heat + 0.5) : 0;
-    Calc.CaseInput[13][At(Calc.CaseIndex)] = finite ? shown : 0;
+    Calc.CaseInput[input::LatentHeat][At(Calc.CaseIndex)] = finite ? shown : 0;
 }
 
 }  // namespace quillmetra

@@ -85,7 +85,7 @@ public:
     // Reads the file when it is another one or has changed; else nothing is asked but its stamp. That is
     // taken first: a change meanwhile is found at the next look-up.
     const Contents& Now() {
-        const std::string& folder = Suite.DefaultPaths[5];
+        const std::string& folder = Suite.DefaultPaths[path::Program];
         if (folder == folder_ && stamp_ != FileStamp{} && StampOf(path_) == stamp_) return held_;
         const std::string file = folder + name_;
         folder_ = folder;
@@ -223,9 +223,9 @@ double CritTemperatureShown() {
     constexpr std::array<Shown, 4> shown = {
         {{"degR", SteamCritTemperature}, {"degK", 647}, {"degF", 705.5}, {"degC", 374}}};
     for (const Shown& each : shown) {
-        if (each.Unit == Calc.UnitName[12]) return each.Value;
+        if (each.Unit == Calc.UnitName[unit::CritTemperature]) return each.Value;
     }
-    return 1165 * Calc.UnitFactor[12];
+    return 1165 * Calc.UnitFactor[unit::CritTemperature];
 }
 
 void Store(const Steam& steam) {
@@ -234,9 +234,9 @@ void Store(const Steam& steam) {
     const std::array<double, SteamRows.size()> shown = {
         SteamMolecularWeight,
         CheckFinite(RoundedFour(GasViscosityShown(steam.Viscosity, SteamMolecularWeight))),
-        CheckFinite(RoundedFour(1 / steam.SpecificVolume / factor[9])),
+        CheckFinite(RoundedFour(1 / steam.SpecificVolume / factor[unit::Density])),
         CheckFinite(RoundedFour(steam.RatioOfHeats)),
-        CheckFinite(RoundedSix(SteamCritPressure / factor[11])),
+        CheckFinite(RoundedSix(SteamCritPressure / factor[unit::CritPressure])),
         CheckFinite(CritTemperatureShown())};
     for (std::size_t i = 0; i < SteamRows.size(); ++i) CaseRow(SteamRows[i]) = shown[i];
     Calc.Density = 1 / steam.SpecificVolume;
@@ -248,7 +248,8 @@ void Store(const Steam& steam) {
 }
 
 double SaturationShown(const Steam& steam) {
-    return CheckFinite(FromDegF(Calc.UnitName[2], steam.SaturationTemperature, Calc.UnitFactor[2]));
+    return CheckFinite(FromDegF(Calc.UnitName[unit::Temperature], steam.SaturationTemperature,
+                                Calc.UnitFactor[unit::Temperature]));
 }
 
 bool Fail(const char* title, const std::string& text) {
@@ -292,14 +293,16 @@ SteamOutcome TellLookupFailure() {
 SteamOutcome TellAboveCritical() {
     const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
     Tell("Flow pressure " + Entered(3) + " cannot exceed\n Critical pressure " +
-             Shown((SteamCritPressure - gauge) / Calc.UnitFactor[3], Calc.UnitName[3]),
+             Shown((SteamCritPressure - gauge) / Calc.UnitFactor[unit::Pressure],
+                   Calc.UnitName[unit::Pressure]),
          "Saturated Steam", Icon::Stop);
     return SteamOutcome::Refused;
 }
 
 // The limit is told as it stands, absolute, also in a gauge unit.
 SteamOutcome TellAboveTable() {
-    Tell("Maximum pressure on file is " + Shown(SteamHighestPressure / Calc.UnitFactor[3], Calc.UnitName[3]),
+    Tell("Maximum pressure on file is " +
+             Shown(SteamHighestPressure / Calc.UnitFactor[unit::Pressure], Calc.UnitName[unit::Pressure]),
          "Superheated Steam", Icon::Stop);
     return SteamOutcome::Refused;
 }
@@ -314,8 +317,9 @@ SteamOutcome TellTemperatureRange() {
                                               {"degC", "93.34 degC", "816 degC"},
                                               {"degR", "661 degR", "1960 degR"},
                                               {"degK", "368 degK", "1089 degK"}}};
-    const auto* range = std::find_if(ranges.begin(), ranges.end(),
-                                     [](const Range& each) { return each.Unit == Calc.UnitName[2]; });
+    const auto* range = std::find_if(ranges.begin(), ranges.end(), [](const Range& each) {
+        return each.Unit == Calc.UnitName[unit::Temperature];
+    });
     if (range == ranges.end()) range = ranges.begin();
     Tell(std::string("Table is limited to a range of ") + range->Low + " to " + range->High,
          "Superheat Temperature", Icon::Stop);
@@ -325,7 +329,7 @@ SteamOutcome TellTemperatureRange() {
 // The title names row 10, which is the ratio of specific heats; it stands so.
 SteamOutcome TellBelowSaturation() {
     Tell("Superheat temp " + Entered(2) + " must be greater than the Saturated temp. " +
-             Shown(Calc.SaturationTemperature, Calc.UnitName[2]),
+             Shown(Calc.SaturationTemperature, Calc.UnitName[unit::Temperature]),
          "Minimum Temperature below " + Entered(10) + " is the Saturated Temperature");
     return ClearSteam();
 }

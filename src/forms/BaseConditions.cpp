@@ -116,14 +116,15 @@ void BaseConditions::Close() {
 }
 
 void BaseConditions::Show() {
-    shown_ = {TrimmedStr(Calc.CaseInput[22][0]), TrimmedStr(Calc.CaseInput[21][0]),
-              TrimmedStr(Calc.CaseInput[23][0])};
+    shown_ = {TrimmedStr(Calc.CaseInput[input::StdPressure][0]),
+              TrimmedStr(Calc.CaseInput[input::StdTemperature][0]),
+              TrimmedStr(Calc.CaseInput[input::Barometer][0])};
     txtSTPPressure.SetText(shown_[0]);
     txtSTPTemp.SetText(shown_[1]);
     txtSTPBaro.SetText(shown_[2]);
-    unSTPPressure.SetCaption(Calc.UnitName[22]);
-    unSTPTemp.SetCaption(Calc.UnitName[21]);
-    unSTPBaro.SetCaption(Calc.UnitName[23]);
+    unSTPPressure.SetCaption(Calc.UnitName[unit::StdPressure]);
+    unSTPTemp.SetCaption(Calc.UnitName[unit::StdTemperature]);
+    unSTPBaro.SetCaption(Calc.UnitName[unit::Barometer]);
     cmdSTPEnglish.SetEnabled(IsSI());
     cmdSTPSI.SetEnabled(!IsSI());
 }

@@ -102,7 +102,8 @@ CalculationForm::CalculationForm(const Names& names)
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
         if (key.Name != "Escape") return;
-        cmdDate.SetCaption(Calc.CaseText[10].empty() ? DatePrompt : Calc.CaseText[10]);
+        cmdDate.SetCaption(Calc.CaseText[text::CalcDate].empty() ? DatePrompt
+                                                                 : Calc.CaseText[text::CalcDate]);
         key.Handled = true;
     };
     // A prompt gives way to the name that is typed over it.
@@ -117,7 +118,7 @@ CalculationForm::CalculationForm(const Names& names)
         if (Calc.FormLoading == words::Yes) return;
         // A name typed by hand is no longer the table's fluid: neither its row nor its vapour pressure hold.
         Calc.FluidDataSource.clear();
-        Calc.CaseInput[8].fill(0);
+        Calc.CaseInput[input::VaporPressure].fill(0);
         FluidTyped();
         ClearAllCases();
     };
@@ -198,12 +199,13 @@ void CalculationForm::StoreForm() {
         }
     }
     StoreOwn();
-    Calc.CaseText[8] = WithoutPrompt(txtBy.Text(), words::ByPrompt);
-    Calc.CaseText[9] = WithoutPrompt(txtApprov.Text(), words::ApprovedPrompt);
-    Calc.CaseText[10] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
-    Calc.ChosenUnitRowNames = {"", Calc.UnitName[2], Calc.UnitName[12], Calc.UnitName[7]};
-    Calc.HeadingText[8] = txtComments(0).Text();
-    Calc.HeadingText[9] = txtComments(1).Text();
+    Calc.CaseText[text::CalcBy] = WithoutPrompt(txtBy.Text(), words::ByPrompt);
+    Calc.CaseText[text::ApprovedBy] = WithoutPrompt(txtApprov.Text(), words::ApprovedPrompt);
+    Calc.CaseText[text::CalcDate] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
+    Calc.ChosenUnitRowNames = {"", Calc.UnitName[unit::Temperature], Calc.UnitName[unit::CritTemperature],
+                               Calc.UnitName[unit::Viscosity]};
+    Calc.HeadingText[heading::Note1] = txtComments(0).Text();
+    Calc.HeadingText[heading::Note2] = txtComments(1).Text();
 }
 
 void CalculationForm::BlankResults(int caseIndex) {
@@ -302,10 +304,10 @@ void CalculationForm::mnuPrint_Click() {
         Tell("Please round before printing", "Print Calculation", Icon::Stop);
         return;
     }
-    Calc.CaseUnitsText[1] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
-    Calc.CaseUnitsText[2] = txtBy.Text();
-    Calc.CaseUnitsText[3] = txtFluid.Text();
-    Calc.CaseUnitsText[4] = txtApprov.Text();
+    Calc.CaseUnitsText[printed::Date] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
+    Calc.CaseUnitsText[printed::By] = txtBy.Text();
+    Calc.CaseUnitsText[printed::Fluid] = txtFluid.Text();
+    Calc.CaseUnitsText[printed::ApprovedBy] = txtApprov.Text();
     auto& printout = static_cast<frmObxPrintCalc&>(LoadForm("frmObxPrintCalc"));
     printout.FillFromRecord();
     printout.cmdOK.SetFocus();
@@ -316,7 +318,7 @@ void CalculationForm::ShowPrintedTexts() {
     const Filling filling;
     txtComments.Each(
         [](TextBox& box, int i) { box.SetText(Calc.HeadingText[static_cast<std::size_t>(i) + 8]); });
-    if (!Calc.CaseText[10].empty()) cmdDate.SetCaption(Calc.CaseText[10]);
+    if (!Calc.CaseText[text::CalcDate].empty()) cmdDate.SetCaption(Calc.CaseText[text::CalcDate]);
 }
 
 void CalculationForm::mnuNew_Click() {
@@ -337,7 +339,7 @@ void CalculationForm::mnuNew_Click() {
 }
 
 void CalculationForm::BeginNew() {
-    Calc.PipeData[4] = Calc.PipeData[5] = 1;
+    Calc.PipeData[pipe::Entrance] = Calc.PipeData[pipe::Exit] = 1;
     Calc.PressureDirection = 1;
     BeginRecord();
 }
@@ -374,8 +376,8 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
 }
 
 bool CalculationForm::Save() {
-    if (!MustHaveDataPath(Suite.DefaultPaths[1])) return false;
-    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[1]));
+    if (!MustHaveDataPath(Suite.DefaultPaths[path::Database])) return false;
+    return SaveTo(DatabaseFileOf(Suite.DefaultPaths[path::Database]));
 }
 
 void CalculationForm::mnuSave_Click() {

@@ -42,7 +42,7 @@ bool PickColour(Form& form, int slot, int group, const std::string& title) {
 }
 
 void ListBackgrounds(Form& form, const std::string& title) {
-    TextWriter file(Suite.DefaultPaths[4] + "\\Background.TXT");
+    TextWriter file(Suite.DefaultPaths[path::DataFiles] + "\\Background.TXT");
     int counter = 1;
     while (!ProcessHasEnded()) {
         if (PickColour(form, slot::Form, FormGroup, title)) {
@@ -58,7 +58,7 @@ void ListBackgrounds(Form& form, const std::string& title) {
 void LoadColourScheme(Form& form) {
     constexpr const char* title = "Colour scheme";
     const std::optional<std::string> file =
-        AskFile(title, "Colour schemes(*.txt)|*.txt", Suite.DefaultPaths[4]);
+        AskFile(title, "Colour schemes(*.txt)|*.txt", Suite.DefaultPaths[path::DataFiles]);
     if (!file) return;
     try {
         ReadColourFile(*file);

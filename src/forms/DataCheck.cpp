@@ -29,7 +29,7 @@ bool TellNoResult(const RuntimeError& error) {
 bool CheckPressure(TextBox& box, const TempPressureRules& rules) {
     RestoreStandardConditions();
     const auto i = static_cast<std::size_t>(Calc.CaseIndex);
-    Calc.EnteredPressure = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
+    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
     Calc.FlowPressure = Calc.EnteredPressure;
     if (Calc.PressureMode == words::Absolute) {
         return Calc.FlowPressure > 0 || RefuseData(rules.AbsoluteText, box);
@@ -37,7 +37,8 @@ bool CheckPressure(TextBox& box, const TempPressureRules& rules) {
     Calc.FlowPressure += Calc.BaroPressure;
     const double lowest = rules.GaugeAboveZero ? Calc.BaroPressure : 0;
     return Calc.FlowPressure >= lowest ||
-           RefuseData("Pressure must be greater than minus" + Str(Calc.BaroPressure / Calc.UnitFactor[23]),
+           RefuseData("Pressure must be greater than minus" +
+                          Str(Calc.BaroPressure / Calc.UnitFactor[unit::Barometer]),
                       box);
 }
 
@@ -49,8 +50,9 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
 
     const auto i = static_cast<std::size_t>(Calc.CaseIndex);
     if (Calc.TemperatureBlank[i] == 1 && Suite.BatchPrinting == words::Yes) return false;
-    const std::string& unit = Calc.UnitName[2];
-    Calc.FlowTemperature = ToDegF(unit, Calc.CaseInput[2][i], Calc.UnitFactor[2]);
+    const std::string& unit = Calc.UnitName[unit::Temperature];
+    Calc.FlowTemperature =
+        ToDegF(unit, Calc.CaseInput[input::Temperature][i], Calc.UnitFactor[unit::Temperature]);
     if (!IsAboveAbsoluteZero(Calc.FlowTemperature) || Calc.TemperatureBlank[i] == 1) {
         return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(unit)),
                           boxes.Temperature);
@@ -58,7 +60,7 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
     if (!CheckPressure(boxes.Pressure, rules)) return false;
 
     if (rules.HasVaporPressure) {
-        Calc.VaporPressure = Calc.CaseInput[8][i] * Calc.UnitFactor[8];
+        Calc.VaporPressure = Calc.CaseInput[input::VaporPressure][i] * Calc.UnitFactor[unit::VaporPressure];
         if (Calc.VaporPressure >= Calc.FlowPressure) {
             return RefuseData("Inlet pressure must be greater than Vapor pressure", boxes.Pressure);
         }

@@ -38,9 +38,9 @@ void DataForm::Assemble() {
             TabOrder.push_back(control);
         }
     }
-    for (Control* control :
-         std::initializer_list<Control*>{&txtBy, &txtApprov, &cmdDate, &txtComments(0), &txtComments(1),
-                                         &cmdFormLayout, &cmdUnits(2), &cmdUnits(3)}) {
+    for (Control* control : std::initializer_list<Control*>{
+             &txtBy, &txtApprov, &cmdDate, &txtComments(0), &txtComments(1), &cmdFormLayout,
+             &cmdUnits(unit::Temperature), &cmdUnits(unit::Pressure)}) {
         TabOrder.push_back(control);
     }
     AppendFluidTabs();
@@ -65,15 +65,17 @@ bool DataForm::CheckState() {
     Calc.TempPressureOk = words::No;
     RestoreStandardConditions();
     const std::size_t i = ThisCase();
-    Calc.FlowTemperature = ToDegF(Calc.UnitName[2], Calc.CaseInput[2][i], Calc.UnitFactor[2]);
-    Calc.EnteredPressure = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
+    Calc.FlowTemperature = ToDegF(Calc.UnitName[unit::Temperature], Calc.CaseInput[input::Temperature][i],
+                                  Calc.UnitFactor[unit::Temperature]);
+    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
     Calc.FlowPressure = Calc.EnteredPressure;
     if (Calc.PressureMode != words::Absolute) Calc.FlowPressure += Calc.BaroPressure;
     NoteEntered(Calc.CaseIndex);
     if (!HasState(Calc.CaseIndex)) return false;
     if (!IsAboveAbsoluteZero(Calc.FlowTemperature)) {
-        return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[2])),
-                          txtTemp(Calc.CaseIndex));
+        return RefuseData(
+            "Flow Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[unit::Temperature])),
+            txtTemp(Calc.CaseIndex));
     }
     Calc.TempPressureOk = words::Yes;
     return true;
@@ -90,11 +92,11 @@ void DataForm::cmdOK_Click(int index) {
 }
 
 double DataForm::TemperatureShown(double degF) {
-    return FromDegF(Calc.UnitName[2], degF, Calc.UnitFactor[2]);
+    return FromDegF(Calc.UnitName[unit::Temperature], degF, Calc.UnitFactor[unit::Temperature]);
 }
 
 double DataForm::CritTemperatureShown(double degR) {
-    return FromDegR(Calc.UnitName[12], degR, Calc.UnitFactor[12]);
+    return FromDegR(Calc.UnitName[unit::CritTemperature], degR, Calc.UnitFactor[unit::CritTemperature]);
 }
 
 void DataForm::Store(std::initializer_list<Property> properties) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Filling.h"
+#include "core/Programs.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -24,12 +25,9 @@ namespace {
 
 // The line-loss programs say what has changed; the others do so for a saved record alone.
 const char* StateTitle(const char* change) {
-    constexpr int lastLineLoss = 2;
-    const bool isNew = Calc.CurrentProgram > lastLineLoss && Calc.BrowserOpen != words::Yes;
+    const bool isNew = !program::IsLine(Calc.CurrentProgram) && Calc.BrowserOpen != words::Yes;
     return isNew ? "New Calculation" : change;
 }
-constexpr std::size_t TemperatureRow = 2;
-constexpr std::size_t PressureRow = 3;
 }  // namespace
 
 void FluidForm::HookFluid() {
@@ -61,11 +59,11 @@ void FluidForm::HookState() {
             box->GotFocus = [this, box] { EnterState(*box); };
         }
         temperature.LostFocus = [this, caseIndex, i, &temperature] {
-            LeaveState(caseIndex, TemperatureRow, temperature, Calc.PressureEntered[i] == words::Entered,
+            LeaveState(caseIndex, input::Temperature, temperature, Calc.PressureEntered[i] == words::Entered,
                        "Temperature Has Changed");
         };
         pressure.LostFocus = [this, caseIndex, i, &pressure] {
-            LeaveState(caseIndex, PressureRow, pressure, Calc.TemperatureEntered[i] == words::Entered,
+            LeaveState(caseIndex, input::Pressure, pressure, Calc.TemperatureEntered[i] == words::Entered,
                        "Pressure Has Changed");
         };
     }
@@ -102,7 +100,8 @@ void FluidForm::NoteEntered(int caseIndex) {
                              : Calc.BaroPressure > 0              ? Calc.BaroPressure
                                                                   : 14.7;
     const std::string& typed = PressureBox(caseIndex).Text();
-    const bool pressure = !Trim(typed).empty() && Val(typed) * Calc.UnitFactor[3] + barometer > 0;
+    const bool pressure =
+        !Trim(typed).empty() && Val(typed) * Calc.UnitFactor[unit::Pressure] + barometer > 0;
     Calc.PressureEntered[i] = pressure ? words::Entered : "";
 
     const FluidEntries& entries = Entries[i];
@@ -118,8 +117,8 @@ bool FluidForm::CanPick(int caseIndex) const {
            (Entries[i].Saturated != nullptr && Calc.PressureEntered[i] == words::Entered);
 }
 
-// A mixture that is being put together counts as picked, as a pure fluid does whose list is open. A name typed by
-// hand has no entry.
+// A mixture that is being put together counts as picked, as a pure fluid does whose list is open. A name
+// typed by hand has no entry.
 void FluidForm::TickEntries() {
     const bool building = Mixture.fraComponent.Visible();
     const bool mixture = building || Calc.MixtureFlag == words::Yes;
@@ -188,8 +187,8 @@ void FluidForm::ReopenRecord() {
     for (std::size_t i = 0; i < Entries.size(); ++i) {
         if (Calc.TemperatureBlank[i] != 0) continue;
         const int caseIndex = static_cast<int>(i);
-        if (Calc.CaseInput[TemperatureRow][i] == 0) TemperatureBox(caseIndex).SetText("0");
-        if (Calc.CaseInput[PressureRow][i] == 0) PressureBox(caseIndex).SetText("0");
+        if (Calc.CaseInput[input::Temperature][i] == 0) TemperatureBox(caseIndex).SetText("0");
+        if (Calc.CaseInput[input::Pressure][i] == 0) PressureBox(caseIndex).SetText("0");
     }
 }
 
@@ -198,13 +197,13 @@ void FluidForm::ReopenRecord() {
 void FluidForm::FindSteamKind() {
     constexpr std::size_t normal = 1;
     constexpr double seaLevel = 14.7;
-    const double pressure = Calc.CaseInput[PressureRow][normal];
+    const double pressure = Calc.CaseInput[input::Pressure][normal];
     if (!Calc.SteamKind.empty() || pressure <= 0) return;
     if (LowerCase(Calc.FluidName).find("steam") == std::string::npos) return;
     Calc.SteamFindMode = words::FindSaturation;
-    Calc.FlowPressure = pressure * Calc.UnitFactor[PressureRow] + seaLevel;
+    Calc.FlowPressure = pressure * Calc.UnitFactor[unit::Pressure] + seaLevel;
     if (LookupSaturatedSteam()) {
-        const bool same = Int(Calc.SaturationTemperature) == Int(Calc.CaseInput[TemperatureRow][normal]);
+        const bool same = Int(Calc.SaturationTemperature) == Int(Calc.CaseInput[input::Temperature][normal]);
         Calc.SteamKind = same ? words::Saturated : words::Superheated;
     }
     Calc.SteamFindMode.clear();
@@ -242,7 +241,7 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
         fluidHints_.fill("");
         // Nor does the former fluid's vapour pressure hold for the other cases.
         for (std::size_t i = 0; i < CaseCount; ++i) {
-            if (i != ThisCase()) Calc.CaseInput[8][i] = 0;
+            if (i != ThisCase()) Calc.CaseInput[input::VaporPressure][i] = 0;
         }
         ClearAllCases();
     } else {
@@ -279,7 +278,7 @@ void FluidForm::LeaveState(int caseIndex, std::size_t row, TextBox& box, bool ot
     Calc.CaseIndex = caseIndex;
     if (Calc.FluidDataSource == words::Loaded) {
         if (!AskYesNo("Update Fluid Properties?", StateTitle(title))) return;
-        if (UpdateFluidProperties() && Calc.SteamKind == words::Saturated && row == TemperatureRow) {
+        if (UpdateFluidProperties() && Calc.SteamKind == words::Saturated && row == input::Temperature) {
             Tell("Saturated temperature is a function of saturated pressure", "Saturated Steam", Icon::Stop);
         }
     } else if (Suite.HideFluidReminder.empty()) {

@@ -41,9 +41,9 @@ void FluidForm::Restore(const FluidChoice& choice) {
 // Before a fluid is picked or renewed the vapour pressure of the old one does not count.
 bool FluidForm::CheckForNewFluid() {
     StoreForm();
-    const double oldVaporPressure = std::exchange(Calc.CaseInput[8][ThisCase()], 0);
+    const double oldVaporPressure = std::exchange(Calc.CaseInput[input::VaporPressure][ThisCase()], 0);
     const bool ok = CheckState();
-    Calc.CaseInput[8][ThisCase()] = oldVaporPressure;
+    Calc.CaseInput[input::VaporPressure][ThisCase()] = oldVaporPressure;
     return ok;
 }
 

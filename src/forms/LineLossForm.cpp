@@ -93,9 +93,9 @@ void LineLossForm::ShowChoices() {
 }
 
 void LineLossForm::StoreOwn() {
-    Calc.PipeData[4] = chkEntrance.Checked() ? 2 : 1;
+    Calc.PipeData[pipe::Entrance] = chkEntrance.Checked() ? 2 : 1;
     Calc.EntranceK = chkEntrance.Checked() ? 1.5 : 0;
-    Calc.PipeData[5] = chkExit.Checked() ? 2 : 1;
+    Calc.PipeData[pipe::Exit] = chkExit.Checked() ? 2 : 1;
     Calc.ExitK = chkExit.Checked() ? 2.7 : 0;
     for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
     cmdUnits.Each([](const CommandButton& button, int row) {
@@ -103,9 +103,9 @@ void LineLossForm::StoreOwn() {
         if (row != 6 && !button.Caption().empty())
             Calc.UnitName[static_cast<std::size_t>(row)] = button.Caption();
     });
-    if (!unVelocity.Caption().empty()) Calc.UnitName[20] = unVelocity.Caption();
+    if (!unVelocity.Caption().empty()) Calc.UnitName[unit::Velocity] = unVelocity.Caption();
     Calc.PipeMaterial = cmdMatl.Caption();
-    Calc.CaseText[5] = Calc.CaseUnitsText[5] = Calc.PipeMaterial;
+    Calc.CaseText[text::PipeMaterial] = Calc.CaseUnitsText[printed::PipeMaterial] = Calc.PipeMaterial;
 }
 
 // --- Calculation ---------------------------------------------------------------------------------------
@@ -114,21 +114,23 @@ void LineLossForm::StoreOwn() {
 bool LineLossForm::CheckLine() {
     constexpr double longestLine = 10000000;  // ft
     const UnitFactors& factor = Calc.UnitFactor;
-    Calc.PipeLength[1] = Calc.PipeData[1] * factor[25];
-    if (!(Calc.PipeLength[1] > 0)) return RefuseData("Length must be > zero ", txtInletPipeLen);
-    if (Calc.PipeLength[1] >= longestLine) return RefuseData("Length must be < 10000000 ft", txtInletPipeLen);
-    Calc.PipeId[1] = Calc.PipeData[2] * factor[18];
-    if (!(Calc.PipeId[1] > 0)) return RefuseData("Pipe inside diameter must be > zero ", txtInletPipeID);
+    Calc.PipeLength[TheLine] = Calc.PipeData[pipe::Length] * factor[unit::Length];
+    if (!(Calc.PipeLength[TheLine] > 0)) return RefuseData("Length must be > zero ", txtInletPipeLen);
+    if (Calc.PipeLength[TheLine] >= longestLine)
+        return RefuseData("Length must be < 10000000 ft", txtInletPipeLen);
+    Calc.PipeId[TheLine] = Calc.PipeData[pipe::InsideDiameter] * factor[unit::PipeSize];
+    if (!(Calc.PipeId[TheLine] > 0))
+        return RefuseData("Pipe inside diameter must be > zero ", txtInletPipeID);
 
-    Calc.Elevation[1] = Calc.PipeData[3] * factor[25];
-    Calc.Elevation[2] = Calc.CaseInput[25][0] * factor[25];
-    Calc.GateValves = Calc.FittingCount[1];
-    Calc.GlobeValves = Calc.FittingCount[2];
-    Calc.CheckValves = Calc.FittingCount[3];
-    Calc.Ells90 = Calc.FittingCount[4];
-    Calc.Ells45 = Calc.FittingCount[5];
-    Calc.ThruTees = Calc.FittingCount[6];
-    Calc.BranchTees = Calc.FittingCount[7];
+    Calc.Elevation[LineStart] = Calc.PipeData[pipe::StartElevation] * factor[unit::Length];
+    Calc.Elevation[LineEnd] = Calc.CaseInput[input::EndElevation][0] * factor[unit::Length];
+    Calc.GateValves = Calc.FittingCount[fitting::GateValves];
+    Calc.GlobeValves = Calc.FittingCount[fitting::GlobeValves];
+    Calc.CheckValves = Calc.FittingCount[fitting::CheckValves];
+    Calc.Ells90 = Calc.FittingCount[fitting::Ells90];
+    Calc.Ells45 = Calc.FittingCount[fitting::Ells45];
+    Calc.ThruTees = Calc.FittingCount[fitting::ThruTees];
+    Calc.BranchTees = Calc.FittingCount[fitting::BranchTees];
     if (Calc.PipeFouling > 100 || Calc.PipeFouling < 0) {
         return RefuseData("Condition must be between 0 and 100", txtPipeCond);
     }
@@ -140,10 +142,10 @@ bool LineLossForm::CheckData() {
     const std::size_t i = ThisCase();
     Calc.DataOk = words::No;
     if (!CheckState() || !CheckLine()) return false;
-    Calc.SourcePressure[1] = Calc.CaseInput[3][i] * Calc.UnitFactor[3];
-    if (Calc.PressureMode != words::Absolute) Calc.SourcePressure[1] += Calc.BaroPressure;
+    Calc.SourcePressure[TheLine] = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
+    if (Calc.PressureMode != words::Absolute) Calc.SourcePressure[TheLine] += Calc.BaroPressure;
     if (!CheckSourcePressure()) return false;
-    Calc.EquipLoss[1] = Calc.CaseInput[4][i] * Calc.UnitFactor[4];
+    Calc.EquipLoss[TheLine] = Calc.CaseInput[input::EquipLoss][i] * Calc.UnitFactor[unit::PressureDrop];
     if (!CheckFluid()) return false;
     ShowCalculation();
     Calc.DataOk = words::Yes;
@@ -177,7 +179,7 @@ std::string LineLossForm::Hints() const { return Sentences(FluidForm::Hints(), L
 
 // A case that has been calculated has a velocity.
 void LineLossForm::Recalculate() {
-    if (Calc.CalculatedFlag == words::Yes && Calc.CaseResult[2][ThisCase()] > 0) {
+    if (Calc.CalculatedFlag == words::Yes && Calc.CaseResult[result::Velocity][ThisCase()] > 0) {
         cmdCalculate_Click(Calc.CaseIndex);
     }
 }

@@ -124,8 +124,8 @@ void TellReport(const Version5Report& report, const Version5File& records) {
 void frmTRProg::mnuConvertRandom_Click() {
     std::string target = view_ != nullptr ? lblPath(0).Caption() : Suite.DatabaseFile;
     if (target.empty()) {
-        if (!MustHaveDataPath(Suite.DefaultPaths[1])) return;
-        target = DatabaseFileOf(Suite.DefaultPaths[1]);
+        if (!MustHaveDataPath(Suite.DefaultPaths[path::Database])) return;
+        target = DatabaseFileOf(Suite.DefaultPaths[path::Database]);
     }
     // The title tells where the records will go.
     if (!AskYesNo("Before conversion each record must have a unique Tag Number.\n"

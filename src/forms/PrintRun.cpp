@@ -174,7 +174,7 @@ bool frmPrintControl::PrintRecords() {
     ShowHead();
     if (!TakeRecord(view_->Head()) || FillCalculationForm() == nullptr) return false;
     auto& headings = Suite.ReportHeadings;
-    headings[1] = runDate_.empty() ? Calc.CaseText[10] : runDate_;
+    headings[1] = runDate_.empty() ? Calc.CaseText[text::CalcDate] : runDate_;
     std::ranges::copy(runTitles_, headings.begin() + 2);
     std::copy_n(Calc.HeadingText.begin() + 6, 5, headings.begin() + 6);
     return true;

@@ -45,7 +45,7 @@ std::optional<PrintJob> AskPages(const std::string& title) {
 std::optional<PrintJob> AskPdf(const std::string& name) {
     const auto path = AskFile({.Title = PdfTitle,
                                .Filter = "PDF files(*.pdf)|*.pdf",
-                               .Folder = ProposedFile(Suite.DefaultPaths[1], name + ".pdf"),
+                               .Folder = ProposedFile(Suite.DefaultPaths[path::Database], name + ".pdf"),
                                .ForSaving = true});
     if (!path || path->empty() || !MayWrite(*path, "a printout", PdfTitle)) return {};
     TakePages(0, 0, 1);

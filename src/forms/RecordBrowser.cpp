@@ -72,23 +72,24 @@ void frmTRProg::HookDatabase() {
 // The finder works on the default path; what it finds is a path to look at, and the default stays unless the
 // user saved it there.
 void frmTRProg::optBrouseDB_Click() {
-    const std::string path = Suite.DefaultPaths[1], chosen = Suite.ChosenDataPath;
+    const std::string path = Suite.DefaultPaths[path::Database], chosen = Suite.ChosenDataPath;
     const PathAnswer answer = FindDefaultPath(1, "Data file ");
-    if (answer != PathAnswer::Cancelled) Suite.BrowsePath = Suite.DefaultPaths[1];
+    if (answer != PathAnswer::Cancelled) Suite.BrowsePath = Suite.DefaultPaths[path::Database];
     if (answer == PathAnswer::Kept) {
-        Suite.DefaultPaths[1] = path;
+        Suite.DefaultPaths[path::Database] = path;
         Suite.ChosenDataPath = chosen;
     }
     if (Suite.BrowsePath.empty()) optDefaultDB.SetChecked(true);
 }
 
 bool frmTRProg::ChooseDatabase() {
-    if (optBrouseDB.Checked() && IsSameFolder(Suite.BrowsePath, Suite.DefaultPaths[1])) {
+    if (optBrouseDB.Checked() && IsSameFolder(Suite.BrowsePath, Suite.DefaultPaths[path::Database])) {
         optDefaultDB.SetChecked(true);
         Suite.BrowsePath.clear();
     }
     if (optDefaultDB.Checked()) ReadDefaultPaths(3);  // without the file those in force stand
-    const std::string& folder = optDefaultDB.Checked() ? Suite.DefaultPaths[1] : Suite.BrowsePath;
+    const std::string& folder =
+        optDefaultDB.Checked() ? Suite.DefaultPaths[path::Database] : Suite.BrowsePath;
     if (!MustHaveDataPath(folder)) return false;
     Suite.DatabasePath = folder;
     Suite.DatabaseFile = DatabaseFileOf(folder);
@@ -111,7 +112,8 @@ bool frmTRProg::OpenView() {
 void frmTRProg::cmdDBOpen_Click() {
     CloseView();
     if (!ChooseDatabase() || !OpenView()) return;
-    Suite.DefaultPaths[1] = Suite.DatabasePath;  // new calculations go to the database on the screen
+    Suite.DefaultPaths[path::Database] =
+        Suite.DatabasePath;  // new calculations go to the database on the screen
     lblPath(0).SetCaption(Suite.DatabaseFile);
     ShowRecord();
     if (view_->HasRecord()) {
@@ -132,7 +134,7 @@ void frmTRProg::cmdDBClose_Click() {
 void frmTRProg::CloseView() {
     ShowTags(false);
     view_.reset();
-    if (!Suite.ChosenDataPath.empty()) Suite.DefaultPaths[1] = Suite.ChosenDataPath;
+    if (!Suite.ChosenDataPath.empty()) Suite.DefaultPaths[path::Database] = Suite.ChosenDataPath;
     lblPath(0).SetCaption("");
     ShowFields(false);
 }
@@ -322,7 +324,7 @@ void frmTRProg::cmdDisplayCalc_Click() {
 void frmTRProg::DisplayRecord() {
     const RecordHead head = view_->Head();
     Suite.DatabaseFile = lblPath(0).Caption();
-    Suite.DatabasePath = Suite.DefaultPaths[1] = FolderOf(Suite.DatabaseFile);
+    Suite.DatabasePath = Suite.DefaultPaths[path::Database] = FolderOf(Suite.DatabaseFile);
     if (!TakeRecord(head)) return ShowRecord();
     ShowLoadedRecord();
 }

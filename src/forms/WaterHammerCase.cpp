@@ -37,12 +37,14 @@ bool frmWaterHammer::CheckTempPressure() {
     Calc.TempPressureOk = words::No;
     RestoreStandardConditions(UsualStdPressure);
 
-    const std::string& unit = Calc.UnitName[2];
-    Calc.FlowTemperature = ToDegF(unit, Calc.CaseInput[2][0], Calc.UnitFactor[2]);
+    const std::string& unit = Calc.UnitName[unit::Temperature];
+    Calc.FlowTemperature =
+        ToDegF(unit, Calc.CaseInput[input::Temperature][0], Calc.UnitFactor[unit::Temperature]);
     if (Calc.FlowTemperature < AbsoluteZeroF) {
         return RefuseData("Flow temperature must be greater than " + Str(AbsoluteZeroIn(unit)), txtFlowTemp);
     }
-    Calc.EnteredPressure = Calc.CaseInput[3][0] * Calc.UnitFactor[3];
+    Calc.EnteredPressure =
+        Calc.CaseInput[input::Pressure][column::Operating] * Calc.UnitFactor[unit::Pressure];
     Calc.FlowPressure = Calc.EnteredPressure;
     if (Calc.PressureMode == words::Absolute) {
         if (!(Calc.FlowPressure > 0)) {
@@ -52,7 +54,7 @@ bool frmWaterHammer::CheckTempPressure() {
         Calc.FlowPressure += Calc.BaroPressure;
         if (Calc.FlowPressure < 0) {
             return RefuseData("Operating pressure must be greater than minus" +
-                                  Str(Calc.BaroPressure / Calc.UnitFactor[23]),
+                                  Str(Calc.BaroPressure / Calc.UnitFactor[unit::Barometer]),
                               txtOperPressure);
         }
     }
@@ -68,7 +70,7 @@ bool frmWaterHammer::CheckFlow() {
                               : "Flowing specific gravity must be greater than zero",
                           txtSGFlow);
     }
-    Calc.LiquidMassFlow = Calc.CaseInput[1][0] * Calc.UnitFactor[1];
+    Calc.LiquidMassFlow = Calc.CaseInput[input::LiquidFlow][0] * Calc.UnitFactor[unit::LiquidFlow];
     if (Calc.LiquidBasis == words::Volume) {
         Calc.LiquidMassFlow = Calc.LiquidMassFlow * Calc.FlowingSG * WaterPoundsPerGallon;
     }
@@ -79,7 +81,8 @@ bool frmWaterHammer::CheckFlow() {
 }
 
 bool frmWaterHammer::CheckLine() {
-    Calc.MaxAllowPressure = Calc.CaseInput[3][1] * Calc.UnitFactor[3];
+    Calc.MaxAllowPressure =
+        Calc.CaseInput[input::Pressure][column::Allowable] * Calc.UnitFactor[unit::Pressure];
     if (Calc.PressureMode != words::Absolute) Calc.MaxAllowPressure += Calc.BaroPressure;
     if (Calc.MaxAllowPressure <= Calc.FlowPressure) {
         return RefuseData("Maximum allowable pressure must be greater than operating pressure",
@@ -105,8 +108,8 @@ bool frmWaterHammer::CheckLine() {
 
 // A time that is asked for and not given still leaves the results that need none.
 bool frmWaterHammer::CheckSelectedTime() {
-    if (!txtSelectedTime.Visible() && !(Calc.CaseInput[10][0] > 0)) return true;
-    Calc.SelectedTime = Calc.CaseInput[10][0];
+    if (!txtSelectedTime.Visible() && !(Calc.CaseInput[input::SelectedTime][0] > 0)) return true;
+    Calc.SelectedTime = Calc.CaseInput[input::SelectedTime][0];
     if (Calc.SelectedTime > 0) return true;
     CalcCriticalClosing();
     ShowResults(false);
@@ -164,16 +167,17 @@ void frmWaterHammer::ShowResults(bool selected) {
 }
 
 void frmWaterHammer::DrawResults() {
-    if (!ResultsStand(0) || !(Calc.HammerResult[12] > 0)) return pltClosing.Clear();
+    if (!ResultsStand(0) || !(Calc.HammerResult[wave::CriticalTime] > 0)) return pltClosing.Clear();
     ClosingCurve curve = ClosingCurveOfRecord();
     PlotDrawing drawing{.Title = {},
                         .Bottom = {"Closing time", unCloseTime.Caption()},
-                        .Left = {"Pressure", Calc.UnitName[3]},
+                        .Left = {"Pressure", Calc.UnitName[unit::Pressure]},
                         .Right = {},
                         .Series = {{"Pressure wave", std::move(curve.Times), std::move(curve.Pressures)}},
-                        .Marks = {{"critical", Calc.HammerResult[12]}, {"minimum", Calc.HammerResult[16]}}};
-    if (HasSelectedClosing()) drawing.Marks.push_back({"selected", Calc.CaseInput[10][0]});
-    drawing.Marks.push_back({"allowable", Calc.CaseInput[3][1], false});
+                        .Marks = {{"critical", Calc.HammerResult[wave::CriticalTime]},
+                                  {"minimum", Calc.HammerResult[wave::MinimumTime]}}};
+    if (HasSelectedClosing()) drawing.Marks.push_back({"selected", Calc.CaseInput[input::SelectedTime][0]});
+    drawing.Marks.push_back({"allowable", Calc.CaseInput[input::Pressure][column::Allowable], false});
     pltClosing.Draw(std::move(drawing));
 }
 

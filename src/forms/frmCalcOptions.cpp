@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/Programs.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -97,7 +98,7 @@ void frmCalcOptions::ShowOptions() {
     sets[set >= 0 && set <= UserUnitSet ? set : 0]->SetChecked(true);
     (Calc.PressureMode == words::Absolute ? optAbsolutePressure : OptGaugePress).SetChecked(true);
     (Calc.LiquidDensityMode == words::Density ? optLiqDensity : optLiqSG).SetChecked(true);
-    fraDensity.SetVisible(Calc.CurrentProgram == 1 || Calc.CurrentProgram == 3);
+    fraDensity.SetVisible(program::TakesDensity(Calc.CurrentProgram));
     optManInput.SetChecked(Calc.DataMode == words::ManualData);
     optFileData.SetChecked(Calc.DataMode == words::FileData);
     optCalcDensity.SetChecked(Calc.DataMode == words::DensityData);
@@ -137,8 +138,10 @@ bool frmCalcOptions::TakeBarometer() {
     const double inKilopascal = barometer / PsiPerKPa;
     if (barometer == Calc.BaroPressure || !std::isfinite(inKilopascal)) return false;
     Calc.BaroPressure = barometer;
-    Calc.CaseInput[23][0] = Calc.UnitName[23] == Kilopascal ? RoundedSix(inKilopascal) : barometer;
-    opened_.CaseInput[23] = Calc.CaseInput[23];  // a new barometer outlasts the panel's Cancel
+    Calc.CaseInput[input::Barometer][0] =
+        Calc.UnitName[unit::Barometer] == Kilopascal ? RoundedSix(inKilopascal) : barometer;
+    opened_.CaseInput[input::Barometer] =
+        Calc.CaseInput[input::Barometer];  // a new barometer outlasts the panel's Cancel
     SaveStandardConditions();
     return true;
 }
@@ -220,7 +223,8 @@ void frmCalcOptions::CloseCalcOpts() {
     ComposeHeading();
     std::string note = BarometerNote(newBarometer);
     if (Calc.PressureMode != PressureChoice()) {
-        note = Calc.UnitName[3] + " is neither gauge nor absolute: the pressures stay as they were";
+        note =
+            Calc.UnitName[unit::Pressure] + " is neither gauge nor absolute: the pressures stay as they were";
     }
     InstallOptions();
     CalculationForm* const form = OpenCalculation();
@@ -239,7 +243,7 @@ void frmCalcOptions::cmdBootUpUnits_Click() {
     CalcRecord before = Calc;
     const bool absolute = PressureChoice() == words::Absolute;
     Calc.PressureMode = PressureChoice();
-    if (!Calc.UnitName[3].empty()) Calc.UnitName[3].back() = absolute ? 'a' : 'g';
+    if (!Calc.UnitName[unit::Pressure].empty()) Calc.UnitName[unit::Pressure].back() = absolute ? 'a' : 'g';
     std::string question = "Use the the current unit display for bootup?\n\n";
     question += absolute ? "It uses absolute pressure instead of gauge pressure"
                          : "It uses gauge pressure instead of absolute pressure";
@@ -259,7 +263,7 @@ void frmCalcOptions::cmdBootUpUnits_Click() {
         before.LiquidUnitSet = Calc.LiquidUnitSet;
         before.GasUnitSet = Calc.GasUnitSet;
         before.BaroPressure = Calc.BaroPressure;
-        before.CaseInput[23] = Calc.CaseInput[23];
+        before.CaseInput[input::Barometer] = Calc.CaseInput[input::Barometer];
     }
     Calc = before;
     if (newBarometer) BlankAllResults();

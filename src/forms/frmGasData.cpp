@@ -51,7 +51,7 @@ void frmGasData::ShowChoices() {
 bool frmGasData::CheckPressureAlone() {
     RestoreStandardConditions();
     const bool absolute = Calc.PressureMode == words::Absolute;
-    Calc.EnteredPressure = Calc.CaseInput[3][ThisCase()] * Calc.UnitFactor[3];
+    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][ThisCase()] * Calc.UnitFactor[unit::Pressure];
     Calc.FlowPressure = Calc.EnteredPressure + (absolute ? 0 : Calc.BaroPressure);
     if (!absolute || Calc.FlowPressure > 0) return true;
     return RefuseData("Flow pressure must be greater than zero", txtPressure(Calc.CaseIndex));
@@ -61,7 +61,7 @@ bool frmGasData::CheckState() {
     const double before = Calc.FlowTemperature;
     StoreForm();
     if (!CheckPressureAlone() || !DataForm::CheckState()) return false;
-    if (Calc.CaseInput[2][ThisCase()] == SkippedTemperature) Calc.FlowTemperature = before;
+    if (Calc.CaseInput[input::Temperature][ThisCase()] == SkippedTemperature) Calc.FlowTemperature = before;
     return true;
 }
 
@@ -78,17 +78,18 @@ bool frmGasData::IsTemperatureEntered(int caseIndex) {
 void frmGasData::FillCase() {
     const bool mixture = Calc.MixtureFlag == words::Yes;
     const UnitFactors& factor = Calc.UnitFactor;
-    Store({{4, TemperatureShown(Calc.NormalBoilingPoint)},
-           {16, Calc.LatentHeatBP / factor[16]},
-           {13, mixture ? Calc.CaseInput[13][ThisCase()] : Calc.LatentHeatAtFlow / factor[16]},
-           {8, Calc.VaporPressure / factor[8]},
-           {10, Calc.RatioSpecificHeats},
-           {5, Calc.MolecularWeight},
-           {7, GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight)},
-           {11, Calc.CritPressure / factor[11]},
-           {12, CritTemperatureShown(Calc.CritTemperature)},
-           {9, Calc.Density / factor[9]},
-           {0, Calc.CompressFactor}});
+    Store({{input::BoilingPoint, TemperatureShown(Calc.NormalBoilingPoint)},
+           {input::BoilingLatentHeat, Calc.LatentHeatBP / factor[unit::LatentHeat]},
+           {13, mixture ? Calc.CaseInput[input::LatentHeat][ThisCase()]
+                        : Calc.LatentHeatAtFlow / factor[unit::LatentHeat]},
+           {input::VaporPressure, Calc.VaporPressure / factor[unit::VaporPressure]},
+           {input::RatioSpecificHeats, Calc.RatioSpecificHeats},
+           {input::MolecularWeight, Calc.MolecularWeight},
+           {input::Viscosity, GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight)},
+           {input::CritPressure, Calc.CritPressure / factor[unit::CritPressure]},
+           {input::CritTemperature, CritTemperatureShown(Calc.CritTemperature)},
+           {input::Density, Calc.Density / factor[unit::Density]},
+           {input::CompressFactor, Calc.CompressFactor}});
 }
 
 // --- Steam -------------------------------------------------------------------------------------------------
@@ -101,15 +102,15 @@ void frmGasData::BeginSteam() {
 // Beside the rows of the look-up: the boiling point and the latent heats. Steam has no compressibility factor
 // here, and its vapor pressure is its own.
 void frmGasData::ShowSteam() {
-    const bool found = Calc.CaseInput[5][ThisCase()] != 0;
-    const double heat = Calc.UnitFactor[16];
-    Store({{0, 0},
-           {4, found ? TemperatureShown(Calc.NormalBoilingPoint) : 0},
-           {8, 0},
-           {13, found ? Calc.LatentHeatAtFlow / heat : 0},
-           {16, found ? Calc.LatentHeatBP / heat : 0}});
+    const bool found = Calc.CaseInput[input::MolecularWeight][ThisCase()] != 0;
+    const double heat = Calc.UnitFactor[unit::LatentHeat];
+    Store({{input::CompressFactor, 0},
+           {input::BoilingPoint, found ? TemperatureShown(Calc.NormalBoilingPoint) : 0},
+           {input::VaporPressure, 0},
+           {input::LatentHeat, found ? Calc.LatentHeatAtFlow / heat : 0},
+           {input::BoilingLatentHeat, found ? Calc.LatentHeatBP / heat : 0}});
     if (Calc.SteamKind == words::Saturated)
-        ShowProperty(txtTemp(Calc.CaseIndex), Calc.CaseInput[2][ThisCase()]);
+        ShowProperty(txtTemp(Calc.CaseIndex), Calc.CaseInput[input::Temperature][ThisCase()]);
 }
 
 std::string frmGasData::TitleTail() const {

@@ -44,7 +44,8 @@ frmGasLineLoss::frmGasLineLoss()
                     .FluidMenu = "mnuFluidProp",
                     .ListFrame = "fraGasData",
                     .ListCaption = "Gases"},
-                   {0, 2, 3, 4, 11, 12, 13, 18, 25}),
+                   {unit::GasFlow, unit::Temperature, unit::Pressure, unit::PressureDrop, unit::CritPressure,
+                    unit::CritTemperature, unit::GasViscosity, unit::PipeSize, unit::Length}),
       GasEntries(mnuCase) {
     Entries = ByCase();
     Base.Changed = [this] { ClearAllCases(); };
@@ -77,7 +78,7 @@ bool frmGasLineLoss::CheckPressureAlone() { return CheckPressure(txtPressure(Cal
 
 // A source pressure of zero passes: the march then tells where it ends.
 bool frmGasLineLoss::CheckSourcePressure() {
-    if (!(Calc.SourcePressure[1] < 0)) return true;
+    if (!(Calc.SourcePressure[TheLine] < 0)) return true;
     return RefuseData("Absolute Source Pressure must be greater than zero", txtPressure(Calc.CaseIndex));
 }
 
@@ -86,33 +87,34 @@ bool frmGasLineLoss::CheckFluid() {
     const std::size_t i = ThisCase();
     const UnitFactors& factor = Calc.UnitFactor;
 
-    Calc.CritPressure = Calc.CaseInput[11][i] * factor[11];
+    Calc.CritPressure = Calc.CaseInput[input::CritPressure][i] * factor[unit::CritPressure];
     if (!(Calc.CritPressure > 0)) {
         return RefuseData("Critical pressure must be greater than zero", txtCritPressure(caseIndex));
     }
-    Calc.CritTemperature = ToDegR(Calc.UnitName[12], Calc.CaseInput[12][i], factor[12]);
+    Calc.CritTemperature = ToDegR(Calc.UnitName[unit::CritTemperature],
+                                  Calc.CaseInput[input::CritTemperature][i], factor[unit::CritTemperature]);
     if (!IsAboveZeroDegR(Calc.CritTemperature) || Trim(txtCritTemp(caseIndex).Text()).empty()) {
-        return RefuseData(
-            "Critical Temperature must be greater than " + Str(AbsoluteZeroIn(Calc.UnitName[12])),
-            txtCritTemp(caseIndex), Icon::None);
+        return RefuseData("Critical Temperature must be greater than " +
+                              Str(AbsoluteZeroIn(Calc.UnitName[unit::CritTemperature])),
+                          txtCritTemp(caseIndex), Icon::None);
     }
-    Calc.MolecularWeight = Calc.CaseInput[5][i];
+    Calc.MolecularWeight = Calc.CaseInput[input::MolecularWeight][i];
     if (!(Calc.MolecularWeight > 0)) {
         return RefuseData("Molecular weight must be greater than zero", txtMW(caseIndex));
     }
-    Calc.MassFlow = Calc.CaseInput[0][i] * factor[0];
+    Calc.MassFlow = Calc.CaseInput[input::GasFlow][i] * factor[unit::GasFlow];
     if (Calc.Basis == words::Volume) {
         Calc.MassFlow = Calc.MassFlow * Calc.MolecularWeight / StandardCubicFeetPerMole;
     }
     if (!(Calc.MassFlow > 0)) {
         return RefuseData("Flow must be greater than zero", txtFlow(caseIndex), Icon::None);
     }
-    Calc.RatioSpecificHeats = Calc.CaseInput[10][i];
+    Calc.RatioSpecificHeats = Calc.CaseInput[input::RatioSpecificHeats][i];
     if (!(Calc.RatioSpecificHeats > 0)) {
         return RefuseData("Ratio of specific heats must be greater than zero", txtRatioSH(caseIndex));
     }
-    Calc.Viscosity = Calc.CaseInput[7][i] * factor[7];
-    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
+    Calc.Viscosity = Calc.CaseInput[input::Viscosity][i] * factor[unit::Viscosity];
+    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[unit::Viscosity]); kinematic > 0) {
         Calc.Viscosity = Calc.Viscosity / MolarViscosity * Calc.MolecularWeight * kinematic;
     }
     if (!(Calc.Viscosity > 0)) {
@@ -144,16 +146,16 @@ PlotDrawing frmGasLineLoss::DrawingOf(int caseIndex) const {
     const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
     std::vector<double> lengths, pressures, velocities, sonic;
     for (const GasStation& station : stations) {
-        lengths.push_back(station.Part * Calc.PipeData[1]);
-        pressures.push_back((station.Pressure - gauge) / Calc.UnitFactor[3]);
-        velocities.push_back(station.Velocity / Calc.UnitFactor[20]);
-        sonic.push_back(station.SonicVelocity / Calc.UnitFactor[20]);
+        lengths.push_back(station.Part * Calc.PipeData[pipe::Length]);
+        pressures.push_back((station.Pressure - gauge) / Calc.UnitFactor[unit::Pressure]);
+        velocities.push_back(station.Velocity / Calc.UnitFactor[unit::Velocity]);
+        sonic.push_back(station.SonicVelocity / Calc.UnitFactor[unit::Velocity]);
     }
     if (stations.size() < 2) return {};
     return {.Title = {},
-            .Bottom = {"Length", Calc.UnitName[25]},
-            .Left = {"Pressure", Calc.UnitName[3]},
-            .Right = {"Velocity", Calc.UnitName[20]},
+            .Bottom = {"Length", Calc.UnitName[unit::Length]},
+            .Left = {"Pressure", Calc.UnitName[unit::Pressure]},
+            .Right = {"Velocity", Calc.UnitName[unit::Velocity]},
             .Series = {{"Pressure", lengths, pressures},
                        {"Velocity", lengths, velocities, true},
                        {"Sonic velocity", lengths, sonic, true, true}},
@@ -163,11 +165,11 @@ PlotDrawing frmGasLineLoss::DrawingOf(int caseIndex) const {
 void frmGasLineLoss::ShowResults(const GasLineResults& results) {
     const Filling filling;
     const int i = Calc.CaseIndex;
-    Calc.CaseResult[0][ThisCase()] = results.LossPer100;
-    Calc.CaseResult[1][ThisCase()] = results.FinalPressure;
-    Calc.CaseResult[2][ThisCase()] = results.Velocity;
-    Calc.CaseResult[3][ThisCase()] = results.SonicVelocity;
-    Calc.CaseResult[5][0] = results.EquivLength;
+    Calc.CaseResult[result::LossPer100][ThisCase()] = results.LossPer100;
+    Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
+    Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;
+    Calc.CaseResult[result::SonicVelocity][ThisCase()] = results.SonicVelocity;
+    Calc.CaseResult[result::EquivLength][0] = results.EquivLength;
     ShowNumber(txtDestPress(i), results.FinalPressure);
     ShowNumber(txtDropP100(i), results.LossPer100);
     ShowNumber(txtVelocity(i), results.Velocity);
@@ -189,16 +191,17 @@ void frmGasLineLoss::FillCase() {
     Calc.RatioSpecificHeats = shown(Calc.RatioSpecificHeats);
     const double weight = CheckFinite(Calc.MolecularWeight);
     const double viscosity = shown(GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight));
-    const double critPressure = shown(Calc.CritPressure / factor[11]);
-    const double critTemperature = shown(FromDegR(Calc.UnitName[12], Calc.CritTemperature, factor[12]));
-    const double density = shown(Calc.Density / factor[9]);
+    const double critPressure = shown(Calc.CritPressure / factor[unit::CritPressure]);
+    const double critTemperature = shown(
+        FromDegR(Calc.UnitName[unit::CritTemperature], Calc.CritTemperature, factor[unit::CritTemperature]));
+    const double density = shown(Calc.Density / factor[unit::Density]);
 
-    Calc.CaseInput[5][i] = weight;
-    Calc.CaseInput[7][i] = viscosity;
-    Calc.CaseInput[9][i] = density;
-    Calc.CaseInput[10][i] = Calc.RatioSpecificHeats;
-    Calc.CaseInput[11][i] = critPressure;
-    Calc.CaseInput[12][i] = critTemperature;
+    Calc.CaseInput[input::MolecularWeight][i] = weight;
+    Calc.CaseInput[input::Viscosity][i] = viscosity;
+    Calc.CaseInput[input::Density][i] = density;
+    Calc.CaseInput[input::RatioSpecificHeats][i] = Calc.RatioSpecificHeats;
+    Calc.CaseInput[input::CritPressure][i] = critPressure;
+    Calc.CaseInput[input::CritTemperature][i] = critTemperature;
     Calc.Viscosity = Calc.FluidViscosity;
     StateIsDealtWith(Calc.CaseIndex);
     ShowFluidRows();
@@ -206,11 +209,11 @@ void frmGasLineLoss::FillCase() {
 
 void frmGasLineLoss::ShowFluidRows() {
     const int i = Calc.CaseIndex;
-    ShowProperty(txtMW(i), Calc.CaseInput[5][ThisCase()]);
-    ShowProperty(txtRatioSH(i), Calc.CaseInput[10][ThisCase()]);
-    ShowProperty(txtCritTemp(i), Calc.CaseInput[12][ThisCase()]);
-    ShowProperty(txtCritPressure(i), Calc.CaseInput[11][ThisCase()]);
-    ShowProperty(txtViscosity(i), Calc.CaseInput[7][ThisCase()]);
+    ShowProperty(txtMW(i), Calc.CaseInput[input::MolecularWeight][ThisCase()]);
+    ShowProperty(txtRatioSH(i), Calc.CaseInput[input::RatioSpecificHeats][ThisCase()]);
+    ShowProperty(txtCritTemp(i), Calc.CaseInput[input::CritTemperature][ThisCase()]);
+    ShowProperty(txtCritPressure(i), Calc.CaseInput[input::CritPressure][ThisCase()]);
+    ShowProperty(txtViscosity(i), Calc.CaseInput[input::Viscosity][ThisCase()]);
 }
 
 std::vector<TextBox*> frmGasLineLoss::FluidBoxes(int caseIndex) {
@@ -221,11 +224,12 @@ std::vector<TextBox*> frmGasLineLoss::FluidBoxes(int caseIndex) {
 // The look-up leaves rows of 0 when it has cleared them.
 void frmGasLineLoss::ShowSteam() {
     const int i = Calc.CaseIndex;
-    if (Calc.CaseInput[5][ThisCase()] == 0) {
+    if (Calc.CaseInput[input::MolecularWeight][ThisCase()] == 0) {
         for (TextBox* box : FluidBoxes(i)) box->SetText("");
         return;
     }
-    if (Calc.SteamKind == words::Saturated) ShowProperty(txtTemp(i), Calc.CaseInput[2][ThisCase()]);
+    if (Calc.SteamKind == words::Saturated)
+        ShowProperty(txtTemp(i), Calc.CaseInput[input::Temperature][ThisCase()]);
     ShowFluidRows();
 }
 

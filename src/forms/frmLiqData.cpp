@@ -13,7 +13,7 @@ namespace {
 // A gravity as it is, or as a density in the unit of row 5, which is that of row 9 here.
 double GravityShown(double gravity) {
     const bool density = Calc.LiquidDensityMode == words::Density;
-    return density ? gravity / Calc.UnitFactor[5] * WaterDensity : gravity;
+    return density ? gravity / Calc.UnitFactor[unit::UserDensity] * WaterDensity : gravity;
 }
 
 // A value that is not above 0 is not known, and its box stays blank.
@@ -38,17 +38,17 @@ void frmLiqData::FillCase() {
     const bool mixture = Calc.MixtureFlag == words::Yes;
     const UnitFactors& factor = Calc.UnitFactor;
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
-    Store({{8, Known(Calc.VaporPressure / factor[8])},
-           {4, TemperatureShown(Calc.NormalBoilingPoint)},
-           {12, CritTemperatureShown(Calc.CritTemperature)},
-           {27, Known(Calc.BulkModulus / factor[27])},
-           {1, Calc.FlashPoint > 0 && !mixture ? TemperatureShown(Calc.FlashPoint) : 0},
-           {5, GravityShown(Calc.SGAtStandard)},
-           {0, Calc.MolecularWeight},
-           {6, GravityShown(Calc.FlowingSG)},
-           {9, WaterDensity * Calc.FlowingSG / factor[5]},
-           {7, LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)},
-           {11, Calc.CritPressure / factor[11]}});
+    Store({{input::VaporPressure, Known(Calc.VaporPressure / factor[unit::VaporPressure])},
+           {input::BoilingPoint, TemperatureShown(Calc.NormalBoilingPoint)},
+           {input::CritTemperature, CritTemperatureShown(Calc.CritTemperature)},
+           {input::Modulus, Known(Calc.BulkModulus / factor[unit::Modulus])},
+           {input::FlashPoint, Calc.FlashPoint > 0 && !mixture ? TemperatureShown(Calc.FlashPoint) : 0},
+           {input::StandardGravity, GravityShown(Calc.SGAtStandard)},
+           {input::LiquidWeight, Calc.MolecularWeight},
+           {input::FlowGravity, GravityShown(Calc.FlowingSG)},
+           {input::Density, WaterDensity * Calc.FlowingSG / factor[unit::UserDensity]},
+           {input::Viscosity, LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)},
+           {input::CritPressure, Calc.CritPressure / factor[unit::CritPressure]}});
 }
 
 }  // namespace quillmetra

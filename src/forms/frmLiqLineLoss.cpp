@@ -22,7 +22,8 @@ frmLiqLineLoss::frmLiqLineLoss()
                     .FluidMenu = "mnuFluiProp",
                     .ListFrame = "fraLiquidData",
                     .ListCaption = "Liquids"},
-                   {1, 2, 3, 4, 6, 7, 18, 25}) {
+                   {unit::LiquidFlow, unit::Temperature, unit::Pressure, unit::PressureDrop,
+                    unit::LiquidDensity, unit::Viscosity, unit::PipeSize, unit::Length}) {
     Entries = {
         {&mnuPureLiquid1, &mnuMixture1}, {&mnuPureLiquid2, &mnuMixture2}, {&mnuPureLiquid3, &mnuMixture3}};
     Assemble();
@@ -37,7 +38,7 @@ bool frmLiqLineLoss::CheckState() {
 }
 
 bool frmLiqLineLoss::CheckSourcePressure() {
-    if (Calc.SourcePressure[1] > 0) return true;
+    if (Calc.SourcePressure[TheLine] > 0) return true;
     return RefuseData("Absolute Source Pressure must be greater than zero", txtPressure(Calc.CaseIndex));
 }
 
@@ -46,24 +47,24 @@ bool frmLiqLineLoss::CheckFluid() {
     const std::size_t i = ThisCase();
     const UnitFactors& factor = Calc.UnitFactor;
     if (Calc.LiquidDensityMode == words::Density) {
-        Calc.FlowingSG = Calc.CaseInput[6][i] * factor[6] / WaterDensity;
+        Calc.FlowingSG = Calc.CaseInput[input::FlowGravity][i] * factor[unit::LiquidDensity] / WaterDensity;
         if (!(Calc.FlowingSG > 0)) {
             return RefuseData("Flowing Density must be greater than zero", txtSGFlow(caseIndex));
         }
     } else {
-        Calc.FlowingSG = Calc.CaseInput[6][i];
+        Calc.FlowingSG = Calc.CaseInput[input::FlowGravity][i];
         if (!(Calc.FlowingSG > 0)) {
             return RefuseData("Flowing specific gravity must be greater than zero", txtSGFlow(caseIndex));
         }
     }
 
-    Calc.MassFlow = Calc.CaseInput[1][i] * factor[1];
+    Calc.MassFlow = Calc.CaseInput[input::LiquidFlow][i] * factor[unit::LiquidFlow];
     if (Calc.LiquidBasis == words::Volume)
         Calc.MassFlow = Calc.MassFlow * Calc.FlowingSG * WaterPoundsPerGallon;
     if (!(Calc.MassFlow > 0)) return RefuseData("Flow must be greater than zero", txtFlow(caseIndex));
 
-    Calc.Viscosity = Calc.CaseInput[7][i] * factor[7];
-    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[7]); kinematic > 0) {
+    Calc.Viscosity = Calc.CaseInput[input::Viscosity][i] * factor[unit::Viscosity];
+    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[unit::Viscosity]); kinematic > 0) {
         Calc.Viscosity = Calc.Viscosity * Calc.FlowingSG * kinematic;
     }
     if (!(Calc.Viscosity > 0))
@@ -84,13 +85,14 @@ bool frmLiqLineLoss::CalculateCase() {
 // not say where on it they are: a straight line from the source on.
 PlotDrawing frmLiqLineLoss::DrawingOf(int caseIndex) const {
     const auto i = static_cast<std::size_t>(caseIndex);
-    std::vector<double> pressures = {Calc.CaseInput[3][i], Calc.CaseResult[1][i]};
+    std::vector<double> pressures = {Calc.CaseInput[input::Pressure][i],
+                                     Calc.CaseResult[result::FinalPressure][i]};
     if (Calc.PressureDirection == 2) std::swap(pressures[0], pressures[1]);
     return {.Title = {},
-            .Bottom = {"Length", Calc.UnitName[25]},
-            .Left = {"Pressure", Calc.UnitName[3]},
+            .Bottom = {"Length", Calc.UnitName[unit::Length]},
+            .Left = {"Pressure", Calc.UnitName[unit::Pressure]},
             .Right = {},
-            .Series = {{"Pressure", {0, Calc.PipeData[1]}, std::move(pressures)}},
+            .Series = {{"Pressure", {0, Calc.PipeData[pipe::Length]}, std::move(pressures)}},
             .Marks = {}};
 }
 
@@ -98,11 +100,11 @@ void frmLiqLineLoss::ShowResults() {
     const LiquidLineResults results = LiquidLineResultsOf(Calc);
     const Filling filling;
     const int i = Calc.CaseIndex;
-    Calc.CaseResult[1][ThisCase()] = results.FinalPressure;
-    Calc.CaseResult[0][ThisCase()] = results.LossPer100;
-    Calc.CaseResult[2][ThisCase()] = results.Velocity;
-    Calc.CaseResult[4][ThisCase()] = results.Reynolds;
-    Calc.CaseResult[5][0] = results.EquivLength;
+    Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
+    Calc.CaseResult[result::LossPer100][ThisCase()] = results.LossPer100;
+    Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;
+    Calc.CaseResult[result::ReynoldsNumber][ThisCase()] = results.Reynolds;
+    Calc.CaseResult[result::EquivLength][0] = results.EquivLength;
     ShowNumber(txtDestPress(i), results.FinalPressure);
     ShowNumber(txtDropP100(i), results.LossPer100);
     ShowNumber(txtVelocity(i), results.Velocity);
@@ -119,20 +121,21 @@ void frmLiqLineLoss::FillCase() {
     double vaporPressure = 0;
     if (Calc.VaporPressure > 0) {
         Calc.VaporPressure = RoundedFour(Calc.VaporPressure);
-        vaporPressure = CheckFinite(RoundedFour(Calc.VaporPressure / Calc.UnitFactor[8]));
+        vaporPressure = CheckFinite(RoundedFour(Calc.VaporPressure / Calc.UnitFactor[unit::VaporPressure]));
     }
     Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
-    const double gravity = CheckFinite(Calc.LiquidDensityMode == words::Density
-                                           ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[5] * WaterDensity)
-                                           : Calc.FlowingSG);
-    Calc.CaseInput[7][i] =
+    const double gravity =
+        CheckFinite(Calc.LiquidDensityMode == words::Density
+                        ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[unit::UserDensity] * WaterDensity)
+                        : Calc.FlowingSG);
+    Calc.CaseInput[input::Viscosity][i] =
         CheckFinite(RoundedFour(LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)));
-    Calc.CaseInput[8][i] = vaporPressure;
-    Calc.CaseInput[6][i] = gravity;
+    Calc.CaseInput[input::VaporPressure][i] = vaporPressure;
+    Calc.CaseInput[input::FlowGravity][i] = gravity;
     Calc.Viscosity = Calc.FluidViscosity;
     StateIsDealtWith(caseIndex);
-    ShowProperty(txtSGFlow(caseIndex), Calc.CaseInput[6][i]);
-    ShowProperty(txtViscosity(caseIndex), Calc.CaseInput[7][i]);
+    ShowProperty(txtSGFlow(caseIndex), Calc.CaseInput[input::FlowGravity][i]);
+    ShowProperty(txtViscosity(caseIndex), Calc.CaseInput[input::Viscosity][i]);
 }
 
 }  // namespace quillmetra

@@ -71,7 +71,7 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
         if (key.Name != "Escape") return;
-        ShowDate(Calc.CaseText[10]);
+        ShowDate(Calc.CaseText[text::CalcDate]);
         key.Handled = true;
     };
     cmdOK.Click = [this] { cmdOK_Click(); };
@@ -96,7 +96,7 @@ void frmObxPrintCalc::Load() {
 
 void frmObxPrintCalc::FillFromRecord() {
     ShowHeadings(Calc.HeadingText, 10);
-    if (!Calc.CaseUnitsText[1].empty()) ShowDate(Calc.CaseUnitsText[1]);
+    if (!Calc.CaseUnitsText[printed::Date].empty()) ShowDate(Calc.CaseUnitsText[printed::Date]);
     txtComments.Each([](TextBox& box, int i) {
         if (box.Text().empty()) box.SetText(Calc.NoteText[static_cast<std::size_t>(i) + 1]);
     });
@@ -114,7 +114,7 @@ void frmObxPrintCalc::ShowHeadings(const Headings& lines, std::size_t last) {
 // The calculation form shows two of the notes.
 void frmObxPrintCalc::StoreHeadings() {
     const Headings before = Calc.HeadingText;
-    Calc.HeadingText[1] = ShownDate();
+    Calc.HeadingText[heading::PrintDate] = ShownDate();
     std::size_t line = 2;
     for (const TextBox* box : HeadingBoxes()) Calc.HeadingText[line++] = box->Text();
     txtComments.Each([&](const TextBox& box, int i) {
@@ -166,7 +166,8 @@ void frmObxPrintCalc::mnuPageSetup_Click() { AskPageSetup(); }
 
 void frmObxPrintCalc::cmdCancel_Click() {
     const bool stored = Calc.BrowserOpen == words::Yes;
-    if (!stored && Calc.CaseUnitsText[1].empty()) Calc.CaseUnitsText[1] = Calc.HeadingText[1];
+    if (!stored && Calc.CaseUnitsText[printed::Date].empty())
+        Calc.CaseUnitsText[printed::Date] = Calc.HeadingText[heading::PrintDate];
     UnloadForm(Name());
 }
 
@@ -215,7 +216,9 @@ bool frmObxPrintCalc::Print(PrintJob job, int copies) {
 
 // A calculation that is of no database yet takes the date of its print.
 void frmObxPrintCalc::DateRecord() {
-    if (std::exchange(Calc.CaseText[10], Calc.HeadingText[1]) == Calc.HeadingText[1]) return;
+    if (std::exchange(Calc.CaseText[text::CalcDate], Calc.HeadingText[heading::PrintDate]) ==
+        Calc.HeadingText[heading::PrintDate])
+        return;
     Calc.ChangedFlag = words::No;
     if (CalculationForm* form = OpenCalculation()) form->ShowPrintedTexts();
 }

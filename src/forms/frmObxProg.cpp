@@ -50,8 +50,8 @@ void frmObxProg::Load() {
     if (Calc.InCalculation != words::Yes) {
         ResetRecord();
         LoadDefaults();
-        Calc.HeadingText[8].clear();
-        Calc.HeadingText[9].clear();
+        Calc.HeadingText[heading::Note1].clear();
+        Calc.HeadingText[heading::Note2].clear();
     }
     if (Calc.CurrentProgram == 0) Calc.CurrentProgram = 1;
     SetCaption(Suite.VersionText + "New Calculation");

@@ -210,10 +210,10 @@ void frmPrintControl::cmdDefaultTitles_Click() {
 }
 
 void frmPrintControl::cmdSaveInDb_Click() {
-    if (!MustHaveDataPath(Suite.DefaultPaths[1])) return;
+    if (!MustHaveDataPath(Suite.DefaultPaths[path::Database])) return;
     if (Record.txtTagNum.Text().empty()) return;
     std::ranges::copy(TitleTexts(), Calc.HeadingText.begin() + FirstTitle);
-    Calc.HeadingText[1] = txtPrintoutDate.Text();
+    Calc.HeadingText[heading::PrintDate] = txtPrintoutDate.Text();
     const std::string cut = CutHeadings();
     if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag + cut);
 }

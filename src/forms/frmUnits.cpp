@@ -1,6 +1,7 @@
 // See frmUnits.h.
 #include "forms/frmUnits.h"
 
+#include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
@@ -19,14 +20,12 @@ namespace quillmetra {
 
 namespace {
 
-constexpr int DensityRow = 9;
-constexpr int LiquidDensityRow = 6;
-constexpr int LiquidViscosityRow = 7;
-constexpr int GasViscosityRow = 13;
 constexpr int SkippedPosition = 6;
 constexpr int DensityPosition = 11;
 
-constexpr std::pair<int, int> FlowParts[] = {{0, 19}, {1, 5}};  // quantity and time base of a flow unit
+constexpr std::pair<int, int> FlowParts[] = {
+    {unit::GasFlow, unit::GasTimeBase},
+    {unit::LiquidFlow, unit::LiquidTimeBase}};  // quantity and time base of a flow unit
 
 constexpr const char* ChooseText =
     "To select, double click the required unit.   To add a unit, click an empty line. Type in the name and "
@@ -37,8 +36,6 @@ constexpr const char* BasisText =
 constexpr const char* SelectionsText =
     "The current selections are shown.  Click unit for reselection and editing";
 constexpr const char* LibraryTitle = "Library Unit Files";
-
-std::size_t At(int row) { return static_cast<std::size_t>(row); }
 
 }  // namespace
 
@@ -76,7 +73,7 @@ frmUnits::frmUnits() : SuiteForm("frmUnits") {
     mnuDeleteLib.Click = [this] { mnuDeleteLib_Click(); };
 }
 
-bool frmUnits::IsGas() const { return Calc.CurrentProgram == 2 || Calc.CurrentProgram == 5; }
+bool frmUnits::IsGas() const { return program::IsOfGas(Calc.CurrentProgram); }
 
 void frmUnits::Load() {
     ApplyColours(*this);
@@ -86,8 +83,8 @@ void frmUnits::Load() {
     // The window shows a liquid's density in row 9, whatever row the program keeps it in.
     const bool density = Calc.LiquidDensityMode == words::Density;
     if (!IsGas() && density) {
-        Calc.UnitName[DensityRow] = Calc.UnitName[LiquidDensityRow];
-        Calc.UnitFactor[DensityRow] = Calc.UnitFactor[LiquidDensityRow];
+        Calc.UnitName[unit::Density] = Calc.UnitName[unit::LiquidDensity];
+        Calc.UnitFactor[unit::Density] = Calc.UnitFactor[unit::LiquidDensity];
     }
     RowCount = !IsGas() && !density ? UnitPositions - 1 : UnitPositions;
     ShowTitle();
@@ -97,7 +94,8 @@ void frmUnits::Load() {
 
 void frmUnits::ShowTitle() {
     std::string title = Calc.FluidType + ". Units - " + Suite.UnitLibraryName;
-    if (Suite.UnitLibraryName != DefaultLibraryName) title += " " + Suite.DefaultPaths[4] + "\\KSLib.TXT";
+    if (Suite.UnitLibraryName != DefaultLibraryName)
+        title += " " + Suite.DefaultPaths[path::DataFiles] + "\\KSLib.TXT";
     SetCaption(title);
 }
 
@@ -134,7 +132,8 @@ void frmUnits::ShowUnits() {
 std::string& frmUnits::BasisOfRow() const { return UnitRow == 0 ? Calc.Basis : Calc.LiquidBasis; }
 
 void frmUnits::Row_Click(int row) {
-    if (row == 2) Calc.ChosenUnitRowNames[1] = Calc.UnitName[2];
+    if (row == unit::Temperature)
+        Calc.ChosenUnitRowNames[chosen::Temperature] = Calc.UnitName[unit::Temperature];
     OpenPanel(row);
 }
 
@@ -282,7 +281,7 @@ void frmUnits::cmdSelect_Click() {
 }
 
 void frmUnits::cmdCancel_Click() {
-    if (UnitRow <= 1) BasisOfRow() = basisBeforePanel_;
+    if (UnitRow <= unit::LiquidFlow) BasisOfRow() = basisBeforePanel_;
     ClosePanel();
 }
 
@@ -349,12 +348,12 @@ bool frmUnits::TakeUnits() {
     }
     const bool density = Calc.LiquidDensityMode == words::Density;
     if (!IsGas() && density) {
-        Calc.UnitName[LiquidDensityRow] = Calc.UnitName[DensityRow];
-        Calc.UnitFactor[LiquidDensityRow] = Calc.UnitFactor[DensityRow];
+        Calc.UnitName[unit::LiquidDensity] = Calc.UnitName[unit::Density];
+        Calc.UnitFactor[unit::LiquidDensity] = Calc.UnitFactor[unit::Density];
     }
     if (IsGas()) {
-        Calc.UnitName[LiquidViscosityRow] = Calc.UnitName[GasViscosityRow];
-        Calc.UnitFactor[LiquidViscosityRow] = Calc.UnitFactor[GasViscosityRow];
+        Calc.UnitName[unit::Viscosity] = Calc.UnitName[unit::GasViscosity];
+        Calc.UnitFactor[unit::Viscosity] = Calc.UnitFactor[unit::GasViscosity];
     }
     CarryDensityUnit();
     return true;

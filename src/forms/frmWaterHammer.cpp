@@ -85,7 +85,8 @@ int frmWaterHammer::InputSlot(const Control& box) const {
 
 void frmWaterHammer::StoreOwn() {
     NoteEntered(0);
-    Calc.PipeMaterial = Calc.CaseText[5] = Calc.CaseUnitsText[5] = txtPipeMatl.Text();
+    Calc.PipeMaterial = Calc.CaseText[text::PipeMaterial] = Calc.CaseUnitsText[printed::PipeMaterial] =
+        txtPipeMatl.Text();
 }
 
 void frmWaterHammer::CloseOverlays() {
@@ -99,7 +100,7 @@ void frmWaterHammer::ShowChoices() {
     Moduli.Close();
     ShowFluidEntries();
     lblLiqTestBasis.SetCaption("");
-    ShowSelectedTime(Calc.CaseInput[10][0] > 0);
+    ShowSelectedTime(Calc.CaseInput[input::SelectedTime][0] > 0);
 }
 
 void frmWaterHammer::ShowSelectedTime(bool visible) {
@@ -118,15 +119,15 @@ void frmWaterHammer::TellNeedsState(int) {
 // blank.
 void frmWaterHammer::FillCase() {
     const bool density = Calc.LiquidDensityMode == words::Density;
-    const double gravity = CheckFinite(
-        RoundedFour(density ? Calc.FlowingSG / Calc.UnitFactor[6] * WaterDensity : Calc.FlowingSG));
+    const double gravity = CheckFinite(RoundedFour(
+        density ? Calc.FlowingSG / Calc.UnitFactor[unit::LiquidDensity] * WaterDensity : Calc.FlowingSG));
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
-    const double modulus = CheckFinite(RoundedFour(Calc.BulkModulus / Calc.UnitFactor[27]));
-    Calc.CaseInput[6][0] = gravity;
-    Calc.CaseInput[27][0] = modulus > 0 ? modulus : 0;
+    const double modulus = CheckFinite(RoundedFour(Calc.BulkModulus / Calc.UnitFactor[unit::Modulus]));
+    Calc.CaseInput[input::FlowGravity][0] = gravity;
+    Calc.CaseInput[input::Modulus][column::OfLiquid] = modulus > 0 ? modulus : 0;
     StateIsDealtWith(Control::NoIndex);
     ShowProperty(txtSGFlow, gravity);
-    ShowProperty(txtBulkModulus, Calc.CaseInput[27][0]);
+    ShowProperty(txtBulkModulus, Calc.CaseInput[input::Modulus][column::OfLiquid]);
     if (modulus <= 0) txtBulkModulus.SetText("");
 }
 
@@ -166,7 +167,7 @@ void frmWaterHammer::cmdSelectModulus_Click() {
     const bool loaded = LoadPipeModulus(fields);
     txtPipeMatl.SetText(Calc.PipeMaterial);
     txtLineModulus.SetText("");
-    if (loaded) ShowNumber(txtLineModulus, Calc.CaseInput[27][1]);
+    if (loaded) ShowNumber(txtLineModulus, Calc.CaseInput[input::Modulus][column::OfPipe]);
 }
 
 }  // namespace quillmetra

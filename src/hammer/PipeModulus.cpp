@@ -20,9 +20,9 @@ double Modulus(ModulusFields fields, std::size_t column) {
 }
 
 void TakeMaterial(const std::string& name, double modulus, double shown) {
-    Calc.PipeMaterial = Calc.CaseText[5] = Calc.CaseUnitsText[5] = name;
+    Calc.PipeMaterial = Calc.CaseText[text::PipeMaterial] = Calc.CaseUnitsText[printed::PipeMaterial] = name;
     Calc.PipeModulus = modulus;
-    Calc.CaseInput[27][1] = shown;
+    Calc.CaseInput[input::Modulus][column::OfPipe] = shown;
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ bool LoadPipeModulus(ModulusFields fields) {
         return false;
     }
     const double modulus = ModulusAt(fields, Calc.FlowTemperature);
-    TakeMaterial(name, modulus, CheckFinite(Int(modulus / Calc.UnitFactor[27])));
+    TakeMaterial(name, modulus, CheckFinite(Int(modulus / Calc.UnitFactor[unit::Modulus])));
     return true;
 }
 

@@ -58,29 +58,30 @@ void CalcCriticalClosing() {
     Calc.MinimumTime = RoundedFour(
         MinimumTimeOf(Calc.PressureRise, Calc.MaxAllowPressure - Calc.FlowPressure, Calc.CriticalTime));
     HammerResults results = Calc.HammerResult;
-    results[12] = CheckFinite(Calc.CriticalTime);
-    results[13] = Shown(Calc.WaveVelocity, 20);
-    results[14] = Shown(Calc.WavePressure, 3);
-    results[15] = Shown(thrust, 0);
-    results[16] = CheckFinite(Calc.MinimumTime);
-    results[17] = results[18] = 0;
+    results[wave::CriticalTime] = CheckFinite(Calc.CriticalTime);
+    results[wave::Velocity] = Shown(Calc.WaveVelocity, unit::Velocity);
+    results[wave::Pressure] = Shown(Calc.WavePressure, unit::Pressure);
+    results[wave::Force] = Shown(thrust, 0);
+    results[wave::MinimumTime] = CheckFinite(Calc.MinimumTime);
+    results[wave::SelectedPressure] = results[wave::SelectedForce] = 0;
     Calc.HammerResult = results;
 }
 
 void CalcSelectedClosing() {
     Calc.SelectedRise = RiseAtTime(Calc.PressureRise, Calc.CriticalTime, Calc.SelectedTime);
-    const double pressure = Shown(Calc.EnteredPressure + Calc.SelectedRise, 3);
+    const double pressure = Shown(Calc.EnteredPressure + Calc.SelectedRise, unit::Pressure);
     const double thrust = Shown(ThrustOf(Calc.SelectedRise, Calc.PipeDiameter), 0);
-    Calc.HammerResult[17] = pressure;
-    Calc.HammerResult[18] = thrust;
+    Calc.HammerResult[wave::SelectedPressure] = pressure;
+    Calc.HammerResult[wave::SelectedForce] = thrust;
 }
 
 ClosingCurve ClosingCurveOfRecord() {
     constexpr int steps = 80;
-    const double critical = Calc.HammerResult[12], minimum = Calc.HammerResult[16];
-    const double operating = Calc.CaseInput[3][0];
-    const double rise = Calc.HammerResult[14] - operating;
-    const double selected = HasSelectedClosing() ? Calc.CaseInput[10][0] : critical;
+    const double critical = Calc.HammerResult[wave::CriticalTime],
+                 minimum = Calc.HammerResult[wave::MinimumTime];
+    const double operating = Calc.CaseInput[input::Pressure][column::Operating];
+    const double rise = Calc.HammerResult[wave::Pressure] - operating;
+    const double selected = HasSelectedClosing() ? Calc.CaseInput[input::SelectedTime][0] : critical;
     const auto [least, most] = std::minmax({critical, minimum, selected});
     const double first = least * 0.8;
     const double ratio = std::pow(most * 1.5 / first, 1.0 / steps);  // closer together where it is steep
@@ -95,6 +96,6 @@ ClosingCurve ClosingCurveOfRecord() {
     return curve;
 }
 
-bool HasSelectedClosing() { return Calc.HammerResult[17] != 0; }
+bool HasSelectedClosing() { return Calc.HammerResult[wave::SelectedPressure] != 0; }
 
 }  // namespace quillmetra

@@ -72,7 +72,7 @@ void TellFlowZone() {
 
 // K D / f for each fitting that the line has; the others keep what they had.
 void SetEquivalentLengths() {
-    const double diameter = Calc.PipeId[1] / 12;  // ft
+    const double diameter = Calc.PipeId[TheLine] / 12;  // ft
     const double f = Calc.FrictionFactor;
     for (const Fitting& fitting : Fittings) {
         if (!(Calc.*fitting.Count > 0)) continue;
@@ -93,8 +93,8 @@ const TurbulenceRow* FindTurbulenceRow(double pipeId) {
 void CalcFlowStatus() {
     Calc.TransitionMark.clear();
     Calc.MessageTitle = "Flow Status";
-    Calc.ReynoldsNumber = ReynoldsOf(Calc.MassFlow, Calc.PipeId[1], Calc.Viscosity);
-    if (const TurbulenceRow* row = FindTurbulenceRow(Calc.PipeId[1])) {
+    Calc.ReynoldsNumber = ReynoldsOf(Calc.MassFlow, Calc.PipeId[TheLine], Calc.Viscosity);
+    if (const TurbulenceRow* row = FindTurbulenceRow(Calc.PipeId[TheLine])) {
         Calc.TurbulentFactor = row->Factor;
         if (Calc.ReynoldsNumber < row->ReynoldsLimit) Calc.TransitionMark = words::Transition;
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "lineloss/FlowStatus.h"
 #include "platform/Dialogs.h"
@@ -14,7 +15,6 @@ namespace {
 
 constexpr int MostRounds = 100;
 constexpr double SmallestStep = 1e-06;
-constexpr std::size_t Line = 1;  // a calculation has one line
 
 // 62.36 lb/ft3 here, where data checking turns an entered density into a gravity by 62.366: a density entered
 // as such comes back a little changed.
@@ -35,7 +35,7 @@ void TakeLaminarFactor() {
 void TakeColebrookFactor() {
     if (Calc.ReynoldsNumber <= CriticalLimit) Calc.FlowZone = words::Critical;
     const ColebrookResult result =
-        SolveColebrook(Calc.ReynoldsNumber, Calc.PipeId[Line], FindPipeMaterial(Calc.PipeMaterialNumber),
+        SolveColebrook(Calc.ReynoldsNumber, Calc.PipeId[TheLine], FindPipeMaterial(Calc.PipeMaterialNumber),
                        Calc.ColebrookTerm);
     Calc.FrictionFactor = result.Factor;
     Calc.ColebrookTerm = result.Term;
@@ -80,7 +80,7 @@ void CalcFrictionFactor() {
 }
 
 double LengthWithFittings() {
-    double length = Calc.PipeLength[Line];
+    double length = Calc.PipeLength[TheLine];
     for (const Fitting& fitting : Fittings) {
         const double count = Calc.*fitting.Count;
         // An absent fitting has an old equivalent length, or none: it must not even be multiplied by 0.
@@ -90,17 +90,17 @@ double LengthWithFittings() {
 }
 
 void CalcFriction() {
-    Calc.ReynoldsNumber = ReynoldsOf(Calc.MassFlow, Calc.PipeId[Line], Calc.Viscosity);
+    Calc.ReynoldsNumber = ReynoldsOf(Calc.MassFlow, Calc.PipeId[TheLine], Calc.Viscosity);
     CalcFrictionFactor();
     CalcFlowStatus();
-    if (Calc.CurrentProgram == 1) Calc.Density = Calc.FlowingSG * WaterDensity;
+    if (Calc.CurrentProgram == program::LiquidLine) Calc.Density = Calc.FlowingSG * WaterDensity;
 
     Calc.MessageTitle = "Line pressure loss calculation";
-    Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[Line], Calc.Density);
-    Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[Line]);
-    const double equipment = Calc.EquipLoss[Line] / Calc.LossPer100 * 100;
+    Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[TheLine], Calc.Density);
+    Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[TheLine]);
+    const double equipment = Calc.EquipLoss[TheLine] / Calc.LossPer100 * 100;
     // A line that rises is longer for it, one that falls shorter.
-    const double fall = Calc.Density * (Calc.Elevation[1] - Calc.Elevation[2]) / 144;
+    const double fall = Calc.Density * (Calc.Elevation[LineStart] - Calc.Elevation[LineEnd]) / 144;
     Calc.EquivLength = LengthWithFittings() + equipment - (fall / Calc.LossPer100) * 100;
 }
 

@@ -18,7 +18,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t Line = 1;  // a calculation has one line
 constexpr const char* Title = "Line pressure loss calculation";
 constexpr const char* LimitText = "Increase line size, or\nIncrease pressure, or\nDecrease flow rate";
 
@@ -53,17 +52,17 @@ double LengthOf(double resistance, std::size_t element) {
 }
 
 void TakeVelocities() {
-    Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[Line]);
+    Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[TheLine]);
     Calc.SonicVelocity = SonicVelocityOf(Calc.RatioSpecificHeats, Calc.FlowPressure, Calc.Density);
 }
 
 GasStation StationAt(double part) { return {part, Calc.FlowPressure, Calc.Velocity, Calc.SonicVelocity}; }
 
 void TellSonicInlet() {
-    const double flow = Calc.CaseInput[0][static_cast<std::size_t>(Calc.CaseIndex)];
+    const double flow = Calc.CaseInput[input::GasFlow][static_cast<std::size_t>(Calc.CaseIndex)];
     const double limit = RoundedThree(flow * Calc.SonicVelocity / Calc.Velocity);
-    Tell("Sonic velocity exists, flow is limited to\n" + Str(limit) + " " + Calc.UnitName[0] + "\n" +
-             LimitText,
+    Tell("Sonic velocity exists, flow is limited to\n" + Str(limit) + " " + Calc.UnitName[unit::GasFlow] +
+             "\n" + LimitText,
          Title, Icon::Stop);
 }
 
@@ -102,7 +101,8 @@ public:
 private:
     // The pressure at the end of a step; false when the gas does not get beyond it.
     bool Step(double part) {
-        Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[Line], Calc.Density);
+        Calc.LossPer100 =
+            LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[TheLine], Calc.Density);
         Calc.EquivLength = SignedLength();
         Calc.FlowPressure -= (Calc.LossPer100 * Calc.EquivLength / 100) / static_cast<double>(count_);
         if (Calc.FlowPressure <= 0) {
@@ -126,15 +126,15 @@ private:
     // Entrance and exit stand in the fittings' length already and count a second time here, and a line that
     // rises is shorter for it. Both differ from the liquid line and are to be left so.
     double SignedLength() const {
-        const double equipment = Calc.EquipLoss[Line] / Calc.LossPer100 * 100;
-        const double fall =
-            (Calc.Density * (Calc.Elevation[1] - Calc.Elevation[2]) / 144) / Calc.LossPer100 * 100;
+        const double equipment = Calc.EquipLoss[TheLine] / Calc.LossPer100 * 100;
+        const double fall = (Calc.Density * (Calc.Elevation[LineStart] - Calc.Elevation[LineEnd]) / 144) /
+                            Calc.LossPer100 * 100;
         return Calc.PressureDirection == 2 ? -Calc.FittingsEquivLength - equipment - exit_ - entrance_ - fall
                                            : Calc.FittingsEquivLength + equipment + exit_ + entrance_ + fall;
     }
 
     const GasLineObserver& observer_;
-    const std::int64_t count_ = GasStepCount(Calc.PipeLength[Line]);
+    const std::int64_t count_ = GasStepCount(Calc.PipeLength[TheLine]);
     const double entrance_ = LengthOf(Calc.EntranceK, 1);
     const double exit_ = LengthOf(Calc.ExitK, 9);
 };
@@ -146,21 +146,21 @@ double Shown(double value) { return CheckFinite(RoundedFour(value)); }
 void CalcGasFriction() {
     // The friction factor and the zone go by this constant; the flow status leaves the liquid's in the
     // record.
-    Calc.ReynoldsNumber = 6.31533 * Calc.MassFlow / Calc.PipeId[Line] / Calc.Viscosity;
+    Calc.ReynoldsNumber = 6.31533 * Calc.MassFlow / Calc.PipeId[TheLine] / Calc.Viscosity;
     CalcFrictionFactor();
     CalcFlowStatus();
 
-    Calc.FlowPressure = Calc.SourcePressure[Line];
+    Calc.FlowPressure = Calc.SourcePressure[TheLine];
     CalcCompressibility();
     Calc.MessageTitle = Title;
-    Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[Line], Calc.Density);
-    Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[Line]);
+    Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[TheLine], Calc.Density);
+    Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[TheLine]);
     Calc.FittingsEquivLength = LengthWithFittings();
 }
 
 bool CalcGasProfile(const GasLineObserver& observer) {
     Calc.EquivLength = 0;
-    Calc.FlowPressure = Calc.SourcePressure[Line];
+    Calc.FlowPressure = Calc.SourcePressure[TheLine];
     // CalcGasFriction has told it when the inlet does not converge, and once is enough.
     const bool converges = FindCompressibility();
     TakeVelocities();
@@ -180,14 +180,14 @@ GasLineResults GasLineResultsOf(const CalcRecord& record) {
     const double pressure = record.PressureMode == words::Absolute
                                 ? record.FlowPressure
                                 : record.FlowPressure - record.BaroPressure;
-    const double difference = record.SourcePressure[Line] - record.FlowPressure;
+    const double difference = record.SourcePressure[TheLine] - record.FlowPressure;
     const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
     return {.IsSonic = isSonic,
-            .FinalPressure = isSonic ? 0 : Shown(pressure / factor[3]),
-            .LossPer100 = isSonic ? 0 : Shown(loss / factor[4] * factor[25]),
-            .Velocity = Shown(record.Velocity / factor[20]),
-            .SonicVelocity = Shown(record.SonicVelocity / factor[20]),
-            .EquivLength = Shown(std::fabs(record.EquivLength) / factor[25])};
+            .FinalPressure = isSonic ? 0 : Shown(pressure / factor[unit::Pressure]),
+            .LossPer100 = isSonic ? 0 : Shown(loss / factor[unit::PressureDrop] * factor[unit::Length]),
+            .Velocity = Shown(record.Velocity / factor[unit::Velocity]),
+            .SonicVelocity = Shown(record.SonicVelocity / factor[unit::Velocity]),
+            .EquivLength = Shown(std::fabs(record.EquivLength) / factor[unit::Length])};
 }
 
 }  // namespace quillmetra

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/Programs.h"
 #include "fluids/GasCorrelations.h"
 #include "lineloss/FlowStatus.h"
 #include "lineloss/Friction.h"
@@ -12,17 +13,14 @@ namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t Line = 1;  // a calculation has one line
-constexpr int GasLine = 2;
-
 double Reynolds(const CalcRecord& record) { return record.ReynoldsNumber; }
 bool IsLaminar(const CalcRecord& record) { return record.ReynoldsNumber <= LaminarLimit; }
 bool Always(const CalcRecord&) { return true; }
-bool IsGas(const CalcRecord& record) { return record.CurrentProgram == GasLine; }
+bool IsGas(const CalcRecord& record) { return record.CurrentProgram == program::GasLine; }
 
 double RelativeRoughness(const CalcRecord& record) {
     const PipeMaterial* const material = FindPipeMaterial(record.PipeMaterialNumber);
-    return material == nullptr ? 0 : material->Roughness / record.PipeId[Line];
+    return material == nullptr ? 0 : material->Roughness / record.PipeId[TheLine];
 }
 
 // Fittings that go by their ratio of length to diameter.
@@ -33,7 +31,7 @@ bool HasFittings(const CalcRecord& record) {
 }
 
 double HighestPressure(const CalcRecord& record) {
-    return std::max(record.SourcePressure[Line], record.FlowPressure);
+    return std::max(record.SourcePressure[TheLine], record.FlowPressure);
 }
 
 constexpr CorrelationRange Ranges[] = {
@@ -51,7 +49,7 @@ constexpr CorrelationRange Ranges[] = {
     {"Roughness over diameter", RelativeRoughness, NoBound, 0.05, BoundUnit::None,
      "beyond the chart of friction factors", [](const CalcRecord& record) { return !IsLaminar(record); }},
     // Behind the last row of the factors of complete turbulence that of the case before stays.
-    {"Inside diameter", [](const CalcRecord& record) { return record.PipeId[Line]; }, NoBound, 47.999,
+    {"Inside diameter", [](const CalcRecord& record) { return record.PipeId[TheLine]; }, NoBound, 47.999,
      BoundUnit::PipeDiameter, "do not rely on the loss of the fittings", HasFittings},
     {"Loss in psi per 100 ft", [](const CalcRecord& record) { return record.LossPer100; }, NoBound,
      LargestLoss*(1 - 1e-12), BoundUnit::None, "it is held there", Always},

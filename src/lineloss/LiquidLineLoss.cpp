@@ -13,15 +13,13 @@ namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t Line = 1;  // a calculation has one line
-
 // How far the pressure reaches, in percent of the equivalent length. In gauge mode the barometric pressure is
 // added to what is absolute already; the figure stands so.
 double PercentReached(double difference) {
     if (difference == 0) return 0;
     const double source = Calc.PressureMode == words::Absolute
-                              ? Calc.SourcePressure[Line]
-                              : Calc.SourcePressure[Line] + Calc.BaroPressure;
+                              ? Calc.SourcePressure[TheLine]
+                              : Calc.SourcePressure[TheLine] + Calc.BaroPressure;
     return Int(100 * source / difference);
 }
 
@@ -30,7 +28,7 @@ double Shown(double value) { return CheckFinite(RoundedFour(value)); }
 // From psia to unit row 3, gauge or absolute as the pressure mode.
 double PressureShown(const CalcRecord& record, double pressure) {
     if (record.PressureMode != words::Absolute) pressure -= record.BaroPressure;
-    return pressure / record.UnitFactor[3];
+    return pressure / record.UnitFactor[unit::Pressure];
 }
 
 }  // namespace
@@ -38,7 +36,7 @@ double PressureShown(const CalcRecord& record, double pressure) {
 void CalcFinalPressure() {
     if (Calc.PressureDirection == 2) Calc.EquivLength = -Calc.EquivLength;
     const double difference = Calc.LossPer100 * Calc.EquivLength / 100;
-    Calc.FlowPressure = Calc.SourcePressure[Line] - difference;
+    Calc.FlowPressure = Calc.SourcePressure[TheLine] - difference;
     if (!(Calc.FlowPressure <= 0)) return;
     Tell("Zero pressure reached @" + Str(PercentReached(difference)) +
              " % of equiv line length\nFlow cannot be maintained",
@@ -48,13 +46,13 @@ void CalcFinalPressure() {
 
 LiquidLineResults LiquidLineResultsOf(const CalcRecord& record) {
     const auto& factor = record.UnitFactor;
-    const double difference = record.SourcePressure[Line] - record.FlowPressure;
+    const double difference = record.SourcePressure[TheLine] - record.FlowPressure;
     const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
     return {.FinalPressure = Shown(PressureShown(record, record.FlowPressure)),
-            .LossPer100 = Shown(loss / factor[4] * factor[25]),
-            .Velocity = Shown(record.Velocity / factor[20]),
+            .LossPer100 = Shown(loss / factor[unit::PressureDrop] * factor[unit::Length]),
+            .Velocity = Shown(record.Velocity / factor[unit::Velocity]),
             .Reynolds = Shown(record.ReynoldsNumber),
-            .EquivLength = Shown(std::fabs(record.EquivLength) / factor[25])};
+            .EquivLength = Shown(std::fabs(record.EquivLength) / factor[unit::Length])};
 }
 
 }  // namespace quillmetra

@@ -50,7 +50,7 @@ bool BarometerDiffers() {
 // Inputs and units, without the rows of the standard conditions.
 bool RowsDiffer() {
     for (std::size_t row = 0; row < UnitRowsKept; ++row) {
-        if (row >= 21 && row <= 23) continue;
+        if (row >= input::StdTemperature && row <= input::Barometer) continue;
         if (Calc.UnitFactor[row] != Calc.UnitFactorShown[row]) return true;
         for (int i = 0; i < CaseCount; ++i) {
             const double saved = Calc.CaseInputSaved[row][static_cast<std::size_t>(i)];

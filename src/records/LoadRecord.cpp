@@ -81,10 +81,14 @@ void NameUnitSet() {
 bool GetProgramRow(Database& database) {
     const std::string& codes = Calc.OtherCalcs;
     switch (Calc.CurrentProgram) {
-        case 1:
-        case 2: Calc.PDRowLoaded = YesIf(Code(codes, 1, 2) == "PD"); return GetTRDB(database);
-        case 3: Calc.WHRowLoaded = YesIf(Code(codes, 5, 2) == "WH"); return GetWHCalc(database);
-        case 4: Calc.FDRowLoaded = YesIf(Code(codes, 3, 2) == "FD"); return GetFDCalc(database);
+        case program::LiquidLine:
+        case program::GasLine: Calc.PDRowLoaded = YesIf(Code(codes, 1, 2) == "PD"); return GetTRDB(database);
+        case program::WaterHammer:
+            Calc.WHRowLoaded = YesIf(Code(codes, 5, 2) == "WH");
+            return GetWHCalc(database);
+        case program::LiquidData:
+            Calc.FDRowLoaded = YesIf(Code(codes, 3, 2) == "FD");
+            return GetFDCalc(database);
         default:
             // The gas data program looks at another position than the save writes, so its word stays unset;
             // the row is read all the same.
@@ -110,7 +114,8 @@ void TakeOptions(Database& database) {
 // nothing was typed.
 void MarkBlankTemperatures() {
     for (std::size_t i = 0; i < CaseCount; ++i) {
-        if (Calc.CaseInput[2][i] == 0 && Calc.CaseInput[3][i] == 0) Calc.TemperatureBlank[i] = 1;
+        if (Calc.CaseInput[input::Temperature][i] == 0 && Calc.CaseInput[input::Pressure][i] == 0)
+            Calc.TemperatureBlank[i] = 1;
     }
 }
 

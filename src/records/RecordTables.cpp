@@ -4,6 +4,7 @@
 #include <iterator>
 #include <span>
 
+#include "core/Programs.h"
 #include "core/Words.h"
 
 namespace quillmetra {

@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "platform/Clock.h"
 #include "platform/NumberText.h"
@@ -16,8 +17,6 @@ namespace {
 
 constexpr int CalcDateText = 10;
 const FieldValue NoValue;  // an empty field, other than one that is left as it is
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 // The number of the record behind a cell; null for a cell that is a text.
 double* NumberCell(const Cell& cell, int row) {
@@ -51,10 +50,11 @@ FieldValue OrBlank(std::string text) {
 }
 
 // A case that was blanked, and one that was never calculated, has no results to keep. The equivalent length
-// (row 5) is one number for all cases.
+// is one number for all cases.
 FieldValue ResultOf(const Cell& cell, int row) {
-    const int first = row == 5 ? 5 : 0;
-    const int last = row == 5 ? 5 : 4;
+    const bool ofLine = row == result::EquivLength;
+    const int first = ofLine ? row : result::LossPer100;
+    const int last = ofLine ? row : result::ReynoldsNumber;
     bool any = false;
     for (int i = first; i <= last; ++i) any = any || StandingResult(i, cell.Case) != 0;
     if (!any) return {};
@@ -92,7 +92,7 @@ std::string TitleToFit(std::size_t size) {
 }
 
 std::optional<FieldValue> ValueOfMade(const RecordField& field, Made made) {
-    const bool hammer = Calc.CurrentProgram == 3;
+    const bool hammer = Calc.CurrentProgram == program::WaterHammer;
     switch (made) {
         case Made::Tag: return std::string(Trim(Calc.Tag));
         case Made::LiquidWord: return words::Liquid;
@@ -101,17 +101,17 @@ std::optional<FieldValue> ValueOfMade(const RecordField& field, Made made) {
         case Made::Title: return OrBlank(TitleToFit(At(field.Shape.Size)));
         case Made::OptionCodes: return Calc.OtherCalcs.empty() ? words::NoCodes : Calc.OtherCalcs;
         case Made::Temperature: {
-            const double value = Calc.CaseInput[2][At(field.Case)];
+            const double value = Calc.CaseInput[input::Temperature][At(field.Case)];
             if (value == 0 && Calc.TemperatureBlank[At(field.Case)] == 1) return NoValue;
             return value;
         }
         case Made::NumberAsText: return Str(StandingInput(4, field.Case));
         case Made::Fouling: return NumberToFit(Calc.PipeFouling, At(field.Shape.Size));
         case Made::ForceFactor:
-            if (hammer) return Calc.UnitFactor[0];
+            if (hammer) return Calc.UnitFactor[unit::Force];
             return {};
         case Made::ForceName:
-            if (hammer) return OrBlank(Calc.UnitName[0]);
+            if (hammer) return OrBlank(Calc.UnitName[unit::Force]);
             return {};
     }
     return {};
@@ -158,16 +158,16 @@ void TakeMade(const RecordField& field, Made made, const FieldValue& value) {
         case Made::Title: Calc.ProgramTitle = text; break;
         case Made::OptionCodes: Calc.OtherCalcs = text.empty() ? words::NoCodes : text; break;
         case Made::Temperature:
-            Calc.CaseInput[2][At(field.Case)] = NumberOf(value);
+            Calc.CaseInput[input::Temperature][At(field.Case)] = NumberOf(value);
             Calc.TemperatureBlank[At(field.Case)] = std::holds_alternative<std::monostate>(value) ? 1 : 0;
             break;
-        case Made::NumberAsText: Calc.CaseInput[4][At(field.Case)] = Val(text); break;
+        case Made::NumberAsText: Calc.CaseInput[input::BoilingPoint][At(field.Case)] = Val(text); break;
         case Made::Fouling: Calc.PipeFouling = Val(text); break;
         case Made::ForceFactor:
-            if (Calc.CurrentProgram == 3) Calc.UnitFactor[0] = NumberOf(value);
+            if (Calc.CurrentProgram == program::WaterHammer) Calc.UnitFactor[unit::Force] = NumberOf(value);
             break;
         case Made::ForceName:
-            if (Calc.CurrentProgram == 3) Calc.UnitName[0] = text;
+            if (Calc.CurrentProgram == program::WaterHammer) Calc.UnitName[unit::Force] = text;
             break;
     }
 }

@@ -92,17 +92,18 @@ void TakeUnits(std::string_view record) {
         Calc.UnitName[row] = Text(record, NamesAt + NameLength * row, NameLength);
     }
     // The two densities of a liquid have one unit now, that of row 6.
-    if (Calc.FluidType == words::Liquid && Calc.UnitName[6].empty()) {
-        Calc.UnitName[6] = Calc.UnitName[9];
-        Calc.UnitFactor[6] = Calc.UnitFactor[9];
+    if (Calc.FluidType == words::Liquid && Calc.UnitName[unit::LiquidDensity].empty()) {
+        Calc.UnitName[unit::LiquidDensity] = Calc.UnitName[unit::Density];
+        Calc.UnitFactor[unit::LiquidDensity] = Calc.UnitFactor[unit::Density];
     }
     MendUnitFactors();
-    Calc.PressureMode = Calc.UnitName[3].ends_with('a') ? words::Absolute : words::Gauge;
+    Calc.PressureMode = Calc.UnitName[unit::Pressure].ends_with('a') ? words::Absolute : words::Gauge;
 }
 
 void TakePipe(std::string_view record, std::size_t countWidth) {
     for (std::size_t i = 1; i <= 6; ++i) Calc.PipeData[i] = Single(record, PipeAt + 4 * (i - 1));
-    for (const std::size_t flag : {4U, 5U}) Calc.PipeData[flag] = Calc.PipeData[flag] == 2 ? 2 : 1;
+    for (const int flag : {pipe::Entrance, pipe::Exit})
+        Calc.PipeData[flag] = Calc.PipeData[flag] == pipe::Ticked ? pipe::Ticked : pipe::NotTicked;
     for (std::size_t i = 1; i <= Counts; ++i) {
         Calc.FittingCount[i] = Count(record, CountsAt + countWidth * (i - 1), countWidth);
     }
@@ -118,14 +119,15 @@ void TakeStandardConditions() {
     const auto value = [](std::size_t row) { return Calc.CaseInput[row][0]; };
     // 0 degC is a standard temperature, but not where nothing was given at all.
     if (value(21) != 0 || value(22) != 0)
-        Calc.StdTemperature = ToDegF(Calc.UnitName[21], value(21), Calc.UnitFactor[21]);
-    Calc.StdPressure = value(22) * Calc.UnitFactor[22];
-    Calc.BaroPressure = value(23) * Calc.UnitFactor[23];
+        Calc.StdTemperature =
+            ToDegF(Calc.UnitName[unit::StdTemperature], value(21), Calc.UnitFactor[unit::StdTemperature]);
+    Calc.StdPressure = value(22) * Calc.UnitFactor[unit::StdPressure];
+    Calc.BaroPressure = value(23) * Calc.UnitFactor[unit::Barometer];
     for (double* condition : {&Calc.StdTemperature, &Calc.StdPressure, &Calc.BaroPressure}) {
         *condition = SingleRead(*condition);  // a product may be out of range
     }
     RestoreStandardConditions();
-    const bool si = Calc.UnitName[2] == "degC" || Calc.UnitName[2] == "degK";
+    const bool si = Calc.UnitName[unit::Temperature] == "degC" || Calc.UnitName[unit::Temperature] == "degK";
     si ? STPSI() : STPEnglish();
 }
 
@@ -176,7 +178,7 @@ bool Version5File::Take(int index) const {
     }
     TakeUnits(record);
     TakePipe(record, countWidth_);
-    Calc.CaseUnitsText[1] = Text(record, CountsAt + Counts * countWidth_, TextLength);
+    Calc.CaseUnitsText[printed::Date] = Text(record, CountsAt + Counts * countWidth_, TextLength);
     TakeStandardConditions();
     return true;
 }

@@ -46,57 +46,63 @@ struct UnitControl {
 
 constexpr int Single = Control::NoIndex;
 constexpr UnitControl LiquidLossUnits[] = {
-    {"cmdUnits", 1, 1}, {"cmdUnits", 2, 2}, {"cmdUnits", 3, 3},   {"cmdUnits", 4, 4},
-    {"cmdUnits", 6, 6}, {"cmdUnits", 7, 7}, {"cmdUnits", 18, 18}, {"cmdUnits", 25, 25},
+    {"cmdUnits", unit::LiquidFlow, unit::LiquidFlow},
+    {"cmdUnits", unit::Temperature, unit::Temperature},
+    {"cmdUnits", unit::Pressure, unit::Pressure},
+    {"cmdUnits", unit::PressureDrop, unit::PressureDrop},
+    {"cmdUnits", unit::LiquidDensity, unit::LiquidDensity},
+    {"cmdUnits", unit::Viscosity, unit::Viscosity},
+    {"cmdUnits", unit::PipeSize, unit::PipeSize},
+    {"cmdUnits", unit::Length, unit::Length},
 };
 constexpr UnitControl GasLossUnits[] = {
-    {"cmdUnits", 0, 0},   {"cmdUnits", 2, 2},
-    {"cmdUnits", 3, 3},   {"cmdUnits", 4, 4},
-    {"cmdUnits", 11, 11}, {"cmdUnits", 12, 12},
-    {"cmdUnits", 13, 13}, {"cmdUnits", 18, 18},
-    {"cmdUnits", 25, 25}, {"unSonicVelocity", Single, 20},
+    {"cmdUnits", unit::GasFlow, unit::GasFlow},
+    {"cmdUnits", unit::Temperature, unit::Temperature},
+    {"cmdUnits", unit::Pressure, unit::Pressure},
+    {"cmdUnits", unit::PressureDrop, unit::PressureDrop},
+    {"cmdUnits", unit::CritPressure, unit::CritPressure},
+    {"cmdUnits", unit::CritTemperature, unit::CritTemperature},
+    {"cmdUnits", unit::GasViscosity, unit::GasViscosity},
+    {"cmdUnits", unit::PipeSize, unit::PipeSize},
+    {"cmdUnits", unit::Length, unit::Length},
+    {"unSonicVelocity", Single, unit::Velocity},
 };
 // Those that both line-loss forms have beside them.
 constexpr UnitControl LineUnits[] = {
-    {"unInletPipeElev", Single, 25}, {"unOutletPipeElev", Single, 25}, {"unDropP100", Single, 4},
-    {"unDestPress", Single, 3},      {"unVelocity", Single, 20},       {"unEquivLen", Single, 25},
+    {"unInletPipeElev", Single, unit::Length},  {"unOutletPipeElev", Single, unit::Length},
+    {"unDropP100", Single, unit::PressureDrop}, {"unDestPress", Single, unit::Pressure},
+    {"unVelocity", Single, unit::Velocity},     {"unEquivLen", Single, unit::Length},
 };
 
 constexpr UnitControl WaterHammerUnits[] = {
-    {"cmdUnits", 1, 1},
-    {"cmdUnits", 2, 2},
-    {"cmdUnits", 3, 3},
-    {"cmdUnits", 6, 6},
-    {"cmdUnits", 18, 18},
-    {"cmdUnits", 25, 25},
-    {"cmdUnits", 27, 27},
-    {"UnpipeWall", Single, 18},
-    {"unLineModulus", Single, 27},
-    {"unMaxAllowPressure", Single, 3},
-    {"unWaveVelocity", Single, 20},
-    {"unPressureWave", Single, 3},
-    {"unSupportForce", Single, 0},
-    {"unSelectedWave", Single, 3},
-    {"unSelectedForce", Single, 0},
+    {"cmdUnits", unit::LiquidFlow, unit::LiquidFlow}, {"cmdUnits", unit::Temperature, unit::Temperature},
+    {"cmdUnits", unit::Pressure, unit::Pressure},     {"cmdUnits", unit::LiquidDensity, unit::LiquidDensity},
+    {"cmdUnits", unit::PipeSize, unit::PipeSize},     {"cmdUnits", unit::Length, unit::Length},
+    {"cmdUnits", unit::Modulus, unit::Modulus},       {"UnpipeWall", Single, unit::PipeSize},
+    {"unLineModulus", Single, unit::Modulus},         {"unMaxAllowPressure", Single, unit::Pressure},
+    {"unWaveVelocity", Single, unit::Velocity},       {"unPressureWave", Single, unit::Pressure},
+    {"unSupportForce", Single, unit::Force},          {"unSelectedWave", Single, unit::Pressure},
+    {"unSelectedForce", Single, unit::Force},
 };
 
 constexpr UnitControl LiquidDataUnits[] = {
-    {"cmdUnits", 2, 2},         {"cmdUnits", 3, 3},           {"unCritPressure", Single, 11},
-    {"unCritTemp", Single, 12}, {"unDensity", Single, 9},     {"unNormalBP", Single, 2},
-    {"unViscosity", Single, 7}, {"unVapPressure", Single, 8}, {"unFlashPoint", Single, 2},
-    {"unBulkMod", Single, 27},
+    {"cmdUnits", unit::Temperature, unit::Temperature},
+    {"cmdUnits", unit::Pressure, unit::Pressure},
+    {"unCritPressure", Single, unit::CritPressure},
+    {"unCritTemp", Single, unit::CritTemperature},
+    {"unDensity", Single, unit::Density},
+    {"unNormalBP", Single, unit::Temperature},
+    {"unViscosity", Single, unit::Viscosity},
+    {"unVapPressure", Single, unit::VaporPressure},
+    {"unFlashPoint", Single, unit::Temperature},
+    {"unBulkMod", Single, unit::Modulus},
 };
 constexpr UnitControl GasDataUnits[] = {
-    {"cmdUnits", 2, 2},
-    {"cmdUnits", 3, 3},
-    {"unNormalBP", Single, 2},
-    {"unCritPressure", Single, 11},
-    {"unCritTemp", Single, 12},
-    {"unDensity", Single, 9},
-    {"unViscosity", Single, 7},
-    {"unVapPressure", Single, 8},
-    {"unReqdLatentHeat", Single, 16},
-    {"unLatentHeatBP", Single, 16},
+    {"cmdUnits", unit::Temperature, unit::Temperature}, {"cmdUnits", unit::Pressure, unit::Pressure},
+    {"unNormalBP", Single, unit::Temperature},          {"unCritPressure", Single, unit::CritPressure},
+    {"unCritTemp", Single, unit::CritTemperature},      {"unDensity", Single, unit::Density},
+    {"unViscosity", Single, unit::Viscosity},           {"unVapPressure", Single, unit::VaporPressure},
+    {"unReqdLatentHeat", Single, unit::LatentHeat},     {"unLatentHeatBP", Single, unit::LatentHeat},
 };
 
 // After a conversion a text that one of the first two rules leaves standing would be a number in the former
@@ -135,7 +141,7 @@ void ShowTick(Form& form, const char* name, std::size_t flag) {
 // The line-loss forms refresh all three cases after a conversion, else the one in hand; the fluid data forms
 // always all.
 std::pair<int, int> CasesToShow(int program) {
-    if (Calc.UnitsConverted == words::Yes || program > 3) return {0, CaseCount - 1};
+    if (Calc.UnitsConverted == words::Yes || program::IsFluidData(program)) return {0, CaseCount - 1};
     return {Calc.CaseIndex, Calc.CaseIndex};
 }
 
@@ -182,7 +188,7 @@ void ShowDensityMode(Form& form, const char* gravityTip) {
             box->SetToolTip(density ? " Enter flowing density" : gravityTip);
         }
     }
-    Named(form, "cmdUnits", 6).SetVisible(density);
+    Named(form, "cmdUnits", unit::LiquidDensity).SetVisible(density);
 }
 
 // The boxes of the two names and the date show their prompt while they are empty.
@@ -202,21 +208,21 @@ void ShowIdentity(Form& form) {
 }
 
 void ShowSignatures(Form& form) {
-    SetText(Named(form, "txtBy"), OrPrompt(Calc.CaseText[8], words::ByPrompt));
-    SetText(Named(form, "cmdDate"), OrPrompt(Calc.CaseText[10], "Date"));
-    SetText(Named(form, "txtApprov"), OrPrompt(Calc.CaseText[9], words::ApprovedPrompt));
-    SetText(Named(form, "txtComments", 0), Calc.HeadingText[8]);
-    SetText(Named(form, "txtComments", 1), Calc.HeadingText[9]);
+    SetText(Named(form, "txtBy"), OrPrompt(Calc.CaseText[text::CalcBy], words::ByPrompt));
+    SetText(Named(form, "cmdDate"), OrPrompt(Calc.CaseText[text::CalcDate], "Date"));
+    SetText(Named(form, "txtApprov"), OrPrompt(Calc.CaseText[text::ApprovedBy], words::ApprovedPrompt));
+    SetText(Named(form, "txtComments", 0), Calc.HeadingText[heading::Note1]);
+    SetText(Named(form, "txtComments", 1), Calc.HeadingText[heading::Note2]);
 }
 
 // What both line-loss forms show alike.
 void ShowLine(Form& form, int program) {
     ShowBasis(form);
     ShowUnits(form, LineUnits);
-    Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[25]);
+    Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[unit::Length]);
     Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
-    ShowTick(form, "chkEntrance", 4);
-    ShowTick(form, "chkExit", 5);
+    ShowTick(form, "chkEntrance", pipe::Entrance);
+    ShowTick(form, "chkExit", pipe::Exit);
     ShowRows(form, program);
     ShowSignatures(form);
 }
@@ -225,7 +231,7 @@ void ShowLine(Form& form, int program) {
 
 void PaintTick(CheckBox& box, double shown) {
     constexpr int frameText = 2;  // a tick stands on the frame, not in an input box
-    const int slot = ValueSlot(box.Checked() ? 2 : 1, shown);
+    const int slot = ValueSlot(box.Checked() ? pipe::Ticked : pipe::NotTicked, shown);
     PaintValue(box, slot == 4 ? frameText : slot);
 }
 
@@ -238,7 +244,7 @@ void ShowLiquidLoss() {
     ShowUnits(form, LiquidLossUnits);
     ShowDirection(form, false);
     ShowDensityMode(form, "Specific gravity @ FTPy");
-    ShowLine(form, 1);
+    ShowLine(form, program::LiquidLine);
 }
 
 void ShowGasLoss() {
@@ -247,7 +253,7 @@ void ShowGasLoss() {
     ShowIdentity(form);
     ShowUnits(form, GasLossUnits);
     ShowDirection(form, true);
-    ShowLine(form, 2);
+    ShowLine(form, program::GasLine);
 }
 
 void ShowWaterHammer() {
@@ -260,11 +266,12 @@ void ShowWaterHammer() {
     ShowDensityMode(form, " Enter Specific gravity @ FTP");
     // The basis shows from the first calculation on, which a record that is opened again has behind it.
     Control& basis = Named(form, "lblLiqTestBasis");
-    if (!basis.Caption().empty() || Calc.HammerResult[12] > 0) basis.SetCaption(Calc.LiquidBasis);
+    if (!basis.Caption().empty() || Calc.HammerResult[wave::CriticalTime] > 0)
+        basis.SetCaption(Calc.LiquidBasis);
     Control& material = Named(form, "txtPipeMatl");
     SetText(material, Calc.PipeMaterial);
     PaintValue(material, TextSlot(Calc.PipeMaterial, Calc.PipeMaterialSaved));
-    ShowRows(form, 3);
+    ShowRows(form, program::WaterHammer);
     ShowSignatures(form);
 }
 
@@ -277,10 +284,11 @@ void ShowLiquidData() {
     ShowUnits(form, LiquidDataUnits);
     const bool density = Calc.LiquidDensityMode == words::Density;
     Named(form, "lblSGFTP")
-        .SetCaption(density ? "Density @ FTP    " + Calc.UnitName[9] : "Specific gravity @ FTP");
+        .SetCaption(density ? "Density @ FTP    " + Calc.UnitName[unit::Density] : "Specific gravity @ FTP");
     Named(form, "lblSGBase")
-        .SetCaption(density ? "Density @ Base    " + Calc.UnitName[9] : "Specific gravity @ Base");
-    ShowRows(form, 4);
+        .SetCaption(density ? "Density @ Base    " + Calc.UnitName[unit::Density]
+                            : "Specific gravity @ Base");
+    ShowRows(form, program::LiquidData);
     ShowSignatures(form);
 }
 
@@ -290,7 +298,7 @@ void ShowGasData() {
     ShowIdentity(form);
     ShowBasis(form);
     ShowUnits(form, GasDataUnits);
-    ShowRows(form, 5);
+    ShowRows(form, program::GasData);
     ShowSignatures(form);
 }
 
@@ -300,11 +308,11 @@ void ShowCalculation() {
     if (Calc.ProgramTitle.empty()) Calc.ProgramTitle = program->Title;
     Calc.MethodText = program->Method;
     switch (program->Number) {
-        case 1: ShowLiquidLoss(); break;
-        case 2: ShowGasLoss(); break;
-        case 3: ShowWaterHammer(); break;
-        case 4: ShowLiquidData(); break;
-        case 5: ShowGasData(); break;
+        case program::LiquidLine: ShowLiquidLoss(); break;
+        case program::GasLine: ShowGasLoss(); break;
+        case program::WaterHammer: ShowWaterHammer(); break;
+        case program::LiquidData: ShowLiquidData(); break;
+        case program::GasData: ShowGasData(); break;
         default: break;
     }
 }
@@ -321,8 +329,7 @@ void ComposeHeading() {
                                            {words::FlowRate, ", calculate flowrate"},
                                            {words::ValveSize, ", calculate data"},
                                            {"", ", calculate data"}};
-    constexpr int lastLineProgram = 3;
-    if (Calc.CurrentProgram > lastLineProgram) {
+    if (program::IsFluidData(Calc.CurrentProgram)) {
         Calc.UnitsTitle = Calc.UnitSystem + " units, calculate data";
         return ShowCalculation();
     }

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "platform/TextCase.h"
 
 namespace quillmetra {
@@ -202,8 +203,6 @@ constexpr FormRow GasDataRows[] = {
     {"txtLatentHeatBP", Source::Property, input::BoilingLatentHeat, ShowRule::Positive, Each,
      "lblLatentHeatBP", "unLatentHeatBP", Single},
 };
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 }  // namespace
 

@@ -404,7 +404,7 @@ NoteLines TableNotes(const TableDescription& table, int column, const TableVaria
 
 std::string TablePath(const TableDescription& table, const TableVariant& variant) {
     const string_view file = variant.FileName.empty() ? table.FileName : variant.FileName;
-    return Suite.DefaultPaths[4] + "\\" + std::string(file);
+    return Suite.DefaultPaths[path::DataFiles] + "\\" + std::string(file);
 }
 
 }  // namespace quillmetra

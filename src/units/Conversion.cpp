@@ -15,27 +15,28 @@ namespace quillmetra {
 
 namespace {
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
-
 // From the gravity of case 0, or from the user, who is asked until the answer is above 0.
 void TakeFlowGravity(int caseIndex) {
     constexpr const char* title = "Convert Liquid Flow";
     const bool density = Calc.LiquidDensityMode == words::Density;
     Calc.FlowingSG = GravityOfFirstCase();
     while (!(Calc.FlowingSG > 0)) {
-        double& answer = Calc.CaseInput[6][At(caseIndex)];
-        answer = Val(AskText(density ? "Need flow density to convert in " + Calc.UnitName[5] + " units"
-                                     : "Need flow SG to convert",
-                             title));
-        Calc.FlowingSG = density ? RoundedFour(answer * Calc.UnitFactor[5] / WaterDensity) : answer;
+        double& answer = Calc.CaseInput[input::FlowGravity][At(caseIndex)];
+        answer = Val(
+            AskText(density ? "Need flow density to convert in " + Calc.UnitName[unit::UserDensity] + " units"
+                            : "Need flow SG to convert",
+                    title));
+        Calc.FlowingSG =
+            density ? RoundedFour(answer * Calc.UnitFactor[unit::UserDensity] / WaterDensity) : answer;
         if (Calc.FlowingSG > 0) return;
         Tell("Density value must be greater than zero", title);
     }
 }
 
 double ConvertedTemperature(double value) {
-    const double degF = ToDegF(Calc.ChosenUnitRowNames[1], value, Calc.UnitFactorPrevious[2]);
-    return Expressible(FromDegF(Calc.UnitName[2], degF, Calc.UnitFactor[2]));
+    const double degF = ToDegF(Calc.ChosenUnitRowNames[chosen::Temperature], value,
+                               Calc.UnitFactorPrevious[unit::Temperature]);
+    return Expressible(FromDegF(Calc.UnitName[unit::Temperature], degF, Calc.UnitFactor[unit::Temperature]));
 }
 
 void ConvertFluidTemperature(double& value) {
@@ -46,21 +47,21 @@ void ConvertFluidTemperature(double& value) {
 // which is above 0 or unknown; toCp and fromCp apply it to a value in cs and in cp.
 template <typename ToCp, typename FromCp>
 void ConvertViscosity(int caseIndex, double ratio, ToCp toCp, FromCp fromCp) {
-    const std::string& former = Calc.ChosenUnitRowNames[3];
-    const std::string& now = Calc.UnitName[7];
+    const std::string& former = Calc.ChosenUnitRowNames[chosen::Viscosity];
+    const std::string& now = Calc.UnitName[unit::Viscosity];
     const double formerCs = CentistokesPerUnit(former);
     const double nowCs = CentistokesPerUnit(now);
-    double& value = Calc.CaseInput[7][At(caseIndex)];
+    double& value = Calc.CaseInput[input::Viscosity][At(caseIndex)];
     if (!(ratio > 0) && (formerCs > 0 || nowCs > 0)) {
         value = 0;
         return;
     }
     if (formerCs > 0) {
-        value = toCp(value) * Calc.UnitFactorPrevious[7] * formerCs;
+        value = toCp(value) * Calc.UnitFactorPrevious[unit::Viscosity] * formerCs;
     } else if (former == "Pa.s") {
-        value = value * Calc.UnitFactorPrevious[7];
+        value = value * Calc.UnitFactorPrevious[unit::Viscosity];
     }
-    value = nowCs > 0 ? fromCp(value) / nowCs : value / Calc.UnitFactor[7];
+    value = nowCs > 0 ? fromCp(value) / nowCs : value / Calc.UnitFactor[unit::Viscosity];
     value = RoundedFour(Expressible(value));
 }
 
@@ -73,13 +74,15 @@ double Rescaled(double value, int unitRow) {
 }
 
 double GravityOfFirstCase() {
-    const double value = Calc.CaseInput[6][0];
-    return Calc.LiquidDensityMode == words::Density ? value * Calc.UnitFactor[6] / WaterDensity : value;
+    const double value = Calc.CaseInput[input::FlowGravity][0];
+    return Calc.LiquidDensityMode == words::Density
+               ? value * Calc.UnitFactor[unit::LiquidDensity] / WaterDensity
+               : value;
 }
 
 void ConvertLineFlowGas(int caseIndex) {
-    double& flow = Calc.CaseInput[0][At(caseIndex)];
-    const double molecularWeight = Calc.CaseInput[5][At(caseIndex)];
+    double& flow = Calc.CaseInput[input::GasFlow][At(caseIndex)];
+    const double molecularWeight = Calc.CaseInput[input::MolecularWeight][At(caseIndex)];
     Calc.Scratch = flow;
     if (Calc.Basis != Calc.BasisPrevious) {
         if (!(molecularWeight > 0)) {
@@ -89,36 +92,43 @@ void ConvertLineFlowGas(int caseIndex) {
         flow = Calc.Basis == words::Mass ? flow * molecularWeight / MolarVolume
                                          : flow / molecularWeight * MolarVolume;
     }
-    flow = Rescaled(flow, 0);
+    flow = Rescaled(flow, unit::GasFlow);
 }
 
 void ConvertLineFlowLiquid(int caseIndex) {
-    double& flow = Calc.CaseInput[1][At(caseIndex)];
+    double& flow = Calc.CaseInput[input::LiquidFlow][At(caseIndex)];
     if (Calc.LiquidBasis != Calc.LiquidBasisPrevious) {
         TakeFlowGravity(caseIndex);
         flow = Calc.LiquidBasis == words::Mass ? flow * Calc.FlowingSG * WaterPoundsPerGallon
                                                : flow / Calc.FlowingSG / WaterPoundsPerGallon;
     }
-    flow = Rescaled(flow, 1);
+    flow = Rescaled(flow, unit::LiquidFlow);
 }
 
 void ConvertTemperature(int caseIndex) {
     if (Calc.TemperatureBlank[At(caseIndex)] == 1) return;
-    double& value = Calc.CaseInput[2][At(caseIndex)];
-    Calc.FlowTemperatureF = ToDegF(Calc.ChosenUnitRowNames[1], value, Calc.UnitFactorPrevious[2]);
+    double& value = Calc.CaseInput[input::Temperature][At(caseIndex)];
+    Calc.FlowTemperatureF = ToDegF(Calc.ChosenUnitRowNames[chosen::Temperature], value,
+                                   Calc.UnitFactorPrevious[unit::Temperature]);
     value = ConvertedTemperature(value);
 }
 
 void ConvertCritTemperature(int caseIndex) {
-    double& value = Calc.CaseInput[12][At(caseIndex)];
+    double& value = Calc.CaseInput[input::CritTemperature][At(caseIndex)];
     if (value == 0) return;
-    const double degR = ToDegR(Calc.ChosenUnitRowNames[2], value, Calc.UnitFactorPrevious[12]);
-    value = Expressible(FromDegR(Calc.UnitName[12], degR, Calc.UnitFactor[12]));
+    const double degR = ToDegR(Calc.ChosenUnitRowNames[chosen::CritTemperature], value,
+                               Calc.UnitFactorPrevious[unit::CritTemperature]);
+    value = Expressible(
+        FromDegR(Calc.UnitName[unit::CritTemperature], degR, Calc.UnitFactor[unit::CritTemperature]));
 }
 
-void ConvertBoilingPoint(int caseIndex) { ConvertFluidTemperature(Calc.CaseInput[4][At(caseIndex)]); }
+void ConvertBoilingPoint(int caseIndex) {
+    ConvertFluidTemperature(Calc.CaseInput[input::BoilingPoint][At(caseIndex)]);
+}
 
-void ConvertFlashPoint(int caseIndex) { ConvertFluidTemperature(Calc.CaseInput[1][At(caseIndex)]); }
+void ConvertFlashPoint(int caseIndex) {
+    ConvertFluidTemperature(Calc.CaseInput[input::FlashPoint][At(caseIndex)]);
+}
 
 void ConvertViscosityLiquid(int caseIndex) {
     Calc.FlowingSG = GravityOfFirstCase();
@@ -129,7 +139,7 @@ void ConvertViscosityLiquid(int caseIndex) {
 }
 
 void ConvertViscosityGas(int caseIndex) {
-    const double molecularWeight = Calc.CaseInput[5][At(caseIndex)];
+    const double molecularWeight = Calc.CaseInput[input::MolecularWeight][At(caseIndex)];
     const double ratio = molecularWeight > 0 ? MolarViscosity / molecularWeight : 0;
     ConvertViscosity(
         caseIndex, ratio, [ratio](double cs) { return cs / ratio; },
@@ -137,15 +147,17 @@ void ConvertViscosityGas(int caseIndex) {
 }
 
 bool OwnViscosityStays() {
-    const std::string& unit = Calc.UnitName[7];
-    const bool known = CentistokesPerUnit(unit) > 0 || unit == "Pa.s" || Calc.UnitFactor[7] == 1;
-    return !known && unit == Calc.ChosenUnitRowNames[3] && Calc.UnitFactor[7] == Calc.UnitFactorPrevious[7];
+    const std::string& unit = Calc.UnitName[unit::Viscosity];
+    const bool known =
+        CentistokesPerUnit(unit) > 0 || unit == "Pa.s" || Calc.UnitFactor[unit::Viscosity] == 1;
+    return !known && unit == Calc.ChosenUnitRowNames[chosen::Viscosity] &&
+           Calc.UnitFactor[unit::Viscosity] == Calc.UnitFactorPrevious[unit::Viscosity];
 }
 
 void ConvertStandardTemperature() {
-    const std::string& unit = Calc.UnitName[21];
+    const std::string& unit = Calc.UnitName[unit::StdTemperature];
     if (unit != "degF" && unit != "degC") return;
-    Calc.CaseInput[21][0] = RoundedSix(FromDegF(unit, Calc.StdTemperature, 1));
+    Calc.CaseInput[input::StdTemperature][0] = RoundedSix(FromDegF(unit, Calc.StdTemperature, 1));
 }
 
 }  // namespace quillmetra

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "platform/Dialogs.h"
 #include "units/Conversion.h"
@@ -38,29 +39,33 @@ void Renew(double& number, Change change) {
 template <typename Change>
 void ChangePressures(Change change) {
     for (std::size_t i = 0; i < CaseCount; ++i) {
-        for (double* pressure : {&Calc.CaseInput[3][i], &Calc.CaseResult[1][i]}) Renew(*pressure, change);
+        for (double* pressure :
+             {&Calc.CaseInput[input::Pressure][i], &Calc.CaseResult[result::FinalPressure][i]})
+            Renew(*pressure, change);
     }
-    for (const std::size_t element : {14U, 17U}) Renew(Calc.HammerResult[element], change);
+    for (const int element : {wave::Pressure, wave::SelectedPressure})
+        Renew(Calc.HammerResult[element], change);
 }
 
 // The line forms show all cases anew, not only the one in hand.
 void MarkAllCasesConverted() {
-    if (Calc.CurrentProgram == 1 || Calc.CurrentProgram == 2) Calc.UnitsConverted = words::Yes;
+    if (program::IsLine(Calc.CurrentProgram)) Calc.UnitsConverted = words::Yes;
 }
 
 void FillDensityUnit() {
-    if (Calc.UnitFactor[6] != 0 && !Calc.UnitName[6].empty()) return;
-    Calc.UnitFactor[6] = 1;
-    Calc.UnitName[6] = "lb/ft3";
+    if (Calc.UnitFactor[unit::LiquidDensity] != 0 && !Calc.UnitName[unit::LiquidDensity].empty()) return;
+    Calc.UnitFactor[unit::LiquidDensity] = 1;
+    Calc.UnitName[unit::LiquidDensity] = "lb/ft3";
     Tell("Please select the correct density unit", "Temporary variable shown");
 }
 
 double DensityFromGravity(double gravity) {
-    return Expressible(RoundedFour(gravity * WaterDensity / Calc.UnitFactor[6]));
+    return Expressible(RoundedFour(gravity * WaterDensity / Calc.UnitFactor[unit::LiquidDensity]));
 }
 
 double GravityFromDensity(double density) {
-    return Expressible(RoundedFour(Rescaled(density, 6) / WaterDensity * Calc.UnitFactor[6]));
+    return Expressible(RoundedFour(Rescaled(density, unit::LiquidDensity) / WaterDensity *
+                                   Calc.UnitFactor[unit::LiquidDensity]));
 }
 
 }  // namespace
@@ -69,13 +74,13 @@ double GravityFromDensity(double density) {
 void ChangePressureMode(const std::string& mode) {
     const bool toAbsolute = mode == words::Absolute;
     const bool changes = toAbsolute != (Calc.PressureMode == words::Absolute);
-    std::string& unit = Calc.UnitName[3];
+    std::string& unit = Calc.UnitName[unit::Pressure];
     if (changes && (unit.empty() || unit.back() != (toAbsolute ? 'g' : 'a'))) return;
     Calc.PressureMode = mode;
     Calc.PressureModePrevious = mode;
     if (!changes) return;
     if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = 14.7;
-    const double barometer = Calc.BaroPressure / Calc.UnitFactorPrevious[3];
+    const double barometer = Calc.BaroPressure / Calc.UnitFactorPrevious[unit::Pressure];
     if (Calc.NoConversion != words::Yes) {
         ChangePressures([=](double pressure) {
             return toAbsolute ? AbsoluteFromGauge(pressure, barometer)
@@ -93,12 +98,12 @@ void ChangeDensityMode(const std::string& mode) {
     Calc.LiquidDensityModePrevious = mode;
     if (!changes) return;
     if (toDensity) FillDensityUnit();
-    for (double& value : Calc.CaseInput[6]) {
+    for (double& value : Calc.CaseInput[input::FlowGravity]) {
         if (value > 0 && Calc.NoConversion != words::Yes)
             Renew(value, toDensity ? DensityFromGravity : GravityFromDensity);
     }
-    Calc.UnitFactorPrevious[6] = Calc.UnitFactor[6];
-    Calc.UnitNamePrevious[6] = Calc.UnitName[6];
+    Calc.UnitFactorPrevious[unit::LiquidDensity] = Calc.UnitFactor[unit::LiquidDensity];
+    Calc.UnitNamePrevious[unit::LiquidDensity] = Calc.UnitName[unit::LiquidDensity];
     CarryDensityUnit();
     MarkAllCasesConverted();
 }

@@ -22,7 +22,7 @@ const std::array<NamedUnitSet, 4> NamedUnitSets = {{
 
 namespace {
 
-void SetFlowUnit(std::size_t row, const NamedUnitSet::FlowUnit& unit) {
+void SetFlowUnit(int row, const NamedUnitSet::FlowUnit& unit) {
     Calc.UnitName[row] = unit.Name;
     Calc.UnitFactor[row] = unit.Factor;
 }
@@ -31,9 +31,9 @@ void ShowStandardConditions(const char* system, const char* temperature, const c
                             double pressureFactor) {
     Calc.StdConditions = {0, Calc.StdPressure, Calc.StdTemperature, Calc.BaroPressure};
     Calc.UnitSystem = system;
-    Calc.UnitName[21] = temperature;
-    Calc.UnitFactor[21] = 1;
-    for (const std::size_t row : {22U, 23U}) {
+    Calc.UnitName[unit::StdTemperature] = temperature;
+    Calc.UnitFactor[unit::StdTemperature] = 1;
+    for (const int row : {unit::StdPressure, unit::Barometer}) {
         Calc.UnitName[row] = pressure;
         Calc.UnitFactor[row] = pressureFactor;
     }
@@ -50,12 +50,12 @@ bool ApplyNamedUnitSet(int set) {
         Calc.GasUnitSet = set;
         Calc.BasisPrevious = Calc.Basis;
         Calc.Basis = found->Basis;
-        SetFlowUnit(0, found->Gas);
+        SetFlowUnit(unit::GasFlow, found->Gas);
     } else {
         Calc.LiquidUnitSet = set;
         Calc.LiquidBasisPrevious = Calc.LiquidBasis;
         Calc.LiquidBasis = found->Basis;
-        SetFlowUnit(1, found->Liquid);
+        SetFlowUnit(unit::LiquidFlow, found->Liquid);
     }
     Calc.UnitSetName = found->Name;
     if (found->System == words::English) {
@@ -72,16 +72,16 @@ bool ApplyNamedUnitSet(int set) {
 
 void STPEnglish() {
     ShowStandardConditions(words::English, "degF", "psia", 1);
-    Calc.CaseInput[21][0] = Calc.StdTemperature;
-    Calc.CaseInput[22][0] = Calc.StdPressure;
-    Calc.CaseInput[23][0] = Calc.BaroPressure;
+    Calc.CaseInput[input::StdTemperature][0] = Calc.StdTemperature;
+    Calc.CaseInput[input::StdPressure][0] = Calc.StdPressure;
+    Calc.CaseInput[input::Barometer][0] = Calc.BaroPressure;
 }
 
 void STPSI() {
     ShowStandardConditions(words::SI, "degC", "kPaa", PsiPerKPa);
-    Calc.CaseInput[21][0] = RoundedSix((Calc.StdTemperature - 32) / 1.8);
-    Calc.CaseInput[22][0] = RoundedSix(Calc.StdPressure / PsiPerKPa);
-    Calc.CaseInput[23][0] = RoundedSix(Calc.BaroPressure / PsiPerKPa);
+    Calc.CaseInput[input::StdTemperature][0] = RoundedSix((Calc.StdTemperature - 32) / 1.8);
+    Calc.CaseInput[input::StdPressure][0] = RoundedSix(Calc.StdPressure / PsiPerKPa);
+    Calc.CaseInput[input::Barometer][0] = RoundedSix(Calc.BaroPressure / PsiPerKPa);
 }
 
 }  // namespace quillmetra

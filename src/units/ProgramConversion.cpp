@@ -5,6 +5,7 @@
 #include <span>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "platform/Forms.h"
 #include "units/Conversion.h"
@@ -14,8 +15,6 @@
 namespace quillmetra {
 
 namespace {
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 // --- Rows that go by factors alone -----------------------------------------------------------------------
 
@@ -207,12 +206,13 @@ void ConvertCommonRows() {
         for (const InputRow& row : CommonInputs) {
             if (Applies(row)) Rescale(Calc.CaseInput[At(row.Row)][i], row.UnitRow);
         }
-        if (Calc.CurrentProgram == 1) {
-            const double value = Calc.CaseInput[6][i];
-            Calc.FlowingSG =
-                Calc.LiquidDensityMode == words::Density ? value / WaterDensity * Calc.UnitFactor[6] : value;
+        if (Calc.CurrentProgram == program::LiquidLine) {
+            const double value = Calc.CaseInput[input::FlowGravity][i];
+            Calc.FlowingSG = Calc.LiquidDensityMode == words::Density
+                                 ? value / WaterDensity * Calc.UnitFactor[unit::LiquidDensity]
+                                 : value;
         }
-        Calc.CaseResult[0][i] = RescaledLoss(Calc.CaseResult[0][i]);
+        Calc.CaseResult[result::LossPer100][i] = RescaledLoss(Calc.CaseResult[result::LossPer100][i]);
         for (const ElementRow& row : CommonResults) Rescale(Calc.CaseResult[At(row.Element)][i], row.UnitRow);
     }
     Rescale(Calc.CaseResult[result::EquivLength][0], unit::Length);
@@ -277,10 +277,10 @@ void ConvertProgramData(ZeroTemperature zero) {
 
 void SetForceUnit() {
     constexpr double inch = 1, foot = 12;
-    const double pipeFactor = Calc.UnitFactor[18];
+    const double pipeFactor = Calc.UnitFactor[unit::PipeSize];
     const bool english = pipeFactor == inch || pipeFactor == foot;
-    Calc.UnitName[0] = english ? "lb" : "kg";
-    Calc.UnitFactor[0] = english ? 1 : 2.2046;
+    Calc.UnitName[unit::Force] = english ? "lb" : "kg";
+    Calc.UnitFactor[unit::Force] = english ? 1 : 2.2046;
 }
 
 }  // namespace quillmetra

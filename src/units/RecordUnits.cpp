@@ -25,9 +25,9 @@ void RememberUnits() {
 }
 
 void RenewChosenUnitNames() {
-    Calc.ChosenUnitRowNames[1] = Calc.UnitName[2];
-    Calc.ChosenUnitRowNames[2] = Calc.UnitName[12];
-    Calc.ChosenUnitRowNames[3] = Calc.UnitName[7];
+    Calc.ChosenUnitRowNames[chosen::Temperature] = Calc.UnitName[unit::Temperature];
+    Calc.ChosenUnitRowNames[chosen::CritTemperature] = Calc.UnitName[unit::CritTemperature];
+    Calc.ChosenUnitRowNames[chosen::Viscosity] = Calc.UnitName[unit::Viscosity];
 }
 
 }  // namespace quillmetra

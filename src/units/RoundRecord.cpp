@@ -33,8 +33,8 @@ void RoundFirst(Values& values, std::size_t count, Rounder rounder) {
 
 void RoundRecord() {
     if (!WantsRounding()) return;
-    constexpr std::size_t inputRows = 28;
-    for (std::size_t row = 0; row < inputRows; ++row) RoundFirst(Calc.CaseInput[row], CaseCount, RoundedSix);
+    for (std::size_t row = 0; row < input::Count; ++row)
+        RoundFirst(Calc.CaseInput[row], CaseCount, RoundedSix);
     for (auto& results : Calc.CaseResult) RoundFirst(results, CaseCount, RoundedSix);
     RoundFirst(Calc.PipeData, Calc.PipeData.size(), RoundedSix);
     RoundFirst(Calc.HammerResult, Calc.HammerResult.size(), RoundedFour);

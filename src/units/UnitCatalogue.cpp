@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 
@@ -226,11 +227,11 @@ void ResetSIUnits() { ResetUnits(false); }
 
 void CarryDensityUnit() {
     const bool lineDensity =
-        (Calc.CurrentProgram == 1 || Calc.CurrentProgram == 3) && Calc.LiquidDensityMode == words::Density;
-    if (!lineDensity && Calc.CurrentProgram != 4) return;
+        program::TakesDensity(Calc.CurrentProgram) && Calc.LiquidDensityMode == words::Density;
+    if (!lineDensity && Calc.CurrentProgram != program::LiquidData) return;
     const std::size_t row = lineDensity ? 6 : 9;
-    Calc.UnitName[5] = Calc.UnitName[row];
-    Calc.UnitFactor[5] = Calc.UnitFactor[row];
+    Calc.UnitName[unit::UserDensity] = Calc.UnitName[row];
+    Calc.UnitFactor[unit::UserDensity] = Calc.UnitFactor[row];
 }
 
 }  // namespace quillmetra

@@ -19,7 +19,7 @@ namespace {
 
 using Library = decltype(Suite.UnitLibrary);
 
-std::string FileName() { return Suite.DefaultPaths[4] + "\\TRLib.TXT"; }
+std::string FileName() { return Suite.DefaultPaths[path::DataFiles] + "\\TRLib.TXT"; }
 
 Library ReadFile() {
     LineReader file(FileName());

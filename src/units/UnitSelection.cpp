@@ -14,13 +14,37 @@ namespace {
 
 constexpr int OperatingPressures = 5;
 
-constexpr std::array<int, UnitPositions + 1> LiquidOrder = {0, 1, 5, 2, 3, 4, 7, 20, 27, 18, 25, 9, 7};
-constexpr std::array<int, UnitPositions + 1> GasOrder = {0, 0, 19, 2, 3, 4, 12, 11, 20, 13, 18, 25, 9};
+constexpr std::array<int, UnitPositions + 1> LiquidOrder = {0,
+                                                            unit::LiquidFlow,
+                                                            unit::LiquidTimeBase,
+                                                            unit::Temperature,
+                                                            unit::Pressure,
+                                                            unit::PressureDrop,
+                                                            unit::Viscosity,
+                                                            unit::Velocity,
+                                                            unit::Modulus,
+                                                            unit::PipeSize,
+                                                            unit::Length,
+                                                            unit::Density,
+                                                            unit::Viscosity};
+constexpr std::array<int, UnitPositions + 1> GasOrder = {0,
+                                                         unit::GasFlow,
+                                                         unit::GasTimeBase,
+                                                         unit::Temperature,
+                                                         unit::Pressure,
+                                                         unit::PressureDrop,
+                                                         unit::CritTemperature,
+                                                         unit::CritPressure,
+                                                         unit::Velocity,
+                                                         unit::GasViscosity,
+                                                         unit::PipeSize,
+                                                         unit::Length,
+                                                         unit::Density};
 
 const UnitRow::Choice& ChoiceOf(int row) {
     const UnitRow& unitRow = UnitRows.at(static_cast<std::size_t>(row));
-    const std::string& basis = row == 0 ? Calc.Basis : Calc.LiquidBasis;
-    return row <= 1 && basis == words::Volume ? unitRow.OnVolume : unitRow.OnMass;
+    const std::string& basis = row == unit::GasFlow ? Calc.Basis : Calc.LiquidBasis;
+    return row <= unit::LiquidFlow && basis == words::Volume ? unitRow.OnVolume : unitRow.OnMass;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "platform/NumberText.h"
@@ -20,9 +21,13 @@ namespace quillmetra {
 
 namespace {
 
-// The pairs of the file in their order. Row 5 of a liquid holds the density unit.
-constexpr std::array<std::size_t, 10> LiquidRows = {1, 2, 3, 4, 7, 20, 27, 18, 25, 5};
-constexpr std::array<std::size_t, 10> GasRows = {0, 2, 3, 4, 12, 11, 20, 13, 18, 25};
+// The pairs of the file in their order.
+constexpr std::array<int, 10> LiquidRows = {
+    unit::LiquidFlow, unit::Temperature, unit::Pressure, unit::PressureDrop, unit::Viscosity,
+    unit::Velocity,   unit::Modulus,     unit::PipeSize, unit::Length,       unit::UserDensity};
+constexpr std::array<int, 10> GasRows = {
+    unit::GasFlow,      unit::Temperature, unit::Pressure,     unit::PressureDrop, unit::CritTemperature,
+    unit::CritPressure, unit::Velocity,    unit::GasViscosity, unit::PipeSize,     unit::Length};
 
 struct UserSet {
     std::string Basis = words::Mass;
@@ -38,7 +43,7 @@ struct UserFile {
     double BaroPressure = 0;  // psia
 };
 
-std::string FileName() { return Suite.DefaultPaths[2] + "\\TRUNS.txt"; }
+std::string FileName() { return Suite.DefaultPaths[path::UserUnits] + "\\TRUNS.txt"; }
 
 // --- Reading ---------------------------------------------------------------------------------------------
 
@@ -60,10 +65,10 @@ int NextUnitSet(LineReader& file) {
     return 0;
 }
 
-void ReadSet(LineReader& file, UserSet& set, std::span<const std::size_t> rows) {
+void ReadSet(LineReader& file, UserSet& set, std::span<const int> rows) {
     set.Basis = NextWord(file, words::Mass, words::Volume);
     set.UnitSet = NextUnitSet(file);
-    for (const std::size_t row : rows) {
+    for (const int row : rows) {
         set.Names[row] = FirstCharacters(file.NextWhole(), LongestUnitName);
         const double factor = NextNumber(file);
         set.Factors[row] = IsUsableFactor(factor) ? factor : 0;
@@ -76,8 +81,8 @@ UserFile ReadFile() {
     UserFile read;
     ReadSet(file, read.Liquid, LiquidRows);
     ReadSet(file, read.Gas, GasRows);
-    read.Gas.Names[7] = read.Gas.Names[13];
-    read.Gas.Factors[7] = read.Gas.Factors[13];
+    read.Gas.Names[unit::Viscosity] = read.Gas.Names[unit::GasViscosity];
+    read.Gas.Factors[unit::Viscosity] = read.Gas.Factors[unit::GasViscosity];
     read.PressureMode = NextWord(file, words::Gauge, words::Absolute);
     read.DensityMode = NextWord(file, words::Gravity, words::Density);
     read.BaroPressure = NextNumber(file);
@@ -109,14 +114,15 @@ void TakeBootSet() {
 // In the fluid data programs these follow the family of the pressure unit, whatever the set holds. The
 // gauge names of row 8 stand, although vapor pressures are absolute.
 struct FamilyUnit {
-    std::size_t Row;
+    int Row;
     const char* English;
     const char* SI;
     double SIFactor;
 };
 constexpr FamilyUnit FamilyUnits[] = {
-    {8, "psig", "kPag", 0.14504}, {9, "lb/ft3", "kg/m3", 0.062428}, {11, "psia", "kPaa", 0.14504},
-    {12, "degR", "degK", 1},      {16, "btu/lb", "kJ/kg", 0.42992},
+    {unit::VaporPressure, "psig", "kPag", 0.14504}, {unit::Density, "lb/ft3", "kg/m3", 0.062428},
+    {unit::CritPressure, "psia", "kPaa", 0.14504},  {unit::CritTemperature, "degR", "degK", 1},
+    {unit::LatentHeat, "btu/lb", "kJ/kg", 0.42992},
 };
 
 void TakeFamilyUnits(bool english) {
@@ -134,7 +140,7 @@ void TakeUnit(std::size_t row, const std::string& name, double factor) {
 
 // The set may have been saved in the other pressure mode.
 void MatchPressureEnding() {
-    std::string& unit = Calc.UnitName[3];
+    std::string& unit = Calc.UnitName[unit::Pressure];
     if (unit.empty() || (unit.back() != 'g' && unit.back() != 'a')) return;
     unit.back() = Calc.PressureMode == words::Absolute ? 'a' : 'g';
 }
@@ -143,35 +149,36 @@ void TakeLiquidSet() {
     Calc.LiquidUnitSet = UserUnitSet;
     Calc.LiquidBasisPrevious = Calc.LiquidBasis;
     Calc.LiquidBasis = Suite.UserLiquidBasis;
-    for (const std::size_t row : LiquidRows) {
+    for (const int row : LiquidRows) {
         TakeUnit(row, Suite.UserLiquidUnitName[row], Suite.UserLiquidUnitFactor[row]);
     }
     // A set of earlier days may have a time base there.
-    const bool density = !Calc.UnitName[5].empty() && Calc.UnitName[5].front() != '/';
-    for (const std::size_t row : {6U, 9U}) {
-        if (density) TakeUnit(row, Calc.UnitName[5], Calc.UnitFactor[5]);
+    const bool density =
+        !Calc.UnitName[unit::UserDensity].empty() && Calc.UnitName[unit::UserDensity].front() != '/';
+    for (const int row : {unit::LiquidDensity, unit::Density}) {
+        if (density) TakeUnit(row, Calc.UnitName[unit::UserDensity], Calc.UnitFactor[unit::UserDensity]);
     }
-    Calc.UnitName[5].clear();
-    Calc.UnitFactor[5] = 1;
+    Calc.UnitName[unit::UserDensity].clear();
+    Calc.UnitFactor[unit::UserDensity] = 1;
 }
 
 void TakeGasSet() {
     Calc.GasUnitSet = UserUnitSet;
     Calc.BasisPrevious = Calc.Basis;
     Calc.Basis = Suite.UserGasBasis;
-    for (const std::size_t row : GasRows) {
+    for (const int row : GasRows) {
         TakeUnit(row, Suite.UserGasUnitName[row], Suite.UserGasUnitFactor[row]);
     }
-    TakeUnit(7, Calc.UnitName[13], Calc.UnitFactor[13]);
+    TakeUnit(unit::Viscosity, Calc.UnitName[unit::GasViscosity], Calc.UnitFactor[unit::GasViscosity]);
 }
 
 // --- Writing ---------------------------------------------------------------------------------------------
 
-void WriteSet(TextWriter& file, const std::string& basis, int set, std::span<const std::size_t> rows,
+void WriteSet(TextWriter& file, const std::string& basis, int set, std::span<const int> rows,
               const UnitNames& names, const UnitFactors& factors) {
     file.Line(basis);
     file.Number(set);
-    for (const std::size_t row : rows) {
+    for (const int row : rows) {
         file.Line(names[row]);
         file.Number(factors[row]);
     }
@@ -209,8 +216,8 @@ bool ReadUserUnits() {
     } catch (const RuntimeError&) {
         KeepUserSets({});
         ResetEnglishUnits();
-        Calc.UnitName[0] = "lb/h";
-        Calc.UnitFactor[0] = 1;
+        Calc.UnitName[unit::GasFlow] = "lb/h";
+        Calc.UnitFactor[unit::GasFlow] = 1;
         return false;
     }
 }
@@ -221,10 +228,10 @@ bool WriteUserUnits() {
         TextWriter file(FileName());
         const UnitFactors& liquid = Suite.UserLiquidUnitFactor;
         const UnitFactors& gas = Suite.UserGasUnitFactor;
-        WriteSet(file, BasisToWrite(liquid[1], Suite.UserLiquidBasis, Calc.LiquidBasis), Suite.LiquidBootSet,
-                 LiquidRows, Suite.UserLiquidUnitName, liquid);
-        WriteSet(file, BasisToWrite(gas[0], Suite.UserGasBasis, Calc.Basis), Suite.GasBootSet, GasRows,
-                 Suite.UserGasUnitName, gas);
+        WriteSet(file, BasisToWrite(liquid[unit::LiquidFlow], Suite.UserLiquidBasis, Calc.LiquidBasis),
+                 Suite.LiquidBootSet, LiquidRows, Suite.UserLiquidUnitName, liquid);
+        WriteSet(file, BasisToWrite(gas[unit::GasFlow], Suite.UserGasBasis, Calc.Basis), Suite.GasBootSet,
+                 GasRows, Suite.UserGasUnitName, gas);
         file.Line(Calc.PressureMode);
         file.Line(Suite.BootDensityMode);
         file.Number(Calc.BaroPressure);
@@ -238,15 +245,16 @@ bool WriteUserUnits() {
 bool TakeUserUnitSet() {
     const bool gas = Calc.FluidType == words::Gas;
     const UnitFactors& factors = gas ? Suite.UserGasUnitFactor : Suite.UserLiquidUnitFactor;
-    if (!IsUsableFactor(factors[gas ? 0 : 1])) return false;
-    const bool english = factors[3] == 1 || !IsUsableFactor(factors[3]);
+    if (!IsUsableFactor(factors[gas ? unit::GasFlow : unit::LiquidFlow])) return false;
+    const bool english = factors[unit::Pressure] == 1 || !IsUsableFactor(factors[unit::Pressure]);
     english ? ResetEnglishUnits() : ResetSIUnits();
     gas ? TakeGasSet() : TakeLiquidSet();
     MatchPressureEnding();
-    if (Calc.CurrentProgram == 4 || Calc.CurrentProgram == 5) TakeFamilyUnits(english);
+    if (program::IsFluidData(Calc.CurrentProgram)) TakeFamilyUnits(english);
     // A liquid's two densities have one unit.
-    if (Calc.CurrentProgram == 4) TakeUnit(6, Calc.UnitName[9], Calc.UnitFactor[9]);
-    Calc.UnitName[2] == "degF" ? STPEnglish() : STPSI();
+    if (Calc.CurrentProgram == program::LiquidData)
+        TakeUnit(unit::LiquidDensity, Calc.UnitName[unit::Density], Calc.UnitFactor[unit::Density]);
+    Calc.UnitName[unit::Temperature] == "degF" ? STPEnglish() : STPSI();
     Calc.UnitSetName = SelectedUnitsName;
     CarryDensityUnit();
     MendUnitFactors();
@@ -257,16 +265,18 @@ void StoreUserUnitSet() {
     if (Calc.FluidType == words::Gas) {
         Suite.UserGasUnitName = Calc.UnitName;
         Suite.UserGasUnitFactor = Calc.UnitFactor;
-        Suite.UserGasUnitName[13] = Calc.UnitName[7];
-        Suite.UserGasUnitFactor[13] = Calc.UnitFactor[7];
+        Suite.UserGasUnitName[unit::GasViscosity] = Calc.UnitName[unit::Viscosity];
+        Suite.UserGasUnitFactor[unit::GasViscosity] = Calc.UnitFactor[unit::Viscosity];
         Suite.UserGasBasis = Calc.Basis;
         return;
     }
-    const std::size_t density = Calc.LiquidDensityMode == words::Density && Calc.CurrentProgram != 4 ? 6 : 9;
+    const int density = Calc.LiquidDensityMode == words::Density && Calc.CurrentProgram != program::LiquidData
+                            ? unit::LiquidDensity
+                            : unit::Density;
     Suite.UserLiquidUnitName = Calc.UnitName;
     Suite.UserLiquidUnitFactor = Calc.UnitFactor;
-    Suite.UserLiquidUnitName[5] = Calc.UnitName[density];
-    Suite.UserLiquidUnitFactor[5] = Calc.UnitFactor[density];
+    Suite.UserLiquidUnitName[unit::UserDensity] = Calc.UnitName[density];
+    Suite.UserLiquidUnitFactor[unit::UserDensity] = Calc.UnitFactor[density];
     Suite.UserLiquidBasis = Calc.LiquidBasis;
 }
 

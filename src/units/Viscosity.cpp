@@ -6,14 +6,14 @@
 namespace quillmetra {
 
 double LiquidViscosityShown(double viscosity, double gravity) {
-    const double shown = viscosity / Calc.UnitFactor[7];
-    const double centistokes = CentistokesPerUnit(Calc.UnitName[7]);
+    const double shown = viscosity / Calc.UnitFactor[unit::Viscosity];
+    const double centistokes = CentistokesPerUnit(Calc.UnitName[unit::Viscosity]);
     return centistokes > 0 ? shown / gravity / centistokes : shown;
 }
 
 double GasViscosityShown(double viscosity, double molecularWeight) {
-    const double shown = viscosity / Calc.UnitFactor[7];
-    const double centistokes = CentistokesPerUnit(Calc.UnitName[7]);
+    const double shown = viscosity / Calc.UnitFactor[unit::Viscosity];
+    const double centistokes = CentistokesPerUnit(Calc.UnitName[unit::Viscosity]);
     return centistokes > 0 ? shown * MolarViscosity / molecularWeight / centistokes : shown;
 }
 
