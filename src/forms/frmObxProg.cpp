@@ -53,7 +53,7 @@ void frmObxProg::Load() {
         Calc.HeadingText[heading::Note1].clear();
         Calc.HeadingText[heading::Note2].clear();
     }
-    if (Calc.CurrentProgram == 0) Calc.CurrentProgram = 1;
+    if (Calc.CurrentProgram == 0) Calc.CurrentProgram = program::LiquidLine;
     SetCaption(Suite.VersionText + "New Calculation");
     optProgram(Calc.CurrentProgram).SetChecked(true);
 }

@@ -12,8 +12,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t PressureList = 5;
-
 struct DefaultUnit {
     const char* Name = "";
     double Factor = 0;
@@ -125,7 +123,7 @@ constexpr std::array<DefaultList, 21> DefaultUnits = {{
 }};
 
 // The operating pressures of list 5 without their ending are the pressure drops.
-constexpr const DefaultList& DefaultStems = DefaultUnits[6];
+constexpr const DefaultList& DefaultStems = DefaultUnits[unitlist::PressureDrop];
 
 void Fill(UnitList& list, const DefaultList& defaults) {
     for (std::size_t line = 0; line < defaults.size(); ++line) {
@@ -201,7 +199,8 @@ void ClearUnitLibrary() {
 void ApplyPressureSuffix() {
     for (std::size_t line = 1; line < Suite.PressureStem.size(); ++line) {
         const std::string& stem = Suite.PressureStem[line].Name;
-        Suite.UnitLibrary[PressureList][line].Name = stem.empty() ? "" : stem + PressureEnding();
+        Suite.UnitLibrary[unitlist::OperatingPressure][line].Name =
+            stem.empty() ? "" : stem + PressureEnding();
     }
 }
 

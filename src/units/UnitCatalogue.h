@@ -9,6 +9,12 @@
 
 namespace quillmetra {
 
+// Lists of Suite.UnitLibrary that are more than a choice of the user's; all 21 stand in UnitCatalogue.cpp.
+namespace unitlist {
+inline constexpr int OperatingPressure = 5;
+inline constexpr int PressureDrop = 6;
+}  // namespace unitlist
+
 constexpr std::size_t LongestUnitName = 8;  // characters, as the database holds them
 
 // Fills Suite.UnitLibrary and Suite.PressureStem with the suite's own units, line by line. It clears

@@ -36,7 +36,7 @@ Library ReadFile() {
 
 void RebuildPressureStems() {
     for (std::size_t line = 1; line < Suite.PressureStem.size(); ++line) {
-        const UnitLine& unit = Suite.UnitLibrary[5][line];
+        const UnitLine& unit = Suite.UnitLibrary[unitlist::OperatingPressure][line];
         const std::string stem = WithoutLastCharacter(unit.Name);
         Suite.PressureStem[line] = stem.empty() ? UnitLine{} : UnitLine{stem, unit.Factor};
     }

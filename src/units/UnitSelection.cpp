@@ -12,8 +12,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr int OperatingPressures = 5;
-
 constexpr std::array<int, UnitPositions + 1> LiquidOrder = {0,
                                                             unit::LiquidFlow,
                                                             unit::LiquidTimeBase,
@@ -71,7 +69,7 @@ double FindUnitFactor(int list, const std::string& name) {
 
 void ReplaceUnitLine(int list, int line, const std::string& name, double factor) {
     Suite.UnitLibrary.at(static_cast<std::size_t>(list)).at(static_cast<std::size_t>(line)) = {name, factor};
-    if (list != OperatingPressures) return;
+    if (list != unitlist::OperatingPressure) return;
     UnitLine& stem = Suite.PressureStem.at(static_cast<std::size_t>(line));
     stem = {WithoutLastCharacter(name), factor};
 }
