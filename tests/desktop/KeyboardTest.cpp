@@ -293,9 +293,9 @@ TEST_P(EveryForm, AKeyThatABoxDoesNotUseLeavesTheKeyboardThere) {
     for (const int code : KeyCodes()) {
         for (const Qt::KeyboardModifier held :
              {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
-            const bool types = held == Qt::NoModifier || held == Qt::ShiftModifier;
+            const bool types = code < 0x100 && (held == Qt::NoModifier || held == Qt::ShiftModifier);
             const QKeyEvent key(QEvent::KeyPress, code, held, types ? QString(QChar(code)) : QString());
-            if (IsUsed(form, NameOfKey(key)) || (stop.KeyPress && types && code < 0x100)) continue;
+            if (IsUsed(form, NameOfKey(key)) || (stop.KeyPress && types)) continue;
             if (!isBox(&stop) && (code == Qt::Key_Space || (code >= Qt::Key_Left && code <= Qt::Key_Down)))
                 continue;
             const std::string before = stop.Text();
