@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -87,10 +88,17 @@ private:
         QTimer::singleShot(0, this, [this, boxes = held.Boxes()] {
             const QPointer<HeadView> self(this);
             CloseMenus();
-            bar_->setActiveAction(nullptr);
+            LeaveBar();
             for (const MessageBox& box : boxes) ShowMessage(box);
             if (self != nullptr) closed_();
         });
+    }
+
+    // As the user leaves it: without an active head alone the bar would count as open, and hovering would
+    // open a menu.
+    void LeaveBar() {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(bar_, &escape);
     }
 
     void Hidden() {

@@ -146,6 +146,10 @@ TEST_F(WindowTest, AHeadThatPutsUpABoxKeepsItsEntriesShut) {
     EXPECT_TRUE(boxShown);
     EXPECT_FALSE(refused.isVisible());
     EXPECT_EQ(bar.activeAction(), nullptr);
+    const QPointF head = bar.actionGeometry(bar.actions().at(0)).center();
+    QMouseEvent hover(QEvent::MouseMove, head, bar.mapToGlobal(head), Qt::NoButton, {}, {});
+    QCoreApplication::sendEvent(&bar, &hover);
+    EXPECT_FALSE(opened.isVisible());
     click(0);
     EXPECT_TRUE(opened.isVisible());
     opened.close();
