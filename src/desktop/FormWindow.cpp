@@ -44,12 +44,12 @@ bool FormRules(const std::string& key) {
     return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab" || key == "F1";
 }
 
-// A letter with Alt that is nobody's access key is no text; a keyboard that makes another character with it
-// is.
+// A character with Alt that is nobody's access key is no text, least of all a digit of a number; a keyboard
+// that makes another character with it is.
 bool IsStrayAccessKey(const QKeyEvent& event) {
     const auto held = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
     const QString text = event.text();
-    return held == Qt::AltModifier && text.size() == 1 && text.at(0).isLetter() &&
+    return held == Qt::AltModifier && text.size() == 1 && text.at(0).isPrint() &&
            text.at(0).toUpper() == QChar(static_cast<char16_t>(event.key()));
 }
 

@@ -300,7 +300,7 @@ TEST_P(EveryForm, AKeyThatABoxDoesNotUseLeavesTheKeyboardThere) {
                 continue;
             const std::string before = stop.Text();
             QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(code), held);
-            if (held == Qt::AltModifier && code >= Qt::Key_A && code <= Qt::Key_Z) {
+            if (held == Qt::AltModifier && code >= Qt::Key_Space && code <= Qt::Key_Z) {
                 EXPECT_EQ(stop.Text(), before);
             }
             Settle();
