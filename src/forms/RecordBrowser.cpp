@@ -100,7 +100,7 @@ bool frmTRProg::OpenView() {
     const BusyPointer busy;
     try {
         view_ = std::make_unique<RecordView>(Suite.DatabaseFile);
-        SetStatus(StandingStatus());
+        ShowStanding();
         return true;
     } catch (const RuntimeError& error) {
         SetStatus(HintOnFailure(error));
@@ -142,7 +142,7 @@ void frmTRProg::CloseView() {
 // The record that a calculation has left, which may be new; the one shown before when it has left none.
 void frmTRProg::Activated() {
     if (view_ == nullptr) {
-        if (Status().empty()) SetStatus(StandingStatus());
+        if (Status().empty() || Status() == standing_) ShowStanding();
         return;
     }
     // A calculation may have been saved to another database; what is done here is done to the one shown.
@@ -253,7 +253,7 @@ void frmTRProg::cmdSelect_Click() {
 
 void frmTRProg::cmdCancel_Click() {
     ShowTags(false);
-    SetStatus(StandingStatus());
+    ShowStanding();
     cmdBrowse.SetFocus();
 }
 

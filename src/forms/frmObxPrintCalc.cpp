@@ -191,7 +191,8 @@ void frmObxPrintCalc::mnuPdf_Click() {
     const auto job = AskPdf(Calc.Tag);
     if (!job) return;
     StoreHeadings();
-    if (Print(*job, 1)) SetStatus(PrintedPages(*job));
+    SetStatus(Print(*job, 1) ? PrintedPages(*job)
+                             : "");  // a page that failed leaves no words of one before it
 }
 
 // Prints the record in hand on a paper of its own; false after a failure, which is told.

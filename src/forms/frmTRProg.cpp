@@ -84,7 +84,7 @@ void frmTRProg::Load() {
     SetCaption(Suite.VersionText + SuiteName);
     LoadDefaults();
     CloseView();
-    SetStatus(StandingStatus());
+    ShowStanding();
 }
 
 void frmTRProg::cmdOK_Click() {
@@ -104,10 +104,15 @@ void frmTRProg::mnuDoNotShow_Click() {
     Suite.HideFluidReminder = Suite.HideRoundReminder = Suite.HideFlowStatus = word;
     mnuDoNotShow.SetChecked(PromptsAreHidden());
     SaveStandardConditions();
-    SetStatus(StandingStatus());
+    ShowStanding();
 }
 
 std::string frmTRProg::StandingStatus() const { return FileConditionsHint(); }
+
+void frmTRProg::ShowStanding() {
+    standing_ = StandingStatus();
+    SetStatus(standing_);
+}
 
 void frmTRProg::mnuAbout_Click() {
     Tell(std::string(SuiteName) + "\n" + Suite.VersionText, SuiteName, Icon::Information);

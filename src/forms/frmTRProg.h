@@ -124,6 +124,7 @@ public:
 private:
     // Standard conditions that a new calculation had better not start from.
     std::string StandingStatus() const override;
+    void ShowStanding();
     void HookDatabase();
     // Sets Suite.DatabasePath and DatabaseFile from the chosen path; false, after a message, when there is
     // none.
@@ -137,6 +138,7 @@ private:
 
     std::unique_ptr<RecordView> view_;  // null while no database is open
     int shownTags_ = 0;
+    std::string standing_;  // as it was shown last: a file written since may say otherwise
     std::array<MenuItem*, 12> ColourEntries();
     void HookColours();
 };

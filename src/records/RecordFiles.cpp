@@ -90,9 +90,8 @@ std::optional<RuntimeError> FaultOf(const std::string& name) {
         database->Reindex();
         return {};
     } catch (const RuntimeError& error) {
-        const bool noRight =
-            error.Number == failure::PathAccess().Number || IsWriteProtected(MachinePath(name));
-        if (noRight || IsLock(error)) throw;
+        if (error.Number == failure::PathAccess().Number || IsLock(error)) throw;
+        if (IsWriteProtected(MachinePath(name))) throw WriteProtected(MachinePath(name));
         return error;
     }
 }
@@ -211,7 +210,6 @@ RepairReport RepairDB(const std::string& folder) {
     const std::optional<RuntimeError> fault = FaultOf(name);
     if (!fault) return {};
     const fs::path file = MachinePath(name);
-    if (IsWriteProtected(file)) throw WriteProtected(file);
     const FileStamp stamp = StampOf(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch aside(InFolder(folder, "TRDB.BAD.new"));

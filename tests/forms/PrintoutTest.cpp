@@ -120,11 +120,15 @@ TEST_F(Printout, SaysWhereThePagesWentOrThatThereAreNone) {
     EXPECT_TRUE(User.Proposed.ends_with("\\FT-1-2.pdf")) << User.Proposed;
     EXPECT_EQ(printout.Status(), "1 page: one.of.PDF");
     EXPECT_EQ(Calc.HeadingText[1], "");  // the prompt is no date
+    User.PagesUntilFailure = 0;
+    ClickControl(printout.mnuPdf);
+    EXPECT_EQ(printout.Status(), "") << "the words of the page before it";
     WriteData("two.pdf", "of the user");
     User.ChosenFile = SuitePath(DataFolder() / "two");  // a dialog has seen no file of that name
     ClickControl(printout.mnuPdf);
     EXPECT_TRUE(User.LastText().ends_with("two.pdf is there already\nReplace it?")) << User.LastText();
-    EXPECT_EQ(User.Jobs.size(), 1U);
+    EXPECT_EQ(User.Jobs.size(), 2U);
+    User.PagesUntilFailure = -1;
     User.Printing = PrinterChoice{.FromPage = 3, .ToPage = 5};
     ClickControl(printout.cmdOK);
     EXPECT_EQ(User.LastText(), "There is no page 3 to 5");

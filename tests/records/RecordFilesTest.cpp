@@ -193,6 +193,10 @@ TEST_F(RecordFilesTest, RightsAreKeptAndAsked) {
     }));
     fs::permissions(File(), fs::perms(isRoot ? 0600 : 0));
     EXPECT_TRUE(AsAnotherUser([&] { return OpenFailure() == denied; }));
+    fs::permissions(File(), fs::perms(0600));
+    damage();
+    fs::permissions(File(), fs::perms(isRoot ? 0644 : 0444));
+    EXPECT_TRUE(AsAnotherUser([&] { return FailureOf([] { RepairDB(Suite.DatabasePath); }) == denied; }));
 }
 
 // A database without the table of settings, as one made elsewhere, opens and gets it with the first save.

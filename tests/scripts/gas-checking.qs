@@ -239,4 +239,9 @@ click cmdCalculate(1)
 expect-message Transition
 expect-status "Standard pressure and temperature are 60 psia and 14.7 degF: check Base conditions."
 expect txtDestPress(1) 95.78
+# The refusal above has written the file, and so turned the two round again: the browser goes by what it says now.
+answer No
+click mnuProgram
+expect-message Save changes?
+expect-status ""
 quit
