@@ -27,7 +27,21 @@ bool UnitsHaveChanged() {
            Calc.Basis != Calc.BasisPrevious || Calc.LiquidBasis != Calc.LiquidBasisPrevious;
 }
 
+namespace {
+
+// A factor that went through a database has seven digits: with all of its digits it is the same unit.
+void TakeAllDigits() {
+    for (std::size_t row = 0; row < Calc.UnitFactor.size(); ++row) {
+        double& former = Calc.UnitFactorPrevious[row];
+        const double now = Calc.UnitFactor[row];
+        if (static_cast<float>(former) == static_cast<float>(now)) former = now;
+    }
+}
+
+}  // namespace
+
 void ConvertToNewUnits(ZeroTemperature zero) {
+    TakeAllDigits();
     if (Calc.NoConversion == words::Yes) {
         BlankAllResults();
         RenewChosenUnitNames();

@@ -33,7 +33,14 @@ void TakeFlowGravity(int caseIndex) {
     }
 }
 
+// The way by degF or degR and back would move the last digits of a number whose unit stays.
+bool UnitStays(int row, int chosenRow) {
+    return Calc.UnitName[row] == Calc.ChosenUnitRowNames[chosenRow] &&
+           Calc.UnitFactor[row] == Calc.UnitFactorPrevious[row];
+}
+
 double ConvertedTemperature(double value) {
+    if (UnitStays(unit::Temperature, chosen::Temperature)) return value;
     const double degF = ToDegF(Calc.ChosenUnitRowNames[chosen::Temperature], value,
                                Calc.UnitFactorPrevious[unit::Temperature]);
     return Expressible(FromDegF(Calc.UnitName[unit::Temperature], degF, Calc.UnitFactor[unit::Temperature]));
@@ -70,7 +77,9 @@ void ConvertViscosity(int caseIndex, double ratio, ToCp toCp, FromCp fromCp) {
 double Expressible(double value) { return std::isfinite(value) ? value : 0; }
 
 double Rescaled(double value, int unitRow) {
-    return Expressible(value * Calc.UnitFactorPrevious[At(unitRow)] / Calc.UnitFactor[At(unitRow)]);
+    const double former = Calc.UnitFactorPrevious[At(unitRow)];
+    const double now = Calc.UnitFactor[At(unitRow)];
+    return Expressible(former == now ? value : value * former / now);
 }
 
 double GravityOfFirstCase() {
@@ -115,7 +124,7 @@ void ConvertTemperature(int caseIndex) {
 
 void ConvertCritTemperature(int caseIndex) {
     double& value = Calc.CaseInput[input::CritTemperature][At(caseIndex)];
-    if (value == 0) return;
+    if (value == 0 || UnitStays(unit::CritTemperature, chosen::CritTemperature)) return;
     const double degR = ToDegR(Calc.ChosenUnitRowNames[chosen::CritTemperature], value,
                                Calc.UnitFactorPrevious[unit::CritTemperature]);
     value = Expressible(

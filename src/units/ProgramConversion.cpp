@@ -78,8 +78,9 @@ void RescaleElements(Values& values, std::span<const ElementRow> rows) {
 
 // The length stands below the line: its factors are inverted.
 double RescaledLoss(double value) {
-    return Rescaled(value * Calc.UnitFactor[unit::Length] / Calc.UnitFactorPrevious[unit::Length],
-                    unit::PressureDrop);
+    const double former = Calc.UnitFactorPrevious[unit::Length];
+    const double now = Calc.UnitFactor[unit::Length];
+    return Rescaled(former == now ? value : value * now / former, unit::PressureDrop);
 }
 
 // --- Steps of a program ----------------------------------------------------------------------------------

@@ -265,3 +265,21 @@ strict off
 click cmdOK(0)
 expect-box "Fluid Properties" "Methane is not in Gas.txt\nKeep the old properties?" YesNo
 expect txtCompFactor(0) ""
+
+# --- OK of unchanged options converts no number of a saved record, and so asks for no rounding ----------------------
+start
+strict on
+open L-1
+click cmdFormLayout
+click optMassSIUnits
+answer Yes
+click cmdOKOptions
+expect-message Round converted data?
+answer Yes
+click mnuSave
+expect-message Overwrite
+click mnuProgram
+open L-1
+click cmdFormLayout
+click cmdOKOptions
+quit
