@@ -1,5 +1,5 @@
-// Keeps change events quiet while code fills controls: FormLoading is "Yes" for the life of the guard and
-// then what it was, also when an exception passes. Guards nest.
+// Words of the record that hold for a stretch of code, set by guards alone, so that they are right again
+// also when an exception passes.
 #pragma once
 
 #include <string>
@@ -10,15 +10,27 @@
 
 namespace quillmetra {
 
-class Filling {
+// A word for the life of the guard, and then what it was, or the word that is to stand afterwards. Guards
+// nest.
+class Setting {
 public:
-    Filling() : before_(std::exchange(Calc.FormLoading, words::Yes)) {}
-    ~Filling() { Calc.FormLoading = before_; }
-    Filling(const Filling&) = delete;
-    Filling& operator=(const Filling&) = delete;
+    Setting(std::string& word, const char* during) : word_(word), after_(std::exchange(word, during)) {}
+    Setting(std::string& word, const char* during, const char* after) : word_(word), after_(after) {
+        word = during;
+    }
+    ~Setting() { word_ = after_; }
+    Setting(const Setting&) = delete;
+    Setting& operator=(const Setting&) = delete;
 
 private:
-    std::string before_;
+    std::string& word_;
+    std::string after_;
+};
+
+// Keeps change events quiet while code fills controls.
+class Filling : public Setting {
+public:
+    Filling() : Setting(Calc.FormLoading, words::Yes) {}
 };
 
 }  // namespace quillmetra

@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QThread>
 #include <QWindow>
 
 #include "desktop/FormWindow.h"
@@ -44,12 +45,18 @@ void DesktopHost::RememberPlaces(const std::string& suitePath) {
     places_ = std::make_unique<WindowPlaces>(QString::fromStdU16String(MachinePath(suitePath).u16string()));
 }
 
+bool DesktopHost::IsOwnThread() const {
+    return QThread::currentThread() == thread() && thread() == qApp->thread();
+}
+
 FormWindow* DesktopHost::WindowOf(const Form& form) const {
+    Q_ASSERT(IsOwnThread());
     const auto found = windows_.find(&form);
     return found == windows_.end() ? nullptr : found->second;
 }
 
 FormWindow& DesktopHost::Window(Form& form) {
+    Q_ASSERT(IsOwnThread());
     FormWindow*& window = windows_[&form];
     if (window == nullptr) window = new FormWindow(form);
     return *window;

@@ -61,6 +61,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Nothing of the suite is locked: all that it does comes by the one thread of the toolkit.
+    bool IsOwnThread() const;
     FormWindow& Window(Form& form);
     void PutInPlace(FormWindow& window);
     QPrinter& ThePrinter();

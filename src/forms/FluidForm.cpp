@@ -200,13 +200,12 @@ void FluidForm::FindSteamKind() {
     const double pressure = Calc.CaseInput[input::Pressure][normal];
     if (!Calc.SteamKind.empty() || pressure <= 0) return;
     if (LowerCase(Calc.FluidName).find("steam") == std::string::npos) return;
-    Calc.SteamFindMode = words::FindSaturation;
+    const Setting finding(Calc.SteamFindMode, words::FindSaturation, "");
     Calc.FlowPressure = pressure * Calc.UnitFactor[unit::Pressure] + seaLevel;
     if (LookupSaturatedSteam()) {
         const bool same = Int(Calc.SaturationTemperature) == Int(Calc.CaseInput[input::Temperature][normal]);
         Calc.SteamKind = same ? words::Saturated : words::Superheated;
     }
-    Calc.SteamFindMode.clear();
 }
 
 // --- What a fluid changes on the form ----------------------------------------------------------------------

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/CalcRecord.h"
+#include "core/Filling.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -19,18 +20,6 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* PrintoutForm = "frmObxPrintCalc";
-
-// The words of a run, for its life.
-class RunWords {
-public:
-    RunWords() { Suite.RunActive = words::Yes; }
-    ~RunWords() {
-        Suite.RunActive.clear();
-        Suite.BatchPrinting.clear();
-    }
-    RunWords(const RunWords&) = delete;
-    RunWords& operator=(const RunWords&) = delete;
-};
 
 // The forms of a record, gone at once however its print ends: a run has room for one record's forms alone.
 class FormsOfRecord {
@@ -52,13 +41,13 @@ std::string CountOfRecords(int count) {
 
 void frmPrintControl::cmdProceed_Click() {
     if (!AnyPicked()) return;
-    const RunWords words;
+    const Setting run(Suite.RunActive, words::Yes, "");
     if (const auto job = AskPages(Caption())) Run(*job);
 }
 
 void frmPrintControl::cmdPdf_Click() {
     if (!AnyPicked()) return;
-    const RunWords words;
+    const Setting run(Suite.RunActive, words::Yes, "");
     if (const auto job = AskPdf(NameForPdf())) Run(*job);
 }
 
@@ -143,6 +132,7 @@ bool frmPrintControl::PrintPicked() {
 
 // What is told meanwhile would stop the run at a box: it is kept for the end.
 void frmPrintControl::PrintOne(const std::string& tag) {
+    const Setting batch(Suite.BatchPrinting, words::Yes, "");
     const FormsOfRecord forms;
     const HeldMessages held;
     std::string failure;
@@ -166,7 +156,6 @@ bool frmPrintControl::PrintRecords() {
     }
     const std::string tag = Calc.Tag;
     ClearPrintData();
-    Suite.BatchPrinting = words::Yes;
     if (!view_->Find(tag)) {
         Tell("Not found", Suite.DatabaseFile);
         return false;

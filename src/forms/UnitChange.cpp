@@ -2,9 +2,9 @@
 #include "forms/UnitChange.h"
 
 #include <string>
-#include <utility>
 
 #include "core/CalcRecord.h"
+#include "core/Filling.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -55,14 +55,12 @@ void ConvertToNewUnits(ZeroTemperature zero) {
     MendUnitFactors();
     RememberUnits();
     Calc.UnitsConverted = words::Yes;  // the refresh shows all cases
-    Calc.HideResults = words::No;
     ComposeHeading();
 }
 
 void BlankAllResults() {
-    const std::string loading = std::exchange(Calc.FormLoading, words::No);
+    const Setting asByTheUser(Calc.FormLoading, words::No);
     if (CalculationForm* form = OpenCalculation()) form->ClearAllCases();
-    Calc.FormLoading = loading;
 }
 
 void ReturnToCalculation() {

@@ -34,8 +34,6 @@ constexpr PathEntry PathEntries[] = {
     {"Tables default path", "Liquid.txt"},
 };
 
-PathAnswer Answered = PathAnswer::Cancelled;  // in the finder that was closed last
-
 constexpr const char* ResetCaption = "&Reset";
 constexpr const char* SearchCaption = "&Search";
 constexpr const char* ExitCaption = "E&xit";
@@ -50,9 +48,11 @@ PathAnswer FindDefaultPath(int slot, const std::string& title) {
     Calc.MessageTitle = title.empty() ? entry.Title : title;
     Calc.MessageText = entry.Pattern;
     UnloadForm(FormName);
-    static_cast<WinSeek&>(LoadForm(FormName)).Begin(slot, Calc.MessageTitle, Calc.MessageText);
+    auto& finder = static_cast<WinSeek&>(LoadForm(FormName));
+    finder.Begin(slot, Calc.MessageTitle, entry.Pattern);
+    const std::shared_ptr<const PathAnswer> answer = finder.Answered;
     ShowForm(FormName, Modal::Yes);
-    return std::exchange(Answered, PathAnswer::Cancelled);
+    return *answer;
 }
 
 WinSeek::WinSeek() : SuiteForm(FormName) {
@@ -183,7 +183,7 @@ void WinSeek::SetPath(const std::string& path, const std::string& chosen) {
 
 void WinSeek::cmdOK_Click() {
     if (!AcceptPath() || SaveRequested == words::Yes) return;
-    Answered = saved_ ? PathAnswer::Saved : PathAnswer::Kept;
+    *Answered = saved_ ? PathAnswer::Saved : PathAnswer::Kept;
     UnloadForm(Name());
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <chrono>
+#include <memory>
 #include <string>
 
 #include "forms/SuiteForm.h"
@@ -26,6 +27,9 @@ public:
 
     // Takes up the default path that is to be edited.
     void Begin(int slot, const std::string& title, const std::string& pattern);
+
+    // Who asked holds it too: the finder may be gone when the answer is read.
+    const std::shared_ptr<PathAnswer> Answered = std::make_shared<PathAnswer>(PathAnswer::Cancelled);
 
     Label lblPathName{*this, "lblPathName", "P&ath"};
     TextBox txtPath{*this, "txtPath"};

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/Filling.h"
 #include "core/Programs.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
@@ -35,6 +36,12 @@ struct WordOption {
     const OptionButton& Option;
     const char* Word;
 };
+
+// The results stay as the form shows them until the record is converted.
+void ShowInputs() {
+    const Setting inputsAlone(Calc.HideResults, words::Yes, words::No);
+    ComposeHeading();
+}
 
 std::string PickedWord(std::initializer_list<WordOption> options) {
     for (const WordOption& each : options) {
@@ -210,25 +217,24 @@ void frmCalcOptions::CloseCalcOpts() {
     }
     RememberUnits();
     if (!ApplySet()) return;
-    Calc.FormLoading = words::Yes;
+    const std::string note = TakeOptions();
+    InstallOptions();
+    CalculationForm* const form = OpenCalculation();
+    if (form != nullptr && !note.empty()) form->SetStatus(note);
+}
+
+std::string frmCalcOptions::TakeOptions() {
+    const Filling filling;
     ApplyModes();
     Calc.DataMode = DataChoice();
     Calc.CalcMode = CalcChoice();
-    Calc.HideResults = words::Yes;
-    ComposeHeading();
-    Calc.HideResults = words::No;
+    ShowInputs();
     if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::IsConverted);
     const bool newBarometer = TakeBarometer();
     if (newBarometer) BlankAllResults();
     ComposeHeading();
-    std::string note = BarometerNote(newBarometer);
-    if (Calc.PressureMode != PressureChoice()) {
-        note =
-            Calc.UnitName[unit::Pressure] + " is neither gauge nor absolute: the pressures stay as they were";
-    }
-    InstallOptions();
-    CalculationForm* const form = OpenCalculation();
-    if (form != nullptr && !note.empty()) form->SetStatus(note);
+    if (Calc.PressureMode == PressureChoice()) return BarometerNote(newBarometer);
+    return Calc.UnitName[unit::Pressure] + " is neither gauge nor absolute: the pressures stay as they were";
 }
 
 void frmCalcOptions::InstallOptions() {

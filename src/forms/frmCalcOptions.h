@@ -79,6 +79,8 @@ private:
     // Applies the picked unit set; false when the user's file is empty, which it says.
     bool ApplySet();
     void ApplyModes();
+    // The options and the converted record onto the form; what its status line then has to say.
+    std::string TakeOptions();
     void TakeBootUpUnits();
     void ResetOptionData();
     void InstallOptions();

@@ -1,6 +1,7 @@
 // See frmUnits.h.
 #include "forms/frmUnits.h"
 
+#include "core/Filling.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -375,13 +376,15 @@ void frmUnits::cmdOK_Click() {
         Calc.UnitFactor = factors;
         return;
     }
-    Calc.FormLoading = words::Yes;
-    if (UnitsHaveChanged()) {
-        // Units picked one by one belong to no named set.
-        (IsGas() ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
-        Calc.UnitSetName = SelectedUnitsName;
+    {
+        const Filling filling;
+        if (UnitsHaveChanged()) {
+            // Units picked one by one belong to no named set.
+            (IsGas() ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
+            Calc.UnitSetName = SelectedUnitsName;
+        }
+        ConvertToNewUnits(ZeroTemperature::IsConverted);
     }
-    ConvertToNewUnits(ZeroTemperature::IsConverted);
     UnloadForm(Name());
     UnloadForm("frmCalcOptions");
     ReturnToCalculation();
