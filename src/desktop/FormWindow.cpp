@@ -53,6 +53,18 @@ bool IsStrayAccessKey(const QKeyEvent& event) {
            text.at(0).toUpper() == QChar(static_cast<char16_t>(event.key()));
 }
 
+// The whole of it where the window has room for that, else its cursor or row at least.
+void ScrollTo(QScrollArea& area, QWidget& target) {
+    constexpr int margin = 8;
+    const QSize room = target.size() + QSize(2 * margin, 2 * margin);
+    if (!QRect({}, area.viewport()->size()).contains(QRect({}, room))) {
+        return area.ensureWidgetVisible(&target, margin, margin);
+    }
+    const QPoint half(room.width() / 2, room.height() / 2);
+    const QPoint middle = target.mapTo(area.widget(), target.rect().center());
+    area.ensureVisible(middle.x(), middle.y(), half.x(), half.y());
+}
+
 // The toolkit's own way from option to option would leave the model behind.
 bool IsOptionArrow(const Control& control, const std::string& key) {
     return control.Kind() == ControlKind::OptionButton &&
@@ -256,7 +268,7 @@ void FormWindow::FollowFocus() {
         if (auto* const left = qobject_cast<QLineEdit*>(focusWidget())) left->deselect();
         target->setFocus(Qt::OtherFocusReason);
     }
-    if (target != pane_) scroll_->ensureWidgetVisible(target, 8, 8);
+    if (target != pane_) ScrollTo(*scroll_, *target);
 }
 
 void FormWindow::FollowFocusSoon() {

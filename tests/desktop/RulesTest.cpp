@@ -156,15 +156,22 @@ TEST_P(Rules, F1OpensTheHelp) {
     EXPECT_EQ((*help)->findChild<QListWidget*>("topics")->currentRow() == 0, isBrowser);
 }
 
-// Every control that takes input can be reached without a mouse, and none keeps the keyboard.
+// Every control that takes input can be reached without a mouse, and none keeps the keyboard; a box that has
+// it is seen whole, in a small window too.
 TEST_P(Rules, TabReachesEveryInput) {
     std::set<std::string> reached;
     FormWindow& window = WindowOf(Shown);
+    window.resize(700, 250);
+    Settle();
     for (std::size_t i = 0; i <= Shown.Controls().size(); ++i) {
         QWidget* const focus = window.focusWidget();
         if (focus != nullptr && Shown.Focus.Current() != nullptr) {
             reached.insert(Shown.Focus.Current()->FullName());
             EXPECT_EQ(focus, ViewOf(*Shown.Focus.Current()).KeyTarget());
+            const bool isBox = i > 0 && qobject_cast<QLineEdit*>(focus) != nullptr;
+            if (isBox)
+                EXPECT_EQ(focus->visibleRegion().boundingRect(), focus->rect())
+                    << Shown.Focus.Current()->FullName();
         }
         QTest::keyClick(focus == nullptr ? &window : focus, Qt::Key_Tab);
         Settle();
