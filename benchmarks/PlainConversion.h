@@ -9,6 +9,7 @@
 #include "units/ProgramConversion.h"
 #include "units/RecordUnits.h"
 #include "units/Rounding.h"
+#include "units/UnitChange.h"
 
 namespace quillmetra {
 
@@ -73,9 +74,9 @@ inline PlainRecord PlainOfRecord() {
 
 // One change of the unit set as the options panel makes it, for a record of TakeConvertedLine.
 inline void ChangeSet(bool toSI) {
-    RememberUnits();
+    UnitChange change;
     ApplyNamedUnitSet(toSI ? 3 : 2);
-    ConvertProgramData();
+    change.Commit();
 }
 
 }  // namespace quillmetra

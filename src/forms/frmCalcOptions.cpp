@@ -10,19 +10,18 @@
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
 #include "forms/ColourSchemes.h"
-#include "forms/UnitChange.h"
+#include "forms/PanelReturn.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/Utf8.h"
 #include "reports/FormRefresh.h"
 #include "units/CorrelationRange.h"
-#include "units/ModeChange.h"
 #include "units/NamedUnitSets.h"
-#include "units/RecordUnits.h"
 #include "units/Rounding.h"
 #include "units/StandardRange.h"
 #include "units/UnitCatalogue.h"
+#include "units/UnitChange.h"
 #include "units/UserUnits.h"
 
 namespace quillmetra {
@@ -202,34 +201,29 @@ bool frmCalcOptions::ApplySet() {
     return true;
 }
 
-void frmCalcOptions::ApplyModes() {
-    ChangePressureMode(PressureChoice());
-    if (IsLiquid()) ChangeDensityMode(DensityChoice());
-    Calc.PressureModePrevious = Calc.PressureMode;
-    Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
-}
-
 void frmCalcOptions::CloseCalcOpts() {
     if (Calc.NoConversion == words::Yes &&
         !AskYesNo("Option 'Change units no conversion' was selected\n\nOK?", "Change Units")) {
         Calc.NoConversion.clear();
         return;
     }
-    RememberUnits();
+    UnitChange change;
     if (!ApplySet()) return;
-    const std::string note = TakeOptions();
+    const std::string note = TakeOptions(change);
     InstallOptions();
     CalculationForm* const form = OpenCalculation();
     if (form != nullptr && !note.empty()) form->SetStatus(note);
 }
 
-std::string frmCalcOptions::TakeOptions() {
+std::string frmCalcOptions::TakeOptions(UnitChange& change) {
     const Filling filling;
-    ApplyModes();
-    Calc.DataMode = DataChoice();
-    Calc.CalcMode = CalcChoice();
-    ShowInputs();
-    if (Calc.FormClosing != words::Yes) ConvertToNewUnits(ZeroTemperature::IsConverted);
+    change.PressureMode = PressureChoice();
+    if (IsLiquid()) change.DensityMode = DensityChoice();
+    ConvertToNewUnits(change, [this] {
+        Calc.DataMode = DataChoice();
+        Calc.CalcMode = CalcChoice();
+        ShowInputs();
+    });
     const bool newBarometer = TakeBarometer();
     if (newBarometer) BlankAllResults();
     ComposeHeading();

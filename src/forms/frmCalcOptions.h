@@ -9,6 +9,8 @@
 
 namespace quillmetra {
 
+class UnitChange;
+
 class frmCalcOptions : public SuiteForm {
 public:
     frmCalcOptions();
@@ -78,9 +80,8 @@ private:
     std::string BarometerNote(bool taken) const;
     // Applies the picked unit set; false when the user's file is empty, which it says.
     bool ApplySet();
-    void ApplyModes();
     // The options and the converted record onto the form; what its status line then has to say.
-    std::string TakeOptions();
+    std::string TakeOptions(UnitChange& change);
     void TakeBootUpUnits();
     void ResetOptionData();
     void InstallOptions();

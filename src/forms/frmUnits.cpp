@@ -7,7 +7,7 @@
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
 #include "forms/ColourSchemes.h"
-#include "forms/UnitChange.h"
+#include "forms/PanelReturn.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
@@ -80,7 +80,7 @@ void frmUnits::Load() {
     ApplyColours(*this);
     if (Suite.UnitLibraryName.empty()) ReadUnitLibrary();
     ApplyPressureSuffix();
-    RememberUnits();
+    change_.emplace();
     // The window shows a liquid's density in row 9, whatever row the program keeps it in.
     const bool density = Calc.LiquidDensityMode == words::Density;
     if (!IsGas() && density) {
@@ -360,13 +360,6 @@ bool frmUnits::TakeUnits() {
     return true;
 }
 
-void frmUnits::RestoreRecord() {
-    Calc.UnitName = Calc.UnitNamePrevious;
-    Calc.UnitFactor = Calc.UnitFactorPrevious;
-    Calc.Basis = Calc.BasisPrevious;
-    Calc.LiquidBasis = Calc.LiquidBasisPrevious;
-}
-
 void frmUnits::cmdOK_Click() {
     if (!AskUpdate()) return;
     const UnitNames names = Calc.UnitName;
@@ -378,12 +371,12 @@ void frmUnits::cmdOK_Click() {
     }
     {
         const Filling filling;
-        if (UnitsHaveChanged()) {
+        if (change_->HasNewUnits()) {
             // Units picked one by one belong to no named set.
             (IsGas() ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
             Calc.UnitSetName = SelectedUnitsName;
         }
-        ConvertToNewUnits(ZeroTemperature::IsConverted);
+        ConvertToNewUnits(*change_);
     }
     UnloadForm(Name());
     UnloadForm("frmCalcOptions");
@@ -406,7 +399,7 @@ void frmUnits::cmdSaveUser_Click() {
 }
 
 void frmUnits::cmdCancelUn_Click() {
-    RestoreRecord();
+    change_.reset();
     UnloadForm(Name());
     if (Calc.OptionsLoaded == words::Loaded) {
         ShowForm("frmCalcOptions");

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "core/CalcRecord.h"
 #include "forms/SuiteForm.h"
+#include "units/UnitChange.h"
 #include "units/UnitSelection.h"
 
 namespace quillmetra {
@@ -89,8 +91,6 @@ private:
     bool TakeUnits();
     bool TakeFlowUnit(int row, int baseRow);
     bool TakeUnit(int row);
-    // Takes back what the window found, which is the previous units while it is open.
-    void RestoreRecord();
     void ShowLibrary();
     bool ConfirmLibrary(const std::string& question, Answer preset) const;
 
@@ -99,7 +99,8 @@ private:
     int RowCount = UnitPositions;
     std::array<int, 36> ActiveList{};
     std::array<Choice, 36> SelectedFactor{};
-    std::string basisBeforePanel_;  // for the Cancel of the panel
+    std::optional<UnitChange> change_;  // while the window is open; Cancel ends it
+    std::string basisBeforePanel_;      // for the Cancel of the panel
 };
 
 }  // namespace quillmetra

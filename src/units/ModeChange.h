@@ -1,7 +1,7 @@
-// Gauge or absolute pressure, gravity or density: the values of the record when the mode changes. Both come
-// after the new units stand and before ConvertProgramData, and both give the mode itself its new word: the
-// caller does not set it before. With NoConversion "Yes" the mode changes and the values stay. A value that
-// the new unit cannot express becomes 0.
+// Gauge or absolute pressure, gravity or density: the values of the record when the mode changes, as a part
+// of a UnitChange: after the new units stand and before the values are converted. Both give the mode itself
+// its new word: the caller does not set it before. With NoConversion "Yes" the mode changes and the values
+// stay. A value that the new unit cannot express becomes 0.
 #pragma once
 
 #include <string>

@@ -1,4 +1,5 @@
-// The whole record brought from the previous units to those in force, program by program, and rounded.
+// The whole record brought from the previous units to those in force, program by program, and rounded, as a
+// part of a UnitChange.
 //
 // Before: RememberUnits ran and the new names, factors and bases stand; ChosenUnitRowNames are the units that
 // the values are in. After: the previous units and bases equal those in force, so that a second conversion

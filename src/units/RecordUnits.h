@@ -1,10 +1,6 @@
-// The record's units before and after a change. Whoever changes units does it in this order:
-//
-//   RememberUnits()          what stands becomes the previous units
-//   ...                      new names and factors, or ApplyNamedUnitSet
-//   CarryDensityUnit()       (ApplyNamedUnitSet does it)
-//   ChangePressureMode, ChangeDensityMode        when they change, see ModeChange.h
-//   ConvertProgramData()     values to the new units, see ProgramConversion.h; nothing is left to convert
+// The record's units in force and the previous ones. Units under which values stand are changed by a
+// UnitChange; who brings units together with their values (a record that is loaded, a new one) calls
+// RememberUnits.
 #pragma once
 
 namespace quillmetra {

@@ -2,8 +2,8 @@
 #include "forms/UnsavedWork.h"
 
 #include "forms/CalculationForm.h"
+#include "forms/PanelReturn.h"
 #include "forms/RecordInHand.h"
-#include "forms/UnitChange.h"
 #include "records/Recovery.h"
 #include "tests/forms/LiquidFormFixture.h"
 #include "tests/records/RecordFixture.h"

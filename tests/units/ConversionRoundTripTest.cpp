@@ -12,6 +12,7 @@
 #include "units/ProgramConversion.h"
 #include "units/RecordUnits.h"
 #include "units/Rounding.h"
+#include "units/UnitChange.h"
 
 namespace quillmetra {
 namespace {
@@ -55,10 +56,10 @@ protected:
     }
 
     static void GoTo(int set) {
-        RememberUnits();
+        UnitChange change;
         ASSERT_TRUE(ApplyNamedUnitSet(set));
-        ConvertProgramData();
-        ASSERT_EQ(Calc.RoundedFlag, "Yes");
+        change.Commit();
+        ASSERT_NE(Calc.RoundedFlag, "No");
     }
 
 private:

@@ -1,6 +1,8 @@
 // Gauge to absolute and gravity to density, alone and together with a change of units.
 #include "units/ModeChange.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include "core/Words.h"
@@ -8,6 +10,7 @@
 #include "units/NamedUnitSets.h"
 #include "units/ProgramConversion.h"
 #include "units/RecordUnits.h"
+#include "units/UnitChange.h"
 
 namespace quillmetra {
 namespace {
@@ -24,6 +27,13 @@ protected:
         RenewChosenUnitNames();
         RememberUnits();
         Suite.HideRoundReminder = words::Yes;
+    }
+
+    static void GoTo(int set, std::string UnitChange::*mode, const char* word) {
+        UnitChange change;
+        ApplyNamedUnitSet(set);
+        change.*mode = word;
+        change.Commit();
     }
 };
 
@@ -115,20 +125,31 @@ TEST_F(ModeChangeTest, AMissingBarometerIsTheUsualOne) {
 TEST_F(ModeChangeTest, PressureModeAndUnitsInOneGo) {
     TakeLine();
     Calc.CaseInput[3] = {100, 50, 0};
-    RememberUnits();
-    ApplyNamedUnitSet(3);
-    ChangePressureMode(words::Absolute);
-    ConvertProgramData();
+    GoTo(3, &UnitChange::PressureMode, words::Absolute);
     EXPECT_EQ(Calc.UnitName[3], "kPaa");
     EXPECT_DOUBLE_EQ(Calc.CaseInput[3][0], 790.816);  // 114.7 / 0.14504
     EXPECT_DOUBLE_EQ(Calc.CaseInput[3][1], 446.084);
-    RememberUnits();
-    ApplyNamedUnitSet(1);
-    ChangePressureMode(words::Gauge);
-    ConvertProgramData();
+    GoTo(1, &UnitChange::PressureMode, words::Gauge);
     EXPECT_EQ(Calc.UnitName[3], "psig");
     EXPECT_NEAR(Calc.CaseInput[3][0], 100, 0.02);  // by way of four figures in kPa
     EXPECT_NEAR(Calc.CaseInput[3][1], 50, 0.02);
+}
+
+TEST_F(ModeChangeTest, AChangeThatIsNotCommittedIsTakenBack) {
+    TakeLine();
+    const auto units = [] {
+        return std::tuple(Calc.UnitName, Calc.UnitFactor, Calc.Basis, Calc.LiquidBasis);
+    };
+    const auto before = units();
+    {
+        UnitChange change;
+        ApplyNamedUnitSet(4);
+        Calc.Basis = words::Volume;
+        change.PressureMode = words::Absolute;
+        EXPECT_TRUE(change.HasNewUnits());
+    }
+    EXPECT_EQ(units(), before);
+    EXPECT_EQ(Calc.PressureMode, words::Gauge);
 }
 
 // The numbers were in the other mode all along.
@@ -200,17 +221,11 @@ TEST_F(ModeChangeTest, DensityModeAndUnitsInOneGo) {
         Calc.CurrentProgram = program;
         Calc.CaseInput[1][0] = 10000;
         Calc.CaseInput[6][0] = 0.8;
-        RememberUnits();
-        ApplyNamedUnitSet(4);
-        ChangeDensityMode(words::Density);
-        ConvertProgramData();
+        GoTo(4, &UnitChange::DensityMode, words::Density);
         EXPECT_DOUBLE_EQ(Calc.CaseInput[6][0], 799.2) << "kg/m3 in program " << program;
         EXPECT_NEAR(Calc.CaseInput[1][0], 10000 / 0.8 / 8.3378 / 951.0193, 2e-4) << "litre/s";
         EXPECT_EQ(Calc.UnitName[5], "kg/m3");
-        RememberUnits();
-        ApplyNamedUnitSet(1);
-        ChangeDensityMode(words::Gravity);
-        ConvertProgramData();
+        GoTo(1, &UnitChange::DensityMode, words::Gravity);
         EXPECT_DOUBLE_EQ(Calc.CaseInput[6][0], 0.8) << program;
         EXPECT_NEAR(Calc.CaseInput[1][0], 10000, 1) << program;
     }

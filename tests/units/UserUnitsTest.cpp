@@ -13,6 +13,7 @@
 #include "units/NamedUnitSets.h"
 #include "units/ProgramConversion.h"
 #include "units/RecordUnits.h"
+#include "units/UnitChange.h"
 
 namespace quillmetra {
 namespace {
@@ -288,16 +289,18 @@ TEST_F(UserUnitsTest, ConvertsToTheUsersUnits) {
     Calc.CaseInput[3][0] = 100;
     Calc.CaseInput[6][0] = 0.9;
     Calc.CaseInput[7][0] = 45;
-    RememberUnits();
-    ASSERT_TRUE(ReadUserUnitSets());
-    ASSERT_TRUE(ApplyNamedUnitSet(UserUnitSet));
-    ConvertProgramData();
+    {
+        UnitChange change;
+        ASSERT_TRUE(ReadUserUnitSets());
+        ASSERT_TRUE(ApplyNamedUnitSet(UserUnitSet));
+        change.Commit();
+    }
     EXPECT_NEAR(Calc.CaseInput[1][0], 10000 / 0.9 / 8.3378 / 15.85032, 1e-3);
     EXPECT_DOUBLE_EQ(Calc.CaseInput[3][0], 6.89465);
     EXPECT_DOUBLE_EQ(Calc.CaseInput[7][0], 50);
-    RememberUnits();
+    UnitChange change;
     ApplyNamedUnitSet(1);
-    ConvertProgramData();
+    change.Commit();
     EXPECT_NEAR(Calc.CaseInput[1][0], 10000, 0.1);
     EXPECT_DOUBLE_EQ(Calc.CaseInput[7][0], 45);
 }

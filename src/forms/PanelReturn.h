@@ -2,21 +2,17 @@
 // the refresh of the calculation, and the way back to it.
 #pragma once
 
-#include "units/ProgramConversion.h"
+#include <functional>
 
 namespace quillmetra {
 
 class CalculationForm;
 class SuiteForm;
+class UnitChange;
 
-// True when a unit or a basis differs from what was in force before the change.
-bool UnitsHaveChanged();
-
-// Converts the record from the previous units to the units in force and refreshes the form; with NoConversion
-// "Yes" the numbers stay as they are and all results are blanked, since they no longer belong to the inputs.
-// Renews the previous units. Without a change of units nothing is converted; what an earlier change has left
-// unrounded is asked about again.
-void ConvertToNewUnits(ZeroTemperature zero);
+// Commits the change and refreshes the form; showModes is called between the modes and the values. With
+// NoConversion "Yes" all results are blanked, since they no longer belong to the inputs.
+void ConvertToNewUnits(UnitChange& change, const std::function<void()>& showModes = {});
 
 // Blanks the results of the open calculation, while a panel is open over it too.
 void BlankAllResults();

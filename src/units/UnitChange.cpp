@@ -1,0 +1,76 @@
+// See UnitChange.h.
+#include "units/UnitChange.h"
+
+#include "core/CalcRecord.h"
+#include "core/Words.h"
+#include "units/ModeChange.h"
+#include "units/RecordUnits.h"
+
+namespace quillmetra {
+
+namespace {
+
+// A factor that went through a database has seven digits: with all of its digits it is the same unit.
+void TakeAllDigits() {
+    for (std::size_t row = 0; row < Calc.UnitFactor.size(); ++row) {
+        double& former = Calc.UnitFactorPrevious[row];
+        const double now = Calc.UnitFactor[row];
+        if (static_cast<float>(former) == static_cast<float>(now)) former = now;
+    }
+}
+
+}  // namespace
+
+UnitChange::UnitChange() : PressureMode(Calc.PressureMode), DensityMode(Calc.LiquidDensityMode) {
+    RememberUnits();
+}
+
+UnitChange::~UnitChange() {
+    if (committed_) return;
+    Calc.UnitName = Calc.UnitNamePrevious;
+    Calc.UnitFactor = Calc.UnitFactorPrevious;
+    Calc.Basis = Calc.BasisPrevious;
+    Calc.LiquidBasis = Calc.LiquidBasisPrevious;
+}
+
+bool UnitChange::HasNewUnits() const {
+    return Calc.UnitName != Calc.UnitNamePrevious || Calc.UnitFactor != Calc.UnitFactorPrevious ||
+           Calc.Basis != Calc.BasisPrevious || Calc.LiquidBasis != Calc.LiquidBasisPrevious;
+}
+
+void UnitChange::Commit(ZeroTemperature zero, const std::function<void()>& modesStand) {
+    ChangeModes();
+    if (modesStand) modesStand();
+    if (Calc.FormClosing != words::Yes) Convert(zero);
+    committed_ = true;
+}
+
+void UnitChange::Convert(ZeroTemperature zero) const {
+    TakeAllDigits();
+    ConvertValues(zero);
+    MendUnitFactors();
+    RememberUnits();
+    Calc.UnitsConverted = words::Yes;  // the refresh shows all cases
+}
+
+// The pressure first: its barometer is in the previous unit. A mode that was refused is no previous one.
+void UnitChange::ChangeModes() const {
+    ChangePressureMode(PressureMode);
+    ChangeDensityMode(DensityMode);
+    Calc.PressureModePrevious = Calc.PressureMode;
+    Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
+}
+
+void UnitChange::ConvertValues(ZeroTemperature zero) const {
+    if (Calc.NoConversion == words::Yes) return RenewChosenUnitNames();
+    if (HasNewUnits()) {
+        ConvertProgramData(zero);
+    } else if (Calc.RoundedFlag == words::No) {
+        RoundRecord();
+    } else {
+        return;
+    }
+    Calc.ChangedFlag = words::No;
+}
+
+}  // namespace quillmetra

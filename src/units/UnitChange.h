@@ -1,0 +1,44 @@
+// A change of units: names, factors, flow bases and modes of the record, and all its values with them.
+//
+//   UnitChange change;             // what stands becomes the previous units
+//   ApplyNamedUnitSet(...)         // or names, factors and bases one by one
+//   change.PressureMode = ...      // and DensityMode; those that are left alone stay
+//   change.Commit();               // the values follow
+//
+// Without Commit the destructor gives the record its previous units again. One change at a time.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "units/ProgramConversion.h"
+
+namespace quillmetra {
+
+class UnitChange {
+public:
+    UnitChange();
+    ~UnitChange();
+    UnitChange(const UnitChange&) = delete;
+    UnitChange& operator=(const UnitChange&) = delete;
+
+    std::string PressureMode, DensityMode;  // to be in force; those of the record at first
+
+    // True when a unit or a basis differs from the previous ones.
+    bool HasNewUnits() const;
+
+    // Changes the modes, calls modesStand, where a form may show the inputs as they are then, converts the
+    // values and asks whether to round. With NoConversion "Yes" the values stay as they are. Without new
+    // units nothing is converted; what an earlier change has left unrounded is asked about again. No factor
+    // is 0 afterwards and nothing is left to convert. The caller refreshes the form.
+    void Commit(ZeroTemperature zero = ZeroTemperature::Stays, const std::function<void()>& modesStand = {});
+
+private:
+    void ChangeModes() const;
+    void Convert(ZeroTemperature zero) const;
+    void ConvertValues(ZeroTemperature zero) const;
+
+    bool committed_ = false;
+};
+
+}  // namespace quillmetra
