@@ -53,7 +53,7 @@ void ResetForNew() {
     Calc.StdPressure = old.StdPressure;
     Calc.BaroPressure = old.BaroPressure;
     for (const int row : {input::StdTemperature, input::StdPressure, input::Barometer})
-        Calc.CaseInput[row][0] = old.CaseInput[row][0];
+        Calc.CaseInput[At(row)][0] = old.CaseInput[At(row)][0];
 }
 
 bool ResultsStand(int caseIndex) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <system_error>
 
+#include "core/PhysicalConstants.h"
 #include "core/Suite.h"
 #include "core/Version.h"
 #include "platform/Forms.h"
@@ -69,9 +70,10 @@ struct StandardCondition {
 };
 
 constexpr std::array StandardConditions = {
-    StandardCondition{22, &CalcRecord::StdPressure, &StandardFile::Pressure, 14.7, "psia", false},
+    StandardCondition{22, &CalcRecord::StdPressure, &StandardFile::Pressure, Atmosphere, "psia", false},
     StandardCondition{21, &CalcRecord::StdTemperature, &StandardFile::Temperature, 60, "degF", true},
-    StandardCondition{23, &CalcRecord::BaroPressure, &StandardFile::Barometer, 14.7, "psia", false},
+    StandardCondition{23, &CalcRecord::BaroPressure, &StandardFile::Barometer, SeaLevelBarometer, "psia",
+                      false},
 };
 
 bool IsMissing(const StandardCondition& condition, double value) {

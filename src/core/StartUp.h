@@ -9,6 +9,8 @@
 #include <span>
 #include <string>
 
+#include "core/PhysicalConstants.h"
+
 namespace quillmetra {
 
 // The twelve colours in force when no colour file is found, slot 1 first, 0x00BBGGRR.
@@ -67,7 +69,7 @@ void ReadStandardConditions();
 
 // Gives a standard condition that is missing its usual value: a standard pressure not above zero becomes the
 // usual one (psia), a barometer not above zero 14.7 psia, a temperature of exactly zero 60 degF.
-void RestoreStandardConditions(double usualPressure = 14.7);
+void RestoreStandardConditions(double usualPressure = Atmosphere);
 
 // Writes TRSTP.TXT: standard pressure, standard temperature, barometric pressure, then the three words that
 // hide messages. Pressure and temperature stand in the other order than they are read: a deliberate

@@ -4,17 +4,15 @@
 #include <string>
 
 #include "core/CalcRecord.h"
-#include "core/Words.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/Border.h"
 #include "units/Rounding.h"
 
 namespace quillmetra {
 
 bool GoOnInOtherPhase(const char* phase, const char* title) {
-    const double pressure =
-        Calc.PressureMode == words::Gauge ? Calc.VaporPressure - Calc.BaroPressure : Calc.VaporPressure;
-    const std::string shown = TrimmedStr(RoundedFour(pressure / Calc.UnitFactor[unit::Pressure]));
+    const std::string shown = TrimmedStr(RoundedFour(PressureShown(Calc.VaporPressure)));
     if (AskYesNo("At the pressure and temperature entered\n The Vapor Pressure is " + shown + " " +
                      Calc.UnitName[unit::Pressure] + "\nThis indicates that the fluid is a " + phase +
                      "!\nContinue ?",

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "core/CalcRecord.h"
+#include "core/PhysicalConstants.h"
 #include "core/Suite.h"
 #include "fluids/LiquidCorrelations.h"
 #include "platform/NumberText.h"
@@ -89,9 +90,6 @@ constexpr std::array<Column, 12> GasNumbers = {{
     {14, &CalcRecord::LatentHeatBP},
 }};
 
-// To degrees Rankine by 460.0, though every other temperature uses 459.67: settled, and limits depend on it.
-constexpr double CritRankine = 460.0;
-
 // Columns 1 and 2 are texts in both tables.
 void TakeColumns(std::span<const Column> numbers, std::size_t columns, double critRankine) {
     const Fields fields = SplitRow(Calc.FluidRow, columns);
@@ -137,7 +135,7 @@ void FindFluidRow() {
 }
 
 void ParseLiquidRow() {
-    TakeColumns(LiquidNumbers, LiquidColumns, CritRankine);
+    TakeColumns(LiquidNumbers, LiquidColumns, RoundZeroFInDegR);
     const ViscosityLine line =
         ViscosityLineOf(Calc.ViscosityTemp1, Calc.Viscosity1, Calc.ViscosityTemp2, Calc.Viscosity2);
     Calc.ViscosityA = line.A;
@@ -146,8 +144,8 @@ void ParseLiquidRow() {
     Calc.LiquidSpecificHeat = LiquidSpecificHeatAt(Calc.LiquidCp60, Calc.LiquidCp300, Calc.FlowTemperature);
 }
 
-void ParseGasRow() { TakeColumns(GasNumbers, GasColumns, CritRankine); }
+void ParseGasRow() { TakeColumns(GasNumbers, GasColumns, RoundZeroFInDegR); }
 
-void ParseGasRowForMixture() { TakeColumns(GasNumbers, GasColumns, 459.67); }
+void ParseGasRowForMixture() { TakeColumns(GasNumbers, GasColumns, ZeroFInDegR); }
 
 }  // namespace quillmetra

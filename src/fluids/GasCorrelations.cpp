@@ -4,15 +4,14 @@
 #include <cmath>
 #include <limits>
 
+#include "core/PhysicalConstants.h"
 #include "fluids/LiquidCorrelations.h"
 
 namespace quillmetra {
 
 namespace {
 
-constexpr double Rankine = 459.67;       // degF to degR
-constexpr double GasConstant = 10.7316;  // psia ft3/lbmol degR
-constexpr double HeatConstant = 1.986;   // the gas constant in Btu/lbmol degF
+constexpr double HeatConstant = 1.986;  // the gas constant in Btu/lbmol degF
 constexpr double WatsonExponent = 0.378;
 constexpr double LargestDenseFactor = 5;
 
@@ -32,8 +31,8 @@ double AcentricPart(double t) {
 GasFactor SolveRedlichKwong(double critTemperature, double critPressure, double temperature,
                             double pressure) {
     constexpr int mostRounds = 50;
-    const double a = 4.93396 * std::pow(critTemperature / (temperature + Rankine), 1.5);
-    const double b = ((0.0866403 * critTemperature) / (temperature + Rankine)) * pressure / critPressure;
+    const double a = 4.93396 * std::pow(critTemperature / (temperature + ZeroFInDegR), 1.5);
+    const double b = ((0.0866403 * critTemperature) / (temperature + ZeroFInDegR)) * pressure / critPressure;
     const double linear = b * (a - b - 1);
     const double constant = a * (b * b);
     double z = 1;
@@ -53,7 +52,7 @@ double RedlichKwongLimit(double critTemperature, double critPressure, double tem
 }
 
 double GasDensityOf(double pressure, double temperature, double molecularWeight, double factor) {
-    return ((pressure / (temperature + Rankine)) * molecularWeight / GasConstant) / factor;
+    return ((pressure / (temperature + ZeroFInDegR)) * molecularWeight / GasConstant) / factor;
 }
 
 float GasCritFactorOf(double critPressure, double critVolume, double molecularWeight,
@@ -92,8 +91,8 @@ double RatioOfSpecificHeats(double molarHeat) { return molarHeat / (molarHeat - 
 
 double WatsonLatentHeat(double knownTemperature, double knownHeat, double critTemperature,
                         double temperature) {
-    const double known = (knownTemperature + 460) / critTemperature;
-    const double wanted = (temperature + 460) / critTemperature;
+    const double known = (knownTemperature + RoundZeroFInDegR) / critTemperature;
+    const double wanted = (temperature + RoundZeroFInDegR) / critTemperature;
     const double ratio = (1 - wanted) / (1 - known);
     return ratio > 0 ? std::pow(ratio, WatsonExponent) * knownHeat : 0;
 }
@@ -101,9 +100,9 @@ double WatsonLatentHeat(double knownTemperature, double knownHeat, double critTe
 double MixtureLatentHeatOf(double normalBoilingPoint, double latentHeatBP, double critTemperature,
                            double critPressure, double pressure) {
     // K and atmospheres from here on.
-    const double boiling = (normalBoilingPoint + Rankine) / 1.8;
+    const double boiling = (normalBoilingPoint + ZeroFInDegR) / 1.8;
     const double critical = critTemperature / 1.8;
-    const double critAtmospheres = critPressure / 14.7;
+    const double critAtmospheres = critPressure / Atmosphere;
     const double wanted = (pressure / 12.25) + 1;
     const double reducedBoiling = boiling / critical;
     const double acentricFactor =

@@ -29,8 +29,8 @@ double GasDensityOf(double pressure, double temperature, double molecularWeight,
 // Critical compressibility factor from the critical volume (ft3/lb).
 float GasCritFactorOf(double critPressure, double critVolume, double molecularWeight, double critTemperature);
 
-// Viscosity = A T^Exponent, T in K, through the first point. The exponent has the sign settled for it, by
-// which the line does not meet the second point but the first viscosity squared over the second; the shipped
+// Viscosity = A T^Exponent, T in K, through the first point. The exponent has a sign by which
+// the line does not meet the second point but the first viscosity squared over the second; the shipped
 // tables make up for it.
 struct GasViscosityLine {
     double A;
@@ -47,14 +47,14 @@ double EasedReducedTemperature(double reducedTemperature);
 double DenseGasFactor(double reducedTemperature, double reducedPressure);
 
 // Btu/lb degF, from those at 60 degF and at 300 degF. The divisor makes the line meet the second one at
-// 400 degF; it is settled, and the shipped tables make up for it.
+// 400 degF, and the figures of the shipped tables are made for that.
 double GasSpecificHeatAt(double cp1, double cp2, double temperature);
 
 // Ratio of specific heats of an ideal gas from its molar specific heat (Btu/lbmol degF).
 double RatioOfSpecificHeats(double molarHeat);
 
 // Watson's rule from a known latent heat; 0 when the two temperatures do not lie on one side of the critical
-// one. Takes degF to degR by 460, which is settled.
+// one. Takes degF to degR by 460, as the limits of the tables do.
 double WatsonLatentHeat(double knownTemperature, double knownHeat, double critTemperature,
                         double temperature);
 

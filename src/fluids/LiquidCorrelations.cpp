@@ -6,12 +6,12 @@
 #include <cmath>
 #include <limits>
 
+#include "core/PhysicalConstants.h"
+
 namespace quillmetra {
 
 namespace {
 
-constexpr double Rankine = 459.67;   // degF to degR
-constexpr double Atmosphere = 14.7;  // psi
 constexpr double GravitySlope = 0.01102;
 constexpr double BaseSlope = 5.7267634;  // GravitySlope x 519.67 degR
 constexpr double CritExponent = 0.773;
@@ -58,13 +58,13 @@ double EasedTemperature(double temperature) {
 ViscosityLine ViscosityLineOf(double temperature1, double viscosity1, double temperature2,
                               double viscosity2) {
     const double b =
-        ((temperature1 + Rankine) * (temperature2 + Rankine) * std::log(viscosity1 / viscosity2)) /
+        ((temperature1 + ZeroFInDegR) * (temperature2 + ZeroFInDegR) * std::log(viscosity1 / viscosity2)) /
         (temperature2 - temperature1);
-    return {viscosity1 / std::exp(b / (temperature1 + Rankine)), b};
+    return {viscosity1 / std::exp(b / (temperature1 + ZeroFInDegR)), b};
 }
 
 double ViscosityAt(const ViscosityLine& line, double temperature) {
-    return line.A * std::exp(line.B / (temperature + Rankine));
+    return line.A * std::exp(line.B / (temperature + ZeroFInDegR));
 }
 
 double LiquidSpecificHeatAt(double cp60, double cp300, double temperature) {
@@ -72,7 +72,7 @@ double LiquidSpecificHeatAt(double cp60, double cp300, double temperature) {
 }
 
 double ReducedTemperatureOf(double temperature, double critTemperature) {
-    return (temperature + Rankine) / critTemperature;
+    return (temperature + ZeroFInDegR) / critTemperature;
 }
 
 double VaporPressureOf(double normalBoilingPoint, double critTemperature, double critPressure,
@@ -109,7 +109,7 @@ double BaseGravityOf(float critCompressibility, double critTemperature, double c
 double GravityAt(float critCompressibility, double critTemperature, double critPressure,
                  double molecularWeight, double temperature) {
     return GravityFrom(critCompressibility, critTemperature, critPressure, molecularWeight,
-                       GravitySlope * (temperature + Rankine));
+                       GravitySlope * (temperature + ZeroFInDegR));
 }
 
 double LightCompressibility(double gravity, double temperature) {

@@ -16,7 +16,7 @@ struct ViscosityLine {
 ViscosityLine ViscosityLineOf(double temperature1, double viscosity1, double temperature2, double viscosity2);
 double ViscosityAt(const ViscosityLine& line, double temperature);
 
-// Btu/lb degF. The sign of the 60 is settled, whatever the columns' names say; nothing shows the result.
+// Btu/lb degF. The 60 is added where the columns' names would have it taken off; nothing shows the result.
 double LiquidSpecificHeatAt(double cp60, double cp300, double temperature);
 
 // Absolute temperature over the critical one.

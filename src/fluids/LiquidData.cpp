@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/CalcRecord.h"
+#include "core/PhysicalConstants.h"
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
@@ -15,8 +16,7 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double Rankine = 459.67;  // degF to degR
-constexpr double Base = 60;         // degF, of the gravities
+constexpr double Base = 60;  // degF, of the gravities
 constexpr double BaseRankine = 519.67;
 
 constexpr const char* Title = "Liquid Calculation";
@@ -30,7 +30,7 @@ int FluidClassNumber() {
 bool IsMixture() { return Calc.FluidOk != words::FluidPicked; }
 
 bool GoOnAboveCritical() {
-    if (!(Calc.FlowTemperature > Calc.CritTemperature - Rankine)) return true;
+    if (!(Calc.FlowTemperature > Calc.CritTemperature - ZeroFInDegR)) return true;
     return AskYesNo("Flow temperature is greater then Critical temperature\nContinue ?", Title);
 }
 

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "core/CalcRecord.h"
+#include "core/PhysicalConstants.h"
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
@@ -142,7 +143,7 @@ void TakeGasSums(const GasSums& sums) {
     Calc.FluidViscosity = sums.Viscosity / std::sqrt(Calc.MolecularWeight);
     Calc.CritTemperature = sums.CritTemperature;
     Calc.RatioSpecificHeats = RatioOfSpecificHeats(sums.MolarHeat);
-    Calc.CritPressure = (sums.CritFactor * 10.7316 * Calc.CritTemperature) / sums.CritVolume;
+    Calc.CritPressure = (sums.CritFactor * GasConstant * Calc.CritTemperature) / sums.CritVolume;
     Calc.LatentHeatBP = sums.LatentHeat;
 }
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/CalcRecord.h"
+#include "core/PhysicalConstants.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
@@ -19,6 +20,7 @@
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
+#include "units/Border.h"
 #include "units/Rounding.h"
 #include "units/Temperature.h"
 #include "units/Viscosity.h"
@@ -233,9 +235,9 @@ void Store(const Steam& steam) {
     // In the order of SteamRows.
     const std::array<double, SteamRows.size()> shown = {
         SteamMolecularWeight,
-        CheckFinite(RoundedFour(GasViscosityShown(steam.Viscosity, SteamMolecularWeight))),
-        CheckFinite(RoundedFour(1 / steam.SpecificVolume / factor[unit::Density])),
-        CheckFinite(RoundedFour(steam.RatioOfHeats)),
+        ShownFigures(GasViscosityShown(steam.Viscosity, SteamMolecularWeight)),
+        ShownFigures(1 / steam.SpecificVolume / factor[unit::Density]),
+        ShownFigures(steam.RatioOfHeats),
         CheckFinite(RoundedSix(SteamCritPressure / factor[unit::CritPressure])),
         CheckFinite(CritTemperatureShown())};
     for (std::size_t i = 0; i < SteamRows.size(); ++i) CaseRow(SteamRows[i]) = shown[i];
@@ -248,8 +250,7 @@ void Store(const Steam& steam) {
 }
 
 double SaturationShown(const Steam& steam) {
-    return CheckFinite(FromDegF(Calc.UnitName[unit::Temperature], steam.SaturationTemperature,
-                                Calc.UnitFactor[unit::Temperature]));
+    return CheckFinite(TemperatureShown(steam.SaturationTemperature));
 }
 
 bool Fail(const char* title, const std::string& text) {
@@ -291,10 +292,8 @@ SteamOutcome TellLookupFailure() {
 }
 
 SteamOutcome TellAboveCritical() {
-    const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
     Tell("Flow pressure " + Entered(3) + " cannot exceed\n Critical pressure " +
-             Shown((SteamCritPressure - gauge) / Calc.UnitFactor[unit::Pressure],
-                   Calc.UnitName[unit::Pressure]),
+             Shown(PressureShown(SteamCritPressure), Calc.UnitName[unit::Pressure]),
          "Saturated Steam", Icon::Stop);
     return SteamOutcome::Refused;
 }
@@ -388,7 +387,7 @@ bool LookupSuperheatedSteam() {
 }
 
 double SaturatedSteamLatentHeat(double temperature) {
-    const double a = 1 - (temperature + 460) / SteamCritTemperature;
+    const double a = 1 - (temperature + RoundZeroFInDegR) / SteamCritTemperature;
     const double b = 1.0 - 672.0 / SteamCritTemperature;
     const double r = a / b;
     if (!(r > 0)) return 0;

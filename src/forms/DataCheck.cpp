@@ -8,6 +8,7 @@
 #include "forms/CalculationForm.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/Border.h"
 #include "units/Temperature.h"
 
 namespace quillmetra {
@@ -34,7 +35,7 @@ bool CheckPressure(TextBox& box, const TempPressureRules& rules) {
     if (Calc.PressureMode == words::Absolute) {
         return Calc.FlowPressure > 0 || RefuseData(rules.AbsoluteText, box);
     }
-    Calc.FlowPressure += Calc.BaroPressure;
+    Calc.FlowPressure += GaugeZero();
     const double lowest = rules.GaugeAboveZero ? Calc.BaroPressure : 0;
     return Calc.FlowPressure >= lowest ||
            RefuseData("Pressure must be greater than minus" +
@@ -51,8 +52,7 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
     const auto i = static_cast<std::size_t>(Calc.CaseIndex);
     if (Calc.TemperatureBlank[i] == 1 && Suite.BatchPrinting == words::Yes) return false;
     const std::string& unit = Calc.UnitName[unit::Temperature];
-    Calc.FlowTemperature =
-        ToDegF(unit, Calc.CaseInput[input::Temperature][i], Calc.UnitFactor[unit::Temperature]);
+    Calc.FlowTemperature = TemperatureIn(Calc.CaseInput[input::Temperature][i]);
     if (!IsAboveAbsoluteZero(Calc.FlowTemperature) || Calc.TemperatureBlank[i] == 1) {
         return RefuseData("Flow Temperature must be greater than " + Str(AbsoluteZeroIn(unit)),
                           boxes.Temperature);

@@ -8,6 +8,7 @@
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/Border.h"
 #include "units/Rounding.h"
 #include "units/Temperature.h"
 
@@ -65,11 +66,9 @@ bool DataForm::CheckState() {
     Calc.TempPressureOk = words::No;
     RestoreStandardConditions();
     const std::size_t i = ThisCase();
-    Calc.FlowTemperature = ToDegF(Calc.UnitName[unit::Temperature], Calc.CaseInput[input::Temperature][i],
-                                  Calc.UnitFactor[unit::Temperature]);
+    Calc.FlowTemperature = TemperatureIn(Calc.CaseInput[input::Temperature][i]);
     Calc.EnteredPressure = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
-    Calc.FlowPressure = Calc.EnteredPressure;
-    if (Calc.PressureMode != words::Absolute) Calc.FlowPressure += Calc.BaroPressure;
+    Calc.FlowPressure = Calc.EnteredPressure + GaugeZero();
     NoteEntered(Calc.CaseIndex);
     if (!HasState(Calc.CaseIndex)) return false;
     if (!IsAboveAbsoluteZero(Calc.FlowTemperature)) {
@@ -91,16 +90,8 @@ void DataForm::cmdOK_Click(int index) {
     UpdateFluidProperties();
 }
 
-double DataForm::TemperatureShown(double degF) {
-    return FromDegF(Calc.UnitName[unit::Temperature], degF, Calc.UnitFactor[unit::Temperature]);
-}
-
-double DataForm::CritTemperatureShown(double degR) {
-    return FromDegR(Calc.UnitName[unit::CritTemperature], degR, Calc.UnitFactor[unit::CritTemperature]);
-}
-
 void DataForm::Store(std::initializer_list<Property> properties) {
-    for (const Property& property : properties) CheckFinite(RoundedFour(property.Value));
+    for (const Property& property : properties) ShownFigures(property.Value);
     for (const Property& property : properties) {
         Calc.CaseInput[property.Row][ThisCase()] = RoundedFour(property.Value);
     }

@@ -53,8 +53,6 @@ protected:
     // Rounds the properties into the case in hand. Throws, with nothing stored, when one is not finite.
     static void Store(std::initializer_list<Property> properties);
     // degF and degR in the units of rows 2 and 12.
-    static double TemperatureShown(double degF);
-    static double CritTemperatureShown(double degR);
 
     TextBox& TemperatureBox(int caseIndex) override { return txtTemp(caseIndex); }
     TextBox& PressureBox(int caseIndex) override { return txtPressure(caseIndex); }

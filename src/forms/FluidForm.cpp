@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Filling.h"
+#include "core/PhysicalConstants.h"
 #include "core/Programs.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
@@ -18,6 +19,7 @@
 #include "platform/TextCase.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
+#include "units/Border.h"
 
 namespace quillmetra {
 
@@ -96,12 +98,10 @@ void FluidForm::NoteEntered(int caseIndex) {
     const auto i = static_cast<std::size_t>(caseIndex);
     Calc.TemperatureBlank[i] = Trim(TemperatureBox(caseIndex).Text()).empty() ? 1 : 0;
     Calc.TemperatureEntered[i] = IsTemperatureEntered(caseIndex) ? words::Entered : "";
-    const double barometer = Calc.PressureMode == words::Absolute ? 0
-                             : Calc.BaroPressure > 0              ? Calc.BaroPressure
-                                                                  : 14.7;
+    const bool known = Calc.PressureMode == words::Absolute || Calc.BaroPressure > 0;
+    const double zero = known ? GaugeZero() : SeaLevelBarometer;
     const std::string& typed = PressureBox(caseIndex).Text();
-    const bool pressure =
-        !Trim(typed).empty() && Val(typed) * Calc.UnitFactor[unit::Pressure] + barometer > 0;
+    const bool pressure = !Trim(typed).empty() && Val(typed) * Calc.UnitFactor[unit::Pressure] + zero > 0;
     Calc.PressureEntered[i] = pressure ? words::Entered : "";
 
     const FluidEntries& entries = Entries[i];
@@ -196,12 +196,11 @@ void FluidForm::ReopenRecord() {
 // saturation. The pressure is taken as a gauge pressure at sea level; it only chooses the word.
 void FluidForm::FindSteamKind() {
     constexpr std::size_t normal = 1;
-    constexpr double seaLevel = 14.7;
     const double pressure = Calc.CaseInput[input::Pressure][normal];
     if (!Calc.SteamKind.empty() || pressure <= 0) return;
     if (LowerCase(Calc.FluidName).find("steam") == std::string::npos) return;
     const Setting finding(Calc.SteamFindMode, words::FindSaturation, "");
-    Calc.FlowPressure = pressure * Calc.UnitFactor[unit::Pressure] + seaLevel;
+    Calc.FlowPressure = pressure * Calc.UnitFactor[unit::Pressure] + SeaLevelBarometer;
     if (LookupSaturatedSteam()) {
         const bool same = Int(Calc.SaturationTemperature) == Int(Calc.CaseInput[input::Temperature][normal]);
         Calc.SteamKind = same ? words::Saturated : words::Superheated;

@@ -7,6 +7,7 @@
 #include "forms/DataCheck.h"
 #include "lineloss/LineRanges.h"
 #include "reports/FormRefresh.h"
+#include "units/Border.h"
 #include "units/CorrelationRange.h"
 
 namespace quillmetra {
@@ -142,8 +143,7 @@ bool LineLossForm::CheckData() {
     const std::size_t i = ThisCase();
     Calc.DataOk = words::No;
     if (!CheckState() || !CheckLine()) return false;
-    Calc.SourcePressure[TheLine] = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
-    if (Calc.PressureMode != words::Absolute) Calc.SourcePressure[TheLine] += Calc.BaroPressure;
+    Calc.SourcePressure[TheLine] = PressureIn(Calc.CaseInput[input::Pressure][i]);
     if (!CheckSourcePressure()) return false;
     Calc.EquipLoss[TheLine] = Calc.CaseInput[input::EquipLoss][i] * Calc.UnitFactor[unit::PressureDrop];
     if (!CheckFluid()) return false;

@@ -12,6 +12,7 @@
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
+#include "units/Border.h"
 #include "units/Conversion.h"
 #include "units/CorrelationRange.h"
 #include "units/Temperature.h"
@@ -38,8 +39,7 @@ bool frmWaterHammer::CheckTempPressure() {
     RestoreStandardConditions(UsualStdPressure);
 
     const std::string& unit = Calc.UnitName[unit::Temperature];
-    Calc.FlowTemperature =
-        ToDegF(unit, Calc.CaseInput[input::Temperature][0], Calc.UnitFactor[unit::Temperature]);
+    Calc.FlowTemperature = TemperatureIn(Calc.CaseInput[input::Temperature][0]);
     if (Calc.FlowTemperature < AbsoluteZeroF) {
         return RefuseData("Flow temperature must be greater than " + Str(AbsoluteZeroIn(unit)), txtFlowTemp);
     }
@@ -51,7 +51,7 @@ bool frmWaterHammer::CheckTempPressure() {
             return RefuseData("Operating pressure must be greater than zero", txtOperPressure, Icon::None);
         }
     } else {
-        Calc.FlowPressure += Calc.BaroPressure;
+        Calc.FlowPressure += GaugeZero();
         if (Calc.FlowPressure < 0) {
             return RefuseData("Operating pressure must be greater than minus" +
                                   Str(Calc.BaroPressure / Calc.UnitFactor[unit::Barometer]),
@@ -70,10 +70,7 @@ bool frmWaterHammer::CheckFlow() {
                               : "Flowing specific gravity must be greater than zero",
                           txtSGFlow);
     }
-    Calc.LiquidMassFlow = Calc.CaseInput[input::LiquidFlow][0] * Calc.UnitFactor[unit::LiquidFlow];
-    if (Calc.LiquidBasis == words::Volume) {
-        Calc.LiquidMassFlow = Calc.LiquidMassFlow * Calc.FlowingSG * WaterPoundsPerGallon;
-    }
+    Calc.LiquidMassFlow = LiquidFlowIn(Calc.CaseInput[input::LiquidFlow][0], Calc.FlowingSG);
     if (!(Calc.LiquidMassFlow > 0)) {
         return RefuseData("Maximum flow must be greater than zero", txtMaxLiqFlow);
     }
@@ -81,9 +78,7 @@ bool frmWaterHammer::CheckFlow() {
 }
 
 bool frmWaterHammer::CheckLine() {
-    Calc.MaxAllowPressure =
-        Calc.CaseInput[input::Pressure][column::Allowable] * Calc.UnitFactor[unit::Pressure];
-    if (Calc.PressureMode != words::Absolute) Calc.MaxAllowPressure += Calc.BaroPressure;
+    Calc.MaxAllowPressure = PressureIn(Calc.CaseInput[input::Pressure][column::Allowable]);
     if (Calc.MaxAllowPressure <= Calc.FlowPressure) {
         return RefuseData("Maximum allowable pressure must be greater than operating pressure",
                           txtMaxAllowPressure);
@@ -93,11 +88,12 @@ bool frmWaterHammer::CheckLine() {
         TextBox& Box;
         std::size_t Row, Column;  // of CaseInput; the row is that of its unit too
         const char* What;
-    } tests[] = {{&CalcRecord::BulkModulus, txtBulkModulus, 27, 0, "Bulk modulus"},
-                 {&CalcRecord::PipeModulus, txtLineModulus, 27, 1, "Pipe modulus"},
-                 {&CalcRecord::LineLength, txtLineLength, 25, 0, "Line length"},
-                 {&CalcRecord::WallThickness, txtPipeWall, 18, 2, "Wall thickness"},
-                 {&CalcRecord::PipeDiameter, txtPipeID, 18, 0, "Pipe diameter"}};
+    } tests[] = {
+        {&CalcRecord::BulkModulus, txtBulkModulus, input::Modulus, column::OfLiquid, "Bulk modulus"},
+        {&CalcRecord::PipeModulus, txtLineModulus, input::Modulus, column::OfPipe, "Pipe modulus"},
+        {&CalcRecord::LineLength, txtLineLength, input::LineLength, 0, "Line length"},
+        {&CalcRecord::WallThickness, txtPipeWall, input::PipeSize, column::Wall, "Wall thickness"},
+        {&CalcRecord::PipeDiameter, txtPipeID, input::PipeSize, column::InsideDiameter, "Pipe diameter"}};
     for (const auto& test : tests) {
         Calc.*test.Field = Calc.CaseInput[test.Row][test.Column] * Calc.UnitFactor[test.Row];
         if (Calc.*test.Field > 0) continue;

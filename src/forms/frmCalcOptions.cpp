@@ -89,7 +89,7 @@ int& frmCalcOptions::UnitSet() const { return IsLiquid() ? Calc.LiquidUnitSet : 
 void frmCalcOptions::Load() {
     ApplyColours(*this);
     Calc.OptionsLoaded = words::Loaded;
-    if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = 14.7;
+    if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = SeaLevelBarometer;
     opened_ = Calc;
     SetCaption(Suite.VersionText + "Calculation options");
     ShowOptions();

@@ -7,6 +7,7 @@
 #include "forms/DataCheck.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
+#include "units/Border.h"
 #include "units/CorrelationRange.h"
 #include "units/StandardRange.h"
 #include "units/Temperature.h"
@@ -52,7 +53,7 @@ bool frmGasData::CheckPressureAlone() {
     RestoreStandardConditions();
     const bool absolute = Calc.PressureMode == words::Absolute;
     Calc.EnteredPressure = Calc.CaseInput[input::Pressure][ThisCase()] * Calc.UnitFactor[unit::Pressure];
-    Calc.FlowPressure = Calc.EnteredPressure + (absolute ? 0 : Calc.BaroPressure);
+    Calc.FlowPressure = Calc.EnteredPressure + GaugeZero();
     if (!absolute || Calc.FlowPressure > 0) return true;
     return RefuseData("Flow pressure must be greater than zero", txtPressure(Calc.CaseIndex));
 }

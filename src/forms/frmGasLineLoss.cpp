@@ -9,6 +9,7 @@
 #include "platform/Arithmetic.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
+#include "units/Border.h"
 #include "units/CorrelationRange.h"
 #include "units/Rounding.h"
 #include "units/StandardRange.h"
@@ -16,12 +17,6 @@
 #include "units/Viscosity.h"
 
 namespace quillmetra {
-
-namespace {
-
-constexpr double StandardCubicFeetPerMole = 378.751445;  // of a lb-mole; whatever the base conditions
-
-}  // namespace
 
 void GasLinePicture::Take(const GasStation& station) {
     last_ = station;
@@ -91,8 +86,7 @@ bool frmGasLineLoss::CheckFluid() {
     if (!(Calc.CritPressure > 0)) {
         return RefuseData("Critical pressure must be greater than zero", txtCritPressure(caseIndex));
     }
-    Calc.CritTemperature = ToDegR(Calc.UnitName[unit::CritTemperature],
-                                  Calc.CaseInput[input::CritTemperature][i], factor[unit::CritTemperature]);
+    Calc.CritTemperature = CritTemperatureIn(Calc.CaseInput[input::CritTemperature][i]);
     if (!IsAboveZeroDegR(Calc.CritTemperature) || Trim(txtCritTemp(caseIndex).Text()).empty()) {
         return RefuseData("Critical Temperature must be greater than " +
                               Str(AbsoluteZeroIn(Calc.UnitName[unit::CritTemperature])),
@@ -102,10 +96,7 @@ bool frmGasLineLoss::CheckFluid() {
     if (!(Calc.MolecularWeight > 0)) {
         return RefuseData("Molecular weight must be greater than zero", txtMW(caseIndex));
     }
-    Calc.MassFlow = Calc.CaseInput[input::GasFlow][i] * factor[unit::GasFlow];
-    if (Calc.Basis == words::Volume) {
-        Calc.MassFlow = Calc.MassFlow * Calc.MolecularWeight / StandardCubicFeetPerMole;
-    }
+    Calc.MassFlow = GasFlowIn(Calc.CaseInput[input::GasFlow][i], Calc.MolecularWeight);
     if (!(Calc.MassFlow > 0)) {
         return RefuseData("Flow must be greater than zero", txtFlow(caseIndex), Icon::None);
     }
@@ -113,10 +104,7 @@ bool frmGasLineLoss::CheckFluid() {
     if (!(Calc.RatioSpecificHeats > 0)) {
         return RefuseData("Ratio of specific heats must be greater than zero", txtRatioSH(caseIndex));
     }
-    Calc.Viscosity = Calc.CaseInput[input::Viscosity][i] * factor[unit::Viscosity];
-    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[unit::Viscosity]); kinematic > 0) {
-        Calc.Viscosity = Calc.Viscosity / MolarViscosity * Calc.MolecularWeight * kinematic;
-    }
+    Calc.Viscosity = GasViscosityIn(Calc.CaseInput[input::Viscosity][i], Calc.MolecularWeight);
     if (!(Calc.Viscosity > 0)) {
         return RefuseData("Viscosity must be greater than zero", txtViscosity(caseIndex));
     }
@@ -143,11 +131,10 @@ bool frmGasLineLoss::CalculateCase() {
 // sonic.
 PlotDrawing frmGasLineLoss::DrawingOf(int caseIndex) const {
     const std::vector<GasStation>& stations = pictures_[static_cast<std::size_t>(caseIndex)].Stations();
-    const double gauge = Calc.PressureMode == words::Absolute ? 0 : Calc.BaroPressure;
     std::vector<double> lengths, pressures, velocities, sonic;
     for (const GasStation& station : stations) {
         lengths.push_back(station.Part * Calc.PipeData[pipe::Length]);
-        pressures.push_back((station.Pressure - gauge) / Calc.UnitFactor[unit::Pressure]);
+        pressures.push_back(PressureShown(station.Pressure));
         velocities.push_back(station.Velocity / Calc.UnitFactor[unit::Velocity]);
         sonic.push_back(station.SonicVelocity / Calc.UnitFactor[unit::Velocity]);
     }
@@ -187,14 +174,12 @@ void frmGasLineLoss::ShowResults(const GasLineResults& results) {
 void frmGasLineLoss::FillCase() {
     const std::size_t i = ThisCase();
     const UnitFactors& factor = Calc.UnitFactor;
-    const auto shown = [](double value) { return CheckFinite(RoundedFour(value)); };
-    Calc.RatioSpecificHeats = shown(Calc.RatioSpecificHeats);
+    Calc.RatioSpecificHeats = ShownFigures(Calc.RatioSpecificHeats);
     const double weight = CheckFinite(Calc.MolecularWeight);
-    const double viscosity = shown(GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight));
-    const double critPressure = shown(Calc.CritPressure / factor[unit::CritPressure]);
-    const double critTemperature = shown(
-        FromDegR(Calc.UnitName[unit::CritTemperature], Calc.CritTemperature, factor[unit::CritTemperature]));
-    const double density = shown(Calc.Density / factor[unit::Density]);
+    const double viscosity = ShownFigures(GasViscosityShown(Calc.FluidViscosity, Calc.MolecularWeight));
+    const double critPressure = ShownFigures(Calc.CritPressure / factor[unit::CritPressure]);
+    const double critTemperature = ShownFigures(CritTemperatureShown(Calc.CritTemperature));
+    const double density = ShownFigures(Calc.Density / factor[unit::Density]);
 
     Calc.CaseInput[input::MolecularWeight][i] = weight;
     Calc.CaseInput[input::Viscosity][i] = viscosity;

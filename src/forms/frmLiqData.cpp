@@ -3,18 +3,13 @@
 
 #include "core/Words.h"
 #include "fluids/LiquidCorrelations.h"
+#include "units/Border.h"
 #include "units/Conversion.h"
 #include "units/Viscosity.h"
 
 namespace quillmetra {
 
 namespace {
-
-// A gravity as it is, or as a density in the unit of row 5, which is that of row 9 here.
-double GravityShown(double gravity) {
-    const bool density = Calc.LiquidDensityMode == words::Density;
-    return density ? gravity / Calc.UnitFactor[unit::UserDensity] * WaterDensity : gravity;
-}
 
 // A value that is not above 0 is not known, and its box stays blank.
 double Known(double value) { return value > 0 ? value : 0; }
@@ -43,9 +38,9 @@ void frmLiqData::FillCase() {
            {input::CritTemperature, CritTemperatureShown(Calc.CritTemperature)},
            {input::Modulus, Known(Calc.BulkModulus / factor[unit::Modulus])},
            {input::FlashPoint, Calc.FlashPoint > 0 && !mixture ? TemperatureShown(Calc.FlashPoint) : 0},
-           {input::StandardGravity, GravityShown(Calc.SGAtStandard)},
+           {input::StandardGravity, GravityShown(Calc.SGAtStandard, unit::UserDensity)},
            {input::LiquidWeight, Calc.MolecularWeight},
-           {input::FlowGravity, GravityShown(Calc.FlowingSG)},
+           {input::FlowGravity, GravityShown(Calc.FlowingSG, unit::UserDensity)},
            {input::Density, WaterDensity * Calc.FlowingSG / factor[unit::UserDensity]},
            {input::Viscosity, LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)},
            {input::CritPressure, Calc.CritPressure / factor[unit::CritPressure]}});

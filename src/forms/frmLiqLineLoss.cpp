@@ -10,6 +10,7 @@
 #include "lineloss/LiquidLineLoss.h"
 #include "platform/Arithmetic.h"
 #include "reports/FormRefresh.h"
+#include "units/Border.h"
 #include "units/Conversion.h"
 #include "units/Rounding.h"
 #include "units/Viscosity.h"
@@ -45,28 +46,18 @@ bool frmLiqLineLoss::CheckSourcePressure() {
 bool frmLiqLineLoss::CheckFluid() {
     const int caseIndex = Calc.CaseIndex;
     const std::size_t i = ThisCase();
-    const UnitFactors& factor = Calc.UnitFactor;
-    if (Calc.LiquidDensityMode == words::Density) {
-        Calc.FlowingSG = Calc.CaseInput[input::FlowGravity][i] * factor[unit::LiquidDensity] / WaterDensity;
-        if (!(Calc.FlowingSG > 0)) {
-            return RefuseData("Flowing Density must be greater than zero", txtSGFlow(caseIndex));
-        }
-    } else {
-        Calc.FlowingSG = Calc.CaseInput[input::FlowGravity][i];
-        if (!(Calc.FlowingSG > 0)) {
-            return RefuseData("Flowing specific gravity must be greater than zero", txtSGFlow(caseIndex));
-        }
+    Calc.FlowingSG = GravityIn(Calc.CaseInput[input::FlowGravity][i], unit::LiquidDensity);
+    if (!(Calc.FlowingSG > 0)) {
+        return RefuseData(Calc.LiquidDensityMode == words::Density
+                              ? "Flowing Density must be greater than zero"
+                              : "Flowing specific gravity must be greater than zero",
+                          txtSGFlow(caseIndex));
     }
 
-    Calc.MassFlow = Calc.CaseInput[input::LiquidFlow][i] * factor[unit::LiquidFlow];
-    if (Calc.LiquidBasis == words::Volume)
-        Calc.MassFlow = Calc.MassFlow * Calc.FlowingSG * WaterPoundsPerGallon;
+    Calc.MassFlow = LiquidFlowIn(Calc.CaseInput[input::LiquidFlow][i], Calc.FlowingSG);
     if (!(Calc.MassFlow > 0)) return RefuseData("Flow must be greater than zero", txtFlow(caseIndex));
 
-    Calc.Viscosity = Calc.CaseInput[input::Viscosity][i] * factor[unit::Viscosity];
-    if (const double kinematic = CentistokesPerUnit(Calc.UnitName[unit::Viscosity]); kinematic > 0) {
-        Calc.Viscosity = Calc.Viscosity * Calc.FlowingSG * kinematic;
-    }
+    Calc.Viscosity = LiquidViscosityIn(Calc.CaseInput[input::Viscosity][i], Calc.FlowingSG);
     if (!(Calc.Viscosity > 0))
         return RefuseData("Viscosity must be greater than zero", txtViscosity(caseIndex));
     return true;
@@ -121,15 +112,12 @@ void frmLiqLineLoss::FillCase() {
     double vaporPressure = 0;
     if (Calc.VaporPressure > 0) {
         Calc.VaporPressure = RoundedFour(Calc.VaporPressure);
-        vaporPressure = CheckFinite(RoundedFour(Calc.VaporPressure / Calc.UnitFactor[unit::VaporPressure]));
+        vaporPressure = ShownFigures(Calc.VaporPressure / Calc.UnitFactor[unit::VaporPressure]);
     }
     Calc.FlowingSG = RoundedFour(Calc.FlowingSG);
-    const double gravity =
-        CheckFinite(Calc.LiquidDensityMode == words::Density
-                        ? RoundedFour(Calc.FlowingSG / Calc.UnitFactor[unit::UserDensity] * WaterDensity)
-                        : Calc.FlowingSG);
+    const double gravity = ShownFigures(GravityShown(Calc.FlowingSG, unit::UserDensity));
     Calc.CaseInput[input::Viscosity][i] =
-        CheckFinite(RoundedFour(LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG)));
+        ShownFigures(LiquidViscosityShown(Calc.FluidViscosity, Calc.FlowingSG));
     Calc.CaseInput[input::VaporPressure][i] = vaporPressure;
     Calc.CaseInput[input::FlowGravity][i] = gravity;
     Calc.Viscosity = Calc.FluidViscosity;

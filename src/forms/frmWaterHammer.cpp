@@ -10,6 +10,7 @@
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "tables/TableFiles.h"
+#include "units/Border.h"
 #include "units/Conversion.h"
 #include "units/ProgramConversion.h"
 #include "units/Rounding.h"
@@ -118,11 +119,9 @@ void frmWaterHammer::TellNeedsState(int) {
 // Gravity and bulk modulus, rounded, in the units shown. A liquid whose modulus is not known leaves its box
 // blank.
 void frmWaterHammer::FillCase() {
-    const bool density = Calc.LiquidDensityMode == words::Density;
-    const double gravity = CheckFinite(RoundedFour(
-        density ? Calc.FlowingSG / Calc.UnitFactor[unit::LiquidDensity] * WaterDensity : Calc.FlowingSG));
+    const double gravity = ShownFigures(GravityShown(Calc.FlowingSG, unit::LiquidDensity));
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
-    const double modulus = CheckFinite(RoundedFour(Calc.BulkModulus / Calc.UnitFactor[unit::Modulus]));
+    const double modulus = ShownFigures(Calc.BulkModulus / Calc.UnitFactor[unit::Modulus]);
     Calc.CaseInput[input::FlowGravity][0] = gravity;
     Calc.CaseInput[input::Modulus][column::OfLiquid] = modulus > 0 ? modulus : 0;
     StateIsDealtWith(Control::NoIndex);

@@ -6,6 +6,7 @@
 
 #include "core/CalcRecord.h"
 #include "platform/Arithmetic.h"
+#include "units/Border.h"
 #include "units/ProgramConversion.h"
 #include "units/Rounding.h"
 
@@ -15,9 +16,7 @@ namespace {
 
 constexpr double QuarterPi = 0.7854;
 
-double Shown(double value, std::size_t unitRow) {
-    return CheckFinite(RoundedFour(value / Calc.UnitFactor[unitRow]));
-}
+double Shown(double value, std::size_t unitRow) { return ShownFigures(value / Calc.UnitFactor[unitRow]); }
 
 }  // namespace
 

@@ -18,7 +18,7 @@ constexpr double SmallestStep = 1e-06;
 
 // 62.36 lb/ft3 here, where data checking turns an entered density into a gravity by 62.366: a density entered
 // as such comes back a little changed.
-constexpr double WaterDensity = 62.36;
+constexpr double FrictionWaterDensity = 62.36;
 
 void WarnOfNoConvergence() {
     Calc.MessageTitle = "Friction Factor Calculation";
@@ -93,7 +93,7 @@ void CalcFriction() {
     Calc.ReynoldsNumber = ReynoldsOf(Calc.MassFlow, Calc.PipeId[TheLine], Calc.Viscosity);
     CalcFrictionFactor();
     CalcFlowStatus();
-    if (Calc.CurrentProgram == program::LiquidLine) Calc.Density = Calc.FlowingSG * WaterDensity;
+    if (Calc.CurrentProgram == program::LiquidLine) Calc.Density = Calc.FlowingSG * FrictionWaterDensity;
 
     Calc.MessageTitle = "Line pressure loss calculation";
     Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[TheLine], Calc.Density);

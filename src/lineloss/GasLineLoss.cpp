@@ -9,9 +9,9 @@
 #include "fluids/GasData.h"
 #include "lineloss/FlowStatus.h"
 #include "lineloss/Friction.h"
-#include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/Border.h"
 #include "units/Rounding.h"
 
 namespace quillmetra {
@@ -139,8 +139,6 @@ private:
     const double exit_ = LengthOf(Calc.ExitK, 9);
 };
 
-double Shown(double value) { return CheckFinite(RoundedFour(value)); }
-
 }  // namespace
 
 void CalcGasFriction() {
@@ -177,17 +175,15 @@ bool CalcGasProfile(const GasLineObserver& observer) {
 GasLineResults GasLineResultsOf(const CalcRecord& record) {
     const auto& factor = record.UnitFactor;
     const bool isSonic = record.Velocity == record.SonicVelocity;
-    const double pressure = record.PressureMode == words::Absolute
-                                ? record.FlowPressure
-                                : record.FlowPressure - record.BaroPressure;
     const double difference = record.SourcePressure[TheLine] - record.FlowPressure;
     const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
-    return {.IsSonic = isSonic,
-            .FinalPressure = isSonic ? 0 : Shown(pressure / factor[unit::Pressure]),
-            .LossPer100 = isSonic ? 0 : Shown(loss / factor[unit::PressureDrop] * factor[unit::Length]),
-            .Velocity = Shown(record.Velocity / factor[unit::Velocity]),
-            .SonicVelocity = Shown(record.SonicVelocity / factor[unit::Velocity]),
-            .EquivLength = Shown(std::fabs(record.EquivLength) / factor[unit::Length])};
+    return {
+        .IsSonic = isSonic,
+        .FinalPressure = isSonic ? 0 : ShownFigures(PressureShown(record.FlowPressure, record)),
+        .LossPer100 = isSonic ? 0 : ShownFigures(loss / factor[unit::PressureDrop] * factor[unit::Length]),
+        .Velocity = ShownFigures(record.Velocity / factor[unit::Velocity]),
+        .SonicVelocity = ShownFigures(record.SonicVelocity / factor[unit::Velocity]),
+        .EquivLength = ShownFigures(std::fabs(record.EquivLength) / factor[unit::Length])};
 }
 
 }  // namespace quillmetra

@@ -4,10 +4,9 @@
 #include <cmath>
 
 #include "core/Words.h"
-#include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
-#include "units/Rounding.h"
+#include "units/Border.h"
 
 namespace quillmetra {
 
@@ -17,18 +16,8 @@ namespace {
 // added to what is absolute already; the figure stands so.
 double PercentReached(double difference) {
     if (difference == 0) return 0;
-    const double source = Calc.PressureMode == words::Absolute
-                              ? Calc.SourcePressure[TheLine]
-                              : Calc.SourcePressure[TheLine] + Calc.BaroPressure;
+    const double source = Calc.SourcePressure[TheLine] + GaugeZero();
     return Int(100 * source / difference);
-}
-
-double Shown(double value) { return CheckFinite(RoundedFour(value)); }
-
-// From psia to unit row 3, gauge or absolute as the pressure mode.
-double PressureShown(const CalcRecord& record, double pressure) {
-    if (record.PressureMode != words::Absolute) pressure -= record.BaroPressure;
-    return pressure / record.UnitFactor[unit::Pressure];
 }
 
 }  // namespace
@@ -48,11 +37,11 @@ LiquidLineResults LiquidLineResultsOf(const CalcRecord& record) {
     const auto& factor = record.UnitFactor;
     const double difference = record.SourcePressure[TheLine] - record.FlowPressure;
     const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
-    return {.FinalPressure = Shown(PressureShown(record, record.FlowPressure)),
-            .LossPer100 = Shown(loss / factor[unit::PressureDrop] * factor[unit::Length]),
-            .Velocity = Shown(record.Velocity / factor[unit::Velocity]),
-            .Reynolds = Shown(record.ReynoldsNumber),
-            .EquivLength = Shown(std::fabs(record.EquivLength) / factor[unit::Length])};
+    return {.FinalPressure = ShownFigures(PressureShown(record.FlowPressure, record)),
+            .LossPer100 = ShownFigures(loss / factor[unit::PressureDrop] * factor[unit::Length]),
+            .Velocity = ShownFigures(record.Velocity / factor[unit::Velocity]),
+            .Reynolds = ShownFigures(record.ReynoldsNumber),
+            .EquivLength = ShownFigures(std::fabs(record.EquivLength) / factor[unit::Length])};
 }
 
 }  // namespace quillmetra

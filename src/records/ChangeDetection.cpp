@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/CalcRecord.h"
+#include "core/PhysicalConstants.h"
 #include "core/Words.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
@@ -43,7 +44,7 @@ bool BasisDiffers() {
 
 // A record that was begun without a barometer has the usual one.
 bool BarometerDiffers() {
-    const auto inForce = [](double barometer) { return barometer > 0 ? barometer : 14.7; };
+    const auto inForce = [](double barometer) { return barometer > 0 ? barometer : SeaLevelBarometer; };
     return inForce(Calc.BaroPressure) != inForce(Calc.BaroPressureSaved);
 }
 

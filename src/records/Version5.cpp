@@ -103,7 +103,7 @@ void TakeUnits(std::string_view record) {
 void TakePipe(std::string_view record, std::size_t countWidth) {
     for (std::size_t i = 1; i <= 6; ++i) Calc.PipeData[i] = Single(record, PipeAt + 4 * (i - 1));
     for (const int flag : {pipe::Entrance, pipe::Exit})
-        Calc.PipeData[flag] = Calc.PipeData[flag] == pipe::Ticked ? pipe::Ticked : pipe::NotTicked;
+        Calc.PipeData[At(flag)] = Calc.PipeData[At(flag)] == pipe::Ticked ? pipe::Ticked : pipe::NotTicked;
     for (std::size_t i = 1; i <= Counts; ++i) {
         Calc.FittingCount[i] = Count(record, CountsAt + countWidth * (i - 1), countWidth);
     }

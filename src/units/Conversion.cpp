@@ -7,6 +7,7 @@
 #include "core/Words.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "units/Border.h"
 #include "units/Rounding.h"
 #include "units/Temperature.h"
 #include "units/Viscosity.h"
@@ -43,7 +44,7 @@ double ConvertedTemperature(double value) {
     if (UnitStays(unit::Temperature, chosen::Temperature)) return value;
     const double degF = ToDegF(Calc.ChosenUnitRowNames[chosen::Temperature], value,
                                Calc.UnitFactorPrevious[unit::Temperature]);
-    return Expressible(FromDegF(Calc.UnitName[unit::Temperature], degF, Calc.UnitFactor[unit::Temperature]));
+    return Expressible(TemperatureShown(degF));
 }
 
 void ConvertFluidTemperature(double& value) {
@@ -82,12 +83,7 @@ double Rescaled(double value, int unitRow) {
     return Expressible(former == now ? value : value * former / now);
 }
 
-double GravityOfFirstCase() {
-    const double value = Calc.CaseInput[input::FlowGravity][0];
-    return Calc.LiquidDensityMode == words::Density
-               ? value * Calc.UnitFactor[unit::LiquidDensity] / WaterDensity
-               : value;
-}
+double GravityOfFirstCase() { return GravityIn(Calc.CaseInput[input::FlowGravity][0], unit::LiquidDensity); }
 
 void ConvertLineFlowGas(int caseIndex) {
     double& flow = Calc.CaseInput[input::GasFlow][At(caseIndex)];
@@ -98,8 +94,8 @@ void ConvertLineFlowGas(int caseIndex) {
             flow = 0;
             return;
         }
-        flow = Calc.Basis == words::Mass ? flow * molecularWeight / MolarVolume
-                                         : flow / molecularWeight * MolarVolume;
+        flow =
+            Calc.Basis == words::Mass ? MassOfGas(flow, molecularWeight) : VolumeOfGas(flow, molecularWeight);
     }
     flow = Rescaled(flow, unit::GasFlow);
 }
@@ -108,8 +104,8 @@ void ConvertLineFlowLiquid(int caseIndex) {
     double& flow = Calc.CaseInput[input::LiquidFlow][At(caseIndex)];
     if (Calc.LiquidBasis != Calc.LiquidBasisPrevious) {
         TakeFlowGravity(caseIndex);
-        flow = Calc.LiquidBasis == words::Mass ? flow * Calc.FlowingSG * WaterPoundsPerGallon
-                                               : flow / Calc.FlowingSG / WaterPoundsPerGallon;
+        flow = Calc.LiquidBasis == words::Mass ? MassOfLiquid(flow, Calc.FlowingSG)
+                                               : VolumeOfLiquid(flow, Calc.FlowingSG);
     }
     flow = Rescaled(flow, unit::LiquidFlow);
 }
@@ -127,8 +123,7 @@ void ConvertCritTemperature(int caseIndex) {
     if (value == 0 || UnitStays(unit::CritTemperature, chosen::CritTemperature)) return;
     const double degR = ToDegR(Calc.ChosenUnitRowNames[chosen::CritTemperature], value,
                                Calc.UnitFactorPrevious[unit::CritTemperature]);
-    value = Expressible(
-        FromDegR(Calc.UnitName[unit::CritTemperature], degR, Calc.UnitFactor[unit::CritTemperature]));
+    value = Expressible(CritTemperatureShown(degR));
 }
 
 void ConvertBoilingPoint(int caseIndex) {

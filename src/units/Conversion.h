@@ -3,13 +3,9 @@
 // new unit cannot express, because it would overflow, becomes 0.
 #pragma once
 
-namespace quillmetra {
+#include "core/PhysicalConstants.h"
 
-// Volume of one pound mole of gas at standard conditions, sft3.
-constexpr double MolarVolume = 378.751445;
-// lb of water in a US gallon, and lb/ft3 of water, as the conversions count.
-constexpr double WaterPoundsPerGallon = 8.3378;
-constexpr double WaterDensity = 62.366;
+namespace quillmetra {
 
 // The value itself, or 0 for one that is not finite.
 double Expressible(double value);

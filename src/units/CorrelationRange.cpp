@@ -3,6 +3,7 @@
 
 #include "core/Words.h"
 #include "platform/NumberText.h"
+#include "units/Border.h"
 #include "units/Rounding.h"
 #include "units/Temperature.h"
 
@@ -14,18 +15,17 @@ std::string Shown(double value, const std::string& unit) {
     return TrimmedStr(RoundedFour(value)) + (unit.empty() ? "" : " " + unit);
 }
 
-std::string ShownBound(double bound, BoundUnit unit, const CalcRecord& record) {
-    constexpr std::size_t temperature = 2, pressure = 3, diameter = 18;  // rows of units
-    switch (unit) {
+std::string ShownBound(double bound, BoundUnit of, const CalcRecord& record) {
+    switch (of) {
         case BoundUnit::Temperature:
-            return Shown(FromDegF(record.UnitName[temperature], bound, record.UnitFactor[temperature]),
-                         record.UnitName[temperature]);
+            return Shown(
+                FromDegF(record.UnitName[unit::Temperature], bound, record.UnitFactor[unit::Temperature]),
+                record.UnitName[unit::Temperature]);
         case BoundUnit::Pressure: {
-            const double gauge = record.PressureMode == words::Absolute ? 0 : record.BaroPressure;
-            return Shown((bound - gauge) / record.UnitFactor[pressure], record.UnitName[pressure]);
+            return Shown(PressureShown(bound, record), record.UnitName[unit::Pressure]);
         }
         case BoundUnit::PipeDiameter:
-            return Shown(bound / record.UnitFactor[diameter], record.UnitName[diameter]);
+            return Shown(bound / record.UnitFactor[unit::PipeSize], record.UnitName[unit::PipeSize]);
         case BoundUnit::Seconds: return Shown(bound, "s");
         case BoundUnit::None: break;
     }

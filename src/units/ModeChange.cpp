@@ -44,7 +44,7 @@ void ChangePressures(Change change) {
             Renew(*pressure, change);
     }
     for (const int element : {wave::Pressure, wave::SelectedPressure})
-        Renew(Calc.HammerResult[element], change);
+        Renew(Calc.HammerResult[At(element)], change);
 }
 
 // The line forms show all cases anew, not only the one in hand.
@@ -79,7 +79,7 @@ void ChangePressureMode(const std::string& mode) {
     Calc.PressureMode = mode;
     Calc.PressureModePrevious = mode;
     if (!changes) return;
-    if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = 14.7;
+    if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = SeaLevelBarometer;
     const double barometer = Calc.BaroPressure / Calc.UnitFactorPrevious[unit::Pressure];
     if (Calc.NoConversion != words::Yes) {
         ChangePressures([=](double pressure) {

@@ -23,8 +23,8 @@ const std::array<NamedUnitSet, 4> NamedUnitSets = {{
 namespace {
 
 void SetFlowUnit(int row, const NamedUnitSet::FlowUnit& unit) {
-    Calc.UnitName[row] = unit.Name;
-    Calc.UnitFactor[row] = unit.Factor;
+    Calc.UnitName[At(row)] = unit.Name;
+    Calc.UnitFactor[At(row)] = unit.Factor;
 }
 
 void ShowStandardConditions(const char* system, const char* temperature, const char* pressure,
@@ -34,8 +34,8 @@ void ShowStandardConditions(const char* system, const char* temperature, const c
     Calc.UnitName[unit::StdTemperature] = temperature;
     Calc.UnitFactor[unit::StdTemperature] = 1;
     for (const int row : {unit::StdPressure, unit::Barometer}) {
-        Calc.UnitName[row] = pressure;
-        Calc.UnitFactor[row] = pressureFactor;
+        Calc.UnitName[At(row)] = pressure;
+        Calc.UnitFactor[At(row)] = pressureFactor;
     }
 }
 

@@ -3,12 +3,13 @@
 
 #include <array>
 
+#include "core/PhysicalConstants.h"
+
 namespace quillmetra {
 
 constexpr int UserUnitSet = 5;
 
 // As the unit lists have it.
-constexpr double PsiPerKPa = 0.14504;
 
 struct NamedUnitSet {
     // A flow unit: composite of quantity and time base, with the factor to lb/h, USgal/h or sft3/h.

@@ -8,6 +8,7 @@
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "platform/Forms.h"
+#include "units/Border.h"
 #include "units/Conversion.h"
 #include "units/RecordUnits.h"
 #include "units/Rounding.h"
@@ -208,10 +209,7 @@ void ConvertCommonRows() {
             if (Applies(row)) Rescale(Calc.CaseInput[At(row.Row)][i], row.UnitRow);
         }
         if (Calc.CurrentProgram == program::LiquidLine) {
-            const double value = Calc.CaseInput[input::FlowGravity][i];
-            Calc.FlowingSG = Calc.LiquidDensityMode == words::Density
-                                 ? value / WaterDensity * Calc.UnitFactor[unit::LiquidDensity]
-                                 : value;
+            Calc.FlowingSG = GravityIn(Calc.CaseInput[input::FlowGravity][i], unit::LiquidDensity);
         }
         Calc.CaseResult[result::LossPer100][i] = RescaledLoss(Calc.CaseResult[result::LossPer100][i]);
         for (const ElementRow& row : CommonResults) Rescale(Calc.CaseResult[At(row.Element)][i], row.UnitRow);

@@ -4,11 +4,9 @@
 
 #include <string_view>
 
-namespace quillmetra {
+#include "core/PhysicalConstants.h"
 
-// degF, and also 0 degF in degR.
-constexpr double AbsoluteZeroF = -459.67;
-constexpr double ZeroFInDegR = 459.67;
+namespace quillmetra {
 
 // degF from a value in a unit and back. The factor counts for a unit of the user's own alone.
 double ToDegF(std::string_view unit, double value, double factor);

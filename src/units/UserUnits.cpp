@@ -22,10 +22,10 @@ namespace quillmetra {
 namespace {
 
 // The pairs of the file in their order.
-constexpr std::array<int, 10> LiquidRows = {
+constexpr std::array<std::size_t, 10> LiquidRows = {
     unit::LiquidFlow, unit::Temperature, unit::Pressure, unit::PressureDrop, unit::Viscosity,
     unit::Velocity,   unit::Modulus,     unit::PipeSize, unit::Length,       unit::UserDensity};
-constexpr std::array<int, 10> GasRows = {
+constexpr std::array<std::size_t, 10> GasRows = {
     unit::GasFlow,      unit::Temperature, unit::Pressure,     unit::PressureDrop, unit::CritTemperature,
     unit::CritPressure, unit::Velocity,    unit::GasViscosity, unit::PipeSize,     unit::Length};
 
@@ -65,10 +65,10 @@ int NextUnitSet(LineReader& file) {
     return 0;
 }
 
-void ReadSet(LineReader& file, UserSet& set, std::span<const int> rows) {
+void ReadSet(LineReader& file, UserSet& set, std::span<const std::size_t> rows) {
     set.Basis = NextWord(file, words::Mass, words::Volume);
     set.UnitSet = NextUnitSet(file);
-    for (const int row : rows) {
+    for (const std::size_t row : rows) {
         set.Names[row] = FirstCharacters(file.NextWhole(), LongestUnitName);
         const double factor = NextNumber(file);
         set.Factors[row] = IsUsableFactor(factor) ? factor : 0;
@@ -114,14 +114,14 @@ void TakeBootSet() {
 // In the fluid data programs these follow the family of the pressure unit, whatever the set holds. The
 // gauge names of row 8 stand, although vapor pressures are absolute.
 struct FamilyUnit {
-    int Row;
+    std::size_t Row;
     const char* English;
     const char* SI;
     double SIFactor;
 };
 constexpr FamilyUnit FamilyUnits[] = {
-    {unit::VaporPressure, "psig", "kPag", 0.14504}, {unit::Density, "lb/ft3", "kg/m3", 0.062428},
-    {unit::CritPressure, "psia", "kPaa", 0.14504},  {unit::CritTemperature, "degR", "degK", 1},
+    {unit::VaporPressure, "psig", "kPag", PsiPerKPa}, {unit::Density, "lb/ft3", "kg/m3", 0.062428},
+    {unit::CritPressure, "psia", "kPaa", PsiPerKPa},  {unit::CritTemperature, "degR", "degK", 1},
     {unit::LatentHeat, "btu/lb", "kJ/kg", 0.42992},
 };
 
@@ -149,14 +149,14 @@ void TakeLiquidSet() {
     Calc.LiquidUnitSet = UserUnitSet;
     Calc.LiquidBasisPrevious = Calc.LiquidBasis;
     Calc.LiquidBasis = Suite.UserLiquidBasis;
-    for (const int row : LiquidRows) {
+    for (const std::size_t row : LiquidRows) {
         TakeUnit(row, Suite.UserLiquidUnitName[row], Suite.UserLiquidUnitFactor[row]);
     }
     // A set of earlier days may have a time base there.
     const bool density =
         !Calc.UnitName[unit::UserDensity].empty() && Calc.UnitName[unit::UserDensity].front() != '/';
     for (const int row : {unit::LiquidDensity, unit::Density}) {
-        if (density) TakeUnit(row, Calc.UnitName[unit::UserDensity], Calc.UnitFactor[unit::UserDensity]);
+        if (density) TakeUnit(At(row), Calc.UnitName[unit::UserDensity], Calc.UnitFactor[unit::UserDensity]);
     }
     Calc.UnitName[unit::UserDensity].clear();
     Calc.UnitFactor[unit::UserDensity] = 1;
@@ -166,7 +166,7 @@ void TakeGasSet() {
     Calc.GasUnitSet = UserUnitSet;
     Calc.BasisPrevious = Calc.Basis;
     Calc.Basis = Suite.UserGasBasis;
-    for (const int row : GasRows) {
+    for (const std::size_t row : GasRows) {
         TakeUnit(row, Suite.UserGasUnitName[row], Suite.UserGasUnitFactor[row]);
     }
     TakeUnit(unit::Viscosity, Calc.UnitName[unit::GasViscosity], Calc.UnitFactor[unit::GasViscosity]);
@@ -174,11 +174,11 @@ void TakeGasSet() {
 
 // --- Writing ---------------------------------------------------------------------------------------------
 
-void WriteSet(TextWriter& file, const std::string& basis, int set, std::span<const int> rows,
+void WriteSet(TextWriter& file, const std::string& basis, int set, std::span<const std::size_t> rows,
               const UnitNames& names, const UnitFactors& factors) {
     file.Line(basis);
     file.Number(set);
-    for (const int row : rows) {
+    for (const std::size_t row : rows) {
         file.Line(names[row]);
         file.Number(factors[row]);
     }
@@ -270,9 +270,10 @@ void StoreUserUnitSet() {
         Suite.UserGasBasis = Calc.Basis;
         return;
     }
-    const int density = Calc.LiquidDensityMode == words::Density && Calc.CurrentProgram != program::LiquidData
-                            ? unit::LiquidDensity
-                            : unit::Density;
+    const std::size_t density =
+        Calc.LiquidDensityMode == words::Density && Calc.CurrentProgram != program::LiquidData
+            ? unit::LiquidDensity
+            : unit::Density;
     Suite.UserLiquidUnitName = Calc.UnitName;
     Suite.UserLiquidUnitFactor = Calc.UnitFactor;
     Suite.UserLiquidUnitName[unit::UserDensity] = Calc.UnitName[density];

@@ -13,12 +13,4 @@ constexpr double CentistokesPerUnit(std::string_view unit) {
     return 0;
 }
 
-// Centistokes per cp of a gas, times its molecular weight.
-constexpr double MolarViscosity = 23588;
-
-// A viscosity in cp as the record shows it, in the unit of row 7: that of a liquid of a specific gravity, and
-// that of a gas, whose molecular weight stands for its density.
-double LiquidViscosityShown(double viscosity, double gravity);
-double GasViscosityShown(double viscosity, double molecularWeight);
-
 }  // namespace quillmetra
