@@ -169,9 +169,10 @@ TEST_P(Rules, TabReachesEveryInput) {
             reached.insert(Shown.Focus.Current()->FullName());
             EXPECT_EQ(focus, ViewOf(*Shown.Focus.Current()).KeyTarget());
             const bool isBox = i > 0 && qobject_cast<QLineEdit*>(focus) != nullptr;
-            if (isBox)
+            if (isBox) {
                 EXPECT_EQ(focus->visibleRegion().boundingRect(), focus->rect())
                     << Shown.Focus.Current()->FullName();
+            }
         }
         QTest::keyClick(focus == nullptr ? &window : focus, Qt::Key_Tab);
         Settle();
