@@ -398,8 +398,7 @@ bool frmTables::Save(Answer preset) {
     StorePending(Str(CurrentRow), " OK?");
     TellLostLines();
     SetStatus(WarningOfGrid());
-    if (!AskYesNo("Save the new file and destroy the old file?", SaveTitle, Icon::None, preset))
-        return true;
+    if (!AskYesNo("Save the new file and destroy the old file?", SaveTitle, Icon::None, preset)) return true;
     try {
         const BusyPointer busy;
         SaveTable(*table_, FieldsOfGrid(), Variant());
@@ -423,8 +422,8 @@ void frmTables::cmdReloadGrid_Click() {
     SetStatus(changed ? "Read again from the file; what was changed since the last save is gone" : "");
 }
 
-// A save that failed keeps the form with what it holds. Who has said here that the file is to be saved does not
-// lose it by Enter at the next question.
+// A save that failed keeps the form with what it holds. Who has said here that the file is to be saved does
+// not lose it by Enter at the next question.
 void frmTables::cmdCancelGrid_Click() {
     const bool changed = FileEdited == words::Yes || GridChanged == words::Yes;
     if (changed && HasTable() && AskYesNo("Save the new file?", ChangedTitle) && !Save(Answer::Yes)) return;

@@ -1,5 +1,5 @@
-// What a fuzzed reader needs around it: a host without a screen, a folder of its own, and the question whether every
-// number that was read is one.
+// What a fuzzed reader needs around it: a host without a screen, a folder of its own, and the question
+// whether every number that was read is one.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 // Packed records of version 5.
 #include "records/Version5.h"
+
 #include "tests/fuzz/FuzzedSuite.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
