@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -14,22 +13,21 @@
 #include "core/CalcRecord.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
+#include "platform/Clock.h"
 #include "platform/Forms.h"
 #include "platform/TextFiles.h"
 #include "tests/FakeHost.h"
 
 namespace quillmetra {
 
-// The source tree, for tests that read checked-in data.
-inline std::filesystem::path SourceFolder() {
-    const char* folder = std::getenv("QUILLMETRA_SOURCE");
-    return folder == nullptr ? "." : folder;
-}
+// The source tree, for tests that read checked-in data: that of the build, or the one that the variable
+// names.
+std::filesystem::path SourceFolder();
 
 class SuiteTest : public ::testing::Test {
 protected:
     SuiteTest() {
-        ResetForms();
+        ForgetForms();
         Calc = CalcRecord();
         Suite = SuiteState();
         Printer = RecordingPrinter();
@@ -50,7 +48,8 @@ protected:
     }
 
     ~SuiteTest() override {
-        ResetForms();
+        ForgetForms();
+        SetToday("");
         std::error_code ignored;
         std::filesystem::remove_all(Folder, ignored);
     }

@@ -219,4 +219,10 @@ void EndProcess() {
 bool ProcessHasEnded() { return Registry().Ended; }
 void ResetForms() { Registry().Reset(); }
 
+void ForgetForms() {
+    ResetForms();
+    Registry().Factories.clear();
+    Registry().AfterAct = {};
+}
+
 }  // namespace quillmetra

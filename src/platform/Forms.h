@@ -52,5 +52,7 @@ bool ProcessHasEnded();
 
 // Forgets all forms, as if the process had just started. For tests and for a host that ends.
 void ResetForms();
+// Forgets what was registered too, and the hook: a fixture leaves nothing behind.
+void ForgetForms();
 
 }  // namespace quillmetra

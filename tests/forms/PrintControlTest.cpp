@@ -116,7 +116,6 @@ TEST_F(PrintControl, PickedRecordsAreShownAndPrintedWithTodaysDate) {
     EXPECT_EQ(TagsPrinted(), "T-3 T-5 ");
     EXPECT_NE(PageAsText(User.Pages[1]).find("02/03/2027"), std::string::npos);
     EXPECT_EQ(User.Jobs.back().To, PrintJob::Target::Pdf);
-    SetToday("");
 }
 
 TEST_F(PrintControl, GoesOnPastRecordsThatCannotBeRead) {

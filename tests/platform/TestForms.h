@@ -41,7 +41,7 @@ public:
 class ModelTest : public ::testing::Test {
 protected:
     ModelTest() { TheLog.clear(); }
-    ~ModelTest() override { ResetForms(); }
+    ~ModelTest() override { ForgetForms(); }
 
     template <typename T>
     static T& Shown(const char* name) {

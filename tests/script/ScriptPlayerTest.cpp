@@ -28,7 +28,13 @@ Outcome Play(const std::string& script) {
     return {code, out.str(), errors.str()};
 }
 
-TEST(ScriptPlayer, PlaysWhatAUserCanDoAndSee) {
+// They leave no form behind that another test would meet.
+class ProvingForms : public ::testing::Test {
+protected:
+    ~ProvingForms() override { ForgetForms(); }
+};
+
+TEST_F(ProvingForms, PlaysWhatAUserCanDoAndSee) {
     const char* const scripts[] = {
         "",
         "# a comment\n\n   \n  start\r\nexpect-form FRMTRPROG\nexpect-title Proving form\n",
@@ -82,7 +88,7 @@ TEST(ScriptPlayer, PlaysWhatAUserCanDoAndSee) {
     }
 }
 
-TEST(ScriptPlayer, EndsAtTheFirstFailure) {
+TEST_F(ProvingForms, EndsAtTheFirstFailure) {
     const struct {
         const char* Script;
         const char* Error;
@@ -161,7 +167,7 @@ TEST(ScriptPlayer, EndsAtTheFirstFailure) {
     }
 }
 
-TEST(ScriptPlayer, PrintsBoxesAndControls) {
+TEST_F(ProvingForms, PrintsBoxesAndControls) {
     const Outcome outcome = Play(
         "start\nanswer Yes\nclick cmdAsk\ninput 0.8\nclick cmdEndless\ntype txtB \"a b\"\nshow txtB\nshow "
         "chkEntry\n"
@@ -180,7 +186,7 @@ TEST(ScriptPlayer, PrintsBoxesAndControls) {
               "cmdOK | CommandButton | OK | enabled | visible | #000000 on #FFFFFF\n");
 }
 
-TEST(ScriptPlayer, IncludesScriptsBesideItAndNamesTheirLines) {
+TEST_F(ProvingForms, IncludesScriptsBesideItAndNamesTheirLines) {
     const TemporaryFolder folder;
     const auto write = [&](const char* name, const char* text) {
         std::ofstream(folder.Path() / name) << text;
@@ -208,7 +214,7 @@ TEST(ScriptPlayer, IncludesScriptsBesideItAndNamesTheirLines) {
 }
 
 // The program's folder is a fresh one with the shipped tables, or the one that the script names as it is.
-TEST(ScriptPlayer, SeedsOnlyItsOwnFolder) {
+TEST_F(ProvingForms, SeedsOnlyItsOwnFolder) {
     const TemporaryFolder folder;
     EXPECT_EQ(Play("folder " + folder.Path().string() + "\nstart").Code, 0);
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
