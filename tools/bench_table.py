@@ -51,6 +51,7 @@ PROMISES = [
     Promise("browser/next", time=1 * MS),
     Promise("browser/previous", time=1 * MS),
     Promise("browser/find", time=1 * MS),
+    Promise("browser/search while typing", time=1 * MS),
     Promise("browser/search by date", ratio=2.5, remark="reads whole heads"),
     Promise("database/10,000 rows added", ratio=1.5),
     Promise("database/row sought", ratio=1.5),

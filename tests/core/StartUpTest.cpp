@@ -80,6 +80,29 @@ TEST_F(StartUpTest, PathsComeFromAWholeFileOnly) {
     EXPECT_TRUE(User.Boxes.empty());
 }
 
+TEST_F(StartUpTest, EachFileIsReadFromItsOwnPath) {
+    std::string paths;
+    for (int i = 1; i <= 4; ++i) {
+        const fs::path folder = Folder / std::to_string(i);
+        const std::string line = std::to_string(i) + "\r\n";
+        fs::create_directory(folder);
+        paths += "\"" + SuitePath(folder) + "\"\r\n";
+        Write(folder / "TRHDG.txt", line);
+        Write(folder / "TRSTP.TXT", line);
+        std::string twelve;
+        for (int slot = 0; slot < 12; ++slot) twelve += line;
+        Write(folder / "TRcolr.txt", twelve);
+    }
+    Write(Folder / "TRDRV.txt", paths);
+    Start();
+    LoadHeadings();
+    LoadDefaults();
+    EXPECT_EQ(Suite.Colours[1], 4U);
+    EXPECT_EQ(Calc.HeadingText[1], "3");
+    EXPECT_EQ(Calc.StdTemperature, 2);
+    EXPECT_EQ(Suite.DatabasePath, SuitePath(Folder / "1"));
+}
+
 TEST_F(StartUpTest, ColoursComeFromTwelveLinesOnly) {
     const std::string eleven = " 1\r\n 2\r\n 3\r\n 4\r\n 5\r\n 6\r\n 7\r\n 8\r\n 9\r\n 10\r\n 11\r\n";
     WriteData("TRcolr.txt", eleven);

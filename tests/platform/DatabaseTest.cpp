@@ -94,6 +94,20 @@ TEST(KeyOrder, TakesNoNoticeOfCaseInAnyAlphabet) {
                                std::pair{"\u03c0", "\u03a0"}, std::pair{"\u0434\u0451", "\u0414\u0401"}}) {
         EXPECT_EQ(CompareKeys(a, b), 0) << a;
     }
+    // The ends of each range of letters, and what stands just outside of them.
+    for (const auto& [a, b] :
+         {std::pair{"azAZ", "AZaz"}, std::pair{"\u00e0\u00f6\u00f8\u00fe", "\u00c0\u00d6\u00d8\u00de"},
+          std::pair{"\u0101\u012f\u0133\u0137\u014b\u0177", "\u0100\u012e\u0132\u0136\u014a\u0176"},
+          std::pair{"\u013a\u0148\u017a\u017e", "\u0139\u0147\u0179\u017d"},
+          std::pair{"\u03b1\u03cb\u0450\u045f\u0430\u044f", "\u0391\u03ab\u0400\u040f\u0410\u042f"}}) {
+        EXPECT_EQ(CompareKeys(a, b), 0) << a;
+    }
+    for (const auto& [a, b] :
+         {std::pair{"@", "`"}, std::pair{"[", "{"}, std::pair{"\u00d7", "\u00f7"}, std::pair{"\u00df", "\u00ff"},
+          std::pair{"\u0130", "\u0131"}, std::pair{"\u0138", "\u0139"}, std::pair{"\u0149", "\u014a"},
+          std::pair{"\u017f", "\u0180"}, std::pair{"\u0390", "\u03b0"}, std::pair{"\u03ac", "\u03cc"}}) {
+        EXPECT_EQ(CompareKeys(a, b), -1) << a;
+    }
     // Each before the next, in both directions; with bytes that are no characters.
     const std::vector<std::string> order = {"",   "-",      "1",      "10",     "2",    "a",   "A1",
                                             "ab", "\u00d7", "\u00e9", "\u00f7", "\xc3", "\xff"};

@@ -83,6 +83,7 @@ TEST(PageLayout, HeadingMovesDownToTheEndOfATextCloseAboveIt) {
                                     Text(3600, {{6, "plain"}}), Text(3930, {{6, "Heading"}}, 12)});
     EXPECT_GE(page.Texts[1].Baseline - page.Texts[0].Baseline, 240);
     EXPECT_DOUBLE_EQ(page.Texts[3].Baseline, 3930 + 12 * 18);
+    EXPECT_DOUBLE_EQ(LayOut({Text(3930, {{6, "Heading"}}, 16)}).Texts[0].Baseline, 3930 + 0.85 * 240);
 }
 
 TEST(PageAsText, TextsStartOneBlankAfterWhatTakesTheirColumn) {

@@ -90,7 +90,7 @@ TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
     EXPECT_EQ(OpenFailure(), Invalid) << "no file";
     EXPECT_FALSE(fs::exists(File())) << "opening makes none";
 
-    std::string otherEngine("\0\1\0\0Standard Jet DB\0", 20);
+    std::string otherEngine("\0\1\0\0Another Engine\0", 19);
     otherEngine.resize(4096);
     std::string otherKind = own;
     otherKind[68] = 'X';
@@ -390,7 +390,8 @@ TEST_F(RecordFilesTest, OutdatedRecords) {
     };
     for (const Dates& each : {Dates{"1", "01/02/2026", "01/01/2026"}, Dates{"2", "", "01/01/2026"},
                               Dates{"3", "01/02/2026", ""}, Dates{"4", "2/1/26", "12/31/25"},
-                              Dates{"5", "1/1/2026", "01/01/2026"}, Dates{"6", "someday", "01/01/2026"}}) {
+                              Dates{"5", "1/1/2026", "01/01/2026"}, Dates{"6", "someday", "01/01/2026"},
+                              Dates{"7", "1/1/29", "12/31/30"}, Dates{"8", "12/31/30", "1/1/29"}}) {
         TakeFilledRecord(1, 1, each.Tag);
         Calc.CaseText[11] = each.Data;
         Calc.CaseText[10] = each.Calculated;
@@ -399,8 +400,8 @@ TEST_F(RecordFilesTest, OutdatedRecords) {
     RecordView view(Suite.DatabaseFile);
     std::string found;
     for (bool start = true; view.NextOutdated(start); start = false) found += view.Head().Tag;
-    EXPECT_EQ(found, "14");
-    EXPECT_EQ(view.Head().Tag, "4");
+    EXPECT_EQ(found, "147") << "29 stands for 2029, 30 for 1930";
+    EXPECT_EQ(view.Head().Tag, "7");
 }
 
 TEST_F(RecordFilesTest, ExportForSpreadsheets) {

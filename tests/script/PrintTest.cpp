@@ -65,6 +65,7 @@ TEST(Print, PagesOfTheRealForms) {
         {"liquid-mixture-si", "liquid-english", "mnuMixture2", "Toluene", "Benzene", SI},
         {"gas", "gas"},
         {"gas-si", "gas", nullptr, "", "", SI},
+        {"gas-volume", "gas-volume"},
         {"gas-mixture", "gas", "mnuMixtures2", "Methane", "Ethane"},
         {"gas-mixture-si", "gas", "mnuMixtures2", "Methane", "Ethane", SI},
         {"hammer", "hammer"},

@@ -152,6 +152,15 @@ expect-message Round converted data?
 expect txtInletPipeLen 1000
 
 # --- Barometer and boot-up units, back at the next calculation ----------------------------------------------
+# Typed in kPa it is kept in psia, to four figures.
+click cmdFormLayout
+click cmdBaroPress
+type txtSTPBaro 100.3
+click cmdOKOptions
+click cmdFormLayout
+expect cmdBaroPress psia
+expect txtSTPBaro 14.55
+click cmdCancelOptions
 click cmdFormLayout
 answer OK
 click optUserUnits

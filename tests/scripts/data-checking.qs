@@ -50,17 +50,18 @@ type txtInletPipeLen ""
 click cmdCalculate(1)
 expect-box "Data checking" "Length must be > zero " OK Stop
 expect-focus txtInletPipeLen
-type txtInletPipeLen 1e300
+type txtInletPipeLen 10000000
 click cmdCalculate(1)
 expect-box "Data checking" "Length must be < 10000000 ft" OK Stop
 expect-focus txtInletPipeLen
-type txtInletPipeLen 1000
+type txtInletPipeLen 9999999
 
 type txtInletPipeID four
 click cmdCalculate(1)
 expect-box "Data checking" "Pipe inside diameter must be > zero " OK Stop
 expect-focus txtInletPipeID
 type txtInletPipeID 4.026
+type txtInletPipeLen 1000
 
 type txtPipeCond 100.1
 click cmdCalculate(1)

@@ -58,6 +58,22 @@ TEST_F(UnitsTest, TheLibraryIsSound) {
     }
 }
 
+// The lines of a list that ship with the suite are its own: no user may write over them.
+TEST_F(UnitsTest, ShippedLinesAreProtected) {
+    LoadDefaultUnits();
+    for (const UnitRow& row : UnitRows) {
+        for (const UnitRow::Choice& choice : {row.OnMass, row.OnVolume}) {
+            if (choice.List == UnitRow::NoList) continue;
+            const UnitList& lines = Suite.UnitLibrary[static_cast<std::size_t>(choice.List)];
+            const auto shipped =
+                std::count_if(lines.begin(), lines.end(), [](const UnitLine& line) { return !line.Name.empty(); });
+            // Two counts are known to differ from their lists.
+            const long known = row.Row == unit::AbsolutePressure ? 8 : row.Row == unit::Modulus ? 2 : shipped;
+            EXPECT_EQ(choice.ProtectedLines, known) << row.Quantity;
+        }
+    }
+}
+
 TEST_F(UnitsTest, EachSetOnEachFluid) {
     const struct {
         int Set;

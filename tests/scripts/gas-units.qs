@@ -1,0 +1,79 @@
+# A unit chosen at each of the twelve positions of a gas's unit window: eleven are taken, and the critical
+# temperature keeps its own.
+strict on
+start
+new 2
+include good-gas-case.qs
+click cmdUnits(25)
+expect-form frmUnits
+click cmdUnit(0)
+click cmdBasis
+pick cboUnit kg
+click cmdSelect
+click cmdUnit(19)
+pick cboUnit /m
+click cmdSelect
+click cmdUnit(2)
+pick cboUnit degC
+click cmdSelect
+click cmdUnit(3)
+pick cboUnit barg
+click cmdSelect
+click cmdUnit(4)
+pick cboUnit kPa
+click cmdSelect
+click cmdUnit(12)
+pick cboUnit degK
+click cmdSelect
+click cmdUnit(11)
+pick cboUnit ata
+click cmdSelect
+click cmdUnit(20)
+pick cboUnit m/s
+click cmdSelect
+click cmdUnit(13)
+pick cboUnit mPa.s
+click cmdSelect
+click cmdUnit(18)
+pick cboUnit mm
+click cmdSelect
+click cmdUnit(25)
+pick cboUnit 1
+click cmdSelect
+click cmdUnit(9)
+pick cboUnit kg/m3
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect-form frmGasLineLoss
+expect cmdUnits(0) kg/m
+expect cmdUnits(2) degC
+expect cmdUnits(3) barg
+expect cmdUnits(4) kPa
+expect cmdUnits(12) degR
+expect cmdUnits(11) ata
+expect cmdUnits(13) mPa.s
+expect cmdUnits(18) mm
+expect cmdUnits(25) m
+expect unVelocity m/s
+expect txtCritTemp(1) 343
+expect txtCritPressure(1) 45.3865
+click cmdUnits(25)
+expect lblFactor(9) kg/m3
+click cmdCancelUn
+
+# A zero that says nothing is left blank when the record is opened again.
+type txtEquip(1) 0
+type txtTagNum G-1
+answer Yes
+answer OK
+click mnuSave
+expect-message Create
+expect-message New database
+click mnuProgram
+open G-1
+expect txtEquip(1) ""
+quit
