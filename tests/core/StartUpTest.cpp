@@ -100,7 +100,7 @@ TEST_F(StartUpTest, EachFileIsReadFromItsOwnPath) {
     EXPECT_EQ(Suite.Colours[1], 4U);
     EXPECT_EQ(Calc.HeadingText[1], "3");
     EXPECT_EQ(Calc.StdTemperature, 2);
-    EXPECT_EQ(Suite.DatabasePath, SuitePath(Folder / "1"));
+    EXPECT_EQ(Suite.DefaultPaths[path::Database], SuitePath(Folder / "1"));
 }
 
 TEST_F(StartUpTest, ColoursComeFromTwelveLinesOnly) {
@@ -188,26 +188,6 @@ TEST_F(StartUpTest, HeadingsAreSevenLinesAtMost) {
     LoadHeadings();
     EXPECT_EQ(Calc.HeadingText[1], "New");
     EXPECT_EQ(Calc.HeadingText[4], "D") << "a short file ends the reading, it clears nothing";
-}
-
-TEST_F(StartUpTest, ShippedTablesFillGapsOnly) {
-    fs::remove(DataFolder() / "Liquid.txt");
-    fs::remove(DataFolder() / "Gas.txt");
-    WriteData("LIQUID.TXT", "mine");
-    WriteData("W-PIPE.TXT", "");
-    SeedShippedData(SuitePath(Folder));
-    EXPECT_EQ(Read(DataFolder() / "LIQUID.TXT"), "mine");
-    EXPECT_FALSE(fs::exists(DataFolder() / "Liquid.txt")) << "the name counts without its case";
-    EXPECT_EQ(Read(DataFolder() / "W-PIPE.TXT"), "") << "an empty file is the user's too";
-    EXPECT_EQ(Read(DataFolder() / "Gas.txt"), Read(ShippedDataFolder() / "Gas.txt"));
-    EXPECT_FALSE(Read(DataFolder() / "Gas.txt").empty());
-    for (const auto& entry : fs::directory_iterator(DataFolder())) {
-        EXPECT_EQ(entry.path().string().find("-new"), std::string::npos) << entry.path();
-    }
-    // A folder that cannot be made: silence, and the suite starts all the same.
-    Write(Folder / "file", "");
-    SeedShippedData(SuitePath(Folder / "file"));
-    EXPECT_TRUE(User.Boxes.empty());
 }
 
 TEST_F(StartUpTest, TheBrowserHidesAndBringsBackThePrompts) {

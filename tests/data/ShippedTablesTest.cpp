@@ -299,6 +299,9 @@ TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
         left += entry.is_regular_file() ? 1 : 0;
     }
     EXPECT_EQ(left, std::ssize(files)) << "nothing is left beside the files";
+    // A folder that cannot be made: silence, and the suite starts all the same.
+    SeedShippedData(SuitePath(program / "Stm07.Dat"));
+    EXPECT_TRUE(User.Boxes.empty());
 }
 
 }  // namespace

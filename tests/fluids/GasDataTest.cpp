@@ -167,50 +167,6 @@ TEST_F(GasDataTest, BordersOfTheRules) {
     EXPECT_NEAR(WatsonLatentHeat(-43.8, 183, 206.1 + 460, 80), 144, 4);
 }
 
-TEST_F(GasDataTest, AsksWhetherALiquidIsMeant) {
-    const std::string before = "At the pressure and temperature entered\n The Vapor Pressure is ";
-    const struct {
-        const char *Mode, *Unit;
-        double Factor;
-    } cases[] = {{words::Gauge, "psig", 1}, {words::Absolute, "psia", 1}, {words::Gauge, "kPag", 0.14504}};
-    for (const int program : {2, 5}) {
-        for (const auto& each : cases) {
-            Calc = CalcRecord();
-            Calc.CurrentProgram = program;
-            Calc.PressureMode = each.Mode;
-            Take(Butane, 100, 100);
-            Calc.UnitName[3] = each.Unit;
-            Calc.UnitFactor[3] = each.Factor;
-            User.Answers = {Answer::No};
-            EXPECT_FALSE(ProcessGasData());
-            EXPECT_EQ(Calc.SelectedFluidName, "");
-            EXPECT_EQ(User.Boxes.back().Title, "Gas Calculation");
-            EXPECT_EQ(User.Boxes.back().Choice, Buttons::YesNo);
-            const std::string text = User.LastText();
-            const std::string after =
-                std::string(" ") + each.Unit + "\nThis indicates that the fluid is a liquid!\nContinue ?";
-            ASSERT_EQ(text.substr(0, before.size()), before);
-            ASSERT_EQ(text.substr(text.size() - after.size()), after);
-            // n-Butane at 100 degF has some 52 psia.
-            const double told = Val(text.substr(before.size())) * each.Factor;
-            EXPECT_NEAR(told, std::string(each.Mode) == words::Gauge ? 37 : 52, 1);
-
-            User.Answers = {Answer::Yes};
-            Take(Butane, 100, 100);
-            EXPECT_TRUE(ProcessGasData());
-            EXPECT_EQ(Calc.SelectedFluidName, "n-Butane");
-        }
-    }
-    // A mixture has no vapor pressure and no question; nor has a gas above its critical temperature.
-    User.Boxes.clear();
-    Calc.FluidOk.clear();
-    EXPECT_TRUE(ProcessGasData());
-    EXPECT_EQ(Calc.VaporPressure, 0);
-    Take(Methane, 100, 3000);
-    EXPECT_TRUE(ProcessGasData());
-    EXPECT_TRUE(User.Boxes.empty());
-}
-
 // At the critical temperature itself one program asks and the other does not.
 TEST_F(GasDataTest, TheTwoProgramsPartAtTheCriticalTemperature) {
     for (const int program : {2, 5}) {

@@ -116,19 +116,5 @@ TEST_F(GasForm, PercentagesWithoutSenseAreRefused) {
     EXPECT_EQ(Calc.FluidPercent[0], 60);
 }
 
-TEST_F(GasForm, TheRangeOfSuperheatIsToldInTheUnitShown) {
-    const std::pair<const char*, const char*> ranges[] = {{"degF", "200 degF to 1500 degF"},
-                                                          {"degC", "93.34 degC to 816 degC"},
-                                                          {"degR", "661 degR to 1960 degR"},
-                                                          {"degK", "368 degK to 1089 degK"}};
-    for (const auto& [unit, range] : ranges) {
-        Calc.UnitName[2] = unit;
-        Form().cmdUnits(2).SetCaption(unit);
-        Type(Form().txtTemp(0), "2000");
-        ClickControl(Form().mnuSupersteam1);
-        EXPECT_EQ(User.LastText(), std::string("Table is limited to a range of ") + range);
-    }
-}
-
 }  // namespace
 }  // namespace quillmetra

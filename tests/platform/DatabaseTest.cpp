@@ -103,9 +103,10 @@ TEST(KeyOrder, TakesNoNoticeOfCaseInAnyAlphabet) {
         EXPECT_EQ(CompareKeys(a, b), 0) << a;
     }
     for (const auto& [a, b] :
-         {std::pair{"@", "`"}, std::pair{"[", "{"}, std::pair{"\u00d7", "\u00f7"}, std::pair{"\u00df", "\u00ff"},
-          std::pair{"\u0130", "\u0131"}, std::pair{"\u0138", "\u0139"}, std::pair{"\u0149", "\u014a"},
-          std::pair{"\u017f", "\u0180"}, std::pair{"\u0390", "\u03b0"}, std::pair{"\u03ac", "\u03cc"}}) {
+         {std::pair{"@", "`"}, std::pair{"[", "{"}, std::pair{"\u00d7", "\u00f7"},
+          std::pair{"\u00df", "\u00ff"}, std::pair{"\u0130", "\u0131"}, std::pair{"\u0138", "\u0139"},
+          std::pair{"\u0149", "\u014a"}, std::pair{"\u017f", "\u0180"}, std::pair{"\u0390", "\u03b0"},
+          std::pair{"\u03ac", "\u03cc"}}) {
         EXPECT_EQ(CompareKeys(a, b), -1) << a;
     }
     // Each before the next, in both directions; with bytes that are no characters.

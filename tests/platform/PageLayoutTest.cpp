@@ -15,7 +15,8 @@ public:
         return static_cast<double>(text.size()) * font.Size * 10;
     }
     double AverageWidth(const FontChoice& font) const override { return font.Size * 10; }
-    double Ascent(const FontChoice& font) const override { return font.Size * 18; }
+    double Ascent(const FontChoice& font) const override { return font.Size * Part; }
+    double Part = 18;
 };
 
 PrintOp Text(double y, std::vector<PrintCell> cells, double size = 10) {
@@ -35,8 +36,10 @@ PrintOp Centred(double y, const std::string& text, double size = 10) {
                   size);
 }
 
-PageLayout LayOut(std::vector<PrintOp> ops) {
-    return quillmetra::LayOut({.Font = {.Name = "any", .Size = 10}, .Ops = std::move(ops)}, PlainLetters());
+PageLayout LayOut(std::vector<PrintOp> ops, double ascent = 18) {
+    PlainLetters letters;
+    letters.Part = ascent;
+    return quillmetra::LayOut({.Font = {.Name = "any", .Size = 10}, .Ops = std::move(ops)}, letters);
 }
 
 TEST(PageLayout, KeepsColumnsAndFitsWhatIsTooWide) {
@@ -83,7 +86,10 @@ TEST(PageLayout, HeadingMovesDownToTheEndOfATextCloseAboveIt) {
                                     Text(3600, {{6, "plain"}}), Text(3930, {{6, "Heading"}}, 12)});
     EXPECT_GE(page.Texts[1].Baseline - page.Texts[0].Baseline, 240);
     EXPECT_DOUBLE_EQ(page.Texts[3].Baseline, 3930 + 12 * 18);
-    EXPECT_DOUBLE_EQ(LayOut({Text(3930, {{6, "Heading"}}, 16)}).Texts[0].Baseline, 3930 + 0.85 * 240);
+    // Tall letters stand lower, to a share of their line.
+    const PageLayout tall = LayOut({Text(3600, {{6, "plain"}}), Text(3930, {{6, "Heading"}}, 12)}, 23);
+    EXPECT_DOUBLE_EQ(tall.Texts[0].Baseline, 3600 + 0.77 * 240);
+    EXPECT_DOUBLE_EQ(tall.Texts[1].Baseline, 3930 + 0.85 * 288);
 }
 
 TEST(PageAsText, TextsStartOneBlankAfterWhatTakesTheirColumn) {

@@ -125,8 +125,10 @@ TEST_F(TextFiles, AllBytesSurviveReadingAndWriting) {
               "C");
     // The bytes 0x80 to 0x9F; five of them are no character and stay the control characters of their number.
     const char* const characters =
-        "\u20AC\xC2\x81\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\xC2\x8D\u017D\xC2\x8F"
-        "\xC2\x90\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\xC2\x9D\u017E\u0178";
+        "\u20AC\xC2\x81\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\xC2\x8D\u017D\xC2"
+        "\x8F"
+        "\xC2\x90\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\xC2\x9D\u017E"
+        "\u0178";
     std::string high;
     for (int byte = 0x80; byte < 0xA0; ++byte) high += static_cast<char>(byte);
     EXPECT_EQ(Utf8From1252(high), characters);

@@ -84,8 +84,8 @@ TEST_F(SaveLoadTest, CellsOfTheFluidDataProgramsByTheirMeaning) {
     EXPECT_EQ(Calc.FDRowLoaded, "") << "this program looks at the pair that no save writes";
 }
 
-// Column and field by their meaning: two columns that changed places in both directions would pass every round
-// trip.
+// Column and field by their meaning: two columns that changed places in both directions would pass every
+// round trip.
 using Cells = std::vector<std::pair<std::string, double>>;
 Cells CellsOfTheLine() {
     const bool gas = Calc.CurrentProgram == program::GasLine;
@@ -110,22 +110,21 @@ Cells CellsOfTheLine() {
     for (std::size_t i = 0; i < 3; ++i) {
         const std::string one = std::string(cases[i]) + " ";
         const std::string other = i == 1 ? "Normal Flow " : one;
-        cells.insert(
-            cells.end(),
-            {{one + "Flow", Calc.CaseInput[gas ? input::GasFlow : input::LiquidFlow][i]},
-             {one + "Temperature", Calc.CaseInput[input::Temperature][i]},
-             {other + "Source Pressure", Calc.CaseInput[input::Pressure][i]},
-             {other + "Equip Loss", Calc.CaseInput[input::EquipLoss][i]},
-             {one + "Viscosity", Calc.CaseInput[input::Viscosity][i]},
-             {one + "MW/SG", Calc.CaseInput[gas ? input::MolecularWeight : input::FlowGravity][i]},
-             {one + "Spec Heat", Calc.CaseInput[input::RatioSpecificHeats][i]},
-             {one + "Crit Temp", Calc.CaseInput[input::CritTemperature][i]},
-             {one + "Crit Press", Calc.CaseInput[input::CritPressure][i]},
-             {one + "Loss/100", Calc.CaseResult[result::LossPer100][i]},
-             {one + "Final Pressure", Calc.CaseResult[result::FinalPressure][i]},
-             {one + "Fluid Velocity", Calc.CaseResult[result::Velocity][i]},
-             {one + "Reynolds Number", Calc.CaseResult[result::ReynoldsNumber][i]},
-             {other + "Sonic Velocity", Calc.CaseResult[result::SonicVelocity][i]}});
+        cells.insert(cells.end(),
+                     {{one + "Flow", Calc.CaseInput[gas ? input::GasFlow : input::LiquidFlow][i]},
+                      {one + "Temperature", Calc.CaseInput[input::Temperature][i]},
+                      {other + "Source Pressure", Calc.CaseInput[input::Pressure][i]},
+                      {other + "Equip Loss", Calc.CaseInput[input::EquipLoss][i]},
+                      {one + "Viscosity", Calc.CaseInput[input::Viscosity][i]},
+                      {one + "MW/SG", Calc.CaseInput[gas ? input::MolecularWeight : input::FlowGravity][i]},
+                      {one + "Spec Heat", Calc.CaseInput[input::RatioSpecificHeats][i]},
+                      {one + "Crit Temp", Calc.CaseInput[input::CritTemperature][i]},
+                      {one + "Crit Press", Calc.CaseInput[input::CritPressure][i]},
+                      {one + "Loss/100", Calc.CaseResult[result::LossPer100][i]},
+                      {one + "Final Pressure", Calc.CaseResult[result::FinalPressure][i]},
+                      {one + "Fluid Velocity", Calc.CaseResult[result::Velocity][i]},
+                      {one + "Reynolds Number", Calc.CaseResult[result::ReynoldsNumber][i]},
+                      {other + "Sonic Velocity", Calc.CaseResult[result::SonicVelocity][i]}});
     }
     return cells;
 }
@@ -159,7 +158,8 @@ TEST_F(SaveLoadTest, CellsOfTheLinesAndTheHammerByTheirMeaning) {
         Recordset rows(*database, ProgramTable(program)->Shape);
         rows.Index("Tag_Number");
         ASSERT_TRUE(rows.Seek(tag));
-        for (const auto& [name, value] : program == program::WaterHammer ? CellsOfTheHammer() : CellsOfTheLine()) {
+        for (const auto& [name, value] :
+             program == program::WaterHammer ? CellsOfTheHammer() : CellsOfTheLine()) {
             EXPECT_EQ(rows.Number(name), value) << tag << " " << name;
         }
     }

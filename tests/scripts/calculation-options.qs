@@ -74,6 +74,20 @@ expect txtPressure(1) 790.816
 expect txtDestPress(1) 723.938
 click cmdCalculate(1)
 expect-no-message
+# Absolute pressure and density have messages of their own.
+type txtPressure(1) 0
+answer OK
+click cmdCalculate(1)
+expect-box "Data checking" "Pressure must be greater than zero" OK Stop
+expect-focus txtPressure(1)
+type txtPressure(1) 790.816
+type txtSGFlow(1) 0
+answer OK
+click cmdCalculate(1)
+expect-box "Data checking" "Flowing Density must be greater than zero" OK Stop
+type txtSGFlow(1) 999
+click cmdCalculate(1)
+expect-no-message
 
 # Units picked after "Review units" need no second panel, and their Cancel leads back to the calculation.
 click cmdFormLayout

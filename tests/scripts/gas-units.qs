@@ -64,6 +64,10 @@ expect txtCritPressure(1) 45.3865
 click cmdUnits(25)
 expect lblFactor(9) kg/m3
 click cmdCancelUn
+click cmdFormLayout
+expect OptLeaveAsIs "Currently - User selected units"
+expect-state OptLeaveAsIs checked
+click cmdCancelOptions
 
 # A zero that says nothing is left blank when the record is opened again.
 type txtEquip(1) 0

@@ -101,51 +101,6 @@ TEST_F(TableSheets, ALineIsSplitAndSavedInItsOwnForm) {
     }
 }
 
-// What each named routine must come out as: the table of its name.
-TEST_F(TableSheets, EveryRoutineGoesToItsTable) {
-    const std::string line = "first , second,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21";
-    const struct {
-        TableSheet (*Load)();
-        TableFields (*Split)(std::string_view);
-        NoteLines (*Notes)(int);
-        const char* File;
-        std::size_t Columns;
-        const char* First;
-        const char* Note;
-    } routines[] = {
-        {GasLoad, MakeGasData, NotesGas, "Gas.txt", 15, "first ", "Enter the Fluid Name"},
-        {LiquidLoad, LiquidData, NotesLiquid, "Liquid.TXT", 17, "first ", "Name of Liquid"},
-        {PipeLoad, PipeData, NotesPipe, "W-Pipe.Txt", 4, "first", "Enter the Nominal Pipe Size in inches"},
-        {ModulusLoad, ModulusData, NotesModulus, "Modulus.txt", 15, "first ", "Name of Pipe Material"},
-        {MaterialLoad, MaterialData, NotesMaterial, "MaTLDAT.TXT", 3, "first ", "Enter the Material Name"},
-        {WedgeLoad, WedgeData, NotesWedge, "Wedge.TXT", 5, "first", "Enter the Nominal Pipe Size in inches"},
-        {RotameterLoad, RotameterData, NotesRotameter, "RotDAT.TXT", 2, "first",
-         "Enter the Rotameter Float Material"},
-        {IOLLoad, IOLData, NotesIOL, "IOLORD.txt", 10, "first", "Reynolds Number Value"},
-        {ElbowLoad, ElbowData, NotesElbow, "ElbowDat.TXT", 2, "first", "Pipe Inside Diameter in inches"},
-    };
-    for (const auto& each : routines) {
-        SCOPED_TRACE(each.File);
-        EXPECT_EQ(each.Split(line)[0], each.First);
-        EXPECT_EQ(each.Split(line)[each.Columns - 1].empty(), false);
-        EXPECT_EQ(each.Split(line)[each.Columns], "");
-        EXPECT_EQ(each.Notes(1)[0], each.Note);
-        fs::remove(MachinePath(Suite.DefaultPaths[4] + "\\" + each.File));
-        EXPECT_THROW(each.Load(), RuntimeError);
-        WriteData(each.File, "Name\r\n" + line + "\r\n");
-        EXPECT_EQ(each.Load().Rows, (std::vector<TableFields>{{"Name"}, each.Split(line)}));
-    }
-    WriteData("Own.txt", "Name\r\n" + line + "\r\n");
-    EXPECT_EQ(ValveLoad("Own.txt").Rows[1], CVData(table::Valve, line));
-    EXPECT_EQ(Valve3Load("Own.txt").Rows[1], CVData(table::Valve3, line));
-    EXPECT_EQ(AnnubarLoad("Own.txt").Rows[1], AnnubarData(line));
-    EXPECT_EQ(CVData(table::Valve, line)[14], "15");
-    EXPECT_EQ(CVData(table::Valve3, line)[11], "");
-    EXPECT_EQ(AnnubarData(line)[4], "5");
-    EXPECT_EQ(NotesAnnubar(1, AnnubarModels[4])[1], "For Annubar Models 45 and 46");
-    EXPECT_EQ(NotesValve(6, "LoFloVlv.txt")[0], " Minimum value of Cv for Equal% trim");
-}
-
 // The rows of the shipped tables are in saved form: an editor that saves without a change leaves their bytes.
 TEST_F(TableSheets, ShippedTablesComeBackByteForByte) {
     for (const TableDescription* each :

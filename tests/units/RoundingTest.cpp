@@ -73,15 +73,5 @@ TEST(Rounding, AgreesWithDecimalRounding) {
     }
 }
 
-TEST(Rounding, ScratchGoesInAndOut) {
-    Calc.Scratch = 3.14159265;
-    RoundSix();
-    EXPECT_DOUBLE_EQ(Calc.Scratch, 3.14159);
-    RoundFour();
-    EXPECT_DOUBLE_EQ(Calc.Scratch, 3.142);
-    RoundThree();
-    EXPECT_DOUBLE_EQ(Calc.Scratch, 3.14);
-}
-
 }  // namespace
 }  // namespace quillmetra

@@ -116,29 +116,6 @@ TEST_F(UnitDefinitions, PressureStemsAreThePressures) {
     }
 }
 
-TEST_F(UnitDefinitions, TemperaturesByTheKelvin) {
-    const Definitions degrees = {{"degF", 1 / 1.8}, {"degC", 1}, {"degR", 1 / 1.8}, {"degK", 1}};  // K
-    const Definitions ice = {{"degF", 32}, {"degC", 0}, {"degR", 491.67}, {"degK", 273.15}};
-    for (const std::size_t list : {4U, 11U}) {
-        std::size_t units = 0;
-        for (const UnitLine& line : Suite.UnitLibrary[list]) {
-            if (line.Name.empty()) continue;
-            ++units;
-            EXPECT_EQ(line.Factor, 1);
-            for (const double kelvin : {0.0, 100.0, 273.15, 1000.0}) {
-                const double value = ice.at(line.Name) + (kelvin - 273.15) / degrees.at(line.Name);
-                EXPECT_NEAR((ToDegF(line.Name, value, 9) + 459.67) / 1.8, kelvin, 1e-9) << line.Name;
-                EXPECT_NEAR(ToDegR(line.Name, value, 9) / 1.8, kelvin, 1e-9) << line.Name;
-                EXPECT_EQ(IsAboveAbsoluteZero(ToDegF(line.Name, value, 9)), kelvin > 0) << line.Name;
-                EXPECT_EQ(IsAboveZeroDegR(ToDegR(line.Name, value, 9)), kelvin > 0) << line.Name;
-                EXPECT_NEAR(FromDegF(line.Name, kelvin * 1.8 - 459.67, 9), value, 1e-9) << line.Name;
-                EXPECT_NEAR(FromDegR(line.Name, kelvin * 1.8, 9), value, 1e-9) << line.Name;
-            }
-        }
-        EXPECT_EQ(units, 4U);
-    }
-}
-
 // What the unit rows hold beside the lists.
 TEST_F(UnitDefinitions, CompositeUnitsAndRows) {
     const struct {
