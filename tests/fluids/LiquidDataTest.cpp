@@ -169,7 +169,7 @@ TEST_F(LiquidDataTest, AsksAboveTheCriticalTemperature) {
 }
 
 TEST_F(LiquidDataTest, AsksWhetherAGasIsMeant) {
-    Calc.CurrentProgram = program::LiquidLine;
+    Calc.CurrentProgram = 1;
     // Propane at 100 degF has some 189 psia; told in the unit and mode shown.
     const std::string before = "At the pressure and temperature entered\n The Vapor Pressure is ";
     for (const auto& [mode, told] : {std::pair{words::Gauge, 174.0}, std::pair{words::Absolute, 189.0}}) {
