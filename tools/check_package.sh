@@ -34,7 +34,7 @@ dpkg-deb -c "$Package" >"$Work/contents"
 for Path in usr/bin/quillmetra usr/bin/quillmetra-script usr/share/applications/quillmetra.desktop \
     usr/share/icons/hicolor/scalable/apps/quillmetra.svg \
     usr/share/metainfo/org.quillmetra.quillmetra.metainfo.xml usr/share/man/man1/quillmetra.1.gz \
-    usr/share/man/man1/quillmetra-script.1.gz usr/share/doc/quillmetra/copyright \
+    usr/share/man/man1/quillmetra-script.1.gz usr/share/doc/quillmetra/copyright usr/share/doc/quillmetra/changelog.gz \
     usr/share/quillmetra/examples/liquid-line.qs usr/share/doc/quillmetra/docs/scripts.md \
     usr/share/quillmetra/data/Liquid.txt usr/share/quillmetra/data/help/400-record-browser.md; do
     grep -q " ./$Path\$" "$Work/contents" || Fail "$Path is not in it"

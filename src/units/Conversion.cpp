@@ -36,8 +36,8 @@ void TakeFlowGravity(int caseIndex) {
 
 // The way by degF or degR and back would move the last digits of a number whose unit stays.
 bool UnitStays(int row, int chosenRow) {
-    return Calc.UnitName[row] == Calc.ChosenUnitRowNames[chosenRow] &&
-           Calc.UnitFactor[row] == Calc.UnitFactorPrevious[row];
+    return Calc.UnitName[At(row)] == Calc.ChosenUnitRowNames[At(chosenRow)] &&
+           Calc.UnitFactor[At(row)] == Calc.UnitFactorPrevious[At(row)];
 }
 
 double ConvertedTemperature(double value) {
