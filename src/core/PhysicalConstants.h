@@ -13,7 +13,7 @@ constexpr double RoundZeroFInDegR = 460;
 
 // psia ft3 / lbmol degR, the universal gas constant to six figures.
 constexpr double GasConstant = 10.7316;
-// ft3 of one pound mole of any gas at about 60 degF and 14.7 psia; it holds whatever the base conditions.
+// ft3 of a pound mole of any gas, whatever the base conditions: GasConstant gives it at 59.1 degF, 14.7 psia.
 constexpr double MolarVolume = 378.751445;
 
 // psia. The atmosphere of the correlations, and the barometer where none is given.

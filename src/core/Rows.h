@@ -38,7 +38,7 @@ inline constexpr int Modulus = 27;
 inline constexpr int NominalSize = 31;  // of the pipe size lookup, with the two below
 inline constexpr int ListedDiameter = 32;
 inline constexpr int ListedWall = 33;
-inline constexpr int Count = 28;  // rows that are a unit of the calculation
+inline constexpr int Count = 28;  // rows of a calculation; 10, 14, 15 and 17 hold no quantity
 }  // namespace unit
 
 // Rows of CaseInput: programs, unit row.
@@ -71,7 +71,7 @@ inline constexpr int Barometer = 23;           // all       Barometer, case 0 al
 inline constexpr int EndElevation = 25;        // L G       Length, case 0 alone
 inline constexpr int LineLength = 25;          // H         Length
 inline constexpr int Modulus = 27;             // H l       Modulus; H by column
-inline constexpr int Count = 28;               // rows in use; the record has room for more
+inline constexpr int Count = 28;               // 14, 15, 17, 19, 20, 24 and 26 hold nothing
 }  // namespace input
 
 // Columns of the rows of CaseInput that hold a second quantity of the water hammer.

@@ -229,7 +229,7 @@ void ConvertGasLineData(ZeroTemperature zero) {
 
 void ConvertLiquidLineData(ZeroTemperature zero) {
     const Conversion conversion;
-    ConvertCommonRows();  // first: the gravity of a flow reads row 6 in its new unit
+    ConvertCommonRows();  // first: the gravity of a flow reads the density in its new unit
     ConvertCases(LiquidLineSteps, zero);
     Calc.UnitsConverted = words::Yes;
     conversion.Finish();
