@@ -1,5 +1,5 @@
-// The plain loops of the benchmarks do the work of the record's routines; without this ./bench would measure two
-// on different work.
+// The plain loops of the benchmarks do the work of the record's routines; without this ./bench would measure
+// two on different work.
 #include <gtest/gtest.h>
 
 #include "benchmarks/PlainConversion.h"
