@@ -51,12 +51,6 @@ expect-form frmPrintControl
 cancel
 click cmdPdf
 expect-form frmPrintControl
-answer OK
-save-as no such folder/run.pdf
-click cmdPdf
-expect-box "Printing Problem" "Path/File access error (Error 75)" OK Stop
-expect-state cmdProceed enabled
-expect-state barProgress hidden
 unpick lstTags P-101A
 click chkUse
 click chkPrintDate
