@@ -74,6 +74,10 @@ expect txtPressure(1) 790.816
 expect txtDestPress(1) 723.938
 click cmdCalculate(1)
 expect-no-message
+expect txtDestPress(1) 724
+expect txtDropP100(1) 21.92
+expect txtVelocity(1) 1.535
+expect txtEquivLen 304.8
 # Absolute pressure and density have messages of their own.
 type txtPressure(1) 0
 answer OK

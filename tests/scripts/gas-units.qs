@@ -64,6 +64,14 @@ expect txtCritPressure(1) 45.3865
 click cmdUnits(25)
 expect lblFactor(9) kg/m3
 click cmdCancelUn
+answer No
+click cmdCalculate(1)
+expect-message Transition
+expect txtDestPress(1) 6.611
+expect txtDropP100(1) 9.299
+expect txtVelocity(1) 14.81
+expect txtSonicVelocity(1) 437.9
+expect txtEquivLen 304.8
 click cmdFormLayout
 expect OptLeaveAsIs "Currently - User selected units"
 expect-state OptLeaveAsIs checked
