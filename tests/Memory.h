@@ -12,8 +12,11 @@ inline double ResidentMegabytes() {
     return static_cast<double>(resident) * 4096 / 1e6;
 }
 
-// A sanitizer keeps what was freed for a while.
-#if defined(__SANITIZE_ADDRESS__)
+// A sanitizer keeps what was freed for a while. GCC says by a macro that it is at work, Clang by a question.
+#ifndef __has_feature
+#define __has_feature(feature) 0
+#endif
+#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer)
 inline constexpr bool MemoryIsOurs = false;
 #else
 inline constexpr bool MemoryIsOurs = true;
