@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Puts faults into a copy of the sources, one at a time, and tells which of them no test sees.
 
-usage: mutate.py [--check] [--only WORD] [--jobs N] [--seconds S]
+usage: mutate.py [--check] [--only WORD] [--first N] [--jobs N] [--seconds S]
 
 Each fault of mutate_faults.toml is a file, a text that stands in it once, what takes its place, and why somebody
 would notice. A fault is built into a copy in build/mutate (no Qt, -O1), and the test programs and scripts that fit
@@ -9,6 +9,7 @@ its folder are run, nearest first, until one fails. A fault that the compiler re
 
   --check       only looks whether each text stands in its file once
   --only WORD   faults whose file or reason holds the word
+  --first N     begins with the Nth of them
   --jobs N      compilers at a time (default 2)
   --seconds S   begins no further fault after so many seconds
 
@@ -115,6 +116,7 @@ def main():
     parser = argparse.ArgumentParser(usage=__doc__)
     parser.add_argument("--check", action="store_true")
     parser.add_argument("--only", default="")
+    parser.add_argument("--first", type=int, default=1)
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--seconds", type=float, default=float("inf"))
     wanted = parser.parse_args()
@@ -141,7 +143,7 @@ def main():
             sys.exit(f"{failure} fails without any fault.")
 
     living = []
-    for number, fault in enumerate(faults, 1):
+    for number, fault in list(enumerate(faults, 1))[wanted.first - 1:]:
         if time.monotonic() - start > wanted.seconds:
             print(f"{len(faults) - number + 1} faults were not tried", flush=True)
             break
