@@ -67,6 +67,13 @@ const Change Changes[] = {
     {"approved by", 3, [] { Calc.CaseText[9] = "new"; }, "record WH "},
     {"approved by", 1, [] { Calc.CaseText[9] = "new"; }, "record PD "},
     {"date", 5, [] { Calc.CaseText[10] = "12/01/2026"; }, "record FD "},
+    {"data date", 5, [] { Calc.CaseText[text::DataDate] = "12/01/2026"; }, "record FD "},
+    {"the usual barometer, kept as none", 1,
+     [] {
+         Calc.BaroPressure = 0;
+         Calc.BaroPressureSaved = 14.7;
+     },
+     ""},
     {"fluid name", 2, [] { Calc.FluidName = "Air"; }, "record PD "},
     {"liquid basis", 1, [] { Calc.LiquidBasis = words::Volume; }, "record PD "},
     {"liquid basis of a gas", 2, [] { Calc.LiquidBasis = words::Volume; }, ""},

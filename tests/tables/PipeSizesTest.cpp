@@ -124,6 +124,7 @@ TEST_F(PipeSizes, SearchOffersTheLargestSizeNotAboveTheTypedOne) {
         {1, "1,5", {}},
         {1, "1 2", {}},
         {1, "6/2", {}},
+        {1, "2/2", {}},
         {1, "1/", {}},
         {1, "4 sch 40", {}},
         {1, std::string(100000, '1'), {}},
