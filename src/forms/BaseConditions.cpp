@@ -180,8 +180,10 @@ std::string BaseConditions::ReadDifferently() const {
     std::string notes;
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         if (boxes[i]->Text() == shown_[i]) continue;
-        if (const std::string note = ReadAs(boxes[i]->Text()); !note.empty())
-            notes = Sentences(notes, note + ".");
+        std::string note = ReadAs(boxes[i]->Text());
+        if (note.empty()) continue;
+        note += ".";
+        notes = Sentences(notes, note);
     }
     return notes;
 }

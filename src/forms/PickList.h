@@ -15,11 +15,11 @@ class CalculationForm;
 class PickList {
 public:
     struct Names {
-        const char* Frame;
-        const char* Caption;
-        const char* List;
-        const char* Select;
-        const char* Cancel;
+        const char* Frame = "";
+        const char* Caption = "";
+        const char* List = "";
+        const char* Select = "";
+        const char* Cancel = "";
         const char* SelectCaption = "Se&lect";
     };
 
