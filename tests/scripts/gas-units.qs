@@ -77,9 +77,9 @@ expect OptLeaveAsIs "Currently - User selected units"
 expect-state OptLeaveAsIs checked
 click cmdCancelOptions
 
-# A zero that says nothing is left blank when the record is opened again, and a temperature of zero is not.
+# A zero that says nothing is left blank when the record is opened again, and a temperature below zero is not.
 type txtEquip(1) 0
-type txtTemp(1) 0
+type txtTemp(1) -10
 type txtTagNum G-1
 answer Yes
 answer OK
@@ -89,5 +89,5 @@ expect-message New database
 click mnuProgram
 open G-1
 expect txtEquip(1) ""
-expect txtTemp(1) 0
+expect txtTemp(1) -10
 quit

@@ -24,6 +24,9 @@ expect-status ""
 type txtInletGate 0
 click cmdCalculate(0)
 expect-status "Reynolds number below 4000: neither laminar nor turbulent, the friction is uncertain."
+type txtFlow(0) 1000
+click cmdCalculate(0)
+expect-status ""
 type txtFlow(0) 1000000
 click cmdCalculate(0)
 expect-status ""
