@@ -11,8 +11,9 @@ in a circle. tests/ and benchmarks/ may include anything, but not in circles eit
 
 import re
 import sys
-import tempfile
 from pathlib import Path
+
+from tree_rules import report, self_test, without_comments
 
 CALC_BASE = {"platform", "core"}
 CALCULATION = CALC_BASE | {"units", "fluids", "lineloss", "hammer"}
@@ -55,18 +56,12 @@ SUFFIXES = {".h", ".cpp"}
 # Written by Qt's own tools in the build folder.
 BUILT = re.compile(r"(.*\.moc|(moc|ui)_\w+\.(h|cpp))")
 
-COMMENT_OR_STRING = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
 
 
 def includes_of(path):
     """Yields (line, is quoted, name) of each include that is not in a comment."""
-
-    def blank(match):
-        text = match.group()
-        return text if text.startswith('"') else "\n" * text.count("\n")
-
-    text = COMMENT_OR_STRING.sub(blank, path.read_text(encoding="utf-8", errors="replace"))
+    text = without_comments(path)
     for match in INCLUDE.finditer(text):
         yield text.count("\n", 0, match.start()) + 1, match.group(1) == '"', match.group(2)
 
@@ -181,33 +176,14 @@ SELF_TEST = [
 ]
 
 
-def self_test():
-    failed = 0
-    for name, files, expected in SELF_TEST:
-        with tempfile.TemporaryDirectory() as folder:
-            root = Path(folder)
-            for file, text in files.items():
-                (root / file).parent.mkdir(parents=True, exist_ok=True)
-                (root / file).write_text(text, encoding="utf-8")
-            faults, _ = check(root)
-        if not (faults == [] if expected is None else len(faults) == 1 and expected in faults[0]):
-            failed += 1
-            print(f"self-test '{name}': expected {expected or 'no fault'}, found {faults or 'none'}")
-    print(f"{len(SELF_TEST) - failed} of {len(SELF_TEST)} self-tests passed")
-    return failed == 0
-
-
 def main():
     if sys.argv[1:] == ["--self-test"]:
-        return self_test()
+        return self_test(SELF_TEST, lambda root: check(root)[0])
     if sys.argv[1:]:
         print(__doc__, file=sys.stderr)
         return False
     faults, count = check(Path(__file__).resolve().parent.parent)
-    for fault in faults:
-        print(fault)
-    print(f"Includes of {count} files: {len(faults) or 'no'} fault{'' if len(faults) == 1 else 's'}")
-    return not faults
+    return report(f"Includes of {count} files", faults)
 
 
 if __name__ == "__main__":

@@ -11,15 +11,15 @@ found in the two headers that declare them.
 
 import re
 import sys
-import tempfile
 from pathlib import Path
+
+from tree_rules import report, self_test, without_comments
 
 HEADERS = ("CalcRecord.h", "Suite.h")
 ARRAY = re.compile(r"(?:CaseInputs|CaseResults|PipeValues|FittingCounts|HammerResults|UnitNames|UnitFactors|Row<[^;]*>)\s+(\w[^;]*);")
 NAME = re.compile(r"\b([A-Z]\w+)\s*\{\}")
 # Rows by case, and lists that are counted and have no meaning by place.
 COUNTED = {"FluidPercent", "FluidData", "ResultsClearable", "TemperatureBlank", "TemperatureEntered", "PressureEntered"}
-COMMENT_OR_STRING = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
 
 
 def arrays_of(root):
@@ -39,7 +39,7 @@ def faults_of(root):
     for path in sorted((root / "src").rglob("*")):
         if path.suffix not in {".h", ".cpp"} or "core" in path.relative_to(root / "src").parts[:1]:
             continue
-        text = COMMENT_OR_STRING.sub(lambda match: "\n" * match.group().count("\n"), path.read_text(encoding="utf-8"))
+        text = without_comments(path, keep_strings=False)
         for match in digit.finditer(text):
             if match.group(2) and re.search(r"[=!]=?\s*0$", match.group(2)):
                 continue  # 0 is no program
@@ -64,31 +64,11 @@ SELF_TEST = [
 ]
 
 
-def self_test():
-    failed = 0
-    for name, files, expected in SELF_TEST:
-        with tempfile.TemporaryDirectory() as folder:
-            root = Path(folder)
-            for file, text in (CORE | files).items():
-                (root / file).parent.mkdir(parents=True, exist_ok=True)
-                (root / file).write_text(text, encoding="utf-8")
-            faults = faults_of(root)
-        if not (faults == [] if expected is None else len(faults) == 1 and expected in faults[0]):
-            failed += 1
-            print(f"self-test '{name}': expected {expected or 'no fault'}, found {faults or 'none'}")
-    print(f"{len(SELF_TEST) - failed} of {len(SELF_TEST)} self-tests passed")
-    return failed == 0
-
-
 def main():
     if sys.argv[1:] == ["--self-test"]:
-        return self_test()
+        return self_test(SELF_TEST, faults_of, CORE)
     root = Path(__file__).resolve().parent.parent
-    faults = faults_of(root)
-    for fault in faults:
-        print(fault)
-    print(f"Rows of {len(arrays_of(root))} arrays: {len(faults) or 'no'} fault{'' if len(faults) == 1 else 's'}")
-    return not faults
+    return report(f"Rows of {len(arrays_of(root))} arrays", faults_of(root))
 
 
 if __name__ == "__main__":

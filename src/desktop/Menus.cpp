@@ -88,8 +88,8 @@ private:
         QTimer::singleShot(0, this, [this, boxes = held.Boxes()] {
             const QPointer<HeadView> self(this);
             CloseMenus();
-            LeaveBar();  // NOLINT(clang-analyzer-core.CallAndMessage): the menus stand as long as their
-                         // window
+            // The menus stand as long as their window. NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage)
+            LeaveBar();
             for (const MessageBox& box : boxes) ShowMessage(box);
             if (self != nullptr) closed_();
         });
