@@ -32,6 +32,17 @@ struct Day {
     }
 };
 
+// std::localtime keeps its answer where any thread may write over it.
+std::tm LocalTime(std::time_t time) {
+    std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &time);
+#else
+    localtime_r(&time, &local);
+#endif
+    return local;
+}
+
 // Whole texts alone: nothing may follow the day.
 std::optional<Day> ParseIso(const std::string& text) {
     Day day;
@@ -53,10 +64,9 @@ std::optional<Day> ParseMonthFirst(const std::string& text) {
 
 std::string Today() {
     if (!FixedDay.empty()) return FixedDay;
-    const std::time_t now = std::time(nullptr);
-    const std::tm* const local = std::localtime(&now);
-    return Written(local->tm_year + 1900, static_cast<unsigned>(local->tm_mon) + 1,
-                   static_cast<unsigned>(local->tm_mday));
+    const std::tm local = LocalTime(std::time(nullptr));
+    return Written(local.tm_year + 1900, static_cast<unsigned>(local.tm_mon) + 1,
+                   static_cast<unsigned>(local.tm_mday));
 }
 
 bool SetToday(const std::string& isoDay) {

@@ -3,8 +3,16 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <system_error>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 #include "platform/RuntimeError.h"
 #include "platform/TextCase.h"
@@ -31,6 +39,22 @@ RuntimeError FailureOf(const std::error_code& error) {
         return failure::NoDevice();
     }
     return failure::PathAccess();
+}
+
+// Makes an empty file and never opens what is there already. The name goes to the system in its own letters.
+std::error_code MakeNewFile(const fs::path& path) {
+#ifdef _WIN32
+    const int file = _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL, _S_IREAD | _S_IWRITE);
+#else
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+#endif
+    if (file < 0) return {errno, std::generic_category()};
+#ifdef _WIN32
+    _close(file);
+#else
+    close(file);
+#endif
+    return {};
 }
 
 bool CanBeWritten(const std::string& name) {
@@ -154,13 +178,9 @@ void TryToWrite(std::string_view suitePath) {
     const fs::path folder = MachineFolder(suitePath);
     for (int number = 0; number < 1000; ++number) {
         const fs::path test = folder / (number == 0 ? "TEST" : "TEST" + std::to_string(number));
-        errno = 0;
-        // Never opens what is there already.
-        std::FILE* const file = std::fopen(test.string().c_str(), "wx");
-        if (file == nullptr && errno == EEXIST) continue;
-        if (file == nullptr) throw FailureOf({errno, std::generic_category()});
-        std::fclose(file);
-        std::error_code error;
+        std::error_code error = MakeNewFile(test);
+        if (error == std::errc::file_exists) continue;
+        if (error) throw FailureOf(error);
         fs::remove(test, error);
         if (error) throw FailureOf(error);
         return;

@@ -4,6 +4,8 @@
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <system_error>
 
@@ -15,6 +17,8 @@
 #include <unistd.h>
 #endif
 
+#include "platform/NumberText.h"
+
 namespace quillmetra {
 
 namespace fs = std::filesystem;
@@ -24,6 +28,23 @@ fs::path FromEnvironment(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? fs::path() : fs::path(value);
 }
+
+#ifdef __linux__
+std::string WholeFile(const char* name) {
+    std::ifstream file(name);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The first field has number 1; empty where there are fewer.
+std::string FieldOf(const std::string& text, int number) {
+    std::istringstream fields(text);
+    std::string field;
+    while (number-- > 0) {
+        if (!(fields >> field)) return "";
+    }
+    return field;
+}
+#endif
 }  // namespace
 
 fs::path ExecutableFolder() {
@@ -63,16 +84,12 @@ fs::path ShippedDataFolder() { return ExecutableFolder().parent_path() / "share"
 
 double ProcessAge() {
 #ifdef __linux__
-    std::ifstream stat("/proc/self/stat");
-    std::string text((std::istreambuf_iterator<char>(stat)), {});
-    const std::size_t name = text.rfind(')');
-    std::ifstream uptime("/proc/uptime");
-    double up = 0;
-    if (name != std::string::npos && uptime >> up) {
-        std::size_t at = name;
-        constexpr int fieldsToStart = 20;  // from the end of the name to the start time, in clock ticks
-        for (int field = 0; field < fieldsToStart; ++field) at = text.find(' ', at + 1);
-        return (up - std::stod(text.substr(at)) / static_cast<double>(sysconf(_SC_CLK_TCK))) * 1000;
+    constexpr int startTime = 20;  // the field after the name in brackets, in clock ticks
+    const std::string stat = WholeFile("/proc/self/stat");
+    const std::string ticks = FieldOf(stat.substr(stat.rfind(')') + 1), startTime);
+    const std::string up = FieldOf(WholeFile("/proc/uptime"), 1);
+    if (!ticks.empty() && !up.empty()) {
+        return (Val(up) - Val(ticks) / static_cast<double>(sysconf(_SC_CLK_TCK))) * 1000;
     }
 #endif
     static const auto start = std::chrono::steady_clock::now();
