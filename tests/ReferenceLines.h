@@ -1,4 +1,4 @@
-// The line cases worked by the independent programs of tests/reference: a table whose second line names its
+// The line cases worked by the independent programs of tools/reference: a table whose second line names its
 // columns.
 #pragma once
 

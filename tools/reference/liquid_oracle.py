@@ -3,7 +3,7 @@
 
 Works the rules out anew, without a look at the C++ code, and writes the two tables that the tests compare with:
 
-    python3 tests/reference/liquid_oracle.py
+    python3 tools/reference/liquid_oracle.py
 
 liquid_lines.txt       one line a case: inputs, then results in internal units, flow status hidden
 liquid_properties.txt  a row of the liquid table, temperature, pressure, barometer; vapor pressure, gravity,
@@ -17,7 +17,7 @@ import random
 import struct
 from pathlib import Path
 
-HERE = Path(__file__).parent
+TABLES = Path(__file__).resolve().parents[2] / "tests" / "reference"
 
 ROUGHNESS = {1: (0.0018, 2.51), 2: (0.000011, 2.5), 3: (0.0103, 2.42), 4: (0.006, 2.5), 5: (0.0048, 2.47),
              6: (0.012, 2.5), 7: (0.00725, 2.49)}
@@ -218,12 +218,12 @@ def property_cases():
 
 
 def main():
-    with open(HERE / "liquid_lines.txt", "w", newline="\n") as out:
+    with open(TABLES / "liquid_lines.txt", "w", newline="\n") as out:
         print("# Made by liquid_oracle.py, an independent program: see there.", file=out)
         print("#", *INPUTS, *RESULTS, file=out)
         for case in line_cases():
             print(*(case[name] for name in INPUTS), *line(case), file=out)
-    with open(HERE / "liquid_properties.txt", "w", newline="\n") as out:
+    with open(TABLES / "liquid_properties.txt", "w", newline="\n") as out:
         print("# Made by liquid_oracle.py, an independent program: see there.", file=out)
         print("# row; temperature; pressure; barometer; vapor pressure; gravity; viscosity", file=out)
         for row, t, p, barometer in property_cases():

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Independent figures for gases, their mixtures and the gas line.
 
-Works the rules out anew, without a look at the C++ code, and writes the tables that the tests compare with:
+Works the rules out anew, without a look at the C++ code, and writes the tables of tests/reference that the tests compare with:
 
-    python3 tests/reference/gas_oracle.py
+    python3 tools/reference/gas_oracle.py
 
 gas_properties.txt  a row of the gas table, temperature, pressure; what the correlations make of it
 gas_mixtures.txt    rows and percentages, temperature, pressure (gauge pressure for the latent heat); the
@@ -21,7 +21,7 @@ from pathlib import Path
 
 from liquid_oracle import LENGTH_RATIO, TURBULENCE, colebrook, vapor_pressure
 
-HERE = Path(__file__).parent
+TABLES = Path(__file__).resolve().parents[2] / "tests" / "reference"
 
 
 def single(value):
@@ -268,7 +268,7 @@ def line_cases():
 
 
 def write(name, heading, rows, separator):
-    with open(HERE / name, "w", newline="\n") as out:
+    with open(TABLES / name, "w", newline="\n") as out:
         print("# Made by gas_oracle.py, an independent program: see there.", file=out)
         print("#", heading, file=out)
         for row in rows:
