@@ -1,6 +1,8 @@
 // What a reset of the record clears and what it keeps.
 #include "core/CalcRecord.h"
 
+#include <tuple>
+
 #include "core/Filling.h"
 #include "core/Words.h"
 #include "tests/SuiteFixture.h"
@@ -48,64 +50,45 @@ protected:
         Calc.BrowserOpen = words::Yes;
         Calc.DataOk = words::Yes;
         Suite.HideFlowStatus = words::Yes;
-        Suite.DatabasePath = "d:\\db";
+        Before = Calc;
     }
 
-    static void ExpectCleared() {
-        EXPECT_EQ(Calc.CaseInput[2][1], 0);
-        EXPECT_EQ(Calc.CaseResult[1][2], 0);
-        EXPECT_EQ(Calc.CaseInputShown[2][1], 0);
-        EXPECT_EQ(Calc.PipeData[1], 0);
-        EXPECT_EQ(Calc.PipeDataSaved[1], 0);
-        EXPECT_EQ(Calc.PipeMaterialNumber, 1);
-        EXPECT_EQ(Calc.PipeMaterial, "Steel");
-        EXPECT_EQ(Calc.PipeFouling, 0);
-        EXPECT_EQ(Calc.PressureDirection, 1);
-        EXPECT_EQ(Calc.EquivLengthPerFitting[2], 0);
-        EXPECT_EQ(Calc.ResultsClearable[1], words::Yes);
-        EXPECT_EQ(Calc.BrowserOpen, words::No);
-        EXPECT_EQ(Calc.DataOk, words::No);
-        for (const std::string* text : {&Calc.Tag, &Calc.ProgramTitle, &Calc.FluidName, &Calc.FluidRow,
-                                        &Calc.FluidDataSource, &Calc.TemperatureEntered[0]}) {
-            EXPECT_TRUE(text->empty()) << *text;
-        }
-        EXPECT_EQ(Calc.CurrentProgram, 1);
-        EXPECT_EQ(Calc.FluidType, words::Liquid);
-        EXPECT_EQ(Calc.LiquidUnitSet, 4);
-        EXPECT_EQ(Calc.GasUnitSet, 2);
-        EXPECT_EQ(Suite.HideFlowStatus, words::Yes);
-        EXPECT_EQ(Suite.DatabasePath, "d:\\db");
+    static auto Cleared(const CalcRecord& record) {
+        return std::tie(record.CaseInput[2], record.CaseResult, record.CaseInputShown, record.PipeData,
+                        record.PipeDataSaved, record.PipeMaterialNumber, record.PipeMaterial,
+                        record.PipeFouling, record.PressureDirection, record.EquivLengthPerFitting,
+                        record.ResultsClearable, record.BrowserOpen, record.DataOk, record.Tag,
+                        record.ProgramTitle, record.FluidName, record.FluidRow, record.FluidDataSource,
+                        record.TemperatureEntered);
     }
+    static auto Kept(const CalcRecord& record) {
+        return std::tie(record.CurrentProgram, record.FluidType, record.LiquidUnitSet, record.GasUnitSet);
+    }
+    // By a new calculation alone.
+    static auto InForce(const CalcRecord& record) {
+        return std::tie(record.UnitName, record.UnitFactor, record.LiquidBasis, record.LiquidDensityMode,
+                        record.PressureMode, record.FluidOk, record.DataMode, record.CalcMode,
+                        record.BaroPressure, record.CaseInput[23]);
+    }
+
+    const CalcRecord Fresh;
+    CalcRecord Before;
 };
 
 TEST_F(CalcRecordTest, AResetKeepsTheProgramAndTheUnitSetsAlone) {
     ResetRecord();
-    ExpectCleared();
-    EXPECT_EQ(Calc.UnitName[1], "");
-    for (const double factor : Calc.UnitFactor) EXPECT_EQ(factor, 1);
-    EXPECT_EQ(Calc.PressureMode, words::Gauge);
-    EXPECT_EQ(Calc.LiquidDensityMode, words::Gravity);
-    EXPECT_EQ(Calc.FluidOk, words::FluidPicked);
-    EXPECT_EQ(Calc.DataMode, "");
-    EXPECT_EQ(Calc.BaroPressure, 0);
-    EXPECT_EQ(Calc.CaseInput[23][0], 0);
+    EXPECT_EQ(Cleared(Calc), Cleared(Fresh));
+    EXPECT_EQ(Kept(Calc), Kept(Before));
+    EXPECT_EQ(InForce(Calc), InForce(Fresh));
+    EXPECT_EQ(Suite.HideFlowStatus, words::Yes);
 }
 
 TEST_F(CalcRecordTest, ANewCalculationKeepsUnitsOptionsAndStandardConditions) {
     const Filling filling;
     ResetForNew();
-    ExpectCleared();
-    EXPECT_EQ(Calc.UnitName[1], "litre/s");
-    EXPECT_EQ(Calc.UnitFactor[1], 3600 / 3.785412);
-    EXPECT_EQ(Calc.UnitFactor[33], 0.63);
-    EXPECT_EQ(Calc.LiquidBasis, words::Volume);
-    EXPECT_EQ(Calc.PressureMode, words::Absolute);
-    EXPECT_EQ(Calc.LiquidDensityMode, words::Density);
-    EXPECT_EQ(Calc.FluidOk, words::FluidLoaded);
-    EXPECT_EQ(Calc.DataMode, words::FileData);
-    EXPECT_EQ(Calc.CalcMode, words::PressureDrop);
-    EXPECT_EQ(Calc.BaroPressure, 13);
-    EXPECT_EQ(Calc.CaseInput[23][0], 13);
+    EXPECT_EQ(Cleared(Calc), Cleared(Fresh));
+    EXPECT_EQ(Kept(Calc), Kept(Before));
+    EXPECT_EQ(InForce(Calc), InForce(Before));
     EXPECT_EQ(Calc.FormLoading, words::Yes) << "the form goes on filling itself";
 }
 

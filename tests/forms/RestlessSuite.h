@@ -5,8 +5,11 @@
 #include <cmath>
 #include <cstdlib>
 #include <functional>
+#include <tuple>
 
+#include "platform/NumberText.h"
 #include "records/RecordFiles.h"
+#include "reports/FormRows.h"
 #include "tests/forms/RestlessFixture.h"
 #include "tests/Memory.h"
 #include "tests/records/RecordFixture.h"
@@ -53,9 +56,12 @@ protected:
     RandomUser& User;
 };
 
-class RestlessWalk : public RestlessFixture, public ::testing::WithParamInterface<int> {
+// The program that he stays with, 0 for none, and the seed.
+using WalkCase = std::tuple<int, int>;
+
+class RestlessWalk : public RestlessFixture, public ::testing::WithParamInterface<WalkCase> {
 protected:
-    RestlessWalk() : RestlessFixture(static_cast<unsigned>(GetParam())) {
+    RestlessWalk() : RestlessFixture(static_cast<unsigned>(std::get<1>(GetParam()))) {
         User.Below = [this](int count) { return Below(static_cast<std::size_t>(count)); };
         User.Stay = [this](quillmetra::Form& form) { StayWith(form); };
     }
@@ -79,6 +85,14 @@ protected:
             SaveTRCalc();
         }
         Calc = CalcRecord();
+        OpenProgram();
+    }
+
+    void OpenProgram() {
+        if (program_ == 0) return;
+        ClickControl(ControlOf("frmTRProg", "cmdOK"));
+        ClickControl(ControlOf("frmObxProg", "optProgram", program_));
+        ClickControl(ControlOf("frmObxProg", "cmdOK"));
     }
 
     // The forms that can be used; a modal one is alone.
@@ -103,6 +117,7 @@ protected:
                           {"FindDialog", "cmdFind", 4},    {"frmObxProg", "cmdOK", 6},
                           {nullptr, "mnuProgram", 30},     {nullptr, "mnuSave", 50},
                           {nullptr, "mnuPrint", 50}};
+        if (program_ != 0) return nullptr;
         for (const auto& each : favourites) {
             if (each.Form != nullptr && form.Name() != each.Form) continue;
             if (Below(static_cast<std::size_t>(each.OneIn)) == 0) return form.Find(each.Control);
@@ -139,6 +154,7 @@ protected:
         quillmetra::Form& form = *forms[static_cast<std::size_t>(Below(forms.size()))];
         CalculationForm* const calculation = dynamic_cast<CalculationForm*>(&form);
         const int anyCase = Below(CaseCount);
+        bool calculates = true, elsewhere = calculation == nullptr;
         if (calculation != nullptr && Below(20) == 0 && CanAct(calculation->txtTagNum)) {
             if (Control* const button = CalculateButton(*calculation, anyCase)) {
                 last_ = "a good case of " + form.Name();
@@ -152,10 +168,71 @@ protected:
         } else {
             Control& control = AnyControl(form);
             last_ = form.Name() + "." + control.FullName();
+            calculates = Calculates(form, control);
             ActOn(control);
-            if (const auto now = UsableForms(); Below(4) == 0 && !now.empty()) PressAnyKey(*now.back());
+            if (const auto now = UsableForms(); Below(4) == 0 && !now.empty()) {
+                elsewhere = elsewhere || now.back() != &form;
+                calculates = calculates || ShowsFluids(*now.back());
+                PressAnyKey(*now.back());
+            }
         }
+        // Elsewhere a record may be loaded, or numbers and results converted alike.
+        if (elsewhere) inputs_.fill({});
+        const auto renews = [](const MessageBox& box) { return box.Text == "Update Fluid Properties?"; };
+        calculates = calculates || std::any_of(User.Boxes.begin(), User.Boxes.end(), renews);
         ExpectSound();
+        ExpectNoStaleResults(calculates);
+    }
+
+    static bool Calculates(const quillmetra::Form& form, const Control& control) {
+        return control.Name().starts_with("cmdCalculate") || control.Name().starts_with("mnuS") ||
+               control.Name() == "cmdOK" || ShowsFluids(form);
+    }
+
+    // Where a fluid is picked, a form that has results may calculate them anew.
+    static bool ShowsFluids(const quillmetra::Form& form) {
+        const Control* const fluids = form.Find("lstFluid");
+        return fluids != nullptr && fluids->Seen();
+    }
+
+    // What a case's results depend on, as the form says it.
+    static std::string InputsOf(CalculationForm& form, int i) {
+        std::string inputs = form.txtFluid.Text();
+        for (const char* material : {"cmdMatl", "txtPipeMatl"}) {
+            if (const Control* control = form.Find(material)) inputs += control->Text();
+        }
+        for (const char* tick : {"chkEntrance", "chkExit", "optSource"}) {
+            const auto* control = dynamic_cast<const Tickable*>(form.Find(tick));
+            if (control != nullptr) inputs += control->Checked() ? "1" : "0";
+        }
+        for (const FormRow& row : FormRows(form.ProgramNumber())) {
+            if (!row.IsResult()) inputs += Str(Val(RowControl(form, row, i).Text()));
+        }
+        return inputs;
+    }
+
+    static bool HasResults(CalculationForm& form, int i) {
+        for (const char* name : {"txtDestPress", "txtCriticalTime", "txtDensity"}) {
+            if (const Control* result = OfCase(form, name, i)) return !result->Text().empty();
+        }
+        return false;
+    }
+
+    // Results stand only beside the inputs that gave them.
+    void ExpectNoStaleResults(bool calculated) {
+        CalculationForm* const form = Calculation();
+        if (form == nullptr || PanelIsOpen()) return inputs_.fill({});
+        for (int i = 0; i < CaseCount; ++i) {
+            std::string& former = inputs_[static_cast<std::size_t>(i)];
+            if (!HasResults(*form, i)) {
+                former.clear();
+            } else if (former.empty() || (calculated && Calc.CaseIndex == i)) {
+                former = InputsOf(*form, i);
+                ++results_;
+            } else {
+                ASSERT_EQ(former, InputsOf(*form, i)) << "case " << i << " after " << last_;
+            }
+        }
     }
 
     void StayWith(quillmetra::Form& form) {
@@ -179,6 +256,7 @@ protected:
         Calc = CalcRecord();
         StartUp(SuitePath(Folder));
         StayInFolder();
+        OpenProgram();
     }
 
     // The path finder shows the whole machine, and what he finds there is not his to write to.
@@ -199,14 +277,13 @@ protected:
     void ExpectSound() {
         if (ProcessHasEnded()) return;
         StayInFolder();
+        ASSERT_TRUE(PanelIsOpen() || Calc.FormLoading != words::Yes) << last_;
         const auto finite = [](double value) { return std::isfinite(value); };
-        for (const auto& row : Calc.CaseInput)
-            ASSERT_TRUE(std::all_of(row.begin(), row.end(), finite)) << last_;
-        for (const auto& row : Calc.CaseResult)
-            ASSERT_TRUE(std::all_of(row.begin(), row.end(), finite)) << last_;
         const auto expectFinite = [&](const auto& row) {
             ASSERT_TRUE(std::all_of(row.begin(), row.end(), finite)) << last_;
         };
+        for (const auto& row : Calc.CaseInput) expectFinite(row);
+        for (const auto& row : Calc.CaseResult) expectFinite(row);
         expectFinite(Calc.HammerResult);
         expectFinite(Calc.PipeData);
         expectFinite(Calc.FittingCount);
@@ -223,6 +300,11 @@ protected:
             if (form == nullptr || !form->Visible()) continue;
             ASSERT_TRUE(form->Enabled() || PanelIsOpen()) << name << " is dead after " << last_;
             ExpectNumbers(*form);
+        }
+        for (const quillmetra::Form* form : UsableForms()) {
+            ASSERT_TRUE(std::any_of(form->Controls().begin(), form->Controls().end(),
+                                    [](const Control* control) { return CanAct(*control); }))
+                << form->Name() << " has nothing to click after " << last_;
         }
     }
 
@@ -255,10 +337,14 @@ protected:
         if (MemoryIsOurs && acts >= longWalk) {
             EXPECT_LT(ResidentMegabytes(), before + 10);
         }
+        EXPECT_TRUE(program_ == 0 || results_ > 1) << "too restless to calculate anything";
     }
 
     RandomUser User;
+    const int program_ = std::get<0>(GetParam());
     std::string last_;  // act
+    Row<std::string, CaseCount> inputs_{};
+    int results_ = 0;
 };
 
 }  // namespace quillmetra

@@ -2,6 +2,33 @@
 # up leaves the numbers alone; what is taken converts inputs and results together.
 strict on
 start
+# --- The barometer keeps its digits: kPa is only how it is seen, and no letter gets in.
+new 1
+click cmdFormLayout
+expect cmdBaroPress psia
+expect txtSTPBaro 14.7
+click cmdBaroPress
+expect txtSTPBaro 101.4
+key txtSTPBaro x
+expect txtSTPBaro 101.4
+click cmdOKOptions
+click cmdFormLayout
+expect txtSTPBaro 14.7
+type txtSTPBaro 13.5
+click optMassSIUnits
+click cmdOKOptions
+answer No
+click mnuProgram
+expect-message Save changes?
+new 1
+click cmdFormLayout
+expect txtSTPBaro 93.08
+click cmdBaroPress
+expect txtSTPBaro 13.5
+type txtSTPBaro 14.7
+click cmdOKOptions
+
+start
 # What converts no number asks no rounding, and leaves what was typed: an empty form, another mode of no pressure.
 new 1
 type txtFlow(0) 100.1234567

@@ -106,3 +106,24 @@ click mnuLiquid1
 expect-message File Liquid.txt
 key lstFluid Escape
 expect-state txtTemp(0) enabled
+# Short rows and rows of zeros in a file of another spelling.
+write-file TRData/LIQUID.TXT "head\nShort,1,2\nZero,1,0,0,0,0,0,0,0,0,0,\n"
+click mnuLiquid1
+expect-count lstFluid 2
+pick lstFluid "Short"
+answer Yes
+answer OK
+click cmdSelect
+expect-message Flow temperature is greater then Critical temperature
+expect-box "Liquid Calculation" "Fluid properties cannot be calculated" OK
+expect txtSGFTP(0) ""
+expect-state txtTemp(0) enabled
+click mnuLiquid1
+pick lstFluid "Zero"
+answer Yes
+answer OK
+click cmdSelect
+expect-message Flow temperature is greater then Critical temperature
+expect-message Fluid properties cannot be calculated
+expect txtSGFTP(0) ""
+expect-state txtTemp(0) enabled

@@ -141,4 +141,24 @@ pick lstFluid "Methane "
 click cmdSelect
 expect-title Ver.6.0.0.  Line Loss  - Gas Flow
 expect-state mnuSupersteam1 unchecked
+
+# A name typed over steam is no steam any more, and steam that is not to be had leaves another gas alone.
+click mnuSatSteam1
+expect txtFluid Steam
+type txtFluid Air
+leave
+expect-state mnuSatSteam1 unchecked
+expect-title Ver.6.0.0.  Line Loss  - Gas Flow
+click mnuPureGases1
+pick lstFluid "Methane "
+click cmdSelect
+answer No
+type txtTemp(0) 150
+leave
+expect-message Update Fluid Properties?
+answer OK
+click mnuSupersteam1
+expect-message Table is limited
+expect txtMW(0) 16.04
+expect txtFluid Methane
 quit

@@ -77,6 +77,54 @@ expect lblRemaining 10
 click cmdCalcPseudo
 expect txtMW(1) 15.84
 
+# Percentages without sense are refused, and Cancel brings back what was there.
+click mnuMixtures2
+click cmdClear
+answer OK
+click cmdCalcPseudo
+expect-box "Mixture Calculation" "Sum of percentages must equal 100" OK
+type txtPercent(0) 150
+type txtPercent(1) -50
+answer OK
+click cmdCalcPseudo
+expect-message A percentage must not be less than zero
+click cmdCancel
+click mnuMixtures2
+expect txtPercent(0) 80
+# An act beside the open list gives it up, components in the making and all.
+pick lstFluid "Propane "
+click cmdSelect
+expect lblComponent(2) Propane
+click mnuSTP
+expect-state fraComponent hidden
+click cmdOKSTP
+expect-state txtFlow(1) enabled
+expect-state mnuMixtures1 checked
+click mnuMixtures2
+expect-state txtPercent(2) hidden
+click cmdCancel
+# So does a save: the mixture is what is kept, not the gas that is being looked for.
+type txtTagNum M-1
+click mnuPureGases2
+answer Yes
+answer OK
+click mnuSave
+expect-message Create
+expect-message New database
+expect-state lstFluid hidden
+click mnuProgram
+open M-1
+expect-state mnuMixtures1 checked
+expect txtFluid Mixture
+# A name typed over it is no mixture any more.
+type txtFluid Air
+leave
+expect-state mnuMixtures1 unchecked
+answer No
+click mnuProgram
+expect-message Save changes?
+open M-1
+
 # A new temperature renews it.
 type txtTemp(1) 200
 answer Yes

@@ -2,6 +2,108 @@
 # given up leaves the numbers alone, one that is taken converts inputs and results.
 strict on
 start
+
+# --- A new calculation in volume units has nothing to convert yet: another unit is no change of the flow's basis.
+new 1
+click cmdFormLayout
+click optVolEnglishUnits
+click cmdOKOptions
+answer No
+click mnuProgram
+expect-message Save changes?
+new 1
+expect cmdUnits(1) USgal/m
+include good-case.qs
+type txtSGFlow(1) 0.8
+click cmdUnits(2)
+click cmdUnit(2)
+pick cboUnit degC
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect txtFlow(1) 100000
+expect txtTemp(1) 15.5556
+
+# --- Neither a number below zero nor one that is lost goes on standing in its box in the former unit.
+start
+new 1
+include good-case.qs
+answer No
+click cmdCalculate(1)
+expect-message Transition
+expect txtEquivLen 1000
+type txtEquip(1) -20
+type txtSGFlow(1) ""
+expect txtEquivLen ""
+click cmdUnits(4)
+click cmdUnit(4)
+pick cboUnit kPa
+click cmdSelect
+click cmdUnit(7)
+pick cboUnit cs
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect txtEquip(1) -137.893
+expect txtViscosity(1) ""
+type txtSGFlow(1) 0.8
+answer OK
+click cmdCalculate(1)
+expect-message Viscosity must be greater than zero
+
+# --- Units of the user's own stay what they are while others change. A pressure without an ending belongs to no
+# mode, so that the mode cannot change under its numbers.
+start
+new 1
+include good-case.qs
+click cmdUnits(7)
+click cmdUnit(7)
+pick cboUnit 5
+type cboUnit poise
+type cboFactor 100
+click cmdSelect
+click cmdUnit(3)
+pick cboUnit 9
+type cboUnit Torr
+type cboFactor 0.019337
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect txtViscosity(1) 0.01
+expect txtPressure(1) 5171.43
+click cmdUnits(2)
+click cmdUnit(2)
+pick cboUnit degC
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+expect txtViscosity(1) 0.01
+click cmdFormLayout
+click optAbsolutePressure
+click cmdOKOptions
+expect-status "Torr is neither gauge nor absolute: the pressures stay as they were"
+expect txtPressure(1) 5171.43
+click cmdFormLayout
+expect-state OptGaugePress checked
+click cmdCancelOptions
+answer No
+click cmdCalculate(1)
+expect-message Transition
+expect txtDestPress(1) 4670
+
+start
 new 1
 include good-case.qs
 answer No
