@@ -11,4 +11,4 @@ Build sanitize test_desktop test_forms
 export QUILLMETRA_SEEDS=${1:-20} QUILLMETRA_ACTS=5000 QT_QPA_PLATFORM=offscreen
 export LSAN_OPTIONS="suppressions=$PWD/tools/sanitizers/lsan.supp:print_suppressions=0"
 build/sanitize/bin/test_desktop --gtest_filter='*RestlessDesktop*'
-exec build/sanitize/bin/test_forms --gtest_filter='*RestlessSuite*'
+exec build/sanitize/bin/test_forms --gtest_filter='Seeds/RestlessSuite*'

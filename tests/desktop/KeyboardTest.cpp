@@ -2,7 +2,9 @@
 // Tab over every form.
 #include <deque>
 #include <filesystem>
+#include <iterator>
 #include <set>
+#include <sstream>
 
 #include <QElapsedTimer>
 #include <QKeySequence>
@@ -120,7 +122,7 @@ private:
 
 struct ByKeys {
     const char* Name;
-    std::deque<std::string> Keys;  // from the selector of programs to results
+    const char* Keys;  // from the selector of programs to results
     const char *Form, *Result;
     int Index;
     double Value;
@@ -128,89 +130,23 @@ struct ByKeys {
 
 const ByKeys Ways[] = {
     {"liquid line",
-     {"{Return}",    "P-1",        "@txtInletPipeLen",
-      "1000",        "@cmdPipeID", "{Space}",
-      "4",           "{Return}",   "{Return}",
-      "@txtFlow(0)", "100000",     "{Return}",
-      "68",          "{Return}",   "100",
-      "{Alt+U}",     "M",          "P",
-      "Tolu",        "{Return}",   "@cmdCalculate(0)",
-      "{Space}"},
-     "frmLiqLineLoss",
-     "txtDestPress",
-     0,
-     89.39},
+     "{Return} P-1 @txtInletPipeLen 1000 @cmdPipeID {Space} 4 {Return} {Return} @txtFlow(0) 100000 {Return} "
+     "68 {Return} 100 {Alt+U} M P Tolu {Return} @cmdCalculate(0) {Space}",
+     "frmLiqLineLoss", "txtDestPress", 0, 89.39},
     {"gas line",
-     {"{Down}",
-      "{Return}",
-      "P-2",
-      "@txtInletPipeLen",
-      "1000",
-      "{Return}",
-      "4.026",
-      "@txtFlow(1)",
-      "5000",
-      "{Return}",
-      "60",
-      "{Return}",
-      "100",
-      "{Alt+U}",
-      "N",
-      "P",
-      "Meth",
-      "{Return}",
-      "@cmdCalculate(1)",
-      "{Space}"},
-     "frmGasLineLoss",
-     "txtDestPress",
-     1,
-     95.9},
+     "{Down} {Return} P-2 @txtInletPipeLen 1000 {Return} 4.026 @txtFlow(1) 5000 {Return} 60 {Return} 100 "
+     "{Alt+U} N P Meth {Return} @cmdCalculate(1) {Space}",
+     "frmGasLineLoss", "txtDestPress", 1, 95.9},
     {"water hammer",
-     {"{Down}",
-      "{Down}",
-      "{Return}",
-      "P-3",
-      "@txtMaxLiqFlow",
-      "400000",
-      "{Return}",
-      "60",
-      "{Return}",
-      "100",
-      "{Alt+U}",
-      "P",
-      "Water",
-      "{Return}",
-      "@txtLineLength",
-      "2500",
-      "{Return}",
-      "6.065",
-      "@txtPipeWall",
-      "0.28",
-      "@cmdPipeMatl",
-      "{Space}",
-      "{Return}",
-      "@txtMaxAllowPressure",
-      "300",
-      "@cmdCalculateliq",
-      "{Space}"},
-     "frmWaterHammer",
-     "txtPressureWave",
-     Control::NoIndex,
-     623},
-    {"liquid data",
-     {"{Down}", "{Down}", "{Down}", "{Return}", "P-4", "@txtTemp(0)", "80", "{Return}", "100", "{Alt+U}", "C",
-      "P", "Tolu", "{Return}"},
-     "frmLiqData",
-     "txtSGFTP",
-     0,
-     0.8615},
+     "{Down} {Down} {Return} P-3 @txtMaxLiqFlow 400000 {Return} 60 {Return} 100 {Alt+U} P Water {Return} "
+     "@txtLineLength 2500 {Return} 6.065 @txtPipeWall 0.28 @cmdPipeMatl {Space} {Return} "
+     "@txtMaxAllowPressure 300 @cmdCalculateliq {Space}",
+     "frmWaterHammer", "txtPressureWave", Control::NoIndex, 623},
+    {"liquid data", "{Down} {Down} {Down} {Return} P-4 @txtTemp(0) 80 {Return} 100 {Alt+U} C P Tolu {Return}",
+     "frmLiqData", "txtSGFTP", 0, 0.8615},
     {"gas data",
-     {"{Down}", "{Down}", "{Down}", "{Down}", "{Return}", "P-5", "@txtTemp(0)", "80", "{Return}", "250",
-      "{Alt+U}", "C", "P", "Meth", "{Return}"},
-     "frmGasData",
-     "txtCompFactor",
-     0,
-     0.9678},
+     "{Down} {Down} {Down} {Down} {Return} P-5 @txtTemp(0) 80 {Return} 250 {Alt+U} C P Meth {Return}",
+     "frmGasData", "txtCompFactor", 0, 0.9678},
 };
 
 // The ways to the entries of the other cases.
@@ -330,9 +266,8 @@ TEST_F(Keyboard, FromTheBrowserToAReport) {
     for (const ByKeys& way : Ways) {
         SCOPED_TRACE(way.Name);
         Show("frmTRProg");
-        std::deque<std::string> keys = {"{Alt+G}", "#frmObxProg"};
-        keys.insert(keys.end(), way.Keys.begin(), way.Keys.end());
-        Play(keys);
+        std::istringstream keys(std::string("{Alt+G} #frmObxProg ") + way.Keys);
+        Play({std::istream_iterator<std::string>(keys), {}});
         Form* const form = LoadedForm(way.Form);
         ASSERT_TRUE(form != nullptr && form->Visible());
         EXPECT_NEAR(Val(form->Find(way.Result, way.Index)->Text()), way.Value, 0.001 * way.Value)

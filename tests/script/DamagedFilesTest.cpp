@@ -95,37 +95,16 @@ protected:
     static bool IsRecordFinite() {
         const auto finite = [](double value) { return std::isfinite(value); };
         const auto all = [&](const auto& row) { return std::all_of(row.begin(), row.end(), finite); };
-        for (const double CalcRecord::*field : {&CalcRecord::Density,
-                                                &CalcRecord::MolecularWeight,
-                                                &CalcRecord::CritPressure,
-                                                &CalcRecord::CritTemperature,
-                                                &CalcRecord::SGAtStandard,
-                                                &CalcRecord::FlowingSG,
-                                                &CalcRecord::VaporPressure,
-                                                &CalcRecord::FluidViscosity,
-                                                &CalcRecord::PressureCorrection,
-                                                &CalcRecord::CompressFactor,
-                                                &CalcRecord::LatentHeatAtFlow,
-                                                &CalcRecord::NormalBoilingPoint,
-                                                &CalcRecord::Viscosity1,
-                                                &CalcRecord::Viscosity2,
-                                                &CalcRecord::ViscosityTemp1,
-                                                &CalcRecord::ViscosityTemp2,
-                                                &CalcRecord::LiquidCp60,
-                                                &CalcRecord::GasCp1,
-                                                &CalcRecord::LatentHeatRefValue,
-                                                &CalcRecord::BulkModulusBase,
-                                                &CalcRecord::PipeModulus,
-                                                &CalcRecord::StdTemperature,
-                                                &CalcRecord::StdPressure,
-                                                &CalcRecord::BaroPressure,
-                                                &CalcRecord::PipeInsideDiameter,
-                                                &CalcRecord::PipeWallThickness,
-                                                &CalcRecord::RatioSpecificHeats,
-                                                &CalcRecord::SaturationTemperature,
-                                                &CalcRecord::PipeFouling}) {
-            if (!finite(Calc.*field)) return false;
-        }
+        const auto each = [](auto... values) { return (std::isfinite(values) && ...); };
+        if (!each(Calc.Density, Calc.MolecularWeight, Calc.CritPressure, Calc.CritTemperature,
+                  Calc.SGAtStandard, Calc.FlowingSG, Calc.VaporPressure, Calc.FluidViscosity,
+                  Calc.PressureCorrection, Calc.CompressFactor, Calc.LatentHeatAtFlow,
+                  Calc.NormalBoilingPoint, Calc.Viscosity1, Calc.Viscosity2, Calc.ViscosityTemp1,
+                  Calc.ViscosityTemp2, Calc.LiquidCp60, Calc.GasCp1, Calc.LatentHeatRefValue,
+                  Calc.BulkModulusBase, Calc.PipeModulus, Calc.StdTemperature, Calc.StdPressure,
+                  Calc.BaroPressure, Calc.PipeInsideDiameter, Calc.PipeWallThickness, Calc.RatioSpecificHeats,
+                  Calc.SaturationTemperature, Calc.PipeFouling))
+            return false;
         return std::all_of(Calc.CaseInput.begin(), Calc.CaseInput.end(), all) &&
                std::all_of(Calc.CaseResult.begin(), Calc.CaseResult.end(), all) && all(Calc.HammerResult) &&
                all(Calc.PipeData) && all(Calc.FittingCount) && all(Calc.UnitFactor) &&

@@ -1,4 +1,4 @@
-// Descriptions and readers of the data tables, on good and on hostile files.
+// Descriptions and readers of the data tables, and files that cannot be read.
 #include "tables/TableFiles.h"
 
 #include <filesystem>
@@ -15,38 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 class TableFiles : public SuiteTest {};
-
-std::string Joined(const TableDescription& table, const std::string& line) {
-    const TableFields fields = SplitTableLine(table, line);
-    std::string joined;
-    for (std::size_t i = 0; i < table.Columns.size(); ++i) joined += "[" + fields[i] + "]";
-    for (std::size_t i = table.Columns.size(); i < MostFields; ++i) joined += fields[i];
-    return joined;
-}
-
-TEST_F(TableFiles, SplitsALineByItsTable) {
-    const struct {
-        const TableDescription& Table;
-        const char* Line;
-        const char* Fields;
-    } cases[] = {
-        {table::Pipe, "1, 40S ,1.049,0.133,", "[1][40S][1.049][0.133]"},
-        {table::Pipe, "1,40S,1.049,0.133", "[1][40S][1.049][0.133]"},  // no comma at the end
-        {table::Pipe, "1,40S,1.049,0.133,more,text", "[1][40S][1.049][0.133]"},
-        {table::Pipe, "12345678901", "[12345678901][][][]"},
-        {table::Pipe, "1,40S,1.04", "[][][][]"},  // ten characters are not longer than the limit
-        {table::Pipe, "1,40S,1.049", "[1][40S][1.049][]"},
-        {table::Pipe, ",,,,,,,,,,,,,,,,,,,,,,,,,,,,,,", "[][][][]"},
-        {table::Pipe, "", "[][][][]"},
-        {table::Material, "Carbon Steel   , 6.8 ,7.4,", "[Carbon Steel   ][ 6.8 ][7.4]"},  // keeps blanks
-        {table::Rotameter, "Steel          , 8.02 ,", "[Steel][8.02]"},
-        {table::Elbow, "2,3", "[][]"},
-        {table::Elbow, "2,3.5", "[2][3.5]"},
-        {table::Wedge, "0.50,\xC3\xA9\xC3\xA9\xC3\xA9,45", "[0.50][\xC3\xA9\xC3\xA9\xC3\xA9][45][][]"},
-        {table::Wedge, "0.5,\xC3\xA9\xC3\xA9\xC3\xA9,", "[][][][][]"},  // eight characters in eleven bytes
-    };
-    for (const auto& each : cases) EXPECT_EQ(Joined(each.Table, each.Line), each.Fields) << each.Line;
-}
 
 TEST_F(TableFiles, ReadsRowsAndFindsOneByItsName) {
     fs::remove(DataFolder() / "Liquid.txt");

@@ -59,6 +59,7 @@ const LineCase Lines[] = {
      "\"Glycol" + Blanks(24) + ",ethylene\",1,62.07,1.11,686,68,20,200,2.1,,,,,,,,"},
     {table::Pipe, "6,40,6.065,.28,6.625,note", {"6", "40", "6.065", ".28"}, "6,40,6.065,.28,"},
     {table::Pipe, "1,5,1.1,.1", {}, ",,,,"},
+    {table::Pipe, "12345678901", {"12345678901"}, "12345678901,,,,"},
     {table::Material,
      "  Carbon steel ,6.5,7.1,",
      {"  Carbon steel ", "6.5", "7.1"},
@@ -80,7 +81,8 @@ const LineCase Lines[] = {
      "A float material of more than 31 characters, 8",
      {"A float material of more than 31 characters", "8"},
      "A float material of more than 31 characters,8,"},
-    // Padding counts characters and not bytes.
+    // Padding and the shortest line count characters and not bytes.
+    {table::Wedge, "0.5,\xC3\xA9\xC3\xA9\xC3\xA9,", {}, {}},
     {table::Rotameter,
      "\xC3\x84\xC3\x96\xC3\x9C float,8.02",
      {"\xC3\x84\xC3\x96\xC3\x9C float", "8.02"},
