@@ -51,6 +51,9 @@ public:
 
     static frmLiqLineLoss& Form() { return dynamic_cast<frmLiqLineLoss&>(*LoadedForm("frmLiqLineLoss")); }
 
+    // As many boxes as one command of a script may put up are again to be had.
+    void NextCommand() { host_.CommandStarts(); }
+
     // "txtFlow(0)" for an element of an array.
     static Control& Named(const std::string& name) {
         const std::size_t bracket = name.find('(');

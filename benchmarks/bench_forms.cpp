@@ -1,10 +1,12 @@
 // What a user waits for on a form, on the host without a display: the refresh of a calculation, a case typed
-// and calculated, the list of a large fluid table, and a script that does all this.
+// and calculated, the list of a large fluid table, the unit window, a row into a large table, and a script
+// that calculates.
 #include <fstream>
 
 #include "benchmarks/FilledForm.h"
 #include "benchmarks/Measure.h"
 #include "benchmarks/TableScene.h"
+#include "forms/frmTables.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
@@ -98,6 +100,36 @@ void PlainLines(benchmark::State& state) {
 
 BENCHMARK(OpenList)->Name("form/list of 10,000 fluids");
 BENCHMARK(PlainLines)->Name("form/list of 10,000 fluids/plain");
+
+// --- The unit window and the table editor ------------------------------------------------------------------
+
+void OpenUnits(benchmark::State& state) {
+    const FilledForm filled;
+    Measure(state, [&state] {
+        ClickControl(FilledForm::Form().cmdUnits(2));
+        if (!IsFormLoaded("frmUnits")) state.SkipWithError("the window is not open");
+        ClickControl(ControlOf("frmUnits", "cmdCancelUn"));
+    });
+}
+
+// Near the beginning, and out again.
+void InsertRow(benchmark::State& state) {
+    FilledForm filled;
+    SaveTable(table::Liquid, ManyLiquids(10000));
+    EditTable("Liquid");
+    auto& grid = static_cast<Grid&>(ControlOf("frmTables", "grdTable"));
+    const int rows = grid.RowCount();
+    TypeText(ControlOf("frmTables", "txtRecall"), "10");
+    Measure(state, [&] {
+        filled.NextCommand();
+        ClickControl(ControlOf("frmTables", "cmdInsertRow"));
+        if (grid.RowCount() != rows + 1) state.SkipWithError("no row was inserted");
+        ClickControl(ControlOf("frmTables", "cmdDeleteRow"));
+    });
+}
+
+BENCHMARK(OpenUnits)->Name("form/unit window opened");
+BENCHMARK(InsertRow)->Name("form/row into a table of 10,000");
 
 // --- Scripts -----------------------------------------------------------------------------------------------
 

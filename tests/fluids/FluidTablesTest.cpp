@@ -1,7 +1,6 @@
 // Reading, finding and parsing fluid rows, with the files that a user's disk may hold.
 #include "fluids/FluidTables.h"
 
-#include <chrono>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -174,21 +173,6 @@ TEST_F(FluidTablesTest, ARowWithoutSenseIsRefused) {
         EXPECT_EQ(Calc.FlowingSG, 0);
         EXPECT_EQ(Calc.FluidViscosity, 0);
     }
-}
-
-TEST_F(FluidTablesTest, TenThousandRowsAreQuick) {
-    std::string content = "Name,Tp,MW\r\n";
-    for (int i = 0; i < 10000; ++i) {
-        content += "Liquid number " + std::to_string(i) +
-                   "   ,1,92.138,0.8718,605.5,60,0.621,200,0.284,598.5,231.1,0.399,0.51,39,220,13,155,\r\n";
-    }
-    WriteData("Liquid.txt", content);
-    const auto start = std::chrono::steady_clock::now();
-    const auto rows = ReadFluidRows(words::Liquid);
-    EXPECT_EQ(FindFluidName(rows, "Liquid number 9999"), 9999);
-    EXPECT_EQ(FindFluidName(rows, "liquid number 9999"), -1);
-    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
-    EXPECT_LT(taken.count(), 500) << "ms; a slip to quadratic time, not a slow machine";
 }
 
 }  // namespace
