@@ -26,12 +26,22 @@ new 3
 include hammer-case.qs
 type txtTagNum H-1
 click cmdCalculateliq
+click mnuSave
+click mnuProgram
+# The box of the selected time waits for a calculation of this sitting.
+open H-1
+expect-state txtSelectedTime hidden
+expect-state lblSelectedTime hidden
+click cmdCalculateliq
 type txtSelectedTime 4
 click cmdCalculateliq
+answer Yes
 click mnuSave
+expect-message Overwrite the existing record?
 click mnuProgram
 start
 open H-1
+expect-state txtSelectedTime visible
 expect lblLiqTestBasis Mas
 # A name of one's own is no fluid of the table, nor is it one after a look at the table.
 expect-state mnuPureLiquids unchecked
@@ -41,6 +51,20 @@ click cmdCancel
 expect-state mnuPureLiquids unchecked
 expect pltClosing "Pressure wave 754 to 199.5 psig over 0.9128 to 6 secs, critical 1.141 secs, minimum 2.985 secs, selected 4 secs, allowable 300 psig"
 expect txtSelectedForce 4311
+expect txtMaxAllowPressure 300
+expect txtPipeWall 0.28
+expect txtSelectedTime 4
+expect txtCriticalTime 1.141
+expect txtPipeMatl Steel
+expect-colour txtPipeMatl 4
+type txtPipeMatl Bronze
+leave
+expect-colour txtPipeMatl 10
+expect txtCriticalTime ""
+answer No
+click mnuProgram
+expect-message Save changes?
+open H-1
 answer No
 type txtFlowTemp 70
 leave
