@@ -286,7 +286,7 @@ void CalculationForm::ShowCalculated() {
     ShowCalculation();
     mnuPrint.SetEnabled(true);
     DrawResults();
-    ShowHint(Hints());
+    ShowHint(Sentences(Hints()));
     KeepRecovery();
 }
 

@@ -8,6 +8,7 @@
 #include "core/CalcRecord.h"
 #include "forms/FluidPanels.h"
 #include "forms/SuiteForm.h"
+#include "units/CorrelationRange.h"
 
 namespace quillmetra {
 
@@ -123,7 +124,7 @@ protected:
     std::string StandingStatus() const override { return hint_; }
     // What a user should know about the case in hand as it is calculated: where it lies outside the range of
     // a correlation. Refuses nothing.
-    virtual std::string Hints() const { return {}; }
+    virtual HintList Hints() const { return {}; }
     // Shows a hint in the status line until it no longer holds; an empty one takes the former away.
     void ShowHint(const std::string& hint);
     // The fluid's name was typed over.

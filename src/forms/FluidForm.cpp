@@ -135,7 +135,7 @@ void FluidForm::TickEntries() {
 
 void FluidForm::ShowFluidEntries() {
     edited_ = nullptr;
-    fluidHints_.fill("");
+    fluidHints_.fill({});
     titleTail_ = Calc.ProgramTitle.ends_with(TitleTail()) ? TitleTail() : "";
     CloseFluids();
     TickEntries();
@@ -164,7 +164,7 @@ void FluidForm::CloseOverlays() {
 
 // A fluid of the user's own is no mixture and no steam.
 void FluidForm::FluidTyped() {
-    fluidHints_.fill("");
+    fluidHints_.fill({});
     ShowHint("");
     if (Calc.MixtureFlag != words::Yes && Calc.SteamKind.empty()) return TickEntries();
     Calc.MixtureFlag = words::No;
@@ -236,7 +236,7 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
     }
     TickEntries();
     if (isAnother) {
-        fluidHints_.fill("");
+        fluidHints_.fill({});
         // Nor does the former fluid's vapour pressure hold for the other cases.
         for (std::size_t i = 0; i < CaseCount; ++i) {
             if (i != ThisCase()) Calc.CaseInput[input::VaporPressure][i] = 0;
@@ -246,7 +246,7 @@ void FluidForm::InstallFluid(const std::string& name, bool isAnother) {
         ClearCase(Calc.CaseIndex);
     }
     fluidHints_[ThisCase()] = FluidHints();
-    ShowHint(FluidForm::Hints());  // of the fluid alone: the line is not calculated yet
+    ShowHint(Sentences(FluidForm::Hints()));  // of the fluid alone: the line is not calculated yet
     PropertiesTaken();
 }
 

@@ -61,7 +61,7 @@ protected:
     virtual void PropertiesTaken() {}
     void ReopenRecord() override;
     void FluidTyped() override;
-    std::string Hints() const override { return fluidHints_[ThisCase()]; }
+    HintList Hints() const override { return fluidHints_[ThisCase()]; }
     // The boxes of a case that its fluid fills and the user may write over.
     virtual std::vector<TextBox*> FluidBoxes(int) { return {}; }
     // A fluid was picked for the case in hand.
@@ -124,8 +124,8 @@ private:
     static void FindSteamKind();
 
     FluidChoice before_;
-    Row<std::string, CaseCount> fluidHints_{};  // of the fluid as it was taken for the case
-    std::string titleTail_;                     // what ProgramTitle ends with for the fluid in hand
+    Row<HintList, CaseCount> fluidHints_{};  // of the fluid as it was taken for the case
+    std::string titleTail_;                  // what ProgramTitle ends with for the fluid in hand
     const TextBox* edited_ = nullptr;  // the temperature or pressure in hand; null once it is dealt with
     std::string textBefore_;
 };

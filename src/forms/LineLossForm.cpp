@@ -175,7 +175,7 @@ void LineLossForm::FluidTaken() {
     cmdCalculate(Calc.CaseIndex).SetFocus();
 }
 
-std::string LineLossForm::Hints() const { return Sentences(FluidForm::Hints(), LineHints()); }
+HintList LineLossForm::Hints() const { return Together(FluidForm::Hints(), LineHints()); }
 
 // A case that has been calculated has a velocity.
 void LineLossForm::Recalculate() {

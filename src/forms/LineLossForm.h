@@ -103,7 +103,7 @@ protected:
     // Runs the calculation of the checked case and shows its results; false when there are none.
     virtual bool CalculateCase() = 0;
     TextBox& TemperatureBox(int caseIndex) override { return txtTemp(caseIndex); }
-    std::string Hints() const override;
+    HintList Hints() const override;
     TextBox& PressureBox(int caseIndex) override { return txtPressure(caseIndex); }
     void FluidTaken() override;
     void Recalculate() override;

@@ -142,7 +142,7 @@ void frmWaterHammer::cmdCalculateliq_Click() {
     Calc.HammerCalculated = words::Yes;
 }
 
-std::string frmWaterHammer::Hints() const { return Sentences(FluidForm::Hints(), HammerHints()); }
+HintList frmWaterHammer::Hints() const { return Together(FluidForm::Hints(), HammerHints()); }
 
 void frmWaterHammer::ShowResults(bool selected) {
     constexpr int firstOfSelected = 17;

@@ -119,7 +119,7 @@ std::string frmGasData::TitleTail() const {
     return " - " + Calc.SteamKind + " Steam";
 }
 
-std::string frmGasData::Hints() const { return Sentences(DataForm::Hints(), StandardConditionsHint()); }
+HintList frmGasData::Hints() const { return Together(DataForm::Hints(), StandardConditionsHints()); }
 
 void frmGasData::PropertiesTaken() {
     Calc.FluidKind = Calc.SteamKind.empty() ? words::Gas : "";

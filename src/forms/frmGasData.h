@@ -36,7 +36,7 @@ protected:
     void ShowSteam() override;
     std::string TitleTail() const override;
     void PropertiesTaken() override;
-    std::string Hints() const override;
+    HintList Hints() const override;
     void ShowChoices() override;
 };
 

@@ -111,9 +111,7 @@ bool frmGasLineLoss::CheckFluid() {
     return true;
 }
 
-std::string frmGasLineLoss::Hints() const {
-    return Sentences(LineLossForm::Hints(), StandardConditionsHint());
-}
+HintList frmGasLineLoss::Hints() const { return Together(LineLossForm::Hints(), StandardConditionsHints()); }
 
 // --- Calculation -------------------------------------------------------------------------------------------
 

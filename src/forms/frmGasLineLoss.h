@@ -50,7 +50,7 @@ protected:
     bool CheckSourcePressure() override;
     bool CheckFluid() override;
     bool CalculateCase() override;
-    std::string Hints() const override;
+    HintList Hints() const override;
     PlotDrawing DrawingOf(int caseIndex) const override;
     void FillCase() override;
     std::vector<TextBox*> FluidBoxes(int caseIndex) override;

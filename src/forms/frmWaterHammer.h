@@ -91,7 +91,7 @@ public:
 
 protected:
     TextBox& TemperatureBox(int) override { return txtFlowTemp; }
-    std::string Hints() const override;
+    HintList Hints() const override;
     TextBox& PressureBox(int) override { return txtOperPressure; }
     bool CheckState() override { return CheckTempPressure(); }
     void FillCase() override;

@@ -1,11 +1,11 @@
 // Where the calculation of water hammer can be relied upon.
 #pragma once
 
-#include <string>
+#include "units/CorrelationRange.h"
 
 namespace quillmetra {
 
 // The hints for the calculation of program 3 that has just been made.
-std::string HammerHints();
+HintList HammerHints();
 
 }  // namespace quillmetra

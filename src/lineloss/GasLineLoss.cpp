@@ -41,11 +41,6 @@ std::int64_t GasStepCount(double pipeLength) {
     return static_cast<std::int64_t>(std::fmin(steps, MostSteps));
 }
 
-// ft/s, from psia and lb/ft3.
-double SonicVelocityOf(double ratioSpecificHeats, double pressure, double density) {
-    return std::sqrt(4639 * ratioSpecificHeats * pressure / density);
-}
-
 // A resistance that the line does not have has an old equivalent length, or none.
 double LengthOf(double resistance, std::size_t element) {
     return resistance == 0 ? 0 : resistance * Calc.EquivLengthPerFitting[element];
@@ -140,6 +135,10 @@ private:
 };
 
 }  // namespace
+
+double SonicVelocityOf(double ratioSpecificHeats, double pressure, double density) {
+    return std::sqrt(4639 * ratioSpecificHeats * pressure / density);
+}
 
 void CalcGasFriction() {
     // The friction factor and the zone go by this constant; the flow status leaves the liquid's in the

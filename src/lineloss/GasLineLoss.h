@@ -8,6 +8,9 @@
 
 namespace quillmetra {
 
+// ft/s, from psia and lb/ft3.
+double SonicVelocityOf(double ratioSpecificHeats, double pressure, double density);
+
 // The friction factor of the line of the record in hand, and at the inlet CompressFactor, Density, LossPer100
 // and Velocity; FittingsEquivLength, without equipment and elevation. Needs what data checking has put into
 // the working layer. Tells the flow zone, and when an iteration does not converge.

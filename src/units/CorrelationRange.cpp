@@ -1,6 +1,9 @@
 // See CorrelationRange.h.
 #include "units/CorrelationRange.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/Words.h"
 #include "platform/NumberText.h"
 #include "units/Border.h"
@@ -32,23 +35,63 @@ std::string ShownBound(double bound, BoundUnit of, const CalcRecord& record) {
     return Shown(bound, "");
 }
 
+// More than a figure and a half would be pretence.
+std::string SizeInWords(double percent) {
+    constexpr double most = 900;
+    if (percent >= most) return "10 times the true one and more";
+    if (percent >= 100) return TrimmedStr(std::round(percent / 10) / 10 + 1) + " times the true one";
+    const double size = std::fmax(1, std::round(std::fabs(percent)));
+    return TrimmedStr(size) + (percent < 0 ? " % low" : " % high");
+}
+
+std::string OutsideText(const CorrelationRange& range, double error) {
+    std::string text = range.Outside;
+    const std::size_t gap = text.find("{}");
+    return gap == std::string::npos ? text : text.replace(gap, 2, SizeInWords(error));
+}
+
 }  // namespace
+
+double ErrorAt(std::span<const MeasuredError> measured, double value) {
+    if (!(value > measured.front().At)) return measured.front().Percent;
+    const auto next = std::find_if(measured.begin(), measured.end(),
+                                   [value](const MeasuredError& each) { return each.At >= value; });
+    if (next == measured.end()) return measured.back().Percent;
+    const auto before = next - 1;
+    const double part = (value - before->At) / (next->At - before->At);
+    return before->Percent + part * (next->Percent - before->Percent);
+}
+
+HintList Together(HintList first, const HintList& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+std::string Sentences(HintList hints) {
+    std::stable_sort(hints.begin(), hints.end(), [](const Hint& one, const Hint& other) {
+        return std::fabs(one.Error) > std::fabs(other.Error);
+    });
+    std::string text;
+    for (const Hint& hint : hints) text = Sentences(text, hint.Text);
+    return text;
+}
 
 std::string Sentences(const std::string& first, const std::string& second) {
     return first.empty() || second.empty() ? first + second : first + " " + second;
 }
 
-std::string HintsOf(std::span<const CorrelationRange> ranges, const CalcRecord& record) {
-    std::string hints;
+HintList HintsOf(std::span<const CorrelationRange> ranges, const CalcRecord& record) {
+    HintList hints;
     for (const CorrelationRange& range : ranges) {
         if (!range.IsUsed(record)) continue;
         const double value = range.Value(record), low = range.Low.In(record), high = range.High.In(record);
         // No comparison holds with a bound or a value that is none.
         const bool below = value < low;
         if (!below && !(value > high)) continue;
-        hints = Sentences(hints, std::string(range.Quantity) + (below ? " below " : " above ") +
-                                     ShownBound(below ? low : high, range.Unit, record) + ": " +
-                                     range.Outside + ".");
+        const double error = range.Error.In(record);
+        hints.push_back({error, std::string(range.Quantity) + (below ? " below " : " above ") +
+                                    ShownBound(below ? low : high, range.Unit, record) + ": " +
+                                    OutsideText(range, error) + "."});
     }
     return hints;
 }

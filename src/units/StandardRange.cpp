@@ -39,7 +39,10 @@ constexpr const char* InForce = "Standard pressure and temperature are ";
 
 }  // namespace
 
-std::string StandardConditionsHint() { return HintOf(InForce, Calc.StdPressure, Calc.StdTemperature); }
+HintList StandardConditionsHints() {
+    const std::string hint = HintOf(InForce, Calc.StdPressure, Calc.StdTemperature);
+    return hint.empty() ? HintList{} : HintList{{0, hint}};
+}
 std::string FileConditionsHint() { return FileHint(InForce); }
 std::string FileConditionsNote() { return FileHint("The next start reads standard conditions of "); }
 

@@ -4,11 +4,13 @@
 
 #include <string>
 
+#include "units/CorrelationRange.h"
+
 namespace quillmetra {
 
 // What is to be said of the standard conditions of the record in hand, as one sentence in the units of its
-// system; empty within 13 to 16 psia and 32 to 100 degF.
-std::string StandardConditionsHint();
+// system; none within 13 to 16 psia and 32 to 100 degF. No result depends on them.
+HintList StandardConditionsHints();
 
 // The same of those that the file holds, from which the next new calculation starts. Empty without a file.
 std::string FileConditionsHint();

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Words.h"
+#include "lineloss/ChokedFlow.h"
 #include "lineloss/Friction.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
@@ -124,6 +125,54 @@ TEST_F(GasLineLossTest, MeetsTheIsothermalFormula) {
     EXPECT_LT(Calc.FlowPressure, 95);
     // Methane's speed of sound at 80 degF, some 1480 ft/s.
     EXPECT_NEAR(Calc.SonicVelocity, 1475, 25);
+}
+
+// Air from 114.7 psia in 4 in pipe: its adiabatic choked flow, worked by another program, and what the march
+// shows at the outlet when that passes.
+TEST_F(GasLineLossTest, TellsTheChokedFlow) {
+    const struct {
+        double Length, Flow, Mach;  // ft, lb/h
+    } lines[] = {{5, 144982, 0.74},  {10, 127592, 0.69}, {20, 108726, 0.63},  {50, 83443, 0.57},
+                 {100, 65647, 0.52}, {200, 50093, 0.48}, {1000, 24510, 0.41}, {10000, 7909, 0.36}};
+    for (const auto& each : lines) {
+        SCOPED_TRACE(each.Length);
+        TakeOrdinaryLine();
+        Calc.MolecularWeight = 28.96;
+        Calc.RatioSpecificHeats = 1.4;
+        Calc.CritPressure = 546;
+        Calc.CritTemperature = 238.8;
+        Calc.FlowTemperature = 60;
+        Calc.Viscosity = 0.018;
+        Calc.PipeLength[1] = each.Length;
+        Calc.MassFlow = Calc.CaseInput[0][0] = each.Flow;
+        ASSERT_TRUE(Calculate());
+        const double most = ChokedFlowOf(Calc);
+        EXPECT_NEAR(most / each.Flow, 1, 0.002);
+        EXPECT_NEAR(OutletMach(Calc), each.Mach, 0.006);
+        const double length = Calc.FrictionFactor * each.Length * 12 / Calc.PipeId[1];
+        EXPECT_NEAR(ShownMachOfChoking(length), each.Mach, 0.005);
+        EXPECT_EQ(ChokedFlowHints(Calc).size(), 1U);
+
+        // The same line from its outlet, as far as the march finds back to the source.
+        const double source = Calc.SourcePressure[1], mach = OutletMach(Calc);
+        Calc.SourcePressure[1] = Calc.FlowPressure;
+        Calc.PressureDirection = 2;
+        ASSERT_TRUE(Calculate());
+        EXPECT_NEAR(Calc.FlowPressure / source, 1, 0.05);
+        EXPECT_NEAR(OutletMach(Calc) / mach, 1, 0.01);
+
+        // A tenth of it is silent, and twice as much cannot pass, wherever the march stops.
+        Calc.PressureDirection = 1;
+        Calc.SourcePressure[1] = source;
+        Calc.MassFlow = each.Flow / 10;
+        ASSERT_TRUE(Calculate());
+        EXPECT_TRUE(ChokedFlowHints(Calc).empty());
+        Calc.MassFlow = each.Flow * 2;
+        ASSERT_TRUE(Calculate());
+        const HintList hints = ChokedFlowHints(Calc);
+        ASSERT_EQ(hints.size(), 1U);
+        EXPECT_NE(hints[0].Text.find("it cannot pass this flow"), std::string::npos) << hints[0].Text;
+    }
 }
 
 TEST_F(GasLineLossTest, AnObserverSeesTheLineAndChangesNothing) {

@@ -1,0 +1,165 @@
+// See FluidErrors.h.
+#include "fluids/FluidErrors.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/PhysicalConstants.h"
+#include "core/Words.h"
+#include "fluids/LiquidCorrelations.h"
+#include "fluids/SteamTables.h"
+#include "units/CorrelationRange.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr double Base = 60;            // degF, of the gravities
+constexpr double ModulusBase = 68;     // degF
+constexpr double NearCritical = 0.85;  // reduced temperature
+
+double DegR(double degF) { return degF + ZeroFInDegR; }
+
+double ReducedTemperature(const CalcRecord& record) {
+    return ReducedTemperatureOf(record.FlowTemperature, record.CritTemperature);
+}
+double ReducedBase(const CalcRecord& record) { return ReducedTemperatureOf(Base, record.CritTemperature); }
+
+// Median of 123 liquids by reduced temperature up to 0.95; beyond, of three reference equations.
+constexpr MeasuredError Gravities[] = {{0.6, 0},  {0.75, 1.5}, {0.8, 3},   {0.85, 6},
+                                       {0.9, 12}, {0.95, 27},  {0.98, 47}, {1, 100}};
+
+// By pressure, psia: propane and n-butane from 60 to 150 degF.
+constexpr MeasuredError PressedGravities[] = {{1000, 1}, {3000, 5}, {10000, 24}};
+
+// By temperature, degF.
+constexpr MeasuredError WaterModuli[] = {{32, 11}, {50, 5},   {68, 0},   {100, -5},  {150, -7}, {212, -4},
+                                         {250, 1}, {300, 11}, {400, 48}, {500, 132}, {600, 394}};
+
+// By pressure, psia, of saturated steam. A superheat of 75 degF takes it away.
+constexpr MeasuredError SteamLines[] = {{100, -2.3}, {200, -3.4}, {300, -4.2},   {600, -6},
+                                        {900, -7.5}, {1200, -9},  {1500, -10.4}, {2000, -13}};
+constexpr double GoodSuperheat = 75;
+
+// The vapor pressure that the suite finds at a temperature over the measured one.
+struct VaporPressureRatio {
+    const char* Name;
+    double Temperature;  // degF
+    double Ratio;
+};
+constexpr VaporPressureRatio VaporPressures[] = {
+    // Alcohols, glycols, phenol
+    {"n-Propanol", 100, 1.12},
+    {"i-Propanol", 60, 1.12},
+    {"n-Butanol", 100, 1.32},
+    {"i-Butanol", 100, 1.37},
+    {"sec-Butanol", 100, 1.31},
+    {"tert-Butanol", 100, 1.21},
+    {"n-Pentanol", 100, 1.52},
+    {"2-Ethylhexanol", 100, 2.07},
+    {"n-Octanol", 100, 2.73},
+    {"Cyclohexanol", 100, 2.74},
+    {"Phenol", 100, 1.30},
+    {"Glycerol", 100, 3.56},
+    {"Propylene Glycol", 100, 1.38},
+    {"Ethylene Glycol", 100, 0.83},
+    // Amines, nitriles
+    {"Diethanolamine", 100, 0.13},
+    {"Ethylenediamine", 100, 1.15},
+    {"Pyridine", 60, 1.10},
+    {"Acetonitrile", 60, 0.86},
+    {"Acrylonitrile", 60, 0.87},
+    // Acids
+    {"Formic Acid", 100, 0.86},
+    {"Acetic Acid", 100, 0.79},
+    {"Propionic Acid", 100, 0.77},
+    {"Acrylic Acid", 100, 0.72},
+    // Paraffins, mercury
+    {"n-Undecane", 100, 0.86},
+    {"n-Dodecane", 100, 0.86},
+    {"n-Hexadecane", 100, 0.41},
+    {"Mercury", 100, 0.71},
+};
+
+const VaporPressureRatio* FindRatio(const CalcRecord& record) {
+    const auto* found =
+        std::find_if(std::begin(VaporPressures), std::end(VaporPressures),
+                     [&record](const VaporPressureRatio& each) { return record.FluidName == each.Name; });
+    return found == std::end(VaporPressures) ? nullptr : found;
+}
+
+// The logarithm of the ratio goes straight with 1/T to 0 at the boiling point: within a few percent of what
+// Antoine's equations of butanol, ethylene glycol, acetic acid and dodecane give.
+double OneOverT(double degF, const CalcRecord& record) {
+    return 1 / DegR(degF) - 1 / DegR(record.NormalBoilingPoint);
+}
+
+struct Sublimation {
+    const char* Name;
+    double Temperature;  // degF, at one atmosphere
+};
+constexpr Sublimation Sublimations[] = {{"Carbon Dioxide", -109.2}, {"Sulphur Hexafluoride", -82.9}};
+
+}  // namespace
+
+bool IsBasedNearCritical(const CalcRecord& record) {
+    return ReducedBase(record) > NearCritical && ReducedBase(record) < 1;
+}
+
+// A base gravity above the critical temperature is none; it was chosen for the boiling point.
+double GravityError(const CalcRecord& record) {
+    const double base = ReducedBase(record) < 1 ? ErrorAt(Gravities, ReducedBase(record)) : 0;
+    return 100 * ((100 + ErrorAt(Gravities, ReducedTemperature(record))) / (100 + base) - 1);
+}
+
+double PressedGravityError(const CalcRecord& record) {
+    return ErrorAt(PressedGravities, record.FlowPressure);
+}
+
+double WaterModulusError(const CalcRecord& record) { return ErrorAt(WaterModuli, record.FlowTemperature); }
+
+bool HasColdModulus(const CalcRecord& record) { return ReducedBase(record) > 0.9; }
+
+// The modulus of a liquid falls to nothing at its critical temperature, as a power of the distance from it.
+double ModulusError(const CalcRecord& record) {
+    constexpr double coldState = 0.75, warmPower = 1.8, coldPower = 1.5;
+    const double critical = record.CritTemperature;
+    const bool isCold = HasColdModulus(record);
+    const double from = critical - (isCold ? coldState * critical : DegR(ModulusBase));
+    const double to = critical - DegR(record.FlowTemperature);
+    return 100 * (std::pow(from / to, isCold ? coldPower : warmPower) - 1);
+}
+
+double VaporPressureError(const CalcRecord& record) {
+    const VaporPressureRatio* const known = FindRatio(record);
+    if (known == nullptr) return 0;
+    const double part = OneOverT(record.FlowTemperature, record) / OneOverT(known->Temperature, record);
+    return 100 * (std::pow(known->Ratio, part) - 1);
+}
+
+double VaporPressureGoodFrom(const CalcRecord& record) {
+    constexpr double good = 1.03;
+    const VaporPressureRatio* const known = FindRatio(record);
+    if (known == nullptr) return NoBound.Number;
+    const double part = std::log(good) / std::fabs(std::log(known->Ratio));
+    const double goodFrom =
+        1 / (part * OneOverT(known->Temperature, record) + 1 / DegR(record.NormalBoilingPoint));
+    return std::round(goodFrom - ZeroFInDegR);
+}
+
+double SublimationPoint(const CalcRecord& record) {
+    for (const Sublimation& each : Sublimations) {
+        if (record.FluidName == each.Name) return each.Temperature;
+    }
+    return NoBound.Number;
+}
+
+double SteamLineError(const CalcRecord& record) {
+    const double error = ErrorAt(SteamLines, record.FlowPressure);
+    if (record.SteamKind == words::Saturated) return error;
+    if (record.FlowPressure >= SteamCritPressure) return 0;
+    const double superheat = record.FlowTemperature - record.SaturationTemperature;
+    return superheat < GoodSuperheat ? error * (1 - superheat / GoodSuperheat) : 0;
+}
+
+}  // namespace quillmetra

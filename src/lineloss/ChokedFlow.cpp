@@ -1,0 +1,100 @@
+// See ChokedFlow.h.
+#include "lineloss/ChokedFlow.h"
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "fluids/GasCorrelations.h"
+#include "lineloss/Friction.h"
+#include "lineloss/GasLineLoss.h"
+#include "platform/NumberText.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr int Backwards = 2;        // the pressure direction of a march from the destination
+constexpr double FirstSigns = 0.3;  // of sonic velocity
+
+struct GasState {
+    double Density, Sonic;  // lb/ft3, ft/s
+};
+
+GasState StateAt(double pressure, const CalcRecord& record) {
+    const double z =
+        SolveRedlichKwong(record.CritTemperature, record.CritPressure, record.FlowTemperature, pressure)
+            .Value;
+    const double density = GasDensityOf(pressure, record.FlowTemperature, record.MolecularWeight, z);
+    return {density, SonicVelocityOf(record.RatioSpecificHeats, pressure, density)};
+}
+
+bool HasStopped(const CalcRecord& record) {
+    return record.Velocity == record.SonicVelocity || record.FlowPressure == 0;
+}
+
+double SourcePressureOf(const CalcRecord& record) {
+    if (record.PressureDirection != Backwards) return record.SourcePressure[TheLine];
+    return HasStopped(record) ? std::numeric_limits<double>::quiet_NaN() : record.FlowPressure;
+}
+
+double FrictionLengthOf(const CalcRecord& record) {
+    return record.FrictionFactor * record.FittingsEquivLength * 12 / record.PipeId[TheLine];
+}
+
+// By the logarithm of f L / D: air in 4 in pipe of 5 to 10,000 ft, marched at its choked flow.
+constexpr MeasuredError ShownMachs[] = {{-1.43, 0.74}, {-0.71, 0.69}, {-0.03, 0.63}, {0.88, 0.57},
+                                        {1.59, 0.52},  {2.28, 0.48},  {3.89, 0.41},  {6.23, 0.36}};
+
+}  // namespace
+
+double FannoLengthOf(double mach, double k) {
+    const double square = mach * mach;
+    return (1 - square) / (k * square) +
+           (k + 1) / (2 * k) * std::log((k + 1) * square / (2 + (k - 1) * square));
+}
+
+double ChokedInletMach(double frictionLength, double k) {
+    constexpr int halvings = 60;
+    double low = 0, high = 1;
+    for (int i = 0; i < halvings; ++i) {
+        const double middle = (low + high) / 2;
+        (FannoLengthOf(middle, k) > frictionLength ? low : high) = middle;
+    }
+    return high;
+}
+
+double OutletMach(const CalcRecord& record) {
+    if (record.PressureDirection != Backwards) return record.Velocity / record.SonicVelocity;
+    const GasState outlet = StateAt(record.SourcePressure[TheLine], record);
+    return LineVelocity(record.MassFlow, outlet.Density, record.PipeId[TheLine]) / outlet.Sonic;
+}
+
+double ChokedFlowOf(const CalcRecord& record) {
+    const double pressure = SourcePressureOf(record) - record.EquipLoss[TheLine];
+    if (!(pressure > 0)) return std::numeric_limits<double>::quiet_NaN();
+    const GasState source = StateAt(pressure, record);
+    const double diameter = record.PipeId[TheLine];
+    const double mach = ChokedInletMach(FrictionLengthOf(record), record.RatioSpecificHeats);
+    return source.Sonic * mach / LineVelocity(1, source.Density, diameter);
+}
+
+double ShownMachOfChoking(double frictionLength) { return ErrorAt(ShownMachs, std::log(frictionLength)); }
+
+HintList ChokedFlowHints(const CalcRecord& record) {
+    const double most = ChokedFlowOf(record);
+    const bool isNear = HasStopped(record) || OutletMach(record) > FirstSigns;
+    if (!isNear || !std::isfinite(most)) return {};
+    const double entered = record.CaseInput[input::GasFlow][At(record.CaseIndex)];
+    const std::string flow =
+        TrimmedStr(RoundedFour(entered * most / record.MassFlow)) + " " + record.UnitName[unit::GasFlow];
+    const std::string shown =
+        TrimmedStr(std::round(100 * ShownMachOfChoking(FrictionLengthOf(record))) / 100);
+    const bool isAbove = record.MassFlow > most;
+    return {{isAbove ? 1000.0 : 0,
+             "The line chokes at " + flow + ", where " + shown + " of sonic velocity is shown" +
+                 (isAbove ? ": it cannot pass this flow" : "") + " (adiabatic, not printed)."}};
+}
+
+}  // namespace quillmetra
