@@ -215,7 +215,7 @@ TEST_F(Ranges, AreSilentOnOrdinaryWork) {
                  {2, "Hydrogen", 100, 1500},
                  {5, "Helium", 70, 1000},
                  {2, "Carbon Dioxide", 80, 300},
-                 {5, "Carbon Dioxide", 300, 500},
+                 {2, "Carbon Dioxide", 300, 500},
                  {2, "Propane", 80, 60},
                  {2, "n-Butane", 100, 30},
                  {5, "Ethane", 80, 200},
