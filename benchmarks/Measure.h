@@ -31,6 +31,14 @@ void Measure(benchmark::State& state, Act act) {
         static_cast<double>(AllocationCount() - before) / static_cast<double>(state.iterations());
 }
 
+// The compiler may no longer take the value for known. By its address: GCC may lose a number that is given to
+// DoNotOptimize itself, and the round would work on what lay in its place.
+template <typename T>
+void Forget(T& value) {
+    benchmark::DoNotOptimize(&value);
+    benchmark::ClobberMemory();
+}
+
 // A comparison says nothing when the two do different work: then the benchmark fails.
 inline void RequireSame(benchmark::State& state, double plain, double suite) {
     if (std::fabs(plain - suite) <= 1e-9 * std::fabs(suite)) return;

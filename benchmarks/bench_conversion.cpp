@@ -70,14 +70,14 @@ double RoundedByLogarithm(double value, int figures) {
 
 void Round(benchmark::State& state, double (*routine)(double), double value) {
     Measure(state, [routine, &value] {
-        benchmark::DoNotOptimize(value);
+        Forget(value);
         return routine(value);
     });
 }
 
 void RoundPlain(benchmark::State& state, int figures, double value) {
     Measure(state, [figures, &value] {
-        benchmark::DoNotOptimize(value);
+        Forget(value);
         return RoundedByLogarithm(value, figures);
     });
 }

@@ -80,7 +80,7 @@ void PlainLiquidCorrelations(benchmark::State& state) {
     const Ready ready(LiquidLine);
     PlainLiquid liquid = PlainLiquidOf(ready.Pick(), ready.Flow.Temperature);
     Measure(state, [&] {
-        benchmark::DoNotOptimize(liquid);
+        Forget(liquid);
         return PlainLiquidProperties(liquid, ready.Flow, false);
     });
 }
@@ -114,7 +114,7 @@ void PlainGasCorrelations(benchmark::State& state) {
     const Ready ready(GasLine);
     PlainColumns columns = PlainRow(ready.Pick(), 12);
     Measure(state, [&] {
-        benchmark::DoNotOptimize(columns);
+        Forget(columns);
         return PlainGasProperties(columns, ready.Flow);
     });
 }
@@ -162,7 +162,7 @@ void PlainSaturated(benchmark::State& state) {
     const PlainSteam steam = SteamInMemory();
     double pressure = ready.Flow.Pressure;
     Measure(state, [&] {
-        benchmark::DoNotOptimize(pressure);
+        Forget(pressure);
         return PlainSteamOnForm(steam.Saturated(pressure));
     });
 }
@@ -181,7 +181,7 @@ void PlainSuperheated(benchmark::State& state) {
     const PlainSteam steam = SteamInMemory();
     Surroundings flow = ready.Flow;
     Measure(state, [&] {
-        benchmark::DoNotOptimize(flow);
+        Forget(flow);
         benchmark::DoNotOptimize(PlainSteamOnForm(steam.Saturated(flow.Pressure)));
         return PlainSteamOnForm(steam.Superheated(flow.Pressure, flow.Temperature));
     });

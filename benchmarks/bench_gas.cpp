@@ -18,7 +18,7 @@ void Compressibility(benchmark::State& state) {
 void PlainFactor(benchmark::State& state) {
     PlainGas gas;
     Measure(state, [&gas] {
-        benchmark::DoNotOptimize(gas);
+        Forget(gas);
         return PlainGasDensity(gas, gas.Source);
     });
 }
@@ -46,7 +46,7 @@ void PlainMarch(benchmark::State& state) {
     TakePlainGas(gas);
     CalcGasFriction();
     Measure(state, [&gas] {
-        benchmark::DoNotOptimize(gas);
+        Forget(gas);
         return PlainGasFinalPressure(gas, Calc.FrictionFactor);
     });
 }

@@ -19,7 +19,7 @@ void PlainCase(benchmark::State& state) {
     TakeHammerScene();
     PlainHammer line;
     Measure(state, [&line] {
-        benchmark::DoNotOptimize(line);
+        Forget(line);
         return PlainHammerCase(line);
     });
 }
@@ -35,7 +35,7 @@ void CurveOnArrays(benchmark::State& state) {
     PlainHammer line;
     const PlainHammerResults results = PlainHammerCase(line);
     Measure(state, [&] {
-        benchmark::DoNotOptimize(line);
+        Forget(line);
         return PlainHammerCurve(line, results);
     });
 }
@@ -56,7 +56,7 @@ void PlainModulus(benchmark::State& state) {
         for (std::size_t i = 1; i < Steel.size(); ++i) {
             const std::string& field = Steel[i];
             std::from_chars(field.data(), field.data() + field.size(), value);
-            benchmark::DoNotOptimize(value);
+            Forget(value);
         }
         std::from_chars(Steel[1].data(), Steel[1].data() + Steel[1].size(), value);
         name = Steel[0];

@@ -23,7 +23,7 @@ void LiquidCase(benchmark::State& state, double flow) {
 void PlainCase(benchmark::State& state, double flow) {
     PlainLine line{.Flow = flow};
     Measure(state, [&line] {
-        benchmark::DoNotOptimize(line);
+        Forget(line);
         return PlainFinalPressure(line);
     });
 }
