@@ -130,6 +130,17 @@ double ModulusError(const CalcRecord& record) {
     return 100 * (std::pow(from / to, isCold ? coldPower : warmPower) - 1);
 }
 
+// 6 % of the modulus, 3 of the velocity.
+double ModulusGoodFrom(const CalcRecord& record) {
+    constexpr double from = 58, part = 0.035;
+    return std::fmax(from, std::round(ModulusBase - part * (record.CritTemperature - DegR(ModulusBase))));
+}
+
+double ModulusGoodTo(const CalcRecord& record) {
+    constexpr double to = 78, part = 0.032;
+    return std::fmin(to, std::round(ModulusBase + part * (record.CritTemperature - DegR(ModulusBase))));
+}
+
 double VaporPressureError(const CalcRecord& record) {
     const VaporPressureRatio* const known = FindRatio(record);
     if (known == nullptr) return 0;

@@ -21,6 +21,9 @@ double PressedGravityError(const CalcRecord& record);
 // Of the table's bulk modulus, that at 68 degF, as a modulus. That of a wave's velocity is half of it.
 double WaterModulusError(const CalcRecord& record);
 double ModulusError(const CalcRecord& record);
+// degF between which it is not worth telling: 58 to 78, less for a liquid near its critical point.
+double ModulusGoodFrom(const CalcRecord& record);
+double ModulusGoodTo(const CalcRecord& record);
 // Liquids whose critical point is so near to 68 degF that the table has the modulus of a colder state, at
 // three quarters of the critical temperature.
 bool HasColdModulus(const CalcRecord& record);

@@ -167,7 +167,7 @@ constexpr CorrelationRange Ranges[] = {
      [](const CalcRecord& record) { return ShowsModulus(record) && IsPureWater(record); }, WaterModulusError},
     {"Temperature", Temperature, 32, 150, BoundUnit::Temperature, "the bulk modulus is that at 68 degF",
      [](const CalcRecord& record) { return ShowsModulus(record) && IsSolution(record); }},
-    {"Temperature", Temperature, 58, 78, BoundUnit::Temperature,
+    {"Temperature", Temperature, ModulusGoodFrom, ModulusGoodTo, BoundUnit::Temperature,
      "the bulk modulus is that at 68 degF, about {}",
      [](const CalcRecord& record) {
          return ShowsModulus(record) && IsLiquidButWater(record) && !IsSolution(record) &&
@@ -219,13 +219,14 @@ constexpr CorrelationRange Ranges[] = {
      "do not use density, exponent and viscosity here, they may be many times too high", IsNearSteamCritical,
      1000},
     // Compressed water, in the columns up to 600 degF, is within 1 %.
-    {"Pressure", Pressure, NoBound, 3000, BoundUnit::Pressure, "density below 790 degF is up to a third off",
-     [](const CalcRecord& record) { return IsInSteamRegion(record, 4500, 600, 790); }, 33},
+    {"Pressure", Pressure, NoBound, 3000, BoundUnit::Pressure,
+     "density below 790 degF is up to a third off, the exponent up to 2.7 times the true one",
+     [](const CalcRecord& record) { return IsInSteamRegion(record, 4500, 600, 790); }, 170},
     {"Pressure", Pressure, NoBound, 2000, BoundUnit::Pressure, "density below 790 degF is up to 5 % off",
      [](const CalcRecord& record) { return IsInSteamRegion(record, 3000, 600, 790); }, 5},
     {"Pressure", Pressure, NoBound, 4500, BoundUnit::Pressure,
-     "density from 700 to 880 degF is up to 7 % off",
-     [](const CalcRecord& record) { return IsInSteamRegion(record, 8000, 700, 880); }, 7},
+     "density from 700 to 880 degF is up to 7 % off, the exponent up to 15 %",
+     [](const CalcRecord& record) { return IsInSteamRegion(record, 8000, 700, 881); }, 15},
     {"Pressure", Pressure, NoBound, 3000, BoundUnit::Pressure,
      "the properties of saturated steam are some percent off, its latent heat 5 to 34 % high",
      [](const CalcRecord& record) { return record.SteamKind == words::Saturated; }, 34},

@@ -81,6 +81,8 @@ TEST_F(Ranges, AreLeftAtTheirBounds) {
         {[] { Liquid(), Calc.CurrentProgram = 3; }, 58, 100, ""},
         {[] { Liquid(), Calc.CurrentProgram = 3; }, 57.9, 100,
          "Temperature below 14.44 degC: the bulk modulus is that at 68 degF, about 4 % low."},
+        {[] { Liquid(), Calc.CurrentProgram = 3, Calc.CritTemperature = 666; }, 73, 100,
+         "Temperature above 22.22 degC: the bulk modulus is that at 68 degF, about 7 % high."},
         {[] { DataOf("Own"); }, 100, 100,
          "Temperature above 25.56 degC: the bulk modulus is that at 68 degF, about 13 % high."},
         {[] { DataOf("n-Octanol"), Calc.NormalBoilingPoint = 382.5; }, 70, 100,
@@ -136,10 +138,12 @@ TEST_F(Ranges, AreLeftAtTheirBounds) {
          "Pressure above 22018 kPag: do not use density, exponent and viscosity here, they may be many times "
          "too high."},
         {[] { Steam(words::Superheated); }, 751, 3240,
-         "Pressure above 20583 kPag: density below 790 degF is up to a third off."},
+         "Pressure above 20583 kPag: density below 790 degF is up to a third off, the exponent up to 2.7 "
+         "times the true one."},
         {[] { Steam(words::Superheated); }, 790, 4400, ""},
         {[] { Steam(words::Superheated); }, 879, 8000,
-         "Pressure above 30925 kPag: density from 700 to 880 degF is up to 7 % off."},
+         "Pressure above 30925 kPag: density from 700 to 880 degF is up to 7 % off, the exponent up to 15 "
+         "%."},
         {[] { Steam(words::Saturated), Calc.CurrentProgram = 2; }, 418, 300,
          "Pressure above 1278 kPag: so near to saturation the density of the line is about 4 % low."},
         {[] { Steam(words::Superheated), Calc.CurrentProgram = 2, Calc.SaturationTemperature = 417; }, 450,
