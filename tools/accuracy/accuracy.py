@@ -5,9 +5,9 @@
     accuracy.py --write                                           writes them into the guide
     accuracy.py --check                                           exits 1 when the guide has other ones
 
-Each figure of figures.txt, and of tests/reference/row_checks.txt, is asked of the forms by a script: state typed, fluid
-picked, box read, with the hint of the status line. A line of a table gives the number of figures, the median and the
-largest deviation, and how many are over 5 % without a hint of it.
+Each figure of figures.txt, collections.txt and tests/reference/row_checks.txt is asked of the forms by a script: state
+typed, fluid picked, box read, with the hint of the status line. A line of a table gives the number of figures, the
+median and the largest deviation, and how many are over 5 % without a hint of it.
 """
 
 import argparse
@@ -49,15 +49,15 @@ LINE = ["type txtInletPipeLen 1", f"type txtInletPipeID {LINE_DIAMETER}", f"type
 NO_STATE = re.compile("sat", re.IGNORECASE)  # saturated steam has no temperature to type
 
 # Air at 60 degF from 114.7 psia in 4.026 in pipe: ft, and the most of it, lb/h, adiabatic by another program.
-CHOKED = ((5, 144982), (10, 127592), (20, 108726), (50, 83443), (100, 65647), (200, 50093), (1000, 24510), (10000, 7909))
+CHOKED = ((5, 144982), (10, 127592), (20, 108726), (50, 83443), (100, 65647), (200, 50093), (1000, 24510),
+          (10000, 7909))
 
+FIGURES = (HERE / "figures.txt", HERE / "collections.txt", ROOT / "tests" / "reference" / "row_checks.txt")
 CLAIMED = re.compile(r"^[\d.]+$")
 
 
 def figures():
-    for path in (HERE / "figures.txt", ROOT / "tests" / "reference" / "row_checks.txt"):
-        if not path.exists():
-            continue
+    for path in filter(Path.exists, FIGURES):
         for text in path.read_text(encoding="utf-8").splitlines():
             if text.startswith("#"):
                 continue
@@ -124,6 +124,11 @@ def figured(percent, sign=""):
     return f"{float(f'{percent:.2g}'):{sign}g}"
 
 
+def numbered(line):
+    """Puts 3000 before 10000."""
+    return [f"{float(part):020.6f}" if CLAIMED.match(part) else part for part in re.split(r"(\d+\.?\d*)", line)]
+
+
 def table(answers):
     lines = defaultdict(list)
     for figure, (box, hint) in answers:
@@ -131,7 +136,7 @@ def table(answers):
         if off is not None:
             lines[figure["line"]].append((off, bool(re.search(figure["word"], hint))))
     properties = list(dict.fromkeys(line.split(",")[0] for line in lines))
-    lines = dict(sorted(lines.items(), key=lambda each: properties.index(each[0].split(",")[0])))
+    lines = dict(sorted(lines.items(), key=lambda each: (properties.index(each[0].split(",")[0]), numbered(each[0]))))
     yield "| Figures | n | Median, % | Largest, % | Over 5 % without a hint |"
     yield "|---|---|---|---|---|"
     for line, offs in lines.items():

@@ -1,9 +1,9 @@
-"""Coefficients of the reference equations of state of six fluids, as published: see reference_equations.py. SI units."""
+"""Coefficients of the reference equations of state of six fluids, as published: see reference_equations.py. SI."""
 
 from math import cosh, sinh
 
 # power: powers of delta and tau, of delta in the exponential (0 none), factor. gauss: powers of delta and tau, factor,
-# eta, epsilon, beta, gamma. critical_terms: A, B, C, D, a, b, beta, factor. cp_*: of the ideal gas over the gas constant.
+# eta, epsilon, beta, gamma. critical_terms: A, B, C, D, a, b, beta, factor. cp_*: of the ideal gas, over R.
 EQUATIONS = {
     "Propane": {
         "t_c": 369.89,
