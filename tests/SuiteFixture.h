@@ -15,6 +15,7 @@
 #include "core/Suite.h"
 #include "platform/Clock.h"
 #include "platform/Forms.h"
+#include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
 #include "tests/FakeHost.h"
 
@@ -33,9 +34,6 @@ protected:
         Printer = RecordingPrinter();
         std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
 
-        std::string pattern = (std::filesystem::temp_directory_path() / "quillmetra-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        Folder = pattern;
         std::filesystem::create_directory(DataFolder());
         for (const char* name : {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"}) {
             std::filesystem::copy_file(SourceFolder() / "data" / name, DataFolder() / name);
@@ -50,8 +48,6 @@ protected:
     ~SuiteTest() override {
         ForgetForms();
         SetToday("");
-        std::error_code ignored;
-        std::filesystem::remove_all(Folder, ignored);
     }
 
     // Where the data files of this test lie; Folder is the program's own.
@@ -68,7 +64,11 @@ protected:
         std::filesystem::resize_file(DataFolder() / name, length);
     }
 
-    std::filesystem::path Folder;
+private:
+    const TemporaryFolder own_;
+
+protected:
+    const std::filesystem::path Folder = own_.Path();
     FakeHost User;
 };
 

@@ -10,6 +10,8 @@ BuildPackages=(build-essential cmake ninja-build ccache qt6-base-dev libqcustomp
 TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils locales file desktop-file-utils
               appstream python3)
 BenchPackages=(libbenchmark-dev)
+WindowsPackages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 tcl dpkg-dev xz-utils googletest)
+WindowsSetupPackages=(qt6-base-dev-tools nsis zip)
 CheckPackages=(clang clang-format clang-tidy libclang-rt-14-dev git python3)
 
 # Where the release build puts its programs.

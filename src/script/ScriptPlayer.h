@@ -10,7 +10,7 @@
 
 #include "script/ScriptHost.h"
 #include "script/ScriptSource.h"
-#include "script/TemporaryFolder.h"
+#include "platform/TemporaryFolder.h"
 
 namespace quillmetra {
 

@@ -5,15 +5,13 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
-#include <stdlib.h>
-
 #include "core/CalcRecord.h"
 #include "core/Suite.h"
+#include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
 #include "tests/FakeHost.h"
 
@@ -21,16 +19,7 @@ namespace quillmetra {
 
 class FuzzedSuite {
 public:
-    FuzzedSuite() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "quillmetra-fuzz-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) std::abort();
-        Folder = pattern;
-        Suite.DefaultPaths.fill(SuitePath(Folder));
-    }
-    ~FuzzedSuite() {
-        std::error_code ignored;
-        std::filesystem::remove_all(Folder, ignored);
-    }
+    FuzzedSuite() { Suite.DefaultPaths.fill(SuitePath(Folder)); }
 
     void Write(const char* name, const std::uint8_t* bytes, std::size_t size) const {
         std::ofstream(Folder / name, std::ios::binary)
@@ -43,7 +32,11 @@ public:
         host_.Boxes.clear();
     }
 
-    std::filesystem::path Folder;
+private:
+    const TemporaryFolder own_;
+
+public:
+    const std::filesystem::path Folder = own_.Path();
 
 private:
     FakeHost host_;

@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "platform/RuntimeError.h"
+#include "platform/TemporaryFolder.h"
 
 namespace quillmetra {
 namespace {
@@ -19,16 +20,6 @@ namespace fs = std::filesystem;
 
 class TextFiles : public ::testing::Test {
 protected:
-    TextFiles() {
-        std::string pattern = (fs::temp_directory_path() / "quillmetra-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        Folder = pattern;
-    }
-    ~TextFiles() override {
-        std::error_code ignored;
-        fs::remove_all(Folder, ignored);
-    }
-
     std::string Write(const std::string& name, std::string_view bytes) const {
         std::ofstream(Folder / name, std::ios::binary) << bytes;
         return SuitePath(Folder) + "\\" + name;
@@ -42,7 +33,11 @@ protected:
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(Folder), {}));
     }
 
-    fs::path Folder;
+private:
+    const TemporaryFolder own_;
+
+protected:
+    const fs::path Folder = own_.Path();
 };
 
 // The words of the failure of an act; "none" when it went well.

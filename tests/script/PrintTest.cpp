@@ -7,7 +7,7 @@
 #include "forms/RegisterForms.h"
 #include "paper/PdfPaper.h"
 #include "script/ScriptPlayer.h"
-#include "script/TemporaryFolder.h"
+#include "platform/TemporaryFolder.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {

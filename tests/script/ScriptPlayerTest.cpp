@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/Forms.h"
-#include "script/TemporaryFolder.h"
+#include "platform/TemporaryFolder.h"
 #include "tests/script/ProvingForms.h"
 
 namespace quillmetra {

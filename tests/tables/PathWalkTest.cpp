@@ -70,9 +70,10 @@ TEST_F(PathWalkTest, PatternsTakeNoNoticeOfCase) {
 
 TEST_F(PathWalkTest, LoopsOfLinksAndDeepTreesEnd) {
     Make("Area/TRDB.MDB");
-    fs::create_directory_symlink(Plant, Plant / "Area" / "Loop");
-    fs::create_symlink(Plant / "Area" / "Self", Plant / "Area" / "Self");
-    fs::create_symlink(Plant / "nowhere", Plant / "TRDB.MDB");
+    std::error_code none;  // not every machine has links
+    fs::create_directory_symlink(Plant, Plant / "Area" / "Loop", none);
+    fs::create_symlink(Plant / "Area" / "Self", Plant / "Area" / "Self", none);
+    fs::create_symlink(Plant / "nowhere", Plant / "TRDB.MDB", none);
     EXPECT_EQ(Find("*").size(), 1U);
 
     fs::path deep = Plant;

@@ -1,5 +1,5 @@
 // See TemporaryFolder.h.
-#include "script/TemporaryFolder.h"
+#include "platform/TemporaryFolder.h"
 
 #include <random>
 #include <string>

@@ -1,0 +1,118 @@
+#!/usr/bin/env bash
+# Makes the suite for Windows on Debian: fetches what is missing by apt, builds the libraries once into a folder outside
+# the tree (QUILLMETRA_WINDOWS_LIBRARIES names another one; the first time takes Qt most of an hour on two cores), the
+# suite into build/windows, and of it Quillmetra-VERSION-setup.exe and Quillmetra-VERSION-portable.zip there.
+set -euo pipefail
+source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
+
+Build=build/windows
+Package=$Build/package
+
+# Without what Windows does not have, what the suite does not use, and tabletevent, whose header Debian leaves out.
+MakeQt() {
+    local Name Options=()
+    if [[ -f $Prefix/lib/cmake/Qt6PrintSupport/Qt6PrintSupportConfig.cmake ]]; then
+        return
+    fi
+    Heading "Qt"
+    Source qt6-base
+    for Name in sql testlib dbus vulkan concurrent openssl schannel glib icu tabletevent; do
+        Options+=("-DFEATURE_$Name=OFF")
+    done
+    for Name in zlib png jpeg harfbuzz freetype pcre2 doubleconversion; do
+        Options+=("-DFEATURE_system_$Name=OFF")
+    done
+    InstallLibrary "$Libraries/src/qt6-base" qt -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
+        -DINPUT_opengl=no "${Options[@]}"
+}
+
+MakeQCustomPlot() {
+    if [[ -f $Prefix/lib/cmake/QCustomPlotQt6/QCustomPlotQt6Config.cmake ]]; then
+        return
+    fi
+    Heading "QCustomPlot"
+    Source qcustomplot
+    InstallLibrary "$Libraries/src/qcustomplot" qcustomplot -DUSE_QT_VERSION=6
+}
+
+MakeSuite() {
+    Heading "The suite"
+    Configure windows -DQUILLMETRA_TESTS=ON
+    Build windows
+}
+
+# The libraries that a program or library asks for and that Windows does not have; each is looked at in its turn.
+CopyNeeded() {
+    local Name Folder
+    "$Target-objdump" -p "$1" | sed -n 's/.*DLL Name: //p' | while IFS= read -r Name; do
+        for Folder in "$Prefix/bin" "$CompilerLibraries" "/usr/$Target/lib"; do
+            if [[ -f $Folder/$Name && ! -f $Package/bin/$Name ]]; then
+                cp -- "$Folder/$Name" "$Package/bin/"
+                CopyNeeded "$Folder/$Name"
+            fi
+        done
+    done
+}
+
+# What an installed suite is: programs with what they need in bin, tables, help and examples in share, documents.
+MakePackage() {
+    local Plugin
+    Heading "The package"
+    rm -rf -- "$Package"
+    cmake --install "$Build" --prefix "$Package" >/dev/null
+    for Plugin in platforms/qwindows platforms/qoffscreen styles/qwindowsvistastyle; do
+        install -D "$Prefix/plugins/$Plugin.dll" "$Package/bin/$Plugin.dll"
+    done
+    find "$Package/bin" -name '*.exe' -o -name '*.dll' | while IFS= read -r Plugin; do CopyNeeded "$Plugin"; done
+    find "$Package/bin" -name '*.exe' -exec "$Target-strip" {} + -o -name '*.dll' -exec "$Target-strip" {} +
+    MakeDocuments
+    du -sm "$Package"
+}
+
+# Texts end their lines as Windows' own editor likes it best.
+MakeDocuments() {
+    sed 's/$/\r/' LICENSE >"$Package/LICENSE.txt"
+    sed 's/$/\r/' packaging/copyright >"$Package/COPYRIGHT.txt"
+    sed 's/$/\r/' /usr/share/common-licenses/LGPL-3 >"$Package/LGPL-3.txt"
+    sed 's/$/\r/' CHANGELOG.md >"$Package/CHANGES.txt"
+    cp -r docs "$Package/docs"
+}
+
+# What the uninstaller removes: the files that were installed, and the folders when nothing else is in them.
+ListForUninstaller() {
+    (cd -- "$Package" && find . -type f -printf '%P\n' | sed 's#/#\\#g; s#.*#Delete "$INSTDIR\\&"#')
+    (cd -- "$Package" && find . -mindepth 1 -depth -type d -printf '%P\n' | sed 's#/#\\#g; s#.*#RMDir "$INSTDIR\\&"#')
+}
+
+MakeSetup() {
+    Heading "The setup"
+    ListForUninstaller >"$Build/uninstall.nsh"
+    makensis -V2 -NOCD "-DVERSION=$Version" "-DPACKAGE=$Package" "-DFILES=$Build/uninstall.nsh" \
+        "-DKILOBYTES=$(du -sk "$Package" | cut -f1)" "-DSETUP=$Build/Quillmetra-$Version-setup.exe" \
+        packaging/windows/quillmetra.nsi
+}
+
+# A folder TRData beside the program makes that place the suite's own folder.
+MakePortable() {
+    local Name=Quillmetra-$Version-portable
+    Heading "The portable folder"
+    rm -rf -- "${Build:?}/$Name" "$Build/$Name.zip"
+    cp -r "$Package" "$Build/$Name"
+    mkdir "$Build/$Name/bin/TRData"
+    (cd -- "$Build" && zip -qr9 "$Name.zip" "$Name")
+    rm -rf -- "${Build:?}/$Name"
+}
+
+InstallMissing "${BuildPackages[@]}" "${WindowsPackages[@]}" "${WindowsSetupPackages[@]}"
+CompilerLibraries=$(dirname -- "$("$Target-g++-posix" -print-file-name=libstdc++-6.dll)")
+Version=$(sed -n 's/^project(quillmetra VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+MakeSqlite
+MakeGoogleTest
+MakeQt
+MakeQCustomPlot
+MakeSuite
+MakePackage
+MakeSetup
+MakePortable
+Heading "Done"
+ls -l "$Build"/Quillmetra-"$Version"-*

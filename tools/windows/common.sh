@@ -1,0 +1,162 @@
+# Shared by build.sh, test.sh and check.sh: where the libraries for Windows lie, how they are fetched and made, and how
+# Wine is called. Sourced, never started by itself; leaves the caller in the project's own folder.
+# shellcheck shell=bash disable=SC2034
+
+source "$(dirname -- "${BASH_SOURCE[0]}")/../setup.sh"
+
+# Outside the tree, so that Qt is built once for all work trees.
+export QUILLMETRA_WINDOWS_LIBRARIES=${QUILLMETRA_WINDOWS_LIBRARIES:-${XDG_CACHE_HOME:-$HOME/.cache}/quillmetra-windows}
+Libraries=$QUILLMETRA_WINDOWS_LIBRARIES
+Prefix=$Libraries/prefix
+Target=x86_64-w64-mingw32
+Toolchain=$PWD/tools/windows/toolchain.cmake
+
+Started=$SECONDS
+Heading() {
+    echo
+    echo "== $* ($((SECONDS - Started)) s so far)"
+}
+
+# The machine's own entries of Debian with sources in place of programs, in lists of their own: the machine's stay as
+# they are, and no root is needed.
+AptSources() {
+    local Lists=$Libraries/apt
+    if [[ ! -d $Lists/state ]]; then
+        mkdir -p "$Lists/parts" "$Lists/state/partial"
+        cat /etc/apt/sources.list.d/debian*.sources 2>/dev/null |
+            sed 's/^Types:.*/Types: deb-src/' >"$Lists/parts/debian.sources" || true
+        cat /etc/apt/sources.list 2>/dev/null | sed -n 's/^deb \(.*\)/deb-src \1/p' >"$Lists/parts/debian.list" || true
+    fi
+    apt-get -q -o Dir::Etc::sourcelist=/dev/null -o Dir::Etc::sourceparts="$Lists/parts" \
+        -o Dir::State::lists="$Lists/state" -o APT::Sandbox::User="$(id -un)" "$@"
+}
+
+# Source PACKAGE: its source package, unpacked, with Debian's changes to it.
+Source() {
+    local Folder=$Libraries/src
+    if [[ -d $Folder/$1 ]]; then
+        return
+    fi
+    mkdir -p "$Folder"
+    (
+        cd -- "$Folder"
+        if ! compgen -G "$1_*.dsc" >/dev/null; then
+            AptSources update
+            AptSources source --download-only "$1"
+        fi
+        dpkg-source --no-check -x "$1"_*.dsc "$1.part"
+        mv -- "$1.part" "$1"
+    )
+}
+
+# InstallLibrary SOURCE-FOLDER NAME [-DOPTION...]: configures, builds and installs into the prefix.
+InstallLibrary() {
+    local From=$1 To=$Libraries/$2-build
+    shift 2
+    cmake -S "$From" -B "$To" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE="$Toolchain" \
+        -DCMAKE_INSTALL_PREFIX="$Prefix" -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"
+    cmake --build "$To" --parallel "$(nproc)"
+    cmake --install "$To"
+}
+
+# The database engine as one object, from its sources joined to one file.
+MakeSqlite() {
+    if [[ -f $Prefix/lib/libsqlite3.a ]]; then
+        return
+    fi
+    Heading "SQLite"
+    Source sqlite3
+    mkdir -p "$Libraries/sqlite-build" "$Prefix/include" "$Prefix/lib"
+    (
+        cd -- "$Libraries/sqlite-build"
+        ../src/sqlite3/configure --disable-shared >configure.log
+        make sqlite3.c >make.log
+        ccache "$Target-gcc-posix" -O2 -DSQLITE_THREADSAFE=1 -c sqlite3.c -o sqlite3.o
+        cp sqlite3.h "$Prefix/include/"
+        "$Target-ar" rcs "$Prefix/lib/libsqlite3.a" sqlite3.o
+    )
+}
+
+# The frame of the tests, from Debian's package of its sources.
+MakeGoogleTest() {
+    if [[ -f $Prefix/lib/libgtest.a ]]; then
+        return
+    fi
+    Heading "GoogleTest"
+    InstallLibrary /usr/src/googletest googletest -DBUILD_GMOCK=OFF -DCMAKE_CXX_STANDARD=17
+}
+
+# Wine has a home of its own, made anew for each run of a script and ended with it.
+StartWine() {
+    WineHome=$(mktemp -d)
+    mkdir "$WineHome/wine"
+    export WINEPREFIX=$WineHome/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
+    # The compiler's own libraries are found without copying them beside each program.
+    WINEPATH=$(WindowsPath "$(dirname -- "$("$Target-g++-posix" -print-file-name=libstdc++-6.dll)")")
+    WINEPATH+=";$(WindowsPath "/usr/$Target/lib");$(WindowsPath "$Prefix/bin")"
+    export WINEPATH
+    trap EndWine EXIT
+    wineserver --persistent  # else it ends after each program, and the next one waits for it
+    wine wineboot --init >/dev/null 2>&1
+}
+
+EndWine() {
+    wineserver -k 2>/dev/null || true
+    rm -rf -- "$WineHome"
+}
+
+# A path of this machine as Wine's programs name it.
+WindowsPath() { echo "Z:${1//\//\\}"; }
+
+# A line of the table: what was played, how it went, in how many seconds.
+Rows=()
+Failures=0
+Row() {
+    Rows+=("$(printf '%-44s %-8s %4d s  %s' "$1" "$2" "$3" "${4-}")")
+    echo "${Rows[-1]}"
+    if [[ $2 == FAILED ]]; then
+        Failures=$((Failures + 1))
+    fi
+}
+
+PrintTable() {
+    Heading "The table"
+    printf '%s\n' "${Rows[@]}"
+    if ((Failures > 0)); then
+        echo "$Failures failed"
+        exit 1
+    fi
+}
+
+# Judge NAME LOG COMMAND...: a row for a command; its log is shown when it fails.
+Judge() {
+    local Name=$1 Log=$2 Start=$SECONDS
+    shift 2
+    if "$@" >"$Log" 2>&1; then
+        Row "$Name" passed $((SECONDS - Start))
+    else
+        tail -40 "$Log"
+        Row "$Name" FAILED $((SECONDS - Start))
+    fi
+}
+
+# PlayTests PROGRAM [OPTION...]
+PlayTests() {
+    local Program=$1
+    shift
+    QUILLMETRA_SOURCE=$(WindowsPath "$PWD") Judge "$(basename -- "$Program" .exe)" "$WineHome/log" \
+        timeout 900 wine "$Program" --gtest_brief=1 "$@"
+}
+
+# What a script prints, the same on every machine but for the names of its own folder.
+Plain() { sed -E 's/\r$//; s#([A-Z]:\\users\\[^\\]*\\Temp|[\\/]tmp)[\\/]quillmetra-[0-9]+#FOLDER#g'; }
+
+PlayBoth() {
+    local Script=$PWD/$2 Windows=$WineHome/windows Machine=$WineHome/machine
+    (cd -- "$WineHome" && wine "$1" "$(WindowsPath "$Script")") >"$Windows"
+    (cd -- "$WineHome" && QT_QPA_PLATFORM=offscreen "$Player" "$Script") >"$Machine"
+    diff <(Plain <"$Machine") <(Plain <"$Windows")
+}
+
+# PlayScript PROGRAM SCRIPT: it ends well, and prints what the machine's own player prints.
+PlayScript() { Judge "$2" "$WineHome/log" PlayBoth "$PWD/$1" "$2.qs"; }
