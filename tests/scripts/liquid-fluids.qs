@@ -2,8 +2,16 @@
 strict on
 start
 
-# --- A refused fluid leaves the former one to be renewed.
+# --- Zero gauge is a pressure, also before a barometer is known.
 new 1
+type txtTemp(1) 60
+answer No
+type txtPressure(1) 0
+leave
+expect-message Stop showing this message?
+expect-state mnuPureLiquid2 enabled
+
+# --- A refused fluid leaves the former one to be renewed.
 type txtTemp(0) 100
 answer Yes
 type txtPressure(0) 50
