@@ -33,9 +33,15 @@ constexpr std::array ShippedFiles = {
     ShippedFile{"Liquid.txt", "\\TRData\\"},  ShippedFile{"Gas.txt", "\\TRData\\"},
     ShippedFile{"W-PIPE.TXT", "\\TRData\\"},  ShippedFile{"Modulus.txt", "\\TRData\\"},
     ShippedFile{"MaTLDAT.TXT", "\\TRData\\"}, ShippedFile{"STEAM.txt", "\\"},
-    ShippedFile{"Stm07.Dat", "\\"},           ShippedFile{"High contrast.txt", "\\TRData\\"},
-    ShippedFile{"Dark.txt", "\\TRData\\"},
+    ShippedFile{"Stm07.Dat", "\\"},           ShippedFile{"Light.txt", "\\TRData\\"},
+    ShippedFile{"Dark.txt", "\\TRData\\"},    ShippedFile{"High contrast.txt", "\\TRData\\"},
+    ShippedFile{"Classic.txt", "\\TRData\\"},
 };
+
+// The look of the suite where nobody has chosen one: laid with the folder of the tables, never into one that
+// was there.
+constexpr const char* FirstScheme = "Light.txt";
+constexpr const char* ColourFile = "\\TRColr.txt";
 
 void UseDefaultColours() {
     std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
@@ -43,7 +49,7 @@ void UseDefaultColours() {
 
 void ReadColours() {
     try {
-        ReadColourFile(Suite.DefaultPaths[path::DataFiles] + "\\TRColr.txt");
+        ReadColourFile(Suite.DefaultPaths[path::DataFiles] + ColourFile);
     } catch (const RuntimeError&) {
         UseDefaultColours();
     }
@@ -58,6 +64,22 @@ std::uint32_t ColourFrom(const std::string& item) {
         throw failure::Overflow();
     }
     return static_cast<std::uint32_t>(static_cast<std::int32_t>(packed));
+}
+
+void CopyShipped(const fs::path& file, const std::string& place) {
+    std::error_code ignored;
+    const fs::path target = MachinePath(place);
+    if (fs::exists(target, ignored)) return;
+    fs::create_directories(target.parent_path(), ignored);
+    // Beside its place and renamed: a copy that breaks off must not pass for the user's own file.
+    fs::path beside = target;
+    beside += ".quillmetra-new";
+    std::error_code failed;
+    fs::copy_file(file, beside, fs::copy_options::overwrite_existing, failed);
+    // The user edits tables, however little may be done with those that were installed.
+    fs::permissions(beside, fs::perms::owner_write, fs::perm_options::add, ignored);
+    if (!failed) fs::rename(beside, target, failed);
+    if (failed) fs::remove(beside, ignored);
 }
 
 struct StandardCondition {
@@ -92,20 +114,9 @@ std::string ProgramFolder() {
 void SeedShippedData(const std::string& programFolder) {
     std::error_code ignored;
     const fs::path source = ShippedDataFolder();
-    for (const auto& [name, place] : ShippedFiles) {
-        const fs::path target = MachinePath(programFolder + place + name);
-        if (fs::exists(target, ignored)) continue;
-        fs::create_directories(target.parent_path(), ignored);
-        // Beside its place and renamed: a copy that breaks off must not pass for the user's own file.
-        fs::path beside = target;
-        beside += ".quillmetra-new";
-        std::error_code failed;
-        fs::copy_file(source / name, beside, fs::copy_options::overwrite_existing, failed);
-        // The user edits tables, however little may be done with those that were installed.
-        fs::permissions(beside, fs::perms::owner_write, fs::perm_options::add, ignored);
-        if (!failed) fs::rename(beside, target, failed);
-        if (failed) fs::remove(beside, ignored);
-    }
+    const std::string tables = programFolder + "\\TRData";
+    if (!fs::exists(MachinePath(tables), ignored)) CopyShipped(source / FirstScheme, tables + ColourFile);
+    for (const auto& [name, place] : ShippedFiles) CopyShipped(source / name, programFolder + place + name);
 }
 
 void StartUp(const std::string& programFolder) {

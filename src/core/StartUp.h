@@ -21,7 +21,8 @@ extern const std::array<std::uint32_t, 12> DefaultColours;
 std::string ProgramFolder();
 
 // Copies every shipped file that is absent from its place below the program's folder. A file that exists is
-// never touched, and what cannot be copied is left out without a word.
+// never touched, and what cannot be copied is left out without a word. Where the folder of the tables is made
+// anew, its colours are those of the scheme Light.
 void SeedShippedData(const std::string& programFolder);
 
 // Fixes the version text and runs Boot with the given program folder.

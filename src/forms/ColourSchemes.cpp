@@ -3,9 +3,11 @@
 
 #include "core/StartUp.h"
 #include "core/Suite.h"
+#include "forms/RegisterForms.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/ProgramPlaces.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -14,6 +16,7 @@ Colour SlotColour(int slot) { return Suite.Colours.at(static_cast<std::size_t>(s
 
 namespace {
 constexpr int FormGroup = 5;
+constexpr const char* SchemeTitle = "Colour scheme";
 
 void Paint(Control& control) {
     const int group = control.ColourGroup;
@@ -55,17 +58,75 @@ void ListBackgrounds(Form& form, const std::string& title) {
     }
 }
 
-void LoadColourScheme(Form& form) {
-    constexpr const char* title = "Colour scheme";
-    const std::optional<std::string> file =
-        AskFile(title, "Colour schemes(*.txt)|*.txt", Suite.DefaultPaths[path::DataFiles]);
-    if (!file) return;
-    try {
-        ReadColourFile(*file);
-        ApplyColours(form);
-    } catch (const RuntimeError& error) {
-        Tell("File " + *file + " holds no twelve colours\n" + error.Description, title, Icon::Exclamation);
+namespace {
+
+using Slots = decltype(Suite.Colours);
+
+Colour ColourOf(const Slots& slots, int slot) { return slots.at(static_cast<std::size_t>(slot)) & 0xFFFFFFU; }
+
+// What a control shows of its own state, by its colours: that it has the focus, or that its data is changed.
+void PaintAnew(Control& control, const Slots& former) {
+    const int back = 2 * control.ColourGroup - 1, fore = 2 * control.ColourGroup;
+    const auto was = [&former](Colour colour, int slot, int usual) {
+        return colour == ColourOf(former, slot) && colour != ColourOf(former, usual);
+    };
+    if (was(control.BackColour(), slot::SelectedBack, back)) {
+        return control.SetColours(SlotColour(slot::SelectedBack), SlotColour(slot::SelectedText));
     }
+    const bool changed = was(control.ForeColour(), slot::Changed, fore);
+    control.SetColours(SlotColour(back), SlotColour(changed ? slot::Changed : fore));
+}
+
+void PaintFormsAnew(const Slots& former) {
+    for (const std::string_view name : FormNames()) {
+        Form* const form = LoadedForm(name);
+        if (form == nullptr) continue;
+        form->SetBackColour(SlotColour(slot::Form));
+        for (Control* control : form->Controls()) {
+            if (control->ColourGroup != 0) PaintAnew(*control, former);
+        }
+    }
+}
+
+void TakeColourFile(const std::string& file) {
+    const Slots former = Suite.Colours;
+    try {
+        ReadColourFile(file);
+        PaintFormsAnew(former);
+    } catch (const RuntimeError& error) {
+        Tell("File " + file + " holds no twelve colours\n" + error.Description, SchemeTitle,
+             Icon::Exclamation);
+    }
+}
+
+std::string SchemeFile(const std::string& name) {
+    const std::string shipped = SuitePath(ShippedDataFolder() / (name + ".txt"));
+    return FileExists(shipped) ? shipped : Suite.DefaultPaths[path::DataFiles] + "\\" + name + ".txt";
+}
+
+}  // namespace
+
+void LoadColourScheme() {
+    const std::optional<std::string> file =
+        AskFile(SchemeTitle, "Colour schemes(*.txt)|*.txt", Suite.DefaultPaths[path::DataFiles]);
+    if (file) TakeColourFile(*file);
+}
+
+void TakeScheme(const std::string& name) { TakeColourFile(SchemeFile(name)); }
+
+int SchemeInForce() {
+    const Slots inForce = Suite.Colours;
+    int found = -1;
+    for (std::size_t i = 0; i < SchemeNames.size() && found < 0; ++i) {
+        try {
+            ReadColourFile(SchemeFile(SchemeNames[i]));
+            if (Suite.Colours == inForce) found = static_cast<int>(i);
+        } catch (const RuntimeError&) {
+            // one that cannot be read is not in force
+        }
+    }
+    Suite.Colours = inForce;
+    return found;
 }
 
 }  // namespace quillmetra

@@ -3,6 +3,7 @@
 // data, 6 the box that has the focus.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "platform/Form.h"
@@ -11,8 +12,12 @@ namespace quillmetra {
 
 // Slots that are asked for by their use.
 namespace slot {
+inline constexpr int Area = 1;
+inline constexpr int AreaText = 2;
 inline constexpr int InputBack = 3;
 inline constexpr int InputText = 4;  // and the text of unchanged data
+inline constexpr int ResultBack = 7;
+inline constexpr int ResultText = 8;
 inline constexpr int Form = 9;
 inline constexpr int Changed = 10;
 inline constexpr int SelectedBack = 11;
@@ -36,7 +41,16 @@ bool PickColour(Form& form, int slot, int group, const std::string& title);
 // one.
 void ListBackgrounds(Form& form, const std::string& title);
 
-// Takes the colours of a file that the user chooses; tells when it holds no twelve colours.
-void LoadColourScheme(Form& form);
+// Takes the colours of a file that the user chooses, on all forms that are loaded; tells when it holds no
+// twelve colours.
+void LoadColourScheme();
+
+// The schemes that come with the suite, by the names of their files.
+inline constexpr std::array SchemeNames = {"Light", "Dark", "High contrast", "Classic"};
+// Takes one of them, as LoadColourScheme. The file of the suite goes before one of the user's tables, which
+// an earlier version may have laid there.
+void TakeScheme(const std::string& name);
+// Which of them the colours in force are, -1 for none.
+int SchemeInForce();
 
 }  // namespace quillmetra

@@ -50,6 +50,7 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
     mnuPathPrintHdgs.Click = [] { FindDefaultPath(3); };
     mnuPathTables.Click = [] { FindDefaultPath(4); };
     HookColours();
+    HookSchemes();
 }
 
 std::array<MenuItem*, 12> frmTRProg::ColourEntries() {
@@ -70,9 +71,33 @@ void frmTRProg::HookColours() {
         };
     }
     mnuLoadColor.SeparatorBefore = true;
-    mnuLoadColor.Click = [this] { LoadColourScheme(*this); };
+    mnuLoadColor.Click = [] { LoadColourScheme(); };
     mnuSaveColor.Click = [] { SaveColours(); };
     mnuBackgroundList.Click = [this] { ListBackgrounds(*this, SpokenCaption(mnuBackground.Caption())); };
+}
+
+std::array<MenuItem*, 4> frmTRProg::SchemeEntries() {
+    return {&mnuLight, &mnuDark, &mnuHighContrast, &mnuClassic};
+}
+
+void frmTRProg::HookSchemes() {
+    const auto entries = SchemeEntries();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i]->Click = [this, name = SchemeNames[i]] {
+            TakeScheme(name);
+            TickScheme();
+            SetStatus("Save colours keeps them for the next start");
+        };
+    }
+    mnuColInputFrame.SeparatorBefore = true;
+    mnuColours.Click = [this] { TickScheme(); };
+}
+
+// That of the colours in force, which may have been changed one by one since.
+void frmTRProg::TickScheme() {
+    const int inForce = SchemeInForce();
+    int scheme = 0;
+    for (MenuItem* entry : SchemeEntries()) entry->SetChecked(scheme++ == inForce);
 }
 
 void frmTRProg::ClearColourChecks() {

@@ -34,6 +34,10 @@ public:
     MenuItem mnuPathPrintHdgs{mnuDefPath, "mnuPathPrintHdgs", "&Printout heading file default path"};
     MenuItem mnuPathTables{mnuDefPath, "mnuPathTables", "&Tables default path"};
     MenuItem mnuColours{*this, "mnuColours", "&Colours"};
+    MenuItem mnuLight{mnuColours, "mnuLight", "&Light"};
+    MenuItem mnuDark{mnuColours, "mnuDark", "&Dark"};
+    MenuItem mnuHighContrast{mnuColours, "mnuHighContrast", "&High contrast"};
+    MenuItem mnuClassic{mnuColours, "mnuClassic", "&Classic"};
     MenuItem mnuColInputFrame{mnuColours, "mnuColInputFrame", "&Input frame background"};
     MenuItem mnuColInputFrameText{mnuColours, "mnuColInputFrameText", "Input &frame text"};
     MenuItem mnuColInputBack{mnuColours, "mnuColInputBack", "Input field &background"};
@@ -43,11 +47,11 @@ public:
     MenuItem mnuColOptsBack{mnuColours, "mnuColOptsBack", "Options field bac&kground"};
     MenuItem mnuColOptsText{mnuColours, "mnuColOptsText", "Options field te&xt"};
     MenuItem mnuBackground{mnuColours, "mnuBackground", "For&m background"};
-    MenuItem mnuChangeData{mnuColours, "mnuChangeData", "&Changed data"};
+    MenuItem mnuChangeData{mnuColours, "mnuChangeData", "Chang&ed data"};
     MenuItem mnuColorOptsSelBG{mnuColours, "mnuColorOptsSelBG", "Selected field back&ground"};
-    MenuItem mnuColorOptsSelFG{mnuColours, "mnuColorOptsSelFG", "Se&lected field text"};
+    MenuItem mnuColorOptsSelFG{mnuColours, "mnuColorOptsSelFG", "&Selected field text"};
     MenuItem mnuLoadColor{mnuColours, "mnuLoadColor", "Lo&ad colour scheme..."};
-    MenuItem mnuSaveColor{mnuColours, "mnuSaveColor", "&Save colours"};
+    MenuItem mnuSaveColor{mnuColours, "mnuSaveColor", "Sa&ve colours"};
     MenuItem mnuBackgroundList{mnuColours, "mnuBackgroundList", "Backgrou&nd list"};
     MenuItem mnuOptions{*this, "mnuOptions", "&Options"};
     MenuItem mnuDoNotShow{mnuOptions, "mnuDoNotShow", "&Hide prompting messages"};
@@ -140,7 +144,10 @@ private:
     int shownTags_ = 0;
     std::string standing_;  // as it was shown last: a file written since may say otherwise
     std::array<MenuItem*, 12> ColourEntries();
+    std::array<MenuItem*, 4> SchemeEntries();  // in the order of SchemeNames
     void HookColours();
+    void HookSchemes();
+    void TickScheme();
 };
 
 }  // namespace quillmetra

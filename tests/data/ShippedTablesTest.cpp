@@ -275,7 +275,8 @@ TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
     const std::filesystem::path program = Folder / "fresh";
     const char* files[] = {"TRData/Liquid.txt",  "TRData/Gas.txt",           "TRData/W-PIPE.TXT",
                            "TRData/Modulus.txt", "TRData/MaTLDAT.TXT",       "STEAM.txt",
-                           "Stm07.Dat",          "TRData/High contrast.txt", "TRData/Dark.txt"};
+                           "Stm07.Dat",          "TRData/High contrast.txt", "TRData/Dark.txt",
+                           "TRData/Light.txt",   "TRData/Classic.txt"};
     // A file of the user's own stays, also an empty one and one whose name differs by case.
     std::filesystem::create_directories(program / "TRData");
     std::ofstream(program / "TRData" / "Gas.txt") << "mine";
@@ -298,6 +299,13 @@ TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
         left += entry.is_regular_file() ? 1 : 0;
     }
     EXPECT_EQ(left, std::ssize(files)) << "nothing is left beside the files";
+    // Colours come with a folder of tables that is made anew, once, and into none that is there.
+    const std::filesystem::path another = Folder / "another", colours = another / "TRData" / "TRColr.txt";
+    SeedShippedData(SuitePath(another));
+    EXPECT_EQ(FileBytes(colours), FileBytes(SourceFolder() / "data" / "Light.txt"));
+    std::filesystem::remove(colours);
+    SeedShippedData(SuitePath(another));
+    EXPECT_FALSE(std::filesystem::exists(colours));
     // A folder that cannot be made: silence, and the suite starts all the same.
     SeedShippedData(SuitePath(program / "Stm07.Dat"));
     EXPECT_TRUE(User.Boxes.empty());

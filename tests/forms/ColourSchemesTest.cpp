@@ -1,8 +1,10 @@
 // Colours from files and menus, and whether the shipped schemes can be read.
 #include "forms/ColourSchemes.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "forms/ColourShades.h"
 #include "forms/RegisterForms.h"
 #include "platform/UserActs.h"
 #include "tests/SuiteFixture.h"
@@ -21,9 +23,8 @@ double Luminance(Colour colour) {
     return sum;
 }
 
-double Contrast(int back, int text) {
-    const double a = Luminance(SlotColour(back)) + 0.05;
-    const double b = Luminance(SlotColour(text)) + 0.05;
+double Ratio(Colour back, Colour text) {
+    const double a = Luminance(back) + 0.05, b = Luminance(text) + 0.05;
     return std::max(a, b) / std::min(a, b);
 }
 
@@ -32,18 +33,42 @@ protected:
     ColourSchemesTest() { RegisterForms(); }
 };
 
+// Text on its ground, changed data among it, and the borders of boxes on their areas. Classic is as it is.
 TEST_F(ColourSchemesTest, ShippedSchemesCanBeRead) {
     const struct {
         const char* File;
-        double Least;
-    } schemes[] = {{"High contrast.txt", 7}, {"Dark.txt", 4.5}};
-    const std::pair<int, int> read[] = {{1, 2}, {3, 4}, {3, 10}, {5, 6}, {7, 8}, {7, 10}, {11, 12}};
+        double OfText, OfBorders;
+    } schemes[] = {{"Light.txt", 4.5, 3}, {"Dark.txt", 4.5, 3}, {"High contrast.txt", 7, 7}};
+    const std::pair<int, int> read[] = {{1, 2}, {3, 4},  {5, 6},  {7, 8}, {11, 12},
+                                        {9, 2}, {1, 10}, {3, 10}, {7, 10}};
+    const std::pair<int, int> boxes[] = {{1, 3}, {1, 7}, {5, 3}, {5, 7}, {1, 11}};
     for (const auto& scheme : schemes) {
         ReadColourFile(SuitePath(SourceFolder() / "data" / scheme.File));
         for (const auto& [back, text] : read) {
-            EXPECT_GE(Contrast(back, text), scheme.Least) << scheme.File << " " << back << " " << text;
+            EXPECT_GE(Ratio(SlotColour(back), SlotColour(text)), scheme.OfText)
+                << scheme.File << " " << back << " " << text;
+        }
+        for (const auto& [area, box] : boxes) {
+            const Colour border = BoxBorder(SlotColour(area), SlotColour(box), SlotColour(area + 1));
+            for (const int ground : {area, box}) {
+                EXPECT_GE(Ratio(SlotColour(ground), border), scheme.OfBorders)
+                    << scheme.File << " " << area << " " << box;
+            }
         }
     }
+    ReadColourFile(SuitePath(SourceFolder() / "data" / "Classic.txt"));
+    EXPECT_TRUE(std::equal(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1));
+}
+
+// What follows from the slots is seen, whatever they are: grey on grey too.
+TEST_F(ColourSchemesTest, ShadesAreSeenOnAnyGround) {
+    for (const Colour ground : {0x000000U, 0x777777U, 0x808040U, 0xFFFFFFU}) {
+        EXPECT_GE(Ratio(ground, BoxBorder(ground, ground, ground)), 3) << ground;
+        EXPECT_GE(Ratio(ground, FaintText(ground, ground)), 4.5) << ground;
+        EXPECT_GE(Ratio(ground, Readable(ground, ground)), 4.5) << ground;
+    }
+    Suite.Colours[8] = Suite.Colours[1];
+    EXPECT_EQ(AccentColour(), SlotColour(2));
 }
 
 TEST_F(ColourSchemesTest, AGroupIsRepaintedAlone) {

@@ -23,6 +23,20 @@ answer OK
 click mnuLoadColor
 expect-message holds no twelve colours
 
+# --- The schemes by their names: seen at once, also by what is changed and by a form behind; kept only by a save.
+click mnuDark
+expect-state mnuDark checked
+expect-colour fraRecord 2 1
+click mnuColours
+expect-state mnuDark checked
+click mnuClassic
+expect-state mnuDark unchecked
+expect-state mnuClassic checked
+expect-no-message
+start
+expect-colour fraRecord 2 1
+expect-state mnuClassic unchecked
+
 # --- Backgrounds: one kept, one not, the list not closed at first, then closed.
 colour 100
 answer Yes
