@@ -44,7 +44,9 @@ void ControlView::RenewVisible() {
 }
 
 void ControlView::RenewColours() {
-    if (control_->ColourGroup != 0) PaintArea(*widget_, control_->BackColour(), control_->ForeColour());
+    if (control_->ColourGroup == 0) return;
+    PaintArea(*widget_, control_->BackColour(), control_->ForeColour());
+    MarkChanged(*widget_, *control_);
 }
 
 void ControlView::RenewToolTip() { widget_->setToolTip(ToQt(control_->ToolTip())); }

@@ -14,6 +14,7 @@
 #include "desktop/FormWindow.h"
 #include "desktop/HelpWindow.h"
 #include "desktop/ReadyForUser.h"
+#include "desktop/SchemePalette.h"
 #include "desktop/WindowPlaces.h"
 #include "platform/Forms.h"
 #include "platform/Printer.h"
@@ -63,6 +64,7 @@ FormWindow& DesktopHost::Window(Form& form) {
 }
 
 void DesktopHost::FormShown(Form& form) {
+    FollowScheme();
     FormWindow& window = Window(form);
     if (!window.isVisible()) PutInPlace(window);
     window.show();
@@ -128,6 +130,7 @@ void DesktopHost::FormChanged(Form& form) {
 }
 
 void DesktopHost::ControlChanged(Control& control, Aspect aspect) {
+    if (aspect == Aspect::Colours) FollowScheme();
     if (FormWindow* window = WindowOf(control.Owner())) window->Renew(control, aspect);
 }
 

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
@@ -20,6 +21,8 @@
 #include "desktop/Menus.h"
 #include "desktop/Painting.h"
 #include "desktop/WindowPlaces.h"
+#include "forms/ColourSchemes.h"
+#include "forms/ColourShades.h"
 #include "platform/Forms.h"
 #include "platform/TextCase.h"
 
@@ -239,9 +242,7 @@ void FormWindow::RenewForm() {
     setWindowTitle(ToQt(form_->Caption()));
     status_->setText(ToQt(form_->Status()));
     status_->setToolTip(status_->text());
-    QPalette palette = pane_->palette();
-    palette.setColor(QPalette::Window, ToQt(form_->BackColour()));
-    pane_->setPalette(palette);
+    PaintArea(*pane_, form_->BackColour(), Readable(form_->BackColour(), SlotColour(slot::AreaText)));
     pane_->setEnabled(form_->Enabled());
     if (menuWidget() != nullptr) menuBar()->setEnabled(form_->Enabled());
     FollowFocusSoon();
@@ -257,6 +258,7 @@ void FormWindow::FollowFocus() {
     if (form_ == nullptr || pressed_ != nullptr) return;
     // The toolkit marks the focus once its own Tab was pressed, which the model has replaced.
     setAttribute(Qt::WA_KeyboardFocusChange);
+    MarkDefaultButton();
     const Control* const current = form_->Focus.Current();
     ControlView* const view = current == nullptr ? nullptr : ViewOf(*current);
     QWidget* target = pane_;
@@ -269,6 +271,15 @@ void FormWindow::FollowFocus() {
         target->setFocus(Qt::OtherFocusReason);
     }
     if (target != pane_) ScrollTo(*scroll_, *target);
+}
+
+// Drawn as what Enter presses; the key itself goes by the form's rules.
+void FormWindow::MarkDefaultButton() {
+    for (const ControlView* view : views_) {
+        auto* const button = qobject_cast<QPushButton*>(view->Widget());
+        const bool isDefault = view->Model() == form_->DefaultButton;
+        if (button != nullptr && button->isDefault() != isDefault) button->setDefault(isDefault);
+    }
 }
 
 void FormWindow::FollowFocusSoon() {

@@ -62,6 +62,7 @@ private:
     void MouseTookFocus(ControlView& view);
     void UserReached(Control& control);
     void FollowFocusSoon();
+    void MarkDefaultButton();
 
     Form* form_;
     QWidget* pane_;

@@ -66,6 +66,21 @@ Node Node::Centred() && {
     return std::move(*this);
 }
 
+Node Node::Bold() && {
+    IsBold = true;
+    return std::move(*this);
+}
+
+Node Node::Across(int columns) && {
+    Columns = columns;
+    return std::move(*this);
+}
+
+Node Node::Collapsing() && {
+    Collapses = true;
+    return std::move(*this);
+}
+
 Node Node::Bare() && {
     IsBare = true;
     return std::move(*this);
@@ -78,6 +93,7 @@ Node Item(const std::string& array, int index) {
 }
 
 Node Words(std::string words) { return {Node::Kind::Words, std::move(words)}; }
+Node Heading(std::string words) { return Words(std::move(words)).Bold().Across(Node::AllColumns); }
 Node Column(std::vector<Node> parts) { return {Node::Kind::Column, {}, std::move(parts)}; }
 Node Row(std::vector<Node> parts) { return {Node::Kind::Row, {}, std::move(parts)}; }
 Node Buttons(std::vector<Node> parts) { return {Node::Kind::Buttons, {}, std::move(parts)}; }
@@ -88,6 +104,7 @@ Node Frame(std::string control, Node content) {
     return {Node::Kind::Frame, std::move(control), {std::move(content)}};
 }
 Node Stretch() { return {Node::Kind::Stretch, {}}; }
+Node Reserve(int lines) { return Node(Node::Kind::Reserve, {}).Tall(lines); }
 
 Node Table(std::vector<std::vector<Node>> rows) {
     Node table{Node::Kind::Table, {}};
@@ -104,8 +121,8 @@ Node Over(Node base, std::vector<Node> parts) {
 
 std::vector<Node> Cases(const std::string& label, const std::string& boxes, const std::string& unit) {
     std::vector<Node> cells{label};
-    for (int i = 0; i < 3; ++i) cells.push_back(Item(boxes, i).Wide(10).Grow());
-    cells.emplace_back(unit);
+    for (int i = 0; i < 3; ++i) cells.push_back(Item(boxes, i).Wide(CaseDigits));
+    cells.push_back(Item(unit).Centred());
     return cells;
 }
 

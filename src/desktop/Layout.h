@@ -21,6 +21,7 @@ struct Node {
         Frame,    // the frame of that name with its contents
         Over,     // the first part, with the others over its middle for as long as they show
         Stretch,  // takes the room that is left
+        Reserve,  // see the function of that name
     };
 
     Node(const char* control) : Name(control) {}             // NOLINT: layouts name controls plainly
@@ -28,7 +29,8 @@ struct Node {
     Node(Kind what, std::string name, std::vector<Node> parts = {})
         : What(what), Name(std::move(name)), Parts(std::move(parts)) {}
 
-    // At least so many digits wide, and so many rows of a list or lines of words high.
+    // At least so many digits wide, and so many rows of a list or lines of words high; of a table, the width
+    // of its first column.
     Node Wide(int digits) &&;
     Node Tall(int rows) &&;
     // Takes its share of the room that is left, in a row its width and in a column its height.
@@ -40,6 +42,12 @@ struct Node {
     // Several lines where the words are longer than the room.
     Node Wrapped() &&;
     Node Centred() &&;
+    Node Bold() &&;
+    // In a table, over so many columns; AllColumns to the end of the row.
+    static constexpr int AllColumns = -1;
+    Node Across(int columns) &&;
+    // Takes no room while it is hidden.
+    Node Collapsing() &&;
     // An area without border and margins, that only holds things together.
     Node Bare() &&;
 
@@ -53,12 +61,17 @@ struct Node {
     bool Wraps = false;
     bool IsCentred = false;
     bool IsBare = false;
+    bool Collapses = false;
+    bool IsBold = false;
+    int Columns = 1;
     std::string Anchor;
 };
 
 Node Item(std::string control);
 Node Item(const std::string& array, int index);
 Node Words(std::string words);
+// Words in bold over a whole row of a table, that head the rows below.
+Node Heading(std::string words);
 Node Column(std::vector<Node> parts);
 Node Row(std::vector<Node> parts);
 Node Table(std::vector<std::vector<Node>> rows);
@@ -67,6 +80,12 @@ Node Panel(std::string heading, Node content);
 Node Frame(std::string control, Node content);
 Node Over(Node base, std::vector<Node> parts);
 Node Stretch();
+// Room that a window opens with and that its contents may take later: so many lines of words.
+Node Reserve(int lines);
+
+// The digits of the first column of labels, so that the boxes of all cards of a form stand in one line.
+inline constexpr int LabelDigits = 18;
+inline constexpr int CaseDigits = 12;
 
 // The row of a table for a value of three cases: label, a box for each case, unit.
 std::vector<Node> Cases(const std::string& label, const std::string& boxes, const std::string& unit);

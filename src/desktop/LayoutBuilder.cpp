@@ -19,6 +19,8 @@ namespace quillmetra {
 namespace {
 
 constexpr int Gap = 6;
+constexpr int PageGap = 8;  // between cards, and around them
+constexpr int LineGap = 4;
 constexpr int UsualDigits = 10;
 
 bool IsListKind(ControlKind kind) {
@@ -54,8 +56,8 @@ private:
 
 void LayoutBuilder::Build(const Node& tree, const std::vector<ControlView*>& views) {
     auto* const column = new QVBoxLayout(&pane_);
-    column->setContentsMargins(8, 8, 8, 8);
-    column->setSpacing(8);
+    column->setContentsMargins(PageGap, PageGap, PageGap, PageGap);
+    column->setSpacing(PageGap);
     AddTo(*column, tree);
 
     QHBoxLayout* row = nullptr;
@@ -79,6 +81,9 @@ void LayoutBuilder::AddTo(QBoxLayout& box, const Node& node) {
     const int share = node.Grows || node.What == Node::Kind::Stretch ? 1 : 0;
     if (node.What == Node::Kind::Stretch) {
         box.addStretch(share);
+    } else if (node.What == Node::Kind::Reserve) {
+        const int height = node.Rows * QFontMetrics(pane_.font()).height();
+        box.addItem(new QSpacerItem(0, height, QSizePolicy::Minimum, QSizePolicy::Preferred));
     } else if (QWidget* widget = MakeWidget(node)) {
         const bool hugs = node.What == Node::Kind::Item && box.direction() == QBoxLayout::TopToBottom &&
                           !node.Grows && node.Digits > 0 && node.Rows == 0;
@@ -91,7 +96,10 @@ void LayoutBuilder::AddTo(QBoxLayout& box, const Node& node) {
 void LayoutBuilder::AddCell(QGridLayout& grid, const Node& node, int row, int column) {
     if (node.What == Node::Kind::Stretch || node.Grows) grid.setColumnStretch(column, 1);
     if (QWidget* widget = MakeWidget(node)) {
-        grid.addWidget(widget, row, column, node.IsCentred ? Qt::AlignHCenter : Qt::Alignment());
+        // Rows that a heading begins stand apart from those before.
+        if (node.Columns == Node::AllColumns && row > 0) widget->setContentsMargins(0, Gap, 0, 0);
+        const bool isCentred = node.IsCentred && qobject_cast<QLabel*>(widget) != nullptr;
+        grid.addWidget(widget, row, column, 1, node.Columns, isCentred ? Qt::AlignHCenter : Qt::Alignment());
     } else if (QLayout* inner = MakeLayout(node)) {
         grid.addLayout(inner, row, column);
     }
@@ -101,7 +109,8 @@ QLayout* LayoutBuilder::MakeLayout(const Node& node) {
     if (node.What == Node::Kind::Table) {
         auto* const grid = new QGridLayout;
         grid->setHorizontalSpacing(Gap);
-        grid->setVerticalSpacing(4);
+        grid->setVerticalSpacing(LineGap);
+        grid->setColumnMinimumWidth(0, DigitsWide(pane_, node.Digits));
         for (std::size_t row = 0; row < node.Parts.size(); ++row) {
             const auto& cells = node.Parts[row].Parts;
             for (std::size_t column = 0; column < cells.size(); ++column) {
@@ -151,6 +160,11 @@ QWidget* LayoutBuilder::MakeWords(const Node& node) {
     auto* const words = new QLabel(ToQt(node.Name), &pane_);
     words->setTextFormat(Qt::PlainText);
     words->setWordWrap(node.Wraps);
+    if (node.IsBold) {
+        QFont bold = words->font();
+        bold.setBold(true);
+        words->setFont(bold);
+    }
     return words;
 }
 
@@ -219,11 +233,11 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
     QSizePolicy policy = widget->sizePolicy();
     // A field that comes and goes keeps its place, so that the others do not jump.
     const bool isField = kind == ControlKind::TextBox || kind == ControlKind::Label;
-    policy.setRetainSizeWhenHidden(isField && !floating_);
+    policy.setRetainSizeWhenHidden(isField && !floating_ && !node.Collapses);
     if (kind == ControlKind::TextBox) {
         const int width = DigitsWide(*widget, node.Digits > 0 ? node.Digits : UsualDigits) + 14;
         widget->setMinimumWidth(width);
-        if (!node.Grows) widget->setMaximumWidth(width);
+        if (!node.Grows && node.Columns == 1) widget->setMaximumWidth(width);
     } else if (node.Digits > 0) {
         widget->setMinimumWidth(DigitsWide(*widget, node.Digits) + 14);
     }

@@ -1,55 +1,33 @@
 // See Painting.h.
 #include "desktop/Painting.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
-#include <QPalette>
-#include <QProxyStyle>
-#include <QStyleOption>
+
+#include "desktop/SchemePalette.h"
+#include "desktop/SuiteStyle.h"
+#include "forms/ColourSchemes.h"
+#include "forms/ColourShades.h"
 
 namespace quillmetra {
 
 namespace {
-constexpr int Margin = 8;
-constexpr int Corner = 3;
+constexpr int Margin = 9;
+constexpr int Corner = 4;
 
-QColor Between(const QColor& a, const QColor& b, double part) {
-    const auto mix = [part](int x, int y) { return static_cast<int>(x + (y - x) * part); };
-    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+void PaintField(QPalette& palette, Colour back, Colour fore) {
+    palette.setColor(QPalette::Base, ToQt(back));
+    palette.setColor(QPalette::Text, ToQt(fore));
+    palette.setColor(QPalette::Disabled, QPalette::Text, ToQt(FaintText(back, fore)));
 }
 
-void PaintRoles(QWidget& widget, Colour back, QPalette::ColorRole under, Colour fore,
-                QPalette::ColorRole text) {
-    QPalette palette = widget.palette();
-    palette.setColor(under, ToQt(back));
-    palette.setColor(text, ToQt(fore));
-    palette.setColor(QPalette::Disabled, text, Between(ToQt(fore), ToQt(back), 0.5));
-    if (palette != widget.palette()) widget.setPalette(palette);
+void Take(QWidget& widget, const QPalette& palette) {
+    // Also where it looks alike: what it has of its own does not go with what it stands on.
+    const QPalette& former = widget.palette();
+    if (palette != former || palette.resolveMask() != former.resolveMask()) widget.setPalette(palette);
 }
-
-class SuiteStyle : public QProxyStyle {
-public:
-    SuiteStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-        return QProxyStyle::styleHint(hint, option, widget, data);
-    }
-
-    // A list with the focus has a border as a box has; without a row in hand nothing else would tell.
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (element != PE_Frame || (option->state & State_HasFocus) == 0) return;
-        painter->setPen(option->palette.color(QPalette::Highlight));
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    }
-};
 }  // namespace
 
 QColor ToQt(Colour colour) {
@@ -57,22 +35,41 @@ QColor ToQt(Colour colour) {
             static_cast<int>((colour >> 16U) & 0xFFU)};
 }
 
+QColor Between(const QColor& from, const QColor& to, double part) {
+    const auto mix = [part](int x, int y) { return static_cast<int>(x + (y - x) * part); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
 void UseSuiteStyle() {
     QApplication::setStyle(new SuiteStyle);
-    QPalette palette = QApplication::style()->standardPalette();
-    const QColor faint(105, 105, 105);  // what is off, as a unit, is still read
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, faint);
-    }
-    QApplication::setPalette(palette);
+    FollowScheme();
+}
+
+void PaintAreaRoles(QPalette& palette, Colour back, Colour fore) {
+    palette.setColor(QPalette::Window, ToQt(back));
+    palette.setColor(QPalette::WindowText, ToQt(fore));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, ToQt(FaintText(back, fore)));
+    palette.setColor(role::Border, ToQt(BoxBorder(back, SlotColour(slot::InputBack), fore)));
+    palette.setColor(role::HairLine, ToQt(HairLineOn(back, fore)));
 }
 
 void PaintArea(QWidget& widget, Colour back, Colour fore) {
-    PaintRoles(widget, back, QPalette::Window, fore, QPalette::WindowText);
+    QPalette palette = widget.palette();
+    PaintAreaRoles(palette, back, fore);
+    Take(widget, palette);
 }
 
 void PaintField(QWidget& widget, Colour back, Colour fore) {
-    PaintRoles(widget, back, QPalette::Base, fore, QPalette::Text);
+    QPalette palette = widget.palette();
+    PaintField(palette, back, fore);
+    Take(widget, palette);
+}
+
+void MarkChanged(QWidget& widget, const Control& control) {
+    const Colour changed = SlotColour(slot::Changed);
+    QFont font = widget.font();
+    font.setBold(control.ForeColour() == changed && changed != SlotColour(2 * control.ColourGroup));
+    if (font != widget.font()) widget.setFont(font);
 }
 
 int DigitsWide(const QWidget& widget, int digits) {
@@ -128,9 +125,8 @@ void Panel::paintEvent(QPaintEvent*) {
     if (bare_) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor under = palette().color(QPalette::Window);
-    painter.setBrush(under);
-    painter.setPen(QPen(under.darker(raised_ ? 220 : 130), 1));
+    painter.setBrush(palette().window());
+    painter.setPen(QPen(palette().color(raised_ ? role::Border : role::HairLine), 1));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
     if (heading_.isEmpty()) return;
     painter.setFont(HeadingFont());

@@ -16,13 +16,18 @@ inline QString ToQt(const std::string& text) {
 }
 QColor ToQt(Colour colour);
 
-// The style of the whole program, the same on every machine: the slots of the suite are chosen for a light
-// one.
+QColor Between(const QColor& from, const QColor& to, double part);
+
+// The style of the whole program, the same on every machine, in the colours of the slots.
 void UseSuiteStyle();
 
 // Paints an area with what stands on it and has no colours of its own, or a field with what is typed in it.
+void PaintAreaRoles(QPalette& palette, Colour back, Colour fore);
 void PaintArea(QWidget& widget, Colour back, Colour fore);
 void PaintField(QWidget& widget, Colour back, Colour fore);
+
+// Data in the changed colour is bold too.
+void MarkChanged(QWidget& widget, const Control& control);
 
 // The width of so many digits in the font of a widget, for fields sized by what they hold.
 int DigitsWide(const QWidget& widget, int digits);

@@ -6,6 +6,7 @@
 
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
+#include "desktop/SchemePalette.h"
 #include "platform/Plot.h"
 
 namespace quillmetra {
@@ -118,7 +119,7 @@ protected:
     void paintEvent(QPaintEvent* event) override {
         QCustomPlot::paintEvent(event);
         QPainter painter(this);
-        painter.setPen(QPen(back_.darker(130), 1));
+        painter.setPen(QPen(palette().color(role::HairLine), 1));
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     }
 

@@ -23,7 +23,9 @@ public:
 
 protected:
     void RenewColours() override {
-        if (box_.ColourGroup != 0) PaintField(*edit_, box_.BackColour(), box_.ForeColour());
+        if (box_.ColourGroup == 0) return;
+        PaintField(*edit_, box_.BackColour(), box_.ForeColour());
+        MarkChanged(*edit_, box_);
     }
 
     // Written only when it differs, so that the caret of the box being edited stays.

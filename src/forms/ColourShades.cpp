@@ -13,6 +13,7 @@ namespace {
 constexpr double LeastOfText = 4.5;
 constexpr double LeastOfBorder = 3;
 constexpr double BlackOnWhite = 20.9;
+constexpr int Steps = 32;
 constexpr Colour Black = 0x000000, White = 0xFFFFFF;
 
 unsigned Part(Colour colour, unsigned i) { return (colour >> (8 * i)) & 0xFFU; }
@@ -38,6 +39,15 @@ Colour BetterOnAll(std::initializer_list<Colour> grounds) {
     return LeastContrast(grounds, Black) >= LeastContrast(grounds, White) ? Black : White;
 }
 
+Colour Strengthened(std::initializer_list<Colour> grounds, Colour colour, double least) {
+    const Colour end = BetterOnAll(grounds);
+    for (int step = 0; step < Steps; ++step) {
+        const Colour strong = Between(colour, end, static_cast<double>(step) / Steps);
+        if (LeastContrast(grounds, strong) >= least) return strong;
+    }
+    return end;
+}
+
 }  // namespace
 
 double Contrast(Colour a, Colour b) {
@@ -56,15 +66,11 @@ Colour Between(Colour from, Colour to, double part) {
 }
 
 Colour FirstSeen(std::initializer_list<Colour> grounds, Colour text, double least) {
-    constexpr int steps = 32;
-    const Colour ground = *grounds.begin();
-    for (const Colour end : {text, BetterOnAll(grounds)}) {
-        for (int step = 1; step <= steps; ++step) {
-            const Colour colour = Between(ground, end, static_cast<double>(step) / steps);
-            if (LeastContrast(grounds, colour) >= least) return colour;
-        }
+    for (int step = 1; step <= Steps; ++step) {
+        const Colour colour = Between(*grounds.begin(), text, static_cast<double>(step) / Steps);
+        if (LeastContrast(grounds, colour) >= least) return colour;
     }
-    return BetterOnAll(grounds);
+    return Strengthened(grounds, text, least);
 }
 
 Colour BoxBorder(Colour area, Colour box, Colour text) {
@@ -74,9 +80,12 @@ Colour BoxBorder(Colour area, Colour box, Colour text) {
 
 Colour FaintText(Colour ground, Colour text) { return FirstSeen({ground}, text, LeastOfText); }
 
-Colour Readable(Colour ground, Colour text) {
-    return Contrast(ground, text) >= LeastOfText ? text : BetterOnAll({ground});
+Colour HairLineOn(Colour ground, Colour text) {
+    if (Contrast(ground, text) >= BlackOnWhite) return text;
+    return Between(ground, text, 0.16);
 }
+
+Colour Readable(Colour ground, Colour colour, double least) { return Strengthened({ground}, colour, least); }
 
 Colour AccentColour() {
     const Colour results = SlotColour(slot::ResultText);

@@ -25,8 +25,11 @@ Colour BoxBorder(Colour area, Colour box, Colour text);
 // Text of second rank, as of what is switched off.
 Colour FaintText(Colour ground, Colour text);
 
-// A colour where it can be read on its ground, else the better of black and white.
-Colour Readable(Colour ground, Colour text);
+// The line around an area, that only tells it from another of its kind.
+Colour HairLineOn(Colour ground, Colour text);
+
+// A colour, brought nearer to black or white where it has not so much contrast to its ground.
+Colour Readable(Colour ground, Colour colour, double least = 4.5);
 
 // The one colour that leads the eye to what is chosen, ticked and pressed by Enter: that of the results, or
 // of the text where the results' cannot be told from the ground.

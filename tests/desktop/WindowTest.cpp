@@ -5,9 +5,13 @@
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QTableView>
 
+#include "desktop/SchemePalette.h"
+#include "forms/ColourSchemes.h"
+#include "forms/ColourShades.h"
 #include "forms/WinSeek.h"
 #include "tests/desktop/DesktopFixture.h"
 #include "tests/desktop/SampleForm.h"
@@ -38,6 +42,10 @@ protected:
     QPoint PlaceOf(const ListBox& list, int row) {
         QListView& view = Rows(list);
         return view.visualRect(view.model()->index(row, 0)).center();
+    }
+
+    static Colour FromQt(const QColor& colour) {
+        return static_cast<Colour>(colour.red() | colour.green() << 8 | colour.blue() << 16);
     }
 
     bool HasKeyboard(const Control& control) {
@@ -284,6 +292,39 @@ TEST_F(WindowTest, CombosAndGrids) {
     EXPECT_EQ(table.currentIndex().row(), 1);
     Sample->grdCells.SetSize(1, 1);
     EXPECT_EQ(table.model()->rowCount(), 0);
+}
+
+// What the model does not paint goes with what it does; nothing stands unread on its ground.
+TEST_F(WindowTest, ASchemePaintsTheWholeProgram) {
+    Show("frmTRProg");
+    for (const char* scheme : SchemeNames) {
+        SCOPED_TRACE(scheme);
+        TakeScheme(scheme);
+        QMessageBox box;
+        const QPalette palette = box.palette();
+        EXPECT_EQ(palette.color(QPalette::Window), ToQt(SlotColour(slot::Area)));
+        using Role = QPalette::ColorRole;
+        for (const auto& [ground, text] :
+             std::initializer_list<std::pair<Role, Role>>{{QPalette::Window, QPalette::WindowText},
+                                                          {QPalette::Base, QPalette::Text},
+                                                          {QPalette::Button, QPalette::ButtonText},
+                                                          {QPalette::Highlight, QPalette::HighlightedText},
+                                                          {QPalette::ToolTipBase, QPalette::ToolTipText}}) {
+            for (const auto group : {QPalette::Active, QPalette::Disabled}) {
+                const auto colour = [&](Role role) { return FromQt(palette.color(group, role)); };
+                EXPECT_GE(Contrast(colour(ground), colour(text)), 4.5) << group << " " << ground;
+            }
+        }
+        EXPECT_GE(Contrast(FromQt(palette.color(role::Border)), SlotColour(slot::Area)), 3);
+    }
+}
+
+TEST_F(WindowTest, ChangedDataIsBold) {
+    Sample->txtOne.ColourGroup = 2;
+    for (const int text : {slot::Changed, slot::InputText}) {
+        Sample->txtOne.SetColours(SlotColour(slot::InputBack), SlotColour(text));
+        EXPECT_EQ(Edit(Sample->txtOne).font().bold(), text == slot::Changed);
+    }
 }
 
 TEST_F(WindowTest, TheCloseBoxAsksTheForm) {

@@ -1,5 +1,5 @@
 // Writes a picture of each window of the suite to a folder, filled with the worked examples, for the guide
-// and for whoever changes a layout: quillmetra-screens FOLDER
+// and for whoever changes a layout: quillmetra-screens FOLDER [SCHEME]
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
@@ -21,6 +21,7 @@
 #include "desktop/DesktopHost.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Painting.h"
+#include "forms/ColourSchemes.h"
 #include "forms/RegisterForms.h"
 #include "platform/Forms.h"
 #include "platform/TextFiles.h"
@@ -391,7 +392,7 @@ void ShootPrintControl() {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    if (argc != 2) return 2;
+    if (argc < 2) return 2;
     Folder = argv[1];
     UseSuiteStyle();
     QApplication::setFont(QFont("DejaVu Sans", 9));
@@ -406,6 +407,7 @@ int main(int argc, char** argv) {
     const std::string home = SuitePath(folder);
     SeedShippedData(home);
     StartUp(home);
+    if (argc > 2) TakeScheme(argv[2]);
     Shoot("browser");
     Click("frmTRProg", "cmdOK");
     Shoot("selector");

@@ -5,15 +5,16 @@ namespace quillmetra::layout {
 
 Node Identification() {
     return Panel("", Table({{"lblTagNum", Item("txtTagNum").Wide(22), "lblFluid",
-                             Item("txtFluid").Wide(30).Grow(), Item("cmdFormLayout").Wide(14)}}));
+                             Item("txtFluid").Wide(30).Grow(), Item("cmdFormLayout").Wide(14)}})
+                         .Wide(LabelDigits));
 }
 
 Node Signatures() {
-    return Panel("Prepared", Column({Table({{"lblBy", Item("txtBy").Wide(16).Grow()},
-                                            {"lblApprov", Item("txtApprov").Wide(16).Grow()},
-                                            {"lblDate", "cmdDate"}}),
-                                     "lblComments", Item("txtComments(0)").Wide(24).Grow(),
-                                     Item("txtComments(1)").Wide(24).Grow(), Stretch()}));
+    return Panel("Prepared", Table({{"lblBy", Item("txtBy").Wide(24).Grow()},
+                                    {"lblApprov", Item("txtApprov").Wide(24).Grow()},
+                                    {"lblDate", Row({Item("cmdDate").Wide(12), Stretch()})},
+                                    {"lblComments", Item("txtComments(0)").Wide(24).Grow()},
+                                    {"", Item("txtComments(1)").Wide(24).Grow()}}));
 }
 
 Node Basis() {

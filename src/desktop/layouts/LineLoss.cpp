@@ -6,28 +6,32 @@ namespace quillmetra::layout {
 namespace {
 
 Node Line() {
-    return Panel("Line", Table({{"lblInletPipeLen", "txtInletPipeLen", "cmdUnits(25)", "", Stretch(),
-                                 "lblInletPipeElev", "txtInletPipeElev", "unInletPipeElev"},
-                                {"lblInletPipeID", "txtInletPipeID", "cmdUnits(18)", "cmdPipeID", "",
-                                 "lblOutletPipeElev", "txtOutletPipeElev", "unOutletPipeElev"},
-                                {"lblPipeCond", "txtPipeCond", Words("%"), "", "", "lblMatl", "cmdMatl"}}));
+    const auto box = [](const char* name) { return Item(name).Wide(CaseDigits); };
+    return Panel(
+        "Line",
+        Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "", Stretch(), "lblInletPipeElev",
+                box("txtInletPipeElev"), "unInletPipeElev"},
+               {"lblInletPipeID", box("txtInletPipeID"), "cmdUnits(18)", "cmdPipeID", "", "lblOutletPipeElev",
+                box("txtOutletPipeElev"), "unOutletPipeElev"},
+               {"lblPipeCond", box("txtPipeCond"), Words("%").Centred(), "", "", "lblMatl", "cmdMatl"}})
+            .Wide(LabelDigits));
 }
 
 Node Fittings() {
-    std::vector<Node> names, counts;
+    std::vector<Node> names = {Words("Valves and fittings").Bold()}, counts = {""};
     for (const char* fitting : {"Gate", "Globe", "Check", "90Deg", "45Deg", "Thru", "Branch"}) {
         names.push_back(Item(std::string("lblInlet").append(fitting)).Centred());
         counts.push_back(Item(std::string("txtInlet").append(fitting)).Wide(7));
     }
     for (Node part : {Stretch(), Item("chkEntrance"), Item("chkExit")}) counts.push_back(std::move(part));
-    return Panel("Valves and fittings", Table({std::move(names), std::move(counts)}));
+    return Panel("", Table({std::move(names), std::move(counts)}).Wide(LabelDigits));
 }
 
 Node Direction() { return Panel("Direction", Column({"optDestination", "optSource", Stretch()})); }
 
 Node CasesAndResults(std::vector<std::vector<Node>> rows) {
-    rows.push_back({"lblEquivLen", Item("txtEquivLen").Wide(10).Grow(), "unEquivLen"});
-    return Panel("Cases and results", Column({Table(std::move(rows)), Stretch()}));
+    rows.push_back({"lblEquivLen", Item("txtEquivLen").Wide(CaseDigits), "unEquivLen"});
+    return Panel("", Column({Table(std::move(rows)).Wide(LabelDigits), Stretch()}));
 }
 
 }  // namespace
@@ -37,16 +41,17 @@ std::vector<Node> CalculateRow() {
 }
 
 std::vector<Node> CaseHeads() {
-    return {Stretch(), Item("lblCase(0)").Centred(), Item("lblCase(1)").Centred(),
+    return {Words("Cases and results").Bold(), Item("lblCase(0)").Centred(), Item("lblCase(1)").Centred(),
             Item("lblCase(2)").Centred()};
 }
 
 Node LineLoss(std::vector<std::vector<Node>> rows) {
     return Frame("Picture1", Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
-                                     Row({CasesAndResults(std::move(rows)).Grow(),
-                                          Column({Signatures(), Basis(), Item("pltLine").Grow()})})
+                                     Row({CasesAndResults(std::move(rows)),
+                                          Column({Signatures(), Basis(), Item("pltLine").Grow()}).Grow()})
                                          .Grow(),
-                                     Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")}));
+                                     Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")}))
+        .Bare();
 }
 
 }  // namespace quillmetra::layout

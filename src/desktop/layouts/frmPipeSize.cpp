@@ -4,13 +4,12 @@
 namespace quillmetra::layout {
 
 Node frmPipeSize() {
-    return Column(
-        {Panel(
-             "",
-             Column({Row({"lblNomSize", Item("txtNomSize").Wide(10), "lblPipeUnits", Stretch(), "cmdSearch"}),
-                     "lblPipeSize", Item("lstPipeSize").Wide(40).Tall(14).Typed().Grow(), "lblConvertUnits"}))
-             .Grow(),
-         Buttons({"cmdOK", "cmdCancel"})});
+    return Column({Panel("", Column({Row({"lblNomSize", Item("txtNomSize").Wide(10), "lblPipeUnits",
+                                          Stretch(), "cmdSearch"}),
+                                     "lblPipeSize", Item("lstPipeSize").Wide(40).Tall(14).Typed().Grow(),
+                                     Item("lblConvertUnits").Collapsing()}))
+                       .Grow(),
+                   Buttons({"cmdOK", "cmdCancel"})});
 }
 
 }  // namespace quillmetra::layout

@@ -10,24 +10,25 @@ Node Strip(int first, int last) {
     std::vector<Node> names;
     std::vector<Node> boxes;
     for (int i = first; i <= last; ++i) {
-        names.push_back(Item("lblColumn", i));
-        boxes.push_back(Item("txtHole", i).Wide(i == 1 ? 28 : 9));
+        names.push_back(Item("lblColumn", i).Collapsing());
+        boxes.push_back(Item("txtHole", i).Wide(i == 1 ? 28 : 9).Collapsing());
     }
     return Row({Table({std::move(names), std::move(boxes)}), Stretch()});
 }
 
 Node Notes() {
-    return Frame("picValveNotes",
-                 Row({Column({"lblNote1", "lblNote2", "lblNote3"}).Grow(), Column({"cmdCancel", Stretch()})}))
-        .Grow();
+    return Frame("picValveNotes", Row({Column({"lblNote1", "lblNote2", "lblNote3"}).Grow(),
+                                       Column({"cmdCancel", Stretch()})}));
 }
 
 }  // namespace
 
 Node frmTables() {
     return Column(
-        {Panel("", Column({"lblHeading", Item("grdTable").Wide(110).Tall(21).Grow()})).Grow(),
-         Panel("", Column({Strip(1, 8), Strip(9, 17)})), Over(Column({}), {Notes()}).Tall(5),
+        {Panel("",
+               Column({"lblHeading", Row({Item("grdTable").Wide(110).Tall(14).Grow(), Reserve(29)}).Grow()}))
+             .Grow(),
+         Panel("", Column({Strip(1, 8), Strip(9, 17)})), Notes(),
          Panel("", Row({"lblRecall", Item("txtRecall").Wide(8), "cmdRecall", "cmdLoadRow", "cmdInsertRow",
                         "cmdDeleteRow", Stretch(), "lblRow", Item("lblRowNum").Wide(6), "cmdClear"})),
          Buttons({"cmdSaveGrid", "cmdReloadGrid", "cmdCancelGrid"})});

@@ -7,48 +7,54 @@ namespace quillmetra::layout {
 namespace {
 
 std::vector<Node> Value(const char* label, const char* box, const char* unit) {
-    return {label, Item(box).Wide(12).Grow(), unit};
+    return {label, Item(box).Wide(CaseDigits), Item(unit).Centred()};
+}
+
+// A row that is there only for a time, without which the others close up.
+std::vector<Node> PassingValue(const char* label, const char* box, const char* unit) {
+    return {Item(label).Collapsing(), Item(box).Wide(CaseDigits).Collapsing(),
+            Item(unit).Centred().Collapsing()};
 }
 
 Node Liquid() {
-    return Panel("Liquid", Column({Table({{"lblMaxLiqFlow", Item("txtMaxLiqFlow").Wide(12).Grow(),
+    return Panel("Liquid", Column({Table({{"lblMaxLiqFlow", Item("txtMaxLiqFlow").Wide(CaseDigits),
                                            "cmdUnits(1)", Item("lblLiqTestBasis").Wide(4)},
                                           Value("lblFlowTemp", "txtFlowTemp", "cmdUnits(2)"),
                                           Value("lblOperPressure", "txtOperPressure", "cmdUnits(3)"),
                                           Value("lblSGFlow", "txtSGFlow", "cmdUnits(6)"),
-                                          Value("lblBulkModulus", "txtBulkModulus", "cmdUnits(27)")}),
+                                          Value("lblBulkModulus", "txtBulkModulus", "cmdUnits(27)"),
+                                          {"", "cmdCalculateliq"}})
+                                       .Wide(LabelDigits),
                                    Stretch()}));
 }
 
 Node Line() {
-    return Panel("Line",
-                 Column({Table({Value("lblLineLength", "txtLineLength", "cmdUnits(25)"),
-                                {"lblPipeID", Item("txtPipeID").Wide(12).Grow(), "cmdUnits(18)", "cmdPipeID"},
-                                Value("lblPipeWall", "txtPipeWall", "UnpipeWall"),
-                                {"lblPipeMatl", Item("txtPipeMatl").Wide(22).Grow(), "", "cmdPipeMatl"},
-                                Value("lblLineModulus", "txtLineModulus", "unLineModulus"),
-                                Value("lblMaxAllowPressure", "txtMaxAllowPressure", "unMaxAllowPressure")}),
-                         Stretch()}));
+    return Panel(
+        "Line",
+        Column(
+            {Table({{"lblLineLength", Item("txtLineLength").Wide(CaseDigits), "cmdUnits(25)", "", Stretch()},
+                    {"lblPipeID", Item("txtPipeID").Wide(CaseDigits), "cmdUnits(18)", "cmdPipeID"},
+                    Value("lblPipeWall", "txtPipeWall", "UnpipeWall"),
+                    {"lblPipeMatl", Item("txtPipeMatl").Wide(CaseDigits).Across(2), "", "cmdPipeMatl"},
+                    Value("lblLineModulus", "txtLineModulus", "unLineModulus"),
+                    Value("lblMaxAllowPressure", "txtMaxAllowPressure", "unMaxAllowPressure")}),
+             Stretch()}));
 }
 
-Node Critical() {
-    return Panel("Critical closing time conditions",
-                 Table({Value("lblCriticalTime", "txtCriticalTime", "unCriticalTime"),
-                        Value("lblWaveVelocity", "txtWaveVelocity", "unWaveVelocity"),
-                        Value("lblPressureWave", "txtPressureWave", "unPressureWave"),
-                        Value("lblSupportForce", "txtSupportForce", "unSupportForce")}));
-}
-
-Node Minimum() {
-    return Panel("Closing time for allowable pressure",
-                 Table({Value("lblCloseTime", "txtCloseTime", "unCloseTime")}));
-}
-
-Node Selected() {
-    return Panel("Selected closing time conditions",
-                 Table({Value("lblSelectedTime", "txtSelectedTime", "unSelectedTime"),
-                        Value("lblSelectedWave", "txtSelectedWave", "unSelectedWave"),
-                        Value("lblSelectedForce", "txtSelectedForce", "unSelectedForce")}));
+Node Results() {
+    return Panel("", Column({Table({{Heading("Critical closing time conditions")},
+                                    Value("lblCriticalTime", "txtCriticalTime", "unCriticalTime"),
+                                    Value("lblWaveVelocity", "txtWaveVelocity", "unWaveVelocity"),
+                                    Value("lblPressureWave", "txtPressureWave", "unPressureWave"),
+                                    Value("lblSupportForce", "txtSupportForce", "unSupportForce"),
+                                    {Heading("Closing time for allowable pressure")},
+                                    Value("lblCloseTime", "txtCloseTime", "unCloseTime"),
+                                    {Heading("Selected closing time conditions")},
+                                    PassingValue("lblSelectedTime", "txtSelectedTime", "unSelectedTime"),
+                                    Value("lblSelectedWave", "txtSelectedWave", "unSelectedWave"),
+                                    Value("lblSelectedForce", "txtSelectedForce", "unSelectedForce")})
+                                 .Wide(LabelDigits),
+                             Stretch()}));
 }
 
 Node Moduli() {
@@ -59,14 +65,12 @@ Node Moduli() {
 }  // namespace
 
 Node frmWaterHammer() {
-    return Over(
-        Frame(
-            "Picture1",
-            Column({Identification(), Row({Liquid().Grow(), Line().Grow()}),
-                    Row({Column({Critical(), Minimum(), Selected(), Buttons({"cmdCalculateliq"}), Stretch()}),
-                         Item("pltClosing").Grow(), Column({Signatures(), Basis(), Stretch()})})
-                        .Grow()})),
-        {Fluids("fraLiquidData"), Components(), Moduli()});
+    return Over(Frame("Picture1", Column({Identification(), Row({Liquid(), Line().Grow()}),
+                                          Row({Results(), Item("pltClosing").Grow(), Reserve(22),
+                                               Column({Signatures(), Basis(), Stretch()})})
+                                              .Grow()}))
+                    .Bare(),
+                {Fluids("fraLiquidData"), Components(), Moduli()});
 }
 
 }  // namespace quillmetra::layout
