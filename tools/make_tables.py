@@ -27,46 +27,86 @@ FLUID_ROW_LENGTH = 110
 SIZE_LENGTH = 4
 
 
+
+@dataclass(frozen=True)
+class Source:
+    """A file of tools/reference; the rows whose column holds a value, and of these the columns from the first on."""
+
+    file: str
+    column: int = 0
+    value: str = ""
+    first: int = 0
+
+
 @dataclass(frozen=True)
 class Table:
     file: str
-    source: str
+    sources: tuple
     heading: str
+    ascends: bool = False  # rows go by name, those of all sources together; else one source follows the other
     name_width: int = 0  # 0: the name is not padded
     row_length: int = 0  # 0: no limit
+
+
+PIPE_HEADING = "Nominal Size,Schedule,Inside Diameter,Wall Thickness"
+
+# Pipe of other diameters than those of steel pipe at the same nominal size: a file a family.
+PIPE_FAMILIES = (
+    "W-PVC.TXT",
+    "W-PVCW.TXT",
+    "W-HDPE.TXT",
+    "W-HDPEM.TXT",
+    "W-DUCT.TXT",
+    "W-DUCTM.TXT",
+    "W-COPPER.TXT",
+    "W-TUBE.TXT",
+    "W-METRIC.TXT",
+)
+
+
+def pipes_of(file):
+    return Source("more_pipes.csv", 6, file)
 
 
 TABLES = (
     Table(
         "Liquid.txt",
-        "liquids.csv",
+        (Source("liquids.csv"), Source("more_liquids.csv")),
         "Name,Tp,MW,Base SG,Crit Temp,Tr1,U1cp,Tr2,U2cp,CritP,NormBP,"
         "cP60,cP300,Flash,BulkMod,slope,bpLHV",
+        ascends=True,
         name_width=31,
         row_length=FLUID_ROW_LENGTH,
     ),
     # gases.csv holds the true figures; this set holds those with which the suite's formulas give them.
     Table(
         "Gas.txt",
-        "gases_formula.csv",
+        (Source("gases_formula.csv"), Source("more_gases.csv")),
         "Name,Tp,CritV,NormBP,MW,CritTem,Tr1,U1cp,Tr2,U2cp,CritP,cP1,cP2,bpLHV,GasPrp",
+        ascends=True,
         name_width=31,
         row_length=FLUID_ROW_LENGTH,
     ),
-    Table("W-PIPE.TXT", "pipes.csv", "Nominal Size,Schedule,Inside Diameter,Wall Thickness"),
+    Table("W-PIPE.TXT", (Source("pipes.csv"), pipes_of("W-PIPE.TXT")), PIPE_HEADING),
+    *(Table(file, (pipes_of(file),), PIPE_HEADING) for file in PIPE_FAMILIES),
     Table(
         "Modulus.txt",
-        "modulus.csv",
+        (Source("modulus.csv"), Source("more_materials.csv", 0, "modulus", 1)),
         "Name,70,100,200,300,400,500,600,700,800,900,1000,1100,1200,Max Temp",
         name_width=23,
     ),
-    # Filed under row number: new materials go at the end of expansion.csv, and none is taken out.
-    Table("MaTLDAT.TXT", "expansion.csv", "Name,Below 340 degF,Above 340 degF", name_width=31),
+    # Filed under row number: new materials go at the end, and none is taken out.
+    Table(
+        "MaTLDAT.TXT",
+        (Source("expansion.csv"), Source("more_materials.csv", 0, "expansion", 1)),
+        "Name,Below 340 degF,Above 340 degF",
+        name_width=31,
+    ),
 )
 
 
 def refuse(table, line, why):
-    sys.exit(f"{table.source} line {line}: {why}")
+    sys.exit(f"{table.file}, {line}: {why}")
 
 
 def format_row(table, fields):
@@ -103,28 +143,40 @@ def check_pipe(table, line, fields, last_size):
     return float(size)
 
 
-def make_table(table):
-    heading = table.heading.split(",")
-    rows = [format_row(table, heading)]
-    # Every line of a fluid table keeps to the length of a row; a longer heading goes without its padding.
-    if table.row_length and len(rows[0]) > table.row_length:
-        rows = [table.heading + ","]
-    names = set()
-    last_size = 0.0
-    with open(REFERENCE / table.source, newline="", encoding="utf-8") as source:
-        reader = csv.reader(source)
+def rows_of(source, count):
+    """Where each row stands, and its fields."""
+    with open(REFERENCE / source.file, newline="", encoding="utf-8") as file:
+        reader = csv.reader(file)
         next(reader)  # the reference's heading
         for fields in reader:
-            line = reader.line_num
-            if len(fields) != len(heading) or any("," in field for field in fields):
-                refuse(table, line, f"not {len(heading)} fields free of commas")
-            row = format_row(table, fields)
-            if table.name_width:
-                check_fluid_or_material(table, line, fields, row, names)
-            else:
-                last_size = check_pipe(table, line, fields, last_size)
-            rows.append(row)
-    return "".join(row + "\r\n" for row in rows).encode("cp1252")
+            if source.value and fields[source.column] != source.value:
+                continue
+            # A table that has no use for some columns has its own behind them.
+            held = [field for field in fields[source.first :] if field or not source.first]
+            yield f"{source.file} line {reader.line_num}", held[:count]
+
+
+def make_table(table):
+    heading = table.heading.split(",")
+    lines = [format_row(table, heading)]
+    # Every line of a fluid table keeps to the length of a row; a longer heading goes without its padding.
+    if table.row_length and len(lines[0]) > table.row_length:
+        lines = [table.heading + ","]
+    rows = [row for source in table.sources for row in rows_of(source, len(heading))]
+    if table.ascends:
+        rows.sort(key=lambda row: row[1][0].lower())
+    names = set()
+    last_size = 0.0
+    for line, fields in rows:
+        if len(fields) != len(heading) or any("," in field for field in fields):
+            refuse(table, line, f"not {len(heading)} fields free of commas")
+        row = format_row(table, fields)
+        if table.name_width:
+            check_fluid_or_material(table, line, fields, row, names)
+        else:
+            last_size = check_pipe(table, line, fields, last_size)
+        lines.append(row)
+    return "".join(line + "\r\n" for line in lines).encode("cp1252")
 
 
 def main():

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "core/PhysicalConstants.h"
+#include "core/PipeFamilies.h"
 #include "core/Suite.h"
 #include "core/Version.h"
 #include "platform/Forms.h"
@@ -30,11 +31,15 @@ struct ShippedFile {
 };
 
 constexpr std::array ShippedFiles = {
-    ShippedFile{"Liquid.txt", "\\TRData\\"},  ShippedFile{"Gas.txt", "\\TRData\\"},
-    ShippedFile{"W-PIPE.TXT", "\\TRData\\"},  ShippedFile{"Modulus.txt", "\\TRData\\"},
-    ShippedFile{"MaTLDAT.TXT", "\\TRData\\"}, ShippedFile{"STEAM.txt", "\\"},
-    ShippedFile{"Stm07.Dat", "\\"},           ShippedFile{"Light.txt", "\\TRData\\"},
-    ShippedFile{"Dark.txt", "\\TRData\\"},    ShippedFile{"High contrast.txt", "\\TRData\\"},
+    ShippedFile{"Liquid.txt", "\\TRData\\"},
+    ShippedFile{"Gas.txt", "\\TRData\\"},
+    ShippedFile{"Modulus.txt", "\\TRData\\"},
+    ShippedFile{"MaTLDAT.TXT", "\\TRData\\"},
+    ShippedFile{"STEAM.txt", "\\"},
+    ShippedFile{"Stm07.Dat", "\\"},
+    ShippedFile{"Light.txt", "\\TRData\\"},
+    ShippedFile{"Dark.txt", "\\TRData\\"},
+    ShippedFile{"High contrast.txt", "\\TRData\\"},
     ShippedFile{"Classic.txt", "\\TRData\\"},
 };
 
@@ -117,6 +122,8 @@ void SeedShippedData(const std::string& programFolder) {
     const std::string tables = programFolder + "\\TRData";
     if (!fs::exists(MachinePath(tables), ignored)) CopyShipped(source / FirstScheme, tables + ColourFile);
     for (const auto& [name, place] : ShippedFiles) CopyShipped(source / name, programFolder + place + name);
+    for (const PipeFamily& family : PipeFamilies)
+        CopyShipped(source / family.File, tables + "\\" + family.File);
 }
 
 void StartUp(const std::string& programFolder) {

@@ -46,6 +46,7 @@ struct SuiteState {
     std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;
     int PrintFromPage = 0, PrintToPage = 0;  // 0: all pages
     int PrintCopies = 1;
+    std::string PipeFamily;                 // the pipe lookup's file; empty for the first family
     std::string TableKind;                  // the table that the editor is to open: "Gas", "Liquid", ...
     std::string TableFileName, TableModel;  // of a table whose file its caller names; else empty
 };

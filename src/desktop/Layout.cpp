@@ -28,6 +28,7 @@ constexpr Entry Layouts[] = {
     {"frmTables", frmTables},
     {"WinSeek", WinSeek},
     {"frmPrintControl", frmPrintControl},
+    {"frmShippedRows", frmShippedRows},
 };
 }  // namespace
 

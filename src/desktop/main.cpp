@@ -15,6 +15,7 @@
 #include "desktop/OneInstance.h"
 #include "desktop/Painting.h"
 #include "desktop/StartTime.h"
+#include "forms/frmShippedRows.h"
 #include "forms/RegisterForms.h"
 #include "forms/UnsavedWork.h"
 #include "platform/Forms.h"
@@ -74,7 +75,10 @@ int main(int argc, char** argv) {
     QTimer minute;
     QObject::connect(&minute, &QTimer::timeout, [] { quillmetra::KeepUnsavedWork(); });
     minute.start(std::chrono::minutes(1));
-    QTimer::singleShot(0, [] { quillmetra::OfferRecovery(); });
+    QTimer::singleShot(0, [] {
+        quillmetra::TellOfShippedRows();
+        quillmetra::OfferRecovery();
+    });
     const int result = quillmetra::ProcessHasEnded() ? 0 : QApplication::exec();
     quillmetra::ResetForms();
     return result;

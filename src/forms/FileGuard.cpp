@@ -21,10 +21,10 @@ namespace {
 namespace fs = std::filesystem;
 
 // What the suite reads from its folders, beside its tables.
-constexpr std::array OwnFiles = {"TRDRV.txt",   "TRcolr.txt", "TRSTP.TXT",        "TRUNS.txt",
-                                 "TRLib.TXT",   "TRHDG.txt",  "STEAM.txt",        "Background.TXT",
-                                 "Stm07.Dat",   "VOTR.HLP",   "TRDB.BAK",         "TRDB.BAD",
-                                 "TRRECOV.MDB", "Dark.txt",   "High contrast.txt"};
+constexpr std::array OwnFiles = {"TRDRV.txt",   "TRcolr.txt", "TRSTP.TXT", "TRUNS.txt",
+                                 "TRLib.TXT",   "TRHDG.txt",  "STEAM.txt", "Background.TXT",
+                                 "Stm07.Dat",   "VOTR.HLP",   "TRDB.BAK",  "TRDB.BAD",
+                                 "TRRECOV.MDB", "TRSHIP.TXT", "Dark.txt",  "High contrast.txt"};
 
 bool IsOwnName(const std::string& name) {
     const auto same = [&name](std::string_view own) { return SameName(own, name); };

@@ -13,6 +13,7 @@
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
 #include "forms/frmPrintControl.h"
+#include "forms/frmShippedRows.h"
 #include "forms/frmTables.h"
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
@@ -50,6 +51,7 @@ constexpr FormEntry FormTable[] = {
     {"frmPipeSize", MakeForm<frmPipeSize>, 411},
     {"frmPrintControl", MakeForm<frmPrintControl>, 417},
     {"frmTables", MakeForm<frmTables>, 415},
+    {"frmShippedRows", MakeForm<frmShippedRows>, 416},
     {"frmWaterHammer", MakeForm<frmWaterHammer>, 403},
     {"frmUnits", MakeForm<frmUnits>, 412},
     {"frmCalcOptions", MakeForm<frmCalcOptions>, 413},

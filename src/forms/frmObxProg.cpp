@@ -2,6 +2,7 @@
 #include "forms/frmObxProg.h"
 
 #include "core/CalcRecord.h"
+#include "core/PipeFamilies.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -31,6 +32,14 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
     for (const auto& [entry, table] : tables) {
         entry->Click = [keyWord = table->KeyWord] { EditTable(keyWord); };
     }
+    static_assert(PipeFamilies.size() == 10, "an entry for each family but the first");
+    mnuPipeFamily.Each([](MenuItem& entry, int index) {
+        const PipeFamily& family = PipeFamilies[static_cast<std::size_t>(index)];
+        entry.SetCaption("&" + std::to_string(index) + "  " + family.Name);
+        entry.Click = [file = family.File] { EditTable(table::PipeFamily.KeyWord, {.FileName = file}); };
+    });
+    mnuShippedRows.SeparatorBefore = true;
+    mnuShippedRows.Click = [] { ShowForm("frmShippedRows", Modal::Yes); };
     fraProgram.ColourGroup = 1;
     for (const Program& program : Programs) {
         OptionButton& option = optProgram(program.Number);

@@ -1,10 +1,12 @@
 // See frmPipeSize.h.
 #include "forms/frmPipeSize.h"
 
+#include <algorithm>
+
+#include "core/Suite.h"
 #include "forms/ColourSchemes.h"
 #include "platform/Dialogs.h"
-#include "tables/PipeSizes.h"
-#include "tables/TableDescriptions.h"
+#include "platform/TextCase.h"
 
 namespace quillmetra {
 
@@ -22,9 +24,14 @@ frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
     cmdSearch.SetToolTip("Finds a size such as 6, 0.5, 1/2 or 1 1/2");
     txtNomSize.Describe(&lblNomSize, &lblPipeUnits);
     lstPipeSize.Describe(&lblPipeSize);
-    for (Label* label : {&lblNomSize, &lblPipeUnits, &lblPipeSize, &lblConvertUnits}) label->ColourGroup = 1;
+    lstFamily.Describe(&lblFamily);
+    for (Label* label :
+         {&lblNomSize, &lblPipeUnits, &lblPipeSize, &lblConvertUnits, &lblFamily, &lblFamilyNote}) {
+        label->ColourGroup = 1;
+    }
     txtNomSize.ColourGroup = 2;
     lstPipeSize.ColourGroup = 4;
+    lstFamily.ColourGroup = 4;
     cmdSearch.SetEnabled(false);
     lstPipeSize.SetEnabled(false);
     cmdOK.SetEnabled(false);
@@ -34,16 +41,27 @@ frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
     cmdSearch.Click = [this] { cmdSearch_Click(); };
     lstPipeSize.Click = [this] { lstPipeSize_Click(); };
     lstPipeSize.DoubleClick = [this] { cmdOK_Click(); };
+    lstFamily.Click = [this] { lstFamily_Click(); };
     cmdOK.Click = [this] { cmdOK_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmPipeSize::Load() { ApplyColours(*this); }
+void frmPipeSize::Load() {
+    ApplyColours(*this);
+    families_ = PipeFiles();
+    std::vector<std::string> names;
+    for (const PipeFile& each : families_) names.push_back(each.Name);
+    lstFamily.SetRows(std::move(names));
+    const std::string file = PipeFamilyFile();
+    const auto inHand =
+        std::ranges::find_if(families_, [&](const PipeFile& each) { return SameName(each.File, file); });
+    lstFamily.Select(inHand == families_.end() ? 0 : static_cast<int>(inHand - families_.begin()));
+}
 
-// Enter searches while the size is being typed, and takes the selected row afterwards.
+// Enter searches while the size is being typed or a family chosen, and takes the selected row afterwards.
 void frmPipeSize::ControlGotFocus(Control& control) {
     SuiteForm::ControlGotFocus(control);
-    DefaultButton = &control == &txtNomSize ? &cmdSearch : &cmdOK;
+    DefaultButton = &control == &txtNomSize || &control == &lstFamily ? &cmdSearch : &cmdOK;
 }
 
 // A fraction is a size too; the search tells of what is none.
@@ -64,7 +82,7 @@ void frmPipeSize::cmdSearch_Click() {
         const BusyPointer busy;
         lines = FindPipeSizes(txtNomSize.Text());
     } catch (const RuntimeError&) {
-        Tell("File " + std::string(table::Pipe.FileName), FileTitle);
+        Tell("File " + PipeFamilyFile(), FileTitle);
         return;
     }
     if (lines.empty()) {
@@ -80,6 +98,13 @@ void frmPipeSize::cmdSearch_Click() {
 }
 
 void frmPipeSize::lstPipeSize_Click() { cmdOK.SetEnabled(true); }
+
+void frmPipeSize::lstFamily_Click() {
+    const PipeFile& family = families_.at(static_cast<std::size_t>(std::max(0, lstFamily.Selected())));
+    Suite.PipeFamily = family.File;
+    lblFamilyNote.SetCaption(family.Note);
+    lstPipeSize.Clear();
+}
 
 void frmPipeSize::cmdOK_Click() {
     if (lstPipeSize.Selected() < 0) {

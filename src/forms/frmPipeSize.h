@@ -2,7 +2,10 @@
 // form that opened the dialog. What it looks up and returns is in tables/PipeSizes.h.
 #pragma once
 
+#include <vector>
+
 #include "forms/SuiteForm.h"
+#include "tables/PipeSizes.h"
 
 namespace quillmetra {
 
@@ -22,14 +25,21 @@ public:
     Label lblPipeSize{*this, "lblPipeSize", "Si&ze, schedule, inside diameter, wall"};
     ListBox lstPipeSize{*this, "lstPipeSize"};
     Label lblConvertUnits{*this, "lblConvertUnits"};
+    Label lblFamily{*this, "lblFamily", "&Family"};
+    ListBox lstFamily{*this, "lstFamily"};
+    Label lblFamilyNote{*this, "lblFamilyNote"};
     CommandButton cmdOK{*this, "cmdOK", "OK"};
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
     void txtNomSize_Change();
     void cmdSearch_Click();
     void lstPipeSize_Click();
+    void lstFamily_Click();
     void cmdOK_Click();
     void cmdCancel_Click();
+
+private:
+    std::vector<PipeFile> families_;  // a row of lstFamily each
 };
 
 }  // namespace quillmetra

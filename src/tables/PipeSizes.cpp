@@ -4,13 +4,19 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <filesystem>
 #include <regex>
+#include <set>
 
 #include "core/CalcRecord.h"
+#include "core/PipeFamilies.h"
+#include "core/Suite.h"
 #include "core/Words.h"
 #include "platform/Arithmetic.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/TextCase.h"
+#include "platform/TextFiles.h"
 #include "tables/TableFiles.h"
 #include "units/Rounding.h"
 
@@ -91,7 +97,8 @@ double TargetSize(std::string_view typed) {
 std::vector<std::string> RowsOfSize(double target) {
     std::vector<std::string> kept;
     double keptSize = 0;
-    for (std::string& row : ReadTable(table::Pipe)) {
+    const std::string family = PipeFamilyFile();
+    for (std::string& row : ReadTable(table::PipeFamily, {.FileName = family})) {
         const double size = Val(std::string_view(row).substr(0, SizeLength));
         if (size > target || size <= 0 || size < keptSize) continue;
         if (size > keptSize) kept.clear();
@@ -151,6 +158,38 @@ void PreparePipeUnits() {
     ControlOf(Dialog, "lblPipeUnits").SetCaption(word);
     ControlOf(Dialog, "lblConvertUnits").SetCaption(converts ? "Units will be Converted" : "");
     ShowForm(Dialog, Modal::Yes);
+}
+
+namespace {
+
+// The names of all files W-*.TXT in the folder of the tables, in order.
+std::set<std::string> FilesOfPipe() {
+    std::set<std::string> files;
+    std::error_code ignored;
+    const auto folder = MachinePath(Suite.DefaultPaths[path::DataFiles]);
+    for (const auto& entry : std::filesystem::directory_iterator(folder, ignored)) {
+        const std::string name = SuitePath(entry.path().filename()), lower = LowerCase(name);
+        if (lower.starts_with("w-") && lower.ends_with(".txt")) files.insert(name);
+    }
+    return files;
+}
+
+}  // namespace
+
+std::vector<PipeFile> PipeFiles() {
+    std::set<std::string> there = FilesOfPipe();
+    std::vector<PipeFile> files;
+    for (const PipeFamily& family : PipeFamilies) {
+        const auto isFamily = [&](const std::string& file) { return SameName(file, family.File); };
+        const bool found = std::erase_if(there, isFamily) > 0;
+        if (found || files.empty()) files.push_back({family.File, family.Name, family.Note});
+    }
+    for (const std::string& file : there) files.push_back({file, file, ""});
+    return files;
+}
+
+std::string PipeFamilyFile() {
+    return Suite.PipeFamily.empty() ? PipeFamilies.front().File : Suite.PipeFamily;
 }
 
 std::vector<std::string> FindPipeSizes(std::string_view nominalSize) {

@@ -1,5 +1,6 @@
-// The pipe size lookup: finds the rows of W-PIPE.TXT for a nominal size, in inches or in millimetres by the
-// unit of the pipe's diameter, and returns the chosen row to the form that asked.
+// The pipe size lookup: finds the rows of a family of pipe for a nominal size, in inches or in millimetres by
+// the unit of the pipe's diameter, and returns the chosen row to the form that asked. The family in hand is
+// Suite.PipeFamily, W-PIPE.TXT until another one is chosen.
 //
 // The form that opens it puts its own word into MessageText (words::PipeLiquidLoss and its like).
 #pragma once
@@ -24,6 +25,16 @@ inline constexpr std::size_t PipeSizeOffset = 33;
 
 // Sets the lookup's unit rows from the unit of the diameter and shows the dialog; returns when it is closed.
 void PreparePipeUnits();
+
+// What can be looked up in the folder of the tables: W-PIPE.TXT, the other families of the suite that are
+// there, and what else is named W-*.TXT, which goes by the name of its file.
+struct PipeFile {
+    std::string File, Name, Note;
+};
+std::vector<PipeFile> PipeFiles();
+
+// The file in hand.
+std::string PipeFamilyFile();
 
 // The list for a nominal size as typed, in the lookup's unit: the rows of the largest size of the table that
 // is not above it, as "size,schedule,inside diameter,wall," in columns. Empty when there is none. Failures

@@ -2,6 +2,9 @@
 // "Multiplied" where the note says "Divided" have stood for years and are what users know: leave them.
 #include "tables/TableDescriptions.h"
 
+#include <algorithm>
+
+#include "core/PipeFamilies.h"
 #include "core/Suite.h"
 #include "platform/TextCase.h"
 
@@ -276,6 +279,15 @@ const TableDescription Pipe = {.KeyWord = "Pipe",
                                .Kept = KeptRows::All,
                                .Separator = ","};
 
+// A pipe table whose file the caller names.
+const TableDescription PipeFamily = [] {
+    TableDescription family = Pipe;
+    family.KeyWord = "PipeFamily";
+    family.Title = "Pipe Size Data File  {file}";
+    family.FileName = "";
+    return family;
+}();
+
 const TableDescription Modulus = {.KeyWord = "Modulus",
                                   .Title = "Modulus of Elasticity and Max Temperature Data File  Modulus.txt",
                                   .Heading = "Modulus of Elasticity Multiplied by 10^6",
@@ -365,8 +377,9 @@ const TableDescription Elbow = {.KeyWord = "Elbow",
 
 namespace {
 constexpr const TableDescription* AllTables[] = {
-    &table::Valve, &table::Valve3,    &table::Gas,      &table::Liquid, &table::Pipe,    &table::Modulus,
-    &table::Wedge, &table::Rotameter, &table::Material, &table::Ifoa,   &table::Annubar, &table::Elbow};
+    &table::Valve,      &table::Valve3,  &table::Gas,   &table::Liquid,    &table::Pipe,
+    &table::PipeFamily, &table::Modulus, &table::Wedge, &table::Rotameter, &table::Material,
+    &table::Ifoa,       &table::Annubar, &table::Elbow};
 
 template <typename Test>
 const TableDescription* FirstTable(Test test) {
@@ -380,8 +393,9 @@ const TableDescription* FindTable(string_view keyWord) {
 }
 
 bool IsTableFile(string_view fileName) {
-    return FirstTable([&](const TableDescription* each) { return SameName(each->FileName, fileName); }) !=
-           nullptr;
+    const auto isPipe = [&](const PipeFamily& family) { return SameName(family.File, fileName); };
+    const auto isTable = [&](const TableDescription* each) { return SameName(each->FileName, fileName); };
+    return std::ranges::any_of(PipeFamilies, isPipe) || FirstTable(isTable) != nullptr;
 }
 
 std::string TableTitle(const TableDescription& table, const TableVariant& variant) {

@@ -47,15 +47,16 @@ struct TableDescription {
 };
 
 namespace table {
-extern const TableDescription Valve, Valve3, Gas, Liquid, Pipe, Modulus, Material, Wedge, Rotameter, Ifoa,
-    Annubar, Elbow;
+extern const TableDescription Valve, Valve3, Gas, Liquid, Pipe, PipeFamily, Modulus, Material, Wedge,
+    Rotameter, Ifoa, Annubar, Elbow;
 }  // namespace table
 
 // The words that end heading and notes of an annubar table, one for each group of models.
 inline constexpr std::array<std::string_view, 5> AnnubarModels = {
     "Model 10", "Models 15 and 16", "Models 25 and 26", "Models 35 and 36", "Models 45 and 46"};
 
-// What only the caller of a table knows about it: the file of a valve or annubar table, the annubar's model.
+// What only the caller of a table knows about it: the file of a valve, annubar or pipe family's table, the
+// annubar's model.
 struct TableVariant {
     std::string_view FileName{};
     std::string_view Model{};

@@ -6,10 +6,16 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
+#include "core/PipeFamilies.h"
+#include "core/Words.h"
+#include "fluids/FluidTables.h"
+#include "fluids/GasData.h"
 #include "fluids/LiquidCorrelations.h"
+#include "fluids/LiquidData.h"
 #include "platform/NumberText.h"
 #include "tables/TableFiles.h"
 #include "tests/SuiteFixture.h"
@@ -80,8 +86,8 @@ TEST_F(ShippedTables, EveryRowHasItsNameAndItsNumbers) {
         std::size_t LongestLine;
         std::size_t FirstNumber;  // column
     } tables[] = {
-        {table::Liquid, 166, 110, 2}, {table::Gas, 102, 110, 2},     {table::Pipe, 382, 110, 3},
-        {table::Modulus, 31, 110, 2}, {table::Material, 35, 110, 2},
+        {table::Liquid, 251, 110, 2}, {table::Gas, 137, 110, 2},     {table::Pipe, 422, 110, 3},
+        {table::Modulus, 40, 110, 2}, {table::Material, 43, 110, 2},
     };
     for (const auto& each : tables) {
         SCOPED_TRACE(each.Table.FileName);
@@ -124,16 +130,16 @@ TEST_F(ShippedTables, LiquidsBehaveAsLiquids) {
         EXPECT_GT(liquid[9], 0);
 
         // What makes the gravity come out at 60 degF is that of a real fluid, lower where constants of a
-        // solution were fitted. A liquid metal is beyond the equation.
-        if (liquid.Name != "Mercury") {
+        // solution were fitted. A liquid metal and a liquid that associates are beyond the equation.
+        if (liquid.Name != "Mercury" && liquid.Name != "Hydrogen Fluoride") {
             const float factor =
                 CritCompressibilityOf(gravity, criticalTemperature - AbsoluteZero, criticalPressure, weight);
-            EXPECT_GT(factor, type == 1 ? 0.12 : 0.08);
-            EXPECT_LT(factor, 0.33);
+            EXPECT_GT(factor, type == 1 ? 0.12 : 0.04);
+            EXPECT_LT(factor, 0.34);
         }
 
-        EXPECT_GT(liquid[13], 0.97 * liquid[12]) << "specific heat rises, but for metals and strong alkali";
-        EXPECT_GT(liquid[12], 0);
+        EXPECT_GE(liquid[13], 0.85 * liquid[12]) << "specific heat rises, but for metals, acid and alkali";
+        EXPECT_GE(liquid[12], 0) << "specific heat, 0 where it is not known";
         EXPECT_LT(liquid[13], 2);
         EXPECT_GE(liquid[15], 0);
         EXPECT_LT(liquid[15], 5000) << "bulk modulus is entered in psi/1000";
@@ -160,12 +166,14 @@ TEST_F(ShippedTables, GasesBehaveAsGases) {
         SCOPED_TRACE(gas.Name);
         const double criticalPressure = gas[11], tc = gas[6] - AbsoluteZero;
         EXPECT_TRUE(gas[2] == 1 || gas[2] == 2 || gas[2] == 3);
-        // The boiling point of synthesis gas is nitrogen's, above the pseudo-critical temperature of the
-        // mixture.
+        // The boiling point of a mixture that is mostly hydrogen is that of what is in it else, above the
+        // pseudo-critical temperature.
+        const std::set<std::string> hydrogens = {"Synthesis Gas NH3", "Synthesis Gas H2-CO 2-1",
+                                                 "Reformer Hydrogen 90%"};
         if (gas[4] < gas[6])
             ExpectVaporPressureOfAFluid(gas.Name, gas[4], gas[6], criticalPressure);
         else
-            EXPECT_EQ(gas.Name, "Synthesis Gas NH3");
+            EXPECT_TRUE(hydrogens.contains(gas.Name));
         const double factor = criticalPressure * gas[3] * gas[5] / 10.7316 / tc;
         EXPECT_GT(factor, 0.1) << "critical compressibility factor";
         EXPECT_LT(factor, 0.5) << "critical compressibility factor";
@@ -187,7 +195,7 @@ TEST_F(ShippedTables, GasFormulasMeetTheTrueFigures) {
     }
     for (const NumberRow& gas : gases) {
         SCOPED_TRACE(gas.Name);
-        ASSERT_TRUE(truth.contains(gas.Name));
+        if (!truth.contains(gas.Name)) continue;  // its check figures are with those of the liquids
         const NumberRow& real = truth.at(gas.Name);
         EXPECT_LT(real[8], real[10]) << "viscosity rises with temperature";
         for (const std::size_t column : {7U, 9U}) {
@@ -235,10 +243,53 @@ TEST_F(ShippedTables, PipesAreTheirOutsideLessTwoWalls) {
     EXPECT_EQ(walls.at({24, "XS"}), 0.5);
 }
 
+// What the suite finds for a row of that table: the property of the name that tests/reference gives it.
+double FoundBySuite(const std::string& property) {
+    const bool isGas = Calc.CurrentProgram == 5;
+    if (isGas ? !ProcessGasData() : !ProcessLiquidData()) return std::nan("");
+    const std::map<std::string, double> found = {
+        {"vapor", Calc.VaporPressure},
+        {"gravity", Calc.FlowingSG},
+        {"viscosity", Calc.FluidViscosity},
+        {"density", Calc.Density},
+        {"heat", Calc.GasSpecificHeat},
+        {"latent", Calc.LatentHeatAtFlow},
+        {"modulus", BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure)}};
+    return found.at(property);
+}
+
+// Each row that has check figures gives them, through the routines of the fluid data programs, within what
+// it claims.
+TEST_F(ShippedTables, RowsMeetTheFiguresOfTheirSources) {
+    const std::vector<std::string> liquids = ReadTable(table::Liquid), gases = ReadTable(table::Gas);
+    std::ifstream file(SourceFolder() / "tests/reference/row_checks.txt");
+    std::set<std::string> rows;
+    for (std::string line; std::getline(file, line);) {
+        if (line[0] == '#') continue;
+        SCOPED_TRACE(line);
+        std::istringstream text(line);
+        std::array<std::string, 7> fields;
+        for (std::string& field : fields) std::getline(text, field, ';');
+        const bool isGas = fields[0] == "Gas.txt";
+        const std::vector<std::string>& table = isGas ? gases : liquids;
+        Calc.FluidRow = table[static_cast<std::size_t>(FindTableRow(table, fields[1]))];
+        ASSERT_EQ(RowName(Calc.FluidRow), fields[1]);
+        Calc.CurrentProgram = isGas ? 5 : 4;
+        Calc.FluidOk = words::FluidPicked;
+        Calc.FlowTemperature = Val(fields[3]);
+        Calc.FlowPressure = Val(fields[4]);
+        Calc.BaroPressure = 14.7;
+        isGas ? ParseGasRow() : ParseLiquidRow();
+        EXPECT_NEAR(100 * (FoundBySuite(fields[2]) / Val(fields[5]) - 1), 0, Val(fields[6]));
+        rows.insert(fields[0] + fields[1]);
+    }
+    EXPECT_EQ(rows.size(), 85U + 35U + 18U);
+}
+
 TEST_F(ShippedTables, ModuliFallWithTemperature) {
     for (const NumberRow& material : NumberRows(table::Modulus)) {
         SCOPED_TRACE(material.Name);
-        EXPECT_GT(material[2], 0.01);
+        EXPECT_GT(material[2], 0.005);
         EXPECT_LT(material[2], 5) << "the table is in 10^7 psi";
         for (std::size_t column = 3; column <= 14; ++column) {
             EXPECT_LE(material[column], material[column - 1]) << "column " << column;
@@ -273,16 +324,17 @@ std::string FileBytes(const std::filesystem::path& path) {
 
 TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
     const std::filesystem::path program = Folder / "fresh";
-    const char* files[] = {"TRData/Liquid.txt",  "TRData/Gas.txt",           "TRData/W-PIPE.TXT",
-                           "TRData/Modulus.txt", "TRData/MaTLDAT.TXT",       "STEAM.txt",
-                           "Stm07.Dat",          "TRData/High contrast.txt", "TRData/Dark.txt",
-                           "TRData/Light.txt",   "TRData/Classic.txt"};
+    std::vector<std::filesystem::path> files = {
+        "TRData/Liquid.txt", "TRData/Gas.txt",    "TRData/Modulus.txt",       "TRData/MaTLDAT.TXT",
+        "STEAM.txt",         "Stm07.Dat",         "TRData/High contrast.txt", "TRData/Dark.txt",
+        "TRData/Light.txt",  "TRData/Classic.txt"};
+    for (const PipeFamily& family : PipeFamilies) files.push_back(std::string("TRData/") + family.File);
     // A file of the user's own stays, also an empty one and one whose name differs by case.
     std::filesystem::create_directories(program / "TRData");
     std::ofstream(program / "TRData" / "Gas.txt") << "mine";
     std::ofstream(program / "Steam.TXT").close();
     SeedShippedData(SuitePath(program));
-    for (const std::filesystem::path file : files) {
+    for (const std::filesystem::path& file : files) {
         if (file == "TRData/Gas.txt" || file == "STEAM.txt") continue;
         EXPECT_EQ(FileBytes(program / file), FileBytes(SourceFolder() / "data" / file.filename())) << file;
     }

@@ -135,7 +135,7 @@ TEST_F(TablesForm, RowsThatMoveTakeTheRowInHandAlong) {
     EXPECT_FALSE(form.Status().empty()) << "a comma ends a field";
     TypeText(form.txtRecall, "1e300");
     ClickControl(form.cmdRecall);
-    EXPECT_EQ(User.LastText(), "Maximum row number is  381");
+    EXPECT_EQ(User.LastText(), "Maximum row number is  421");
 }
 
 }  // namespace

@@ -116,6 +116,20 @@ click cmdOK
 expect-box "Pipe sizes" "Please find and select an item" OK
 type txtNomSize 4
 click cmdSearch
+# Another family has other diameters at the same size; it is in hand until another one is chosen.
+expect-row lstFamily 0 "Steel, NPS"
+pick lstFamily "PVC and CPVC"
+expect-count lstPipeSize 0
+expect lblFamilyNote "Minimum walls"
+key lstFamily Enter
+pick lstPipeSize "  4,DR41"
+click cmdOK
+expect txtInletPipeID 4.28
+click cmdPipeID
+expect lblFamilyNote "Minimum walls"
+pick lstFamily 0
+type txtNomSize 4
+click cmdSearch
 pick lstPipeSize "  4,40S"
 click cmdOK
 expect-form frmLiqLineLoss

@@ -58,7 +58,7 @@ answer OK
 type txtRecall 999
 click cmdRecall
 expect-box "Data Changed" "Load Input Data in row  2 OK?" YesNo
-expect-box "File Size" "Maximum row number is  382" OK
+expect-box "File Size" "Maximum row number is  422" OK
 expect-cell grdTable 2 2 41S
 # Text and negative numbers are row 0, a fraction goes to the even neighbour.
 type txtRecall abc
@@ -80,7 +80,7 @@ type txtHole(2) 10T
 type txtRecall 999
 answer OK
 click cmdLoadRow
-expect-box "File Size" "Maximum row number is  382" OK
+expect-box "File Size" "Maximum row number is  422" OK
 type txtRecall 5
 answer No
 click cmdLoadRow
@@ -127,37 +127,37 @@ answer Yes
 click cmdInsertRow
 expect-message "Load Input Data"
 expect-message "Insert a new row 3. OK?"
-expect-count grdTable 384
+expect-count grdTable 424
 expect-cell grdTable 3 2 NEW
 expect-cell grdTable 4 2 80S
 expect-cell grdTable 4 0 4
-expect-cell grdTable 383 0 383
+expect-cell grdTable 423 0 423
 expect lblRowNum 3
 type txtRecall 4000
 answer OK
 answer Yes
 click cmdInsertRow
-expect-box "File Size" "Next row number to add is  384" OK
-expect-box "Insert Row" "Insert a new row 384. OK?" YesNo
-expect-cell grdTable 384 2 NEW
+expect-box "File Size" "Next row number to add is  424" OK
+expect-box "Insert Row" "Insert a new row 424. OK?" YesNo
+expect-cell grdTable 424 2 NEW
 
 # Delete.
-type txtRecall 385
+type txtRecall 425
 answer OK
 click cmdDeleteRow
-expect-box "File Size" "Maximum row number is  384" OK
+expect-box "File Size" "Maximum row number is  424" OK
 type txtRecall 0
 click cmdDeleteRow
 expect-no-message
-type txtRecall 384
+type txtRecall 424
 answer No
 click cmdDeleteRow
-expect-box "Delete Row" "Delete row 384 OK?" YesNo
-expect-count grdTable 385
+expect-box "Delete Row" "Delete row 424 OK?" YesNo
+expect-count grdTable 425
 answer Yes
 click cmdDeleteRow
-expect-message "Delete row 384 OK?"
-expect-count grdTable 384
+expect-message "Delete row 424 OK?"
+expect-count grdTable 424
 type txtRecall 3
 answer Yes
 click cmdDeleteRow
@@ -261,8 +261,8 @@ answer Yes
 click cmdInsertRow
 expect-message "Rows can only be added at end.  OK?"
 expect-no-message
-expect lblRowNum 36
-expect-cell grdTable 36 1 Unobtainium
+expect lblRowNum 44
+expect-cell grdTable 44 1 Unobtainium
 answer Yes
 answer Yes
 click cmdCancelGrid

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/PipeFamilies.h"
 #include "core/Words.h"
 #include "forms/frmPipeSize.h"
 #include "platform/NumberText.h"
@@ -107,7 +108,7 @@ TEST_F(PipeSizes, SearchOffersTheLargestSizeNotAboveTheTypedOne) {
         {1, "1", {"1"}},
         {1, " 1.2 ", {"1"}},
         {1, "7", {"6"}},
-        {1, "1e300", {"48"}},
+        {1, "1e300", {"80"}},
         {1, "0.125", {".125"}},
         {1, "0.1249", {}},
         {1, "0", {}},
@@ -136,7 +137,7 @@ TEST_F(PipeSizes, SearchOffersTheLargestSizeNotAboveTheTypedOne) {
         {39.37, "88", {"88"}},
         {0.03937, "2", {}},
         {0.03937, "0", {}},
-        {0.03937, "1e308", {"1200"}},
+        {0.03937, "1e308", {"2000"}},
         {12, "4", {"4"}},
     };
     for (const auto& each : cases) {
@@ -209,6 +210,38 @@ TEST_F(PipeSizes, EveryShippedPipeIsFoundAndReturnedInEveryUnit) {
             }
         }
     }
+}
+
+// Each size of each family finds itself and lists as itself, a metric one as the DN of its standard.
+TEST_F(PipeSizes, EverySizeOfEveryFamilyFindsItself) {
+    for (const PipeFamily& family : PipeFamilies) {
+        Suite.PipeFamily = family.File;
+        fs::copy_file(SourceFolder() / "data" / family.File, DataFolder() / family.File,
+                      fs::copy_options::overwrite_existing);
+        const bool metric = std::string_view(family.Note).find("/ 25") != std::string_view::npos;
+        for (const std::string& row : ReadTable(table::PipeFamily, {.FileName = family.File})) {
+            SCOPED_TRACE(family.File + (" " + row));
+            const std::string size(RowName(row));
+            Open();
+            const std::vector<std::string> inches = FindPipeSizes(size);
+            EXPECT_EQ(SizesOf(inches), std::vector<std::string>{size});
+            const double millimetres = Val(size) * 25;
+            const std::string dn = TrimmedStr(std::floor(millimetres + 0.63));
+            if (metric) {
+                EXPECT_NEAR(Val(dn), millimetres, 1e-9) << "a nominal size of the standard";
+            }
+            Open(0.03937);
+            const std::vector<std::string> lines = FindPipeSizes(dn);
+            EXPECT_EQ(SizesOf(lines), std::vector<std::string>{dn});
+            EXPECT_EQ(lines.size(), inches.size());
+        }
+    }
+    fs::remove(DataFolder() / "W-PVC.TXT");
+    WriteData("w-Mine.txt", "Size\r\n1,A,1.049,0.133,\r\n");
+    const std::vector<PipeFile> files = PipeFiles();
+    EXPECT_EQ(files.size(), PipeFamilies.size()) << "one is gone and one is the user's own";
+    EXPECT_EQ(files.front().File, "W-PIPE.TXT");
+    EXPECT_EQ(files.back().Name, "w-Mine.txt");
 }
 
 TEST_F(PipeSizes, ReturnsSixFiguresOfTheDiameterAndFourOfTheWall) {

@@ -16,6 +16,7 @@ Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmPrintControl();
+Node frmShippedRows();
 Node frmTRProg();
 Node frmTables();
 Node frmUnits();

@@ -4,12 +4,14 @@
 namespace quillmetra::layout {
 
 Node frmPipeSize() {
-    return Column({Panel("", Column({Row({"lblNomSize", Item("txtNomSize").Wide(10), "lblPipeUnits",
-                                          Stretch(), "cmdSearch"}),
-                                     "lblPipeSize", Item("lstPipeSize").Wide(40).Tall(14).Typed().Grow(),
-                                     Item("lblConvertUnits").Collapsing()}))
-                       .Grow(),
-                   Buttons({"cmdOK", "cmdCancel"})});
+    return Column(
+        {Row({Panel("", Column({"lblFamily", Item("lstFamily").Wide(34).Tall(12).Grow(), "lblFamilyNote"})),
+              Panel("", Column({Row({"lblNomSize", Item("txtNomSize").Wide(10), "lblPipeUnits", Stretch(),
+                                     "cmdSearch"}),
+                                "lblPipeSize", Item("lstPipeSize").Wide(40).Tall(14).Typed().Grow(),
+                                Item("lblConvertUnits").Collapsing()}))
+                  .Grow()}),
+         Buttons({"cmdOK", "cmdCancel"})});
 }
 
 }  // namespace quillmetra::layout

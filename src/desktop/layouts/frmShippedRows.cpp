@@ -1,0 +1,13 @@
+// Where the controls of the offer of shipped rows stand.
+#include "desktop/layouts/Layouts.h"
+
+namespace quillmetra::layout {
+
+Node frmShippedRows() {
+    return Column({Panel("", Column({"lblRows", Item("lstRows").Wide(80).Tall(22).Typed().Grow(),
+                                     Row({"cmdAll", "cmdNone", Stretch(), "lblPicked"})}))
+                       .Grow(),
+                   Buttons({"cmdOK", "cmdCancel"})});
+}
+
+}  // namespace quillmetra::layout
