@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Check figures of shipped rows, from what their sources say.
 
-    python3 tests/reference/rows_oracle.py           writes row_checks.txt, which the tests compare with
-    python3 tests/reference/rows_oracle.py TABLES    prints how far the rows of another folder of tables are off
+    python3 tools/reference/rows_oracle.py           writes row_checks.txt of tests/reference, which the tests compare with
+    python3 tools/reference/rows_oracle.py TABLES    prints how far the rows of another folder of tables are off
 
-The rows of tools/reference/more_*.csv have their deviation from the source at three temperatures: what the rules of
+The rows of more_*.csv have their deviation from the source at three temperatures: what the rules of
 liquid_oracle and gas_oracle give there, less that deviation, is the source's figure. Gas density is that of the virial
 equation. The other rows have figures of their sources below. One line a figure: table, row, property, degF, psia, true
 figure, the percent that the row claims. Units: psia, cp, Btu/lb, Btu/lb degF, lb/ft3, psi; gravity against water at 60.
@@ -19,8 +19,7 @@ import gas_oracle
 from liquid_oracle import liquid, vapor_pressure
 
 HERE = Path(__file__).parent
-REFERENCE = HERE.parent.parent / "tools" / "reference"
-DATA = HERE.parent.parent / "data"
+CHECKS = HERE.parent.parent / "tests" / "reference" / "row_checks.txt"
 
 # Deviations are given to 0.1 %, figures of a row to three or four digits.
 ROUNDING = 0.15
@@ -125,9 +124,9 @@ def rows(path):
 
 
 def all_checks():
-    for fields in rows(REFERENCE / "more_liquids.csv"):
+    for fields in rows(HERE / "more_liquids.csv"):
         yield from liquid_checks(fields)
-    for fields in rows(REFERENCE / "more_gases.csv"):
+    for fields in rows(HERE / "more_gases.csv"):
         yield from gas_checks(fields)
     yield from FIGURES
 
@@ -145,7 +144,7 @@ def report(folder):
 def main():
     if len(sys.argv) > 1:
         return report(sys.argv[1])
-    with open(HERE / "row_checks.txt", "w", newline="\n") as out:
+    with open(CHECKS, "w", newline="\n") as out:
         print("# Made by rows_oracle.py: see there.", file=out)
         print("# table; row; property; temperature; pressure; true figure; percent claimed", file=out)
         for table, row, name, t, p, true, percent in all_checks():
