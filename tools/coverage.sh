@@ -18,7 +18,7 @@ import collections, json, sys
 lines = collections.defaultdict(lambda: [0, 0])
 for file in json.load(open(sys.argv[1]))["files"]:
     folder = "/".join(file["file"].split("/")[:2])
-    for line in file["lines"]:
+    for line in (each for each in file["lines"] if not each["gcovr/noncode"]):
         for name in (folder, "all"):
             lines[name][0] += line["count"] > 0
             lines[name][1] += 1
