@@ -63,7 +63,7 @@ bool ResultsStand(int caseIndex) {
 // A case that has been calculated has a velocity.
 bool LineResultStands() {
     for (int i = 0; i < CaseCount; ++i) {
-        if (StandingResult(2, i) != 0) return true;
+        if (StandingResult(result::Velocity, i) != 0) return true;
     }
     return false;
 }

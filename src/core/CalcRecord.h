@@ -9,6 +9,9 @@
 //   internal value = display value x UnitFactor[row]
 //
 // but for temperatures (an offset) and gauge pressures (plus BaroPressure).
+//
+// Some fields, last in their block, are kept for their names: whoever knows the record looks for them there.
+// They are set where their name says, and nothing reads them.
 #pragma once
 
 #include <array>
@@ -91,23 +94,22 @@ struct CalcRecord {
     std::string LiquidBasisPrevious = "Mas";
     std::string LiquidBasisSaved;
     std::string LiquidDensityMode = "LiqSG";
-    std::string LiquidDensityModePrevious = "LiqSG";
     std::string PressureMode = "Psig";
-    std::string PressureModePrevious = "Psig";
     std::string UnitSystem;      // "English", "SI"
     std::string UnitSetName;     // "English mass units" ...
     std::string UnitsTitle;      // the units' name and the options, for headings
     std::string UnitsConverted;  // "Yes" when a conversion ran on all cases
     std::string RoundedFlag;     // "No" between a conversion and its rounding, then "Yes"
     std::string NoConversion;
+    // Kept for their names.
+    std::string LiquidDensityModePrevious = "LiqSG";
+    std::string PressureModePrevious = "Psig";
 
     // --- Working layer, fixed internal units ----------------------------------------------------------
     double MassFlow = 0;              // lb/h
     double FlowTemperature = 0;       // degF
-    double FlowTemperatureF = 0;      // degF, of the conversion in hand
     double FlowPressure = 0;          // psia, at the point in hand
     double EnteredPressure = 0;       // psi, as typed
-    int PipeIndex = 1;                // always 1: a calculation has one line
     Row<double, 2> SourcePressure{};  // psia, element 1
     Row<double, 2> PipeLength{};      // ft
     Row<double, 2> PipeId{};          // in
@@ -118,15 +120,13 @@ struct CalcRecord {
     double EntranceK = 0;                     // 1.5 or 0
     double ExitK = 0;                         // 2.7 or 0
     Row<double, 10> EquivLengthPerFitting{};  // ft, 1 to 9
-    double FrictionFactor = 0, TurbulentFactor = 0, LaminarFactor = 0;
+    double FrictionFactor = 0, TurbulentFactor = 0;
     double ColebrookTerm = 0;  // the last term, kept by a material number out of range
-    int IterationCount = 0;
     double ReynoldsNumber = 0;
     double LossPer100 = 0;                   // psi per 100 ft
     double EquivLength = 0;                  // ft, signed
     double FittingsEquivLength = 0;          // ft, gas only
     double Velocity = 0, SonicVelocity = 0;  // ft/s
-    double FinalPressure = 0;                // psia
     double Density = 0;                      // lb/ft3
     double FlowingSG = 0;
     double SGAtStandard = 0;
@@ -141,6 +141,12 @@ struct CalcRecord {
     double StdPressure = 0;     // psia
     double BaroPressure = 0;    // psia
     double BaroPressureSaved = 0;
+    // Kept for their names.
+    double FlowTemperatureF = 0;  // degF, of the conversion in hand
+    double FinalPressure = 0;     // psia
+    double LaminarFactor = 0;     // 0 where flow is not laminar
+    int PipeIndex = 1;            // always 1: a calculation has one line
+    int IterationCount = 0;
 
     // Of the water hammer, see hammer/WaterHammer.h.
     double LiquidMassFlow = 0;                   // lb/h
@@ -158,24 +164,26 @@ struct CalcRecord {
     // The fluid row parsed last, see fluids/FluidTables.h.
     std::string FluidRow;
     std::string SelectedFluidName;
-    std::string FluidClass;                         // 1 organic, 2 other, 3 water, compared as a number
-    double ViscosityTemp1 = 0, ViscosityTemp2 = 0;  // degF
-    double Viscosity1 = 0, Viscosity2 = 0;          // cp
-    double ViscosityA = 0, ViscosityB = 0;
-    double FluidViscosity = 0;                                       // cp, of the fluid
-    double NormalBoilingPoint = 0;                                   // degF
-    double LiquidCp60 = 0, LiquidCp300 = 0, LiquidSpecificHeat = 0;  // Btu/lb degF
-    double FlashPoint = 0;                                           // degF
-    double BulkModulusBase = 0;                                      // psi/1000
-    double BulkModulusSlope = 0;                                     // psi per psia
-    double LiquidLatentHeat = 0;                                     // Btu/lb
-    double CritVolume = 0;                                           // ft3/lb
-    double GasCp1 = 0, GasCp2 = 0, GasSpecificHeat = 0;              // Btu/lb degF
-    double LatentHeatBP = 0;                                         // Btu/lb, at the normal boiling point
-    double LatentHeatRefTemp = 0;                                    // degF, of the known latent heat
-    double LatentHeatRefValue = 0;                                   // Btu/lb, the known latent heat
-    double LatentHeatAtFlow = 0;      // Btu/lb, at FlowTemperature; 0 above the critical temperature
-    double LatentHeatAtPressure = 0;  // Btu/lb, of a mixture, boiling at EnteredPressure
+    std::string FluidClass;                              // 1 organic, 2 other, 3 water, compared as a number
+    double ViscosityTemp1 = 0, ViscosityTemp2 = 0;       // degF
+    double Viscosity1 = 0, Viscosity2 = 0;               // cp
+    double FluidViscosity = 0;                           // cp, of the fluid
+    double NormalBoilingPoint = 0;                       // degF
+    double LiquidCp60 = 0, LiquidCp300 = 0;              // Btu/lb degF
+    double FlashPoint = 0;                               // degF
+    double BulkModulusBase = 0;                          // psi/1000
+    double BulkModulusSlope = 0;                         // psi per psia
+    double LiquidLatentHeat = 0;                         // Btu/lb
+    double CritVolume = 0;                               // ft3/lb
+    double GasCp1 = 0, GasCp2 = 0, GasSpecificHeat = 0;  // Btu/lb degF
+    double LatentHeatBP = 0;                             // Btu/lb, at the normal boiling point
+    double LatentHeatRefTemp = 0;                        // degF, of the known latent heat
+    double LatentHeatRefValue = 0;                       // Btu/lb, the known latent heat
+    double LatentHeatAtFlow = 0;  // Btu/lb, at FlowTemperature; 0 above the critical temperature
+    // Kept for their names.
+    double ViscosityA = 0, ViscosityB = 0;  // of the row's viscosity line
+    double LiquidSpecificHeat = 0;          // Btu/lb degF, at FlowTemperature
+    double LatentHeatAtPressure = 0;        // Btu/lb, of a mixture, boiling at EnteredPressure
     // Working values of the correlations.
     double ReducedBoilingTemperature = 0, ReducedTemperature = 0;
     float ReducedTemperature60 = 0;  // single precision: later formulas read the rounded value
@@ -187,11 +195,9 @@ struct CalcRecord {
     double SaturationTemperature = 0;
 
     // --- Identity and options -------------------------------------------------------------------------
-    std::string Tag, TagSaved, TagChanged;
-    int ProgramNumber = 0;   // as stored: program x 100 + unit set
+    std::string Tag, TagSaved;
     int CurrentProgram = 0;  // 1 to 5, 0 before a choice
     std::string FluidType;   // "Liquid", "Gas"; set when a program is chosen
-    std::string FluidKind;   // "Gas" or empty, for titles
     std::string ProgramTitle, ProgramTitleSaved, MethodText;
     std::string FluidName, FluidNameSaved;
     std::string CalcMode, DataMode;
@@ -199,7 +205,6 @@ struct CalcRecord {
     int PressureDirection = 1;           // 1 source given, 2 destination given
     int PressureDirectionSaved = 1;
     int PipeMaterialNumber = 1;  // 1 to 7
-    int PipeMaterialNumberSaved = 1;
     std::string PipeMaterial = "Steel", PipeMaterialSaved = "Steel";
     Row<std::string, 8> PipeMaterialName{};
     std::string MixtureFlag;                // "Yes", "No" or empty
@@ -207,34 +212,41 @@ struct CalcRecord {
     std::string FluidOk = "Ok";             // "Ok", "OK" or empty; the spellings differ on purpose
     std::string FluidDataSource;            // "Loaded" when a table row supplied the fluid
     int LiquidUnitSet = 0, GasUnitSet = 0;  // 1 to 4 named sets, 5 user, 0 none yet
+    // Kept for their names.
+    std::string TagChanged;  // "Yes" once the user has typed another tag
+    int ProgramNumber = 0;   // as stored: program x 100 + unit set
+    std::string FluidKind;   // "Gas" or empty, for titles
+    int PipeMaterialNumberSaved = 1;
 
     // --- Status words ---------------------------------------------------------------------------------
-    int CaseIndex = 0;  // 0 maximum or case 1, 1 normal or case 2, 2 minimum or case 3
+    int CaseIndex = 0;  // 0 maximum or case 1, 1 normal or case 2, 2 minimum or case 3, see words::Cases
     std::string FlowZone, TransitionMark;
     std::string FormLoading;  // "Yes" while code fills a form: input changes then blank nothing
     std::string InCalculation = "No";
     Row<std::string, CaseCount> ResultsClearable{"Yes", "Yes", "Yes"};  // per case: results stand
     std::string ChangedFlag;                                            // "No" after an input change
     std::string DataOk = "No";
-    std::string TempPressureOk;
     std::string CalculatedFlag, HammerCalculated;
-    std::string RecordUpdated, InputChanged;
-    std::string RecordChanged, SavePDRow, SaveFDRow, SaveWHRow, MixtureSave, SaveAll;
+    std::string RecordUpdated;
+    std::string RecordChanged, SavePDRow, SaveFDRow, SaveWHRow, MixtureSave;
     std::string PDRowLoaded, FDRowLoaded, WHRowLoaded;
     std::string MixtureMarker = "No";
     std::string BrowserOpen = "No";  // "Yes" once the browser opened a saved record
-    std::string SaveAnswer, SavePrompt, ProgramChosen;
+    std::string SaveAnswer, SavePrompt;
     std::string HideResults;  // "Yes" around a refresh that leaves the results alone
-    std::string CalcOptionCaller, OptionsLoaded, FormClosing;
+    std::string OptionsLoaded, FormClosing;
     std::string SteamFindMode;  // "FindStm" when the saturation temperature alone is looked up
     std::string LoadedDatabaseFile;
     Row<int, CaseCount> TemperatureBlank{};
     Row<std::string, CaseCount> TemperatureEntered{}, PressureEntered{};
     Row<double, 4> StdFileValues{};  // 1 to 3: temperature degF, pressure psia, barometer psia, as read
-    Row<double, 4> StdConditions{};  // 1 to 3: pressure, temperature, barometer, kept for a cancel
     double PipeInsideDiameter = 0, PipeWallThickness = 0;  // of the chosen pipe row, in the list's unit
     std::string MessageTitle, MessageText;  // title of the next message; text that goes back to a caller
-    double Scratch = 0;                     // in and out of the rounding routines
+    // Kept for their names.
+    std::string TempPressureOk, InputChanged, SaveAll, ProgramChosen;
+    std::string CalcOptionCaller;    // the options panel's word for the form that opened it
+    Row<double, 4> StdConditions{};  // 1 to 3: pressure, temperature, barometer as a unit set left them
+    double Scratch = 0;              // in and out of RoundThree, RoundFour and RoundSix
 
     CalcRecord() {
         UnitFactor.fill(1);
@@ -260,7 +272,8 @@ void MarkCalculated();
 // MarkCalculated, and marks the inputs as changed too. What a calculation by the user's button ends with.
 void SnapshotRecord();
 
-// Takes the live fields back from the saved generation, which undoes an edit.
+// Takes the live fields back from the saved generation, which undoes an edit. Kept for its name: no form
+// offers it.
 void RestoreShown();
 
 // Whether the results of a case stand; an input change since its calculation has blanked them, and neither a

@@ -42,7 +42,7 @@ struct Program {
 
 extern const std::array<Program, 5> Programs;
 
-// The row of a program number; null for a number that is none.
+// The row of a program number; null for any other number.
 const Program* FindProgram(int number);
 
 }  // namespace quillmetra

@@ -6,6 +6,7 @@
 #include <limits>
 #include <system_error>
 
+#include "core/FileNames.h"
 #include "core/PhysicalConstants.h"
 #include "core/PipeFamilies.h"
 #include "core/Suite.h"
@@ -35,18 +36,17 @@ constexpr std::array ShippedFiles = {
     ShippedFile{"Gas.txt", "\\TRData\\"},
     ShippedFile{"Modulus.txt", "\\TRData\\"},
     ShippedFile{"MaTLDAT.TXT", "\\TRData\\"},
-    ShippedFile{"STEAM.txt", "\\"},
-    ShippedFile{"Stm07.Dat", "\\"},
-    ShippedFile{"Light.txt", "\\TRData\\"},
-    ShippedFile{"Dark.txt", "\\TRData\\"},
-    ShippedFile{"High contrast.txt", "\\TRData\\"},
-    ShippedFile{"Classic.txt", "\\TRData\\"},
+    ShippedFile{filename::SteamPressures, "\\"},
+    ShippedFile{filename::SteamRows, "\\"},
+    ShippedFile{filename::LightScheme, "\\TRData\\"},
+    ShippedFile{filename::DarkScheme, "\\TRData\\"},
+    ShippedFile{filename::HighContrastScheme, "\\TRData\\"},
+    ShippedFile{filename::ClassicScheme, "\\TRData\\"},
 };
 
 // The look of the suite where nobody has chosen one: laid with the folder of the tables, never into one that
 // was there.
-constexpr const char* FirstScheme = "Light.txt";
-constexpr const char* ColourFile = "\\TRColr.txt";
+constexpr const char* FirstScheme = filename::LightScheme;
 
 void UseDefaultColours() {
     std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
@@ -54,7 +54,7 @@ void UseDefaultColours() {
 
 void ReadColours() {
     try {
-        ReadColourFile(Suite.DefaultPaths[path::DataFiles] + ColourFile);
+        ReadColourFile(InDefaultPath(path::DataFiles, filename::Colours));
     } catch (const RuntimeError&) {
         UseDefaultColours();
     }
@@ -120,7 +120,8 @@ void SeedShippedData(const std::string& programFolder) {
     std::error_code ignored;
     const fs::path source = ShippedDataFolder();
     const std::string tables = programFolder + "\\TRData";
-    if (!fs::exists(MachinePath(tables), ignored)) CopyShipped(source / FirstScheme, tables + ColourFile);
+    if (!fs::exists(MachinePath(tables), ignored))
+        CopyShipped(source / FirstScheme, tables + "\\" + filename::Colours);
     for (const auto& [name, place] : ShippedFiles) CopyShipped(source / name, programFolder + place + name);
     for (const PipeFamily& family : PipeFamilies)
         CopyShipped(source / family.File, tables + "\\" + family.File);
@@ -136,7 +137,7 @@ void StartUp(const std::string& programFolder) {
 void Boot(const std::string& programFolder) {
     UseDefaultColours();
     Suite.DefaultPaths[path::Program] = programFolder;
-    Suite.HelpFile = programFolder + "\\VOTR.HLP";
+    Suite.HelpFile = InDefaultPath(path::Program, filename::Help);
     if (!ReadDefaultPaths()) {
         for (std::size_t i = 1; i <= 4; ++i) Suite.DefaultPaths[i] = programFolder + "\\TRData";
         Suite.ChosenDataPath = Suite.DefaultPaths[path::Database];
@@ -147,7 +148,7 @@ void Boot(const std::string& programFolder) {
 
 bool ReadDefaultPaths(std::size_t count) {
     try {
-        ItemReader file(Suite.DefaultPaths[path::Program] + "\\TRDrv.txt");
+        ItemReader file(InDefaultPath(path::Program, filename::DefaultPaths));
         Row<std::string, 6> paths = Suite.DefaultPaths;
         for (std::size_t i = 1; i <= count; ++i) paths[i] = file.NextText();
         Suite.DefaultPaths = paths;
@@ -159,7 +160,7 @@ bool ReadDefaultPaths(std::size_t count) {
 }
 
 void SaveDefaultPaths() {
-    TextWriter file(Suite.DefaultPaths[path::Program] + "\\TRDRV.txt");
+    TextWriter file(InDefaultPath(path::Program, filename::DefaultPaths));
     for (std::size_t i = 1; i <= 4; ++i) {
         const std::string& path = i == 1 ? Suite.ChosenDataPath : Suite.DefaultPaths[i];
         if (path.find_first_of("\"\r\n\x1A") != std::string::npos || !IsIn1252(path))
@@ -177,7 +178,7 @@ void ReadColourFile(const std::string& name) {
 }
 
 void SaveColours() {
-    TextWriter file(Suite.DefaultPaths[path::DataFiles] + "\\TRcolr.txt");
+    TextWriter file(InDefaultPath(path::DataFiles, filename::Colours));
     for (std::size_t slot = 1; slot <= 12; ++slot) {
         file.Line(TrimmedStr(static_cast<std::int32_t>(Suite.Colours[slot])));
     }
@@ -185,7 +186,7 @@ void SaveColours() {
 }
 
 namespace {
-std::string HeadingsFile() { return Suite.DefaultPaths[path::Headings] + "\\TRHDG.txt"; }
+std::string HeadingsFile() { return InDefaultPath(path::Headings, filename::Headings); }
 }  // namespace
 
 std::size_t ReadHeadingLines(std::span<std::string> lines) {
@@ -217,7 +218,7 @@ std::optional<Row<double, 4>> StandardItems() {
     Row<double, 4> items{};
     bool opened = false;
     try {
-        ItemReader file(Suite.DefaultPaths[path::UserUnits] + "\\TRSTP.TXT");
+        ItemReader file(InDefaultPath(path::UserUnits, filename::StandardConditions));
         opened = true;
         for (std::size_t i = 1; i <= 3; ++i) items[i] = file.NextNumber();
     } catch (const RuntimeError&) {
@@ -263,7 +264,7 @@ void RestoreStandardConditions(double usualPressure) {
 void SaveStandardConditions() {
     Calc.MessageTitle = "User units file";
     try {
-        TextWriter file(Suite.DefaultPaths[path::DataFiles] + "\\TRSTP.TXT");
+        TextWriter file(InDefaultPath(path::DataFiles, filename::StandardConditions));
         file.Number(Calc.StdPressure);
         file.Number(Calc.StdTemperature);
         file.Number(Calc.BaroPressure);

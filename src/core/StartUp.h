@@ -44,7 +44,7 @@ void SaveDefaultPaths();
 // are shown.
 void ReadColourFile(const std::string& name);
 
-// Writes TRColr.txt to the data files' folder, one number a line, slot 1 first.
+// Writes TRcolr.txt to the data files' folder, one number a line, slot 1 first.
 void SaveColours();
 
 // Reads up to seven lines of TRHDG.txt into HeadingText; a file error ends it with what was read.

@@ -40,15 +40,17 @@ struct SuiteState {
     std::string UnitLibraryName;      // "Default Library", "User Library", empty until loaded
     std::string DatabaseFile, DatabasePath, BrowsePath;  // full name of the file; its folder
     std::string
-        RecoveryFile;     // where unsaved work is kept against a crash; empty where nobody would ask for it
-    int RecordTotal = 0;  // records of DatabaseFile after the last save
+        RecoveryFile;  // where unsaved work is kept against a crash; empty where nobody would ask for it
     Row<std::string, 11> DefaultHeadings{}, ReportHeadings{};  // 1 to 10
-    std::string BatchPrinting, RunActive, UseDefaultHeadings, PrintDateOverride;
-    int PrintFromPage = 0, PrintToPage = 0;  // 0: all pages
+    std::string BatchPrinting, PrintDateOverride;
     int PrintCopies = 1;
     std::string PipeFamily;                 // the pipe lookup's file; empty for the first family
     std::string TableKind;                  // the table that the editor is to open: "Gas", "Liquid", ...
     std::string TableFileName, TableModel;  // of a table whose file its caller names; else empty
+    // Kept for their names: set where their name says, and read by nothing.
+    int RecordTotal = 0;  // records of DatabaseFile after the last save
+    std::string RunActive, UseDefaultHeadings;
+    int PrintFromPage = 0, PrintToPage = 0;  // 0: all pages
 };
 
 extern SuiteState Suite;

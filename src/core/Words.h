@@ -2,7 +2,11 @@
 // by exact text; a word that occurs in several places stands here once, so that a slip fails to compile.
 #pragma once
 
-namespace quillmetra::words {
+#include <string_view>
+
+namespace quillmetra {
+
+namespace words {
 
 inline constexpr const char* Yes = "Yes";
 inline constexpr const char* No = "No";
@@ -56,10 +60,19 @@ inline constexpr const char* PipeWaterHammer = "WaterHammer";
 inline constexpr const char* Bypass = "Bypass";  // without reading the record
 inline constexpr const char* Select = "Select";
 
+// The cases of a line, by CaseIndex.
+inline constexpr const char* Cases[] = {"Maximum", "Normal", "Minimum"};
+
 // The initial text of the option codes of a record.
 inline constexpr const char* NoCodes = "XXXXXXXX";
 // Prompts of the two name boxes: a box that still shows its prompt prints nothing.
 inline constexpr const char* ByPrompt = "By";
 inline constexpr const char* ApprovedPrompt = "App";
 
-}  // namespace quillmetra::words
+}  // namespace words
+
+// The switches of the record: "Yes", and anything else, mostly "No" or empty.
+constexpr bool IsYes(std::string_view word) { return word == words::Yes; }
+constexpr const char* YesIf(bool yes) { return yes ? words::Yes : words::No; }
+
+}  // namespace quillmetra

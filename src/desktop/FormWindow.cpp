@@ -24,6 +24,7 @@
 #include "forms/ColourSchemes.h"
 #include "forms/ColourShades.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/TextCase.h"
 
 namespace quillmetra {
@@ -44,7 +45,8 @@ bool IsIn(const Control& control, const Control& container) {
 
 // The keys that go by the form's rules; all others are the widget's own.
 bool FormRules(const std::string& key) {
-    return key == "Enter" || key == "Escape" || key == "Tab" || key == "Shift+Tab" || key == "F1";
+    return key == keys::Enter || key == keys::Escape || key == keys::Tab || key == keys::BackTab ||
+           key == keys::Help;
 }
 
 // A character with Alt that is nobody's access key is no text, least of all a digit of a number; a keyboard
@@ -71,7 +73,7 @@ void ScrollTo(QScrollArea& area, QWidget& target) {
 // The toolkit's own way from option to option would leave the model behind.
 bool IsOptionArrow(const Control& control, const std::string& key) {
     return control.Kind() == ControlKind::OptionButton &&
-           (key == "Up" || key == "Down" || key == "Left" || key == "Right");
+           (key == keys::Up || key == keys::Down || key == keys::Left || key == keys::Right);
 }
 
 }  // namespace

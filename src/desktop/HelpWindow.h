@@ -16,7 +16,7 @@ class HelpWindow : public QMainWindow {
 public:
     explicit HelpWindow(std::vector<HelpTopic> topics);
 
-    // Brings the window to the front with a topic; with the first one for a number that is none.
+    // Brings the window to the front with a topic; with the first one for a number without a topic.
     void ShowTopic(int number);
 
 private:

@@ -3,6 +3,8 @@
 
 #include <QKeyEvent>
 
+#include "platform/Keys.h"
+
 namespace quillmetra {
 
 namespace {
@@ -13,11 +15,11 @@ struct NamedKey {
 };
 
 constexpr NamedKey NamedKeys[] = {
-    {Qt::Key_Return, "Enter"},      {Qt::Key_Enter, "Enter"}, {Qt::Key_Escape, "Escape"},
-    {Qt::Key_Tab, "Tab"},           {Qt::Key_Backtab, "Tab"}, {Qt::Key_Backspace, "Backspace"},
-    {Qt::Key_Delete, "Delete"},     {Qt::Key_Up, "Up"},       {Qt::Key_Down, "Down"},
-    {Qt::Key_Left, "Left"},         {Qt::Key_Right, "Right"}, {Qt::Key_PageUp, "PageUp"},
-    {Qt::Key_PageDown, "PageDown"},
+    {Qt::Key_Return, keys::Enter},      {Qt::Key_Enter, keys::Enter}, {Qt::Key_Escape, keys::Escape},
+    {Qt::Key_Tab, keys::Tab},           {Qt::Key_Backtab, keys::Tab}, {Qt::Key_Backspace, keys::Backspace},
+    {Qt::Key_Delete, keys::Delete},     {Qt::Key_Up, keys::Up},       {Qt::Key_Down, keys::Down},
+    {Qt::Key_Left, keys::Left},         {Qt::Key_Right, keys::Right}, {Qt::Key_PageUp, keys::PageUp},
+    {Qt::Key_PageDown, keys::PageDown},
 };
 
 const char* PlainName(int code) {
@@ -46,9 +48,9 @@ std::string NameOfKey(const QKeyEvent& event) {
         isCharacter = true;
     }
     std::string with;
-    if (held.testFlag(Qt::ControlModifier)) with += "Ctrl+";
-    if (held.testFlag(Qt::AltModifier)) with += "Alt+";
-    if (!isCharacter && held.testFlag(Qt::ShiftModifier)) with += "Shift+";
+    if (held.testFlag(Qt::ControlModifier)) with += keys::Ctrl;
+    if (held.testFlag(Qt::AltModifier)) with += keys::Alt;
+    if (!isCharacter && held.testFlag(Qt::ShiftModifier)) with += keys::Shift;
     return with.append(name);
 }
 

@@ -19,8 +19,6 @@
 namespace quillmetra {
 
 namespace {
-constexpr double TwipsPerPoint = 20;
-
 // What the user has put into the dialog: the toolkit makes 4 to 4 of a range from 4 to 2. A dialog of the
 // system has no such box.
 int PageIn(const QPrintDialog& dialog, const char* box, int otherwise) {

@@ -64,14 +64,6 @@ constexpr std::array AnswerButtons = {
     AnswerButton{Answer::Cancel, QMessageBox::Cancel},
 };
 
-bool Offers(Buttons choice, Answer answer) {
-    switch (answer) {
-        case Answer::Ok: return choice == Buttons::Ok;
-        case Answer::Cancel: return choice == Buttons::YesNoCancel;
-        default: return choice != Buttons::Ok;
-    }
-}
-
 QMessageBox::Icon SignOf(Icon icon) {
     switch (icon) {
         case Icon::Stop: return QMessageBox::Critical;
@@ -105,7 +97,7 @@ Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
     question.setText(ToQt(box.Text));
     question.setIcon(SignOf(box.Sign));
     for (const AnswerButton& each : AnswerButtons) {
-        if (!Offers(box.Choice, each.Means)) continue;
+        if (!Offers(box, each.Means)) continue;
         QPushButton* const button = question.addButton(each.Button);
         if (each.Means == DefaultAnswer(box)) question.setDefaultButton(button);
     }

@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QTimer>
 
+#include "core/FileNames.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Version.h"
@@ -69,7 +70,7 @@ int main(int argc, char** argv) {
     if (instance.AnotherRuns()) return 0;
     instance.Listen();
     quillmetra::SeedShippedData(home);
-    quillmetra::Suite.RecoveryFile = home + "\\TRRECOV.MDB";
+    quillmetra::Suite.RecoveryFile = home + "\\" + quillmetra::filename::Recovery;
     host.RememberPlaces(home + "\\TRWIN.ini");
     quillmetra::StartUp(home);
     QTimer minute;

@@ -26,7 +26,7 @@ double ReducedTemperature(const CalcRecord& record) {
 double ReducedPressure(const CalcRecord& record) { return record.FlowPressure / record.CritPressure; }
 
 bool IsSteam(const CalcRecord& record) { return !record.SteamKind.empty(); }
-bool IsPure(const CalcRecord& record) { return !IsSteam(record) && record.MixtureFlag != words::Yes; }
+bool IsPure(const CalcRecord& record) { return !IsSteam(record) && !IsYes(record.MixtureFlag); }
 bool IsLiquid(const CalcRecord& record) { return record.FluidType == words::Liquid; }
 bool IsOfClass(const CalcRecord& record, int number) { return Val(record.FluidClass) == number; }
 bool IsPureWater(const CalcRecord& record) {
@@ -39,7 +39,7 @@ bool IsPureGas(const CalcRecord& record) { return !IsLiquid(record) && IsPure(re
 bool IsSuperheated(const CalcRecord& record) { return record.SteamKind == words::Superheated; }
 
 bool IsLiquidMixture(const CalcRecord& record) {
-    return IsLiquid(record) && record.MixtureFlag == words::Yes && !IsOfClass(record, fluidclass::Water);
+    return IsLiquid(record) && IsYes(record.MixtureFlag) && !IsOfClass(record, fluidclass::Water);
 }
 double MixtureVaporPressure60(const CalcRecord& record) {
     if (!MixtureHasOffset(record)) return 0;

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "core/CalcRecord.h"
+#include "core/FileNames.h"
 #include "core/PhysicalConstants.h"
 #include "core/Suite.h"
 #include "fluids/LiquidCorrelations.h"
@@ -18,7 +19,7 @@ namespace quillmetra {
 namespace {
 
 std::string TablePath(std::string_view fluidType) {
-    return Suite.DefaultPaths[path::DataFiles] + "\\" + std::string(fluidType) + ".txt";
+    return InDefaultPath(path::DataFiles, std::string(fluidType) + ".txt");
 }
 
 // Column numbers count from 1, as the tables' descriptions do.

@@ -6,6 +6,7 @@
 
 #include "core/PhysicalConstants.h"
 #include "fluids/LiquidCorrelations.h"
+#include "units/Temperature.h"
 
 namespace quillmetra {
 
@@ -15,7 +16,7 @@ constexpr double HeatConstant = 1.986;  // the gas constant in Btu/lbmol degF
 constexpr double WatsonExponent = 0.378;
 constexpr double LargestDenseFactor = 5;
 
-double Kelvin(double temperature) { return ((temperature - 32) / 1.8) + 273.15; }
+double Kelvin(double temperature) { return CelsiusOf(temperature) + 273.15; }
 
 // The two functions of Lee and Kesler of the reduced temperature. The first constant is 5.92174, with these
 // digits.

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "core/PhysicalConstants.h"
+#include "units/Temperature.h"
 
 namespace quillmetra {
 
@@ -135,7 +136,7 @@ double WaterGravityAt(double temperature) {
 }
 
 double WaterViscosityAt(double temperature) {
-    const double celsius = (temperature - 32) / 1.8 - 8.435;
+    const double celsius = CelsiusOf(temperature) - 8.435;
     return 100 / (2.152938705 * (celsius + std::sqrt(8078.4 + celsius * celsius)) - 120);
 }
 

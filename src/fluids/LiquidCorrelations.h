@@ -8,7 +8,8 @@
 
 namespace quillmetra {
 
-// ln(viscosity) linear in 1/T through two points: viscosity = A exp(B / T), T in degR (Clausius-Clapeyron).
+// ln(viscosity) linear in 1/T through two points, after E. N. da C. Andrade: viscosity = A exp(B / T), T in
+// degR.
 struct ViscosityLine {
     double A;  // cp
     double B;  // degR
@@ -22,10 +23,12 @@ double LiquidSpecificHeatAt(double cp60, double cp300, double temperature);
 // Absolute temperature over the critical one.
 double ReducedTemperatureOf(double temperature, double critTemperature);
 
-// Miller's reduced equation; its exponent is capped at 10.
+// Miller's reduced equation (D. G. Miller, Ind. Eng. Chem. Fundam. 2 (1963) 78); its exponent is capped
+// at 10.
 double VaporPressureOf(double normalBoilingPoint, double critTemperature, double critPressure,
                        double temperature);
 
+// After the NGPA Engineering Data Book, as all gravities and compressibilities here.
 // Volume change by pressure, per 1000 psi, from a reduced temperature (general form).
 double GeneralCompressibility(double reducedTemperature);
 
@@ -42,12 +45,12 @@ double GravityAt(float critCompressibility, double critTemperature, double critP
 double LightCompressibility(double gravity, double temperature);
 double LightCompressibilityAt60(double gravity);
 
-// Kouzel's factor on the viscosity at a pressure.
+// Kouzel's factor on the viscosity at a pressure: B. Kouzel, Hydrocarbon Processing 44 (1965) 120.
 double PressureViscosityFactor(double viscosity, double pressure);
 
 // Water by bands of specific volume (steam tables) up to 706 degF; no number from there on.
 double WaterGravityAt(double temperature);
-// Bingham's formula.
+// The formula of E. C. Bingham, Fluidity and Plasticity (1922).
 double WaterViscosityAt(double temperature);
 
 // psi, from the table's base (psi/1000) and slope (psi per psia).

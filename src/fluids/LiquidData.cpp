@@ -135,7 +135,7 @@ bool ProcessLiquidData() {
     Calc.PressureCorrection = 1 + (Calc.LiquidCompressibility * (Calc.FlowPressure - offset)) / 1000;
     if (FluidClassNumber() != fluidclass::Water) {
         Calc.FlowingSG = Calc.FlowingSG * Calc.PressureCorrection / Calc.CompressibilityAt60;
-        if (Calc.MixtureFlag == words::Yes) {
+        if (IsYes(Calc.MixtureFlag)) {
             Calc.SGAtStandard = BaseGravityOf(Calc.CritCompressFactor, Calc.CritTemperature,
                                               Calc.CritPressure, Calc.MolecularWeight);
         }

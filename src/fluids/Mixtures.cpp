@@ -29,7 +29,7 @@ using Components = std::span<const double>;
 bool PercentagesAddUp(Icon sign) {
     const Components percents = Components(Calc.FluidPercent).first(At(ComponentCount()));
     const bool any = std::any_of(percents.begin(), percents.end(), [](double each) { return each != 0; });
-    if (any && (Calc.MixtureFlag == words::Yes || RemainingPercent(percents) == 0)) return true;
+    if (any && (IsYes(Calc.MixtureFlag) || RemainingPercent(percents) == 0)) return true;
     Tell("Sum of percentages must equal 100", "Mixture Calculation", sign);
     return false;
 }

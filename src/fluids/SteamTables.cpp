@@ -11,10 +11,12 @@
 #include <vector>
 
 #include "core/CalcRecord.h"
+#include "core/FileNames.h"
 #include "core/PhysicalConstants.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
+#include "fluids/GasCorrelations.h"
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
@@ -89,7 +91,7 @@ public:
     const Contents& Now() {
         const std::string& folder = Suite.DefaultPaths[path::Program];
         if (folder == folder_ && stamp_ != FileStamp{} && StampOf(path_) == stamp_) return held_;
-        const std::string file = folder + name_;
+        const std::string file = folder + "\\" + name_;
         folder_ = folder;
         path_ = MachinePath(file);
         const FileStamp stamp = StampOf(path_);
@@ -108,8 +110,8 @@ private:
     Contents held_;
 };
 
-KeptFile<std::vector<double>> PressuresFile("\\STEAM.txt", ReadPressures);
-KeptFile<std::vector<PressureRow>> RowsFile("\\Stm07.Dat", ReadRows);
+KeptFile<std::vector<double>> PressuresFile(filename::SteamPressures, ReadPressures);
+KeptFile<std::vector<PressureRow>> RowsFile(filename::SteamRows, ReadRows);
 
 // The rows below and above a pressure, and how far it lies from the one to the other.
 struct Bracket {
@@ -387,11 +389,8 @@ bool LookupSuperheatedSteam() {
 }
 
 double SaturatedSteamLatentHeat(double temperature) {
-    const double a = 1 - (temperature + RoundZeroFInDegR) / SteamCritTemperature;
-    const double b = 1.0 - 672.0 / SteamCritTemperature;
-    const double r = a / b;
-    if (!(r > 0)) return 0;
-    const double heat = std::pow(r, 0.378) * 970.3;
+    const double heat =
+        WatsonLatentHeat(SteamBoilingPoint, SteamBoilingHeat, SteamCritTemperature, temperature);
     return heat + (3 * heat) / 300;
 }
 
@@ -399,8 +398,8 @@ SteamOutcome GetSteamData() {
     if (!(Calc.FlowPressure > 0)) return SteamOutcome::NoPressure;
     const SteamOutcome outcome = Calc.SteamKind == words::Superheated ? GetSuperheated() : GetSaturated();
     if (outcome == SteamOutcome::Found) {
-        Calc.NormalBoilingPoint = 212;
-        Calc.LatentHeatBP = 970.3;
+        Calc.NormalBoilingPoint = SteamBoilingPoint;
+        Calc.LatentHeatBP = SteamBoilingHeat;
     }
     return outcome;
 }

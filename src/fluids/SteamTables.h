@@ -11,6 +11,8 @@ namespace quillmetra {
 constexpr double SteamCritPressure = 3208.2;  // psia, as the files have it
 constexpr double SteamMolecularWeight = 18.015;
 constexpr double SteamCritTemperature = 1165.4;  // degR
+constexpr double SteamBoilingPoint = 212;        // degF, at 1 atm
+constexpr double SteamBoilingHeat = 970.3;       // Btu/lb, the latent heat there
 constexpr double SteamHighestPressure = 15000;   // psia
 constexpr double SteamLowestTemperature = 200;   // degF, of superheated steam
 constexpr double SteamHighestTemperature = 1500;

@@ -37,9 +37,7 @@ double Typed(const TextBox& box, const std::string& shown, double former, double
 }
 
 double FromKilopascal(double value) { return value * PsiPerKPa; }
-double FromDegC(double value) { return value * 1.8 + 32.0; }
 double ToKilopascal(double value) { return value / PsiPerKPa; }
-double ToDegC(double value) { return (value - 32.0) / 1.8; }
 
 }  // namespace
 
@@ -140,7 +138,7 @@ void BaseConditions::SwitchTo(bool si) {
         std::string Text = {};
     };
     Edit edits[] = {{txtSTPPressure, shown_[0], FromKilopascal, ToKilopascal},
-                    {txtSTPTemp, shown_[1], FromDegC, ToDegC},
+                    {txtSTPTemp, shown_[1], FahrenheitOf, CelsiusOf},
                     {txtSTPBaro, shown_[2], FromKilopascal, ToKilopascal}};
     for (Edit& edit : edits) {
         if (edit.Box.Text() == edit.Shown) continue;
@@ -158,7 +156,7 @@ void BaseConditions::SwitchTo(bool si) {
 
 bool BaseConditions::Take() {
     const double pressure = Typed(txtSTPPressure, shown_[0], Calc.StdPressure, FromKilopascal);
-    const double temperature = Typed(txtSTPTemp, shown_[1], Calc.StdTemperature, FromDegC);
+    const double temperature = Typed(txtSTPTemp, shown_[1], Calc.StdTemperature, FahrenheitOf);
     const double barometer = Typed(txtSTPBaro, shown_[2], Calc.BaroPressure, FromKilopascal);
     if (!(pressure > 0)) return Refuse("Base pressure must be greater than zero", txtSTPPressure);
     if (!IsAboveAbsoluteZero(temperature)) {

@@ -13,6 +13,7 @@
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/NumberText.h"
 #include "platform/Plot.h"
 #include "platform/TextFiles.h"
@@ -20,6 +21,7 @@
 #include "records/RecordFiles.h"
 #include "records/Recovery.h"
 #include "records/SaveRecord.h"
+#include "records/TextLengths.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "reports/ResultsTable.h"
@@ -34,17 +36,11 @@ namespace {
 constexpr const char* CaseCaptions[CaseCount] = {"&Maximum", "&Normal", "M&inimum"};
 constexpr const char* DatePrompt = "Date";
 
-// The longest texts that the database keeps.
-constexpr std::size_t TagLength = 30;
-constexpr std::size_t FluidLength = 30;
-constexpr std::size_t NameLength = 15;
-constexpr std::size_t CommentLength = 60;
-
 std::string WithoutPrompt(const std::string& text, const char* prompt) { return text == prompt ? "" : text; }
 
 // The user has changed something that a save would keep.
 void NoteChange() {
-    if (Calc.FormLoading != words::Yes) Calc.ChangedFlag = words::No;
+    if (!IsYes(Calc.FormLoading)) Calc.ChangedFlag = words::No;
 }
 
 // A number goes into its field only when it differs from what the box was last filled with.
@@ -63,11 +59,11 @@ CalculationForm::CalculationForm(const Names& names)
       Mixture(*this),
       program_(names.Program) {
     EnterMovesOn = true;
-    txtTagNum.MaxLength = TagLength;
-    txtFluid.MaxLength = FluidLength;
-    txtBy.MaxLength = txtApprov.MaxLength = NameLength;
+    txtTagNum.MaxLength = longest::Tag;
+    txtFluid.MaxLength = longest::Fluid;
+    txtBy.MaxLength = txtApprov.MaxLength = longest::Name;
     txtComments.Each([this](TextBox& box, int i) {
-        box.MaxLength = CommentLength;
+        box.MaxLength = longest::Note;
         box.Change = NoteChange;
         box.Describe(&lblComments, nullptr, std::to_string(i + 1));
     });
@@ -83,7 +79,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuSave.Shortcut = "Ctrl+S";
     mnuPrint.Shortcut = "Ctrl+P";
     mnuCopyResults.Shortcut = "Ctrl+Shift+C";
-    mnuHelp.Shortcut = "F1";
+    mnuHelp.Shortcut = keys::Help;
     mnuHelp.StandsLast = true;
     mnuPrint.SetEnabled(false);  // a print waits for results
 
@@ -101,7 +97,7 @@ CalculationForm::CalculationForm(const Names& names)
     cmdFormLayout.Click = [this] { OpenPanel("frmCalcOptions"); };
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
-        if (key.Name != "Escape") return;
+        if (key.Name != keys::Escape) return;
         cmdDate.SetCaption(Calc.CaseText[text::CalcDate].empty() ? DatePrompt
                                                                  : Calc.CaseText[text::CalcDate]);
         key.Handled = true;
@@ -115,7 +111,7 @@ CalculationForm::CalculationForm(const Names& names)
     };
     for (TextBox* box : {&txtTagNum, &txtBy, &txtApprov}) box->Change = NoteChange;
     txtFluid.Change = [this] {
-        if (Calc.FormLoading == words::Yes) return;
+        if (IsYes(Calc.FormLoading)) return;
         // A name typed by hand is no longer the table's fluid: neither its row nor its vapour pressure hold.
         Calc.FluidDataSource.clear();
         Calc.CaseInput[input::VaporPressure].fill(0);
@@ -129,7 +125,7 @@ void CalculationForm::DescribeRows() {
         for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
             auto& box = static_cast<TextBox&>(RowControl(*this, row, i));
             Control* const unit = *row.Unit == '\0' ? nullptr : Find(row.Unit, row.UnitIndex);
-            box.Describe(Find(row.Label), unit, row.PerCase ? CaseWords[static_cast<std::size_t>(i)] : "");
+            box.Describe(Find(row.Label), unit, row.PerCase ? words::Cases[static_cast<std::size_t>(i)] : "");
             box.IsNumber = true;
             box.Locked = row.IsResult();
             box.ColourGroup = box.Locked ? 4 : 2;
@@ -154,7 +150,7 @@ void CalculationForm::Load() {
     {
         const Filling filling;
         ApplyColours(*this);
-        if (Calc.InCalculation == words::Yes) {
+        if (IsYes(Calc.InCalculation)) {
             ReopenRecord();
         } else {
             ApplyUnits();
@@ -167,12 +163,12 @@ void CalculationForm::Load() {
     }
     Calc.FormLoading = words::No;
     const Filling filling;  // ticking an option below is no change of the record
-    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const bool mixture = IsYes(Calc.MixtureFlag);
     Calc.FluidOk = mixture ? "" : words::FluidLoaded;
     ShowChoices();
     DrawResults();
-    if (Calc.InCalculation != words::Yes) TakeAsNew();
-    mnuPrint.SetEnabled(Calc.InCalculation == words::Yes);  // a saved record has what it was saved with
+    if (!IsYes(Calc.InCalculation)) TakeAsNew();
+    mnuPrint.SetEnabled(IsYes(Calc.InCalculation));  // a saved record has what it was saved with
 }
 
 void CalculationForm::ApplyUnits() {
@@ -226,7 +222,7 @@ void CalculationForm::BlankLineResults() {
 }
 
 void CalculationForm::ClearCase(int caseIndex) {
-    if (Calc.FormLoading == words::Yes) return;
+    if (IsYes(Calc.FormLoading)) return;
     Calc.ChangedFlag = words::No;
     std::string& clearable = Calc.ResultsClearable[static_cast<std::size_t>(caseIndex)];
     if (clearable == words::No) return;
@@ -240,7 +236,7 @@ void CalculationForm::ClearCase(int caseIndex) {
 }
 
 void CalculationForm::ClearAllCases() {
-    if (Calc.FormLoading == words::Yes) return;
+    if (IsYes(Calc.FormLoading)) return;
     for (int i = 0; i < CaseCount; ++i) ClearCase(i);
     BlankLineResults();
 }
@@ -259,7 +255,7 @@ void CalculationForm::SaveChanges() {
     StoreForm();
     DetectChanges();
     Calc.SaveAnswer.clear();
-    if (Calc.RecordChanged != words::Yes) return;
+    if (!IsYes(Calc.RecordChanged)) return;
     Calc.SavePrompt = "Save changes?";
     Calc.SaveAnswer = words::No;
     if (AskYesNo(Calc.SavePrompt, Calc.ProgramTitle)) Calc.SaveAnswer = Save() ? words::Yes : words::ExitSub;
@@ -268,7 +264,7 @@ void CalculationForm::SaveChanges() {
 bool CalculationForm::MayLeaveRecord() {
     CloseOverlays();
     SaveChanges();
-    if (Calc.SaveAnswer == words::ExitSub || Calc.SaveAnswer == words::Yes) return false;
+    if (Calc.SaveAnswer == words::ExitSub || IsYes(Calc.SaveAnswer)) return false;
     DropRecovery();
     return true;
 }
@@ -356,13 +352,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
     Suite.DatabaseFile = databaseFile;
     Suite.DatabasePath = FolderOf(databaseFile);
     Calc.TagChanged = words::Yes;
-    if (!Calc.Tag.empty() && !FileExists(databaseFile)) {
-        if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", DatabaseTitle)) {
-            return false;
-        }
-        Calc.MessageTitle = DatabaseTitle;
-        if (!CreateDB(true)) return false;
-    }
+    if (!Calc.Tag.empty() && !FileExists(databaseFile) && !OfferDatabase(DatabaseTitle)) return false;
     const std::string cut = CutHeadings();
     if (!SaveTRCalc()) {
         SetStatus("Not saved");  // no "Saved as" of an earlier save stands on
@@ -389,13 +379,8 @@ void CalculationForm::mnuSave_Click() {
 void CalculationForm::mnuSaveAs_Click() {
     CloseOverlays();
     StoreForm();
-    const auto file = AskFile({.Title = DatabaseTitle,
-                               .Filter = "Access DB Files(TRDB.MDB)|TRDB.MDB",
-                               .Folder = Suite.DatabasePath,
-                               .ForSaving = true});
-    if (!file || file->empty()) return;
-    if (!IsDatabaseName(*file)) return Tell("Must find file named TRDB.MDB", "Database file");
-    SaveTo(*file);
+    const std::string file = AskDatabaseFile(true);
+    if (!file.empty()) SaveTo(file);
 }
 
 void CalculationForm::mnuProgram_Click() {

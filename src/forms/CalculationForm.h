@@ -28,9 +28,6 @@ public:
 
     explicit CalculationForm(const Names& names);
 
-    // The cases by their index, as buttons, columns and messages name them.
-    static constexpr std::array<const char*, 3> CaseWords = {"Maximum", "Normal", "Minimum"};
-
     void Load() override;
     void CloseBox() override { mnuProgram_Click(); }
 

@@ -1,6 +1,7 @@
 // See ColourSchemes.h.
 #include "forms/ColourSchemes.h"
 
+#include "core/FileNames.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "forms/RegisterForms.h"
@@ -45,7 +46,7 @@ bool PickColour(Form& form, int slot, int group, const std::string& title) {
 }
 
 void ListBackgrounds(Form& form, const std::string& title) {
-    TextWriter file(Suite.DefaultPaths[path::DataFiles] + "\\Background.TXT");
+    TextWriter file(InDefaultPath(path::DataFiles, filename::Background));
     int counter = 1;
     while (!ProcessHasEnded()) {
         if (PickColour(form, slot::Form, FormGroup, title)) {

@@ -27,20 +27,18 @@ bool TellNoResult(const RuntimeError& error) {
     return true;
 }
 
+std::string AboveVacuum() {
+    return " must be greater than minus" + Str(Calc.BaroPressure / Calc.UnitFactor[unit::Barometer]);
+}
+
 bool CheckPressure(TextBox& box, const TempPressureRules& rules) {
     RestoreStandardConditions();
-    const auto i = static_cast<std::size_t>(Calc.CaseIndex);
-    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
-    Calc.FlowPressure = Calc.EnteredPressure;
+    TakePressure(static_cast<std::size_t>(Calc.CaseIndex));
     if (Calc.PressureMode == words::Absolute) {
         return Calc.FlowPressure > 0 || RefuseData(rules.AbsoluteText, box);
     }
-    Calc.FlowPressure += GaugeZero();
     const double lowest = rules.GaugeAboveZero ? Calc.BaroPressure : 0;
-    return Calc.FlowPressure >= lowest ||
-           RefuseData("Pressure must be greater than minus" +
-                          Str(Calc.BaroPressure / Calc.UnitFactor[unit::Barometer]),
-                      box);
+    return Calc.FlowPressure >= lowest || RefuseData("Pressure" + AboveVacuum(), box);
 }
 
 bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
@@ -50,7 +48,7 @@ bool CheckTempPressure(CalculationForm& form, const TempPressureBoxes& boxes,
     RestoreStandardConditions();
 
     const auto i = static_cast<std::size_t>(Calc.CaseIndex);
-    if (Calc.TemperatureBlank[i] == 1 && Suite.BatchPrinting == words::Yes) return false;
+    if (Calc.TemperatureBlank[i] == 1 && IsYes(Suite.BatchPrinting)) return false;
     const std::string& unit = Calc.UnitName[unit::Temperature];
     Calc.FlowTemperature = TemperatureIn(Calc.CaseInput[input::Temperature][i]);
     if (!IsAboveAbsoluteZero(Calc.FlowTemperature) || Calc.TemperatureBlank[i] == 1) {

@@ -15,6 +15,9 @@ class CalculationForm;
 // Tells a failed check and moves the focus; returns false for the caller to return.
 bool RefuseData(const std::string& message, Control& box, Icon icon = Icon::Stop);
 
+// " must be greater than minus 14.7", the barometer in its unit: for a gauge pressure below a vacuum.
+std::string AboveVacuum();
+
 // For a failure in a calculation: tells that data which passed the checks give no number, and where to look.
 // False, with nothing told, for any other failure, which the caller throws on.
 bool TellNoResult(const RuntimeError& error);

@@ -23,7 +23,7 @@ DataForm::DataForm(const Names& names) : FluidForm(names) {
         const auto word = static_cast<std::size_t>(i);
         lblCase(i).SetCaption("Case " + std::to_string(i + 1));
         mnuCase(i).SetCaption(CaseMenus[word]);
-        cmdOK(i).SetCaption(CaseWords[word]);
+        cmdOK(i).SetCaption(words::Cases[word]);
         cmdOK(i).SetToolTip("Finds the properties of the fluid in hand for case " + std::to_string(i + 1));
         cmdOK(i).Click = [this, i] { cmdOK_Click(i); };
     }
@@ -67,8 +67,7 @@ bool DataForm::CheckState() {
     RestoreStandardConditions();
     const std::size_t i = ThisCase();
     Calc.FlowTemperature = TemperatureIn(Calc.CaseInput[input::Temperature][i]);
-    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][i] * Calc.UnitFactor[unit::Pressure];
-    Calc.FlowPressure = Calc.EnteredPressure + GaugeZero();
+    TakePressure(i);
     NoteEntered(Calc.CaseIndex);
     if (!HasState(Calc.CaseIndex)) return false;
     if (!IsAboveAbsoluteZero(Calc.FlowTemperature)) {

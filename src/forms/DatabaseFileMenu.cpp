@@ -17,19 +17,13 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* CreateTitle = "Create New Database File";
-constexpr const char* DatabaseFilter = "Access DB Files(TRDB.MDB)|TRDB.MDB";
 
 // Asks for a database and takes it as the one in hand; false when the user cancels or picks another file.
 bool AskDatabase() {
-    const auto file =
-        AskFile({.Title = DatabaseTitle, .Filter = DatabaseFilter, .Folder = Suite.DatabasePath});
-    if (!file || file->empty()) return false;
-    if (!IsDatabaseName(*file)) {
-        Tell("Must find file named TRDB.MDB", "Database file");
-        return false;
-    }
-    Suite.DatabaseFile = *file;
-    Suite.DatabasePath = FolderOf(*file);
+    const std::string file = AskDatabaseFile();
+    if (file.empty()) return false;
+    Suite.DatabaseFile = file;
+    Suite.DatabasePath = FolderOf(file);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string_view>
 
+#include "core/FileNames.h"
 #include "core/Suite.h"
 #include "platform/Dialogs.h"
 #include "platform/TextCase.h"
@@ -21,10 +22,24 @@ namespace {
 namespace fs = std::filesystem;
 
 // What the suite reads from its folders, beside its tables.
-constexpr std::array OwnFiles = {"TRDRV.txt",   "TRcolr.txt", "TRSTP.TXT", "TRUNS.txt",
-                                 "TRLib.TXT",   "TRHDG.txt",  "STEAM.txt", "Background.TXT",
-                                 "Stm07.Dat",   "VOTR.HLP",   "TRDB.BAK",  "TRDB.BAD",
-                                 "TRRECOV.MDB", "TRSHIP.TXT", "Dark.txt",  "High contrast.txt"};
+constexpr std::array OwnFiles = {filename::DefaultPaths,
+                                 filename::Colours,
+                                 filename::Background,
+                                 filename::LightScheme,
+                                 filename::ClassicScheme,
+                                 filename::DarkScheme,
+                                 filename::HighContrastScheme,
+                                 filename::StandardConditions,
+                                 filename::Headings,
+                                 filename::UserUnits,
+                                 filename::UnitLibrary,
+                                 filename::SteamPressures,
+                                 filename::SteamRows,
+                                 filename::Help,
+                                 filename::Backup,
+                                 filename::Damaged,
+                                 filename::Recovery,
+                                 filename::ShippedRows};
 
 bool IsOwnName(const std::string& name) {
     const auto same = [&name](std::string_view own) { return SameName(own, name); };

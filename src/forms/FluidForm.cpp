@@ -27,7 +27,7 @@ namespace {
 
 // The line-loss programs say what has changed; the others do so for a saved record alone.
 const char* StateTitle(const char* change) {
-    const bool isNew = !program::IsLine(Calc.CurrentProgram) && Calc.BrowserOpen != words::Yes;
+    const bool isNew = !program::IsLine(Calc.CurrentProgram) && !IsYes(Calc.BrowserOpen);
     return isNew ? "New Calculation" : change;
 }
 }  // namespace
@@ -121,7 +121,7 @@ bool FluidForm::CanPick(int caseIndex) const {
 // typed by hand has no entry.
 void FluidForm::TickEntries() {
     const bool building = Mixture.fraComponent.Visible();
-    const bool mixture = building || Calc.MixtureFlag == words::Yes;
+    const bool mixture = building || IsYes(Calc.MixtureFlag);
     const bool steam = !building && !Calc.SteamKind.empty();
     const bool ofTable = Fluids.IsOpen() || Calc.FluidDataSource == words::Loaded;
     for (const FluidEntries& entries : Entries) {
@@ -166,7 +166,7 @@ void FluidForm::CloseOverlays() {
 void FluidForm::FluidTyped() {
     fluidHints_.fill({});
     ShowHint("");
-    if (Calc.MixtureFlag != words::Yes && Calc.SteamKind.empty()) return TickEntries();
+    if (!IsYes(Calc.MixtureFlag) && Calc.SteamKind.empty()) return TickEntries();
     Calc.MixtureFlag = words::No;
     Calc.SteamKind.clear();
     ShowTitle();

@@ -116,7 +116,7 @@ void FluidForm::PickPure() {
 
 bool FluidForm::UpdateFluidProperties() {
     if (!Calc.SteamKind.empty()) return UpdateSteam();
-    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const bool mixture = IsYes(Calc.MixtureFlag);
     Calc.FluidOk = mixture ? "" : words::FluidPicked;
     if (!CheckForNewFluid() || !(mixture ? FillMixture() : RenewPure())) return false;
     InstallFluid(mixture ? MixtureName : Calc.FluidName, false);
@@ -163,7 +163,7 @@ void FluidForm::OpenMixture(int caseIndex) {
     before_ = ChoiceInForce();
     Fluids.Open(Calc.FluidType);
     Calc.FluidOk.clear();
-    if (Calc.MixtureFlag != words::Yes) {
+    if (!IsYes(Calc.MixtureFlag)) {
         Calc.FluidData.fill("");
         Calc.FluidPercent.fill(0);
         Calc.MixtureCount = 0;

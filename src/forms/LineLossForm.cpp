@@ -6,6 +6,7 @@
 #include "core/Words.h"
 #include "forms/DataCheck.h"
 #include "lineloss/LineRanges.h"
+#include "platform/Keys.h"
 #include "reports/FormRefresh.h"
 #include "units/Border.h"
 #include "units/CorrelationRange.h"
@@ -15,10 +16,10 @@ namespace quillmetra {
 LineLossForm::LineLossForm(const Names& names, std::initializer_list<int> rows)
     : FluidForm(names), cmdUnits(Picture1, "cmdUnits", rows, "") {
     for (int i = 0; i < CaseCount; ++i) {
-        lblCase(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
-        cmdCalculate(i).SetCaption(CaseWords[static_cast<std::size_t>(i)]);
-        cmdCalculate(i).SetToolTip(std::string("Calculates the ") + CaseWords[static_cast<std::size_t>(i)] +
-                                   " case");
+        lblCase(i).SetCaption(words::Cases[static_cast<std::size_t>(i)]);
+        cmdCalculate(i).SetCaption(words::Cases[static_cast<std::size_t>(i)]);
+        cmdCalculate(i).SetToolTip(std::string("Calculates the ") +
+                                   words::Cases[static_cast<std::size_t>(i)] + " case");
     }
     chkEntrance.SetToolTip("Allows for a large reduction in line size");
     chkExit.SetToolTip("Allows for a large increase in line size");
@@ -66,9 +67,9 @@ void LineLossForm::HookLine() {
     cmdMatl.Click = [this] { cmdMatl_Click(); };
     lstMatl.DoubleClick = [this] { lstMatl_DoubleClick(); };
     lstMatl.KeyPress = [this](Key& key) {
-        key.Handled = key.Name == "Enter" || key.Name == "Escape";
-        if (key.Name == "Enter") lstMatl_DoubleClick();
-        if (key.Name == "Escape") cmdMatl_Click();
+        key.Handled = key.Name == keys::Enter || key.Name == keys::Escape;
+        if (key.Name == keys::Enter) lstMatl_DoubleClick();
+        if (key.Name == keys::Escape) cmdMatl_Click();
     };
     for (CheckBox* tick : {&chkEntrance, &chkExit}) {
         tick->Click = [this, tick] {
@@ -169,6 +170,20 @@ void LineLossForm::cmdCalculate_Click(int index) {
     Calc.CalculatedFlag = words::Yes;
 }
 
+void LineLossForm::ShowLineResults(const LineResults& results) {
+    const int i = Calc.CaseIndex;
+    Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
+    Calc.CaseResult[result::LossPer100][ThisCase()] = results.LossPer100;
+    Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;
+    Calc.CaseResult[result::EquivLength][0] = results.EquivLength;
+    ShowNumber(txtDestPress(i), results.FinalPressure);
+    ShowNumber(txtDropP100(i), results.LossPer100);
+    ShowNumber(txtVelocity(i), results.Velocity);
+    ShowNumber(txtEquivLen, results.EquivLength);
+    if (Calc.EquivLength == 0) txtDropP100(i).SetText("");  // nothing to spread the loss over
+    Calc.ResultsClearable[ThisCase()] = words::Yes;
+}
+
 // After a fluid was picked the case is calculated from its button.
 void LineLossForm::FluidTaken() {
     cmdCalculate.Each([](CommandButton& button, int) { button.SetEnabled(true); });
@@ -179,14 +194,14 @@ HintList LineLossForm::Hints() const { return Together(FluidForm::Hints(), LineH
 
 // A case that has been calculated has a velocity.
 void LineLossForm::Recalculate() {
-    if (Calc.CalculatedFlag == words::Yes && Calc.CaseResult[result::Velocity][ThisCase()] > 0) {
+    if (IsYes(Calc.CalculatedFlag) && Calc.CaseResult[result::Velocity][ThisCase()] > 0) {
         cmdCalculate_Click(Calc.CaseIndex);
     }
 }
 
 // Without results of the case drawn last, as in a saved record, the first case that has some is drawn.
 void LineLossForm::DrawResults() {
-    const auto hasResults = [](int caseIndex) { return StandingResult(2, caseIndex) > 0; };  // a velocity
+    const auto hasResults = [](int caseIndex) { return StandingResult(result::Velocity, caseIndex) > 0; };
     for (int i = 0; i < CaseCount && !hasResults(drawnCase_); ++i) {
         if (hasResults(i)) drawnCase_ = i;
     }

@@ -7,6 +7,7 @@
 #include "core/CalcRecord.h"
 #include "forms/BasisLabels.h"
 #include "forms/FluidForm.h"
+#include "lineloss/LineResults.h"
 #include "platform/Plot.h"
 
 namespace quillmetra {
@@ -114,6 +115,9 @@ protected:
     // The line of a case whose results stand; without series when the form knows nothing to draw of it.
     virtual PlotDrawing DrawingOf(int caseIndex) const = 0;
     Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
+
+    // The results that both lines have, to the record and to their boxes.
+    void ShowLineResults(const LineResults& results);
 
     // To be called by the form when its own controls stand.
     void Assemble();

@@ -88,13 +88,10 @@ void TakeHeadings(const std::vector<std::string>& lines) {
 // Without the file, or with one that cannot be written, a conversion would be refused record by record.
 bool MakeSureOfDatabase() {
     if (FileExists(Suite.DatabaseFile)) {
-        OpenRecords(Suite.DatabaseFile)->TryToWrite();  // throws for what is none, too
+        OpenRecords(Suite.DatabaseFile)->TryToWrite();  // throws for what is no database, too
         return true;
     }
-    if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", ConvertTitle))
-        return false;
-    Calc.MessageTitle = ConvertTitle;
-    return CreateDB(true);
+    return OfferDatabase(ConvertTitle);
 }
 
 void TellReport(const Version5Report& report, const Version5File& records) {

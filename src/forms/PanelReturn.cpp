@@ -25,7 +25,7 @@ CalculationForm* OpenCalculation() {
 void ConvertToNewUnits(UnitChange& change, const std::function<void()>& showModes) {
     change.Commit(ZeroTemperature::IsConverted, [&showModes] {
         if (showModes) showModes();
-        if (Calc.NoConversion == words::Yes) BlankAllResults();
+        if (IsYes(Calc.NoConversion)) BlankAllResults();
     });
     ComposeHeading();
 }

@@ -2,6 +2,7 @@
 #include "forms/PickList.h"
 
 #include "forms/CalculationForm.h"
+#include "platform/Keys.h"
 
 namespace quillmetra {
 
@@ -15,7 +16,7 @@ PickList::PickList(CalculationForm& form, const Names& names)
     List.Describe(&Panel);
     // In a mixture there is no default button, but Enter in the list picks all the same.
     List.KeyPress = [this](Key& key) {
-        if (key.Name != "Enter" || !cmdSelect.Enabled() || !cmdSelect.Click) return;
+        if (key.Name != keys::Enter || !cmdSelect.Enabled() || !cmdSelect.Click) return;
         key.Handled = true;
         cmdSelect.Click();
     };

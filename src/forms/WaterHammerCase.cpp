@@ -43,21 +43,12 @@ bool frmWaterHammer::CheckTempPressure() {
     if (Calc.FlowTemperature < AbsoluteZeroF) {
         return RefuseData("Flow temperature must be greater than " + Str(AbsoluteZeroIn(unit)), txtFlowTemp);
     }
-    Calc.EnteredPressure =
-        Calc.CaseInput[input::Pressure][column::Operating] * Calc.UnitFactor[unit::Pressure];
-    Calc.FlowPressure = Calc.EnteredPressure;
-    if (Calc.PressureMode == words::Absolute) {
-        if (!(Calc.FlowPressure > 0)) {
-            return RefuseData("Operating pressure must be greater than zero", txtOperPressure, Icon::None);
-        }
-    } else {
-        Calc.FlowPressure += GaugeZero();
-        if (Calc.FlowPressure < 0) {
-            return RefuseData("Operating pressure must be greater than minus" +
-                                  Str(Calc.BaroPressure / Calc.UnitFactor[unit::Barometer]),
-                              txtOperPressure);
-        }
+    TakePressure(column::Operating);
+    if (Calc.PressureMode == words::Absolute && !(Calc.FlowPressure > 0)) {
+        return RefuseData("Operating pressure must be greater than zero", txtOperPressure, Icon::None);
     }
+    if (Calc.PressureMode != words::Absolute && Calc.FlowPressure < 0)
+        return RefuseData("Operating pressure" + AboveVacuum(), txtOperPressure);
     Calc.TempPressureOk = words::Yes;
     return true;
 }

@@ -2,7 +2,6 @@
 #include "forms/WinSeek.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
 
 #include "core/StartUp.h"
@@ -13,6 +12,7 @@
 #include "platform/Folders.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/TextCase.h"
 
 namespace quillmetra {
 
@@ -134,8 +134,7 @@ void WinSeek::txtPath_KeyPress(Key& key) {
     } else if (key.Name == "\\" || key.Name == "/") {
         Tell("Path " + txtPath.Text() + "\\", "Name next subroutine");
         slashTyped_ = key.Name == "/";
-    } else if (key.Name.size() == 1 && std::isalnum(static_cast<unsigned char>(key.Name[0])) == 0 &&
-               key.Name != " ") {
+    } else if (key.Name.size() == 1 && !IsLetter(key.Name[0]) && !IsDigit(key.Name[0]) && key.Name != " ") {
         key.Handled = true;
         SetStatus("The key " + key.Name + " is not taken here; a path that has it can be pasted or picked");
     }
@@ -182,7 +181,7 @@ void WinSeek::SetPath(const std::string& path, const std::string& chosen) {
 }
 
 void WinSeek::cmdOK_Click() {
-    if (!AcceptPath() || SaveRequested == words::Yes) return;
+    if (!AcceptPath() || IsYes(SaveRequested)) return;
     *Answered = saved_ ? PathAnswer::Saved : PathAnswer::Kept;
     UnloadForm(Name());
 }

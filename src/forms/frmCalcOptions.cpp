@@ -68,7 +68,7 @@ frmCalcOptions::frmCalcOptions() : SuiteForm("frmCalcOptions") {
         if (kind != ControlKind::OptionButton) continue;
         const bool ofCalculation = control->Container() == &fraCalcOptions;
         control->DoubleClick = [this, ofCalculation] {
-            if (!ofCalculation || Calc.MixtureMarker == words::Yes) CloseCalcOpts();
+            if (!ofCalculation || IsYes(Calc.MixtureMarker)) CloseCalcOpts();
         };
     }
     txtSTPBaro.KeyPress = [](Key& key) {
@@ -202,7 +202,7 @@ bool frmCalcOptions::ApplySet() {
 }
 
 void frmCalcOptions::CloseCalcOpts() {
-    if (Calc.NoConversion == words::Yes &&
+    if (IsYes(Calc.NoConversion) &&
         !AskYesNo("Option 'Change units no conversion' was selected\n\nOK?", "Change Units")) {
         Calc.NoConversion.clear();
         return;

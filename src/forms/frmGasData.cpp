@@ -51,10 +51,8 @@ void frmGasData::ShowChoices() {
 
 bool frmGasData::CheckPressureAlone() {
     RestoreStandardConditions();
-    const bool absolute = Calc.PressureMode == words::Absolute;
-    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][ThisCase()] * Calc.UnitFactor[unit::Pressure];
-    Calc.FlowPressure = Calc.EnteredPressure + GaugeZero();
-    if (!absolute || Calc.FlowPressure > 0) return true;
+    TakePressure(ThisCase());
+    if (Calc.PressureMode != words::Absolute || Calc.FlowPressure > 0) return true;
     return RefuseData("Flow pressure must be greater than zero", txtPressure(Calc.CaseIndex));
 }
 
@@ -77,7 +75,7 @@ bool frmGasData::IsTemperatureEntered(int caseIndex) {
 
 // The mixture rule has left a mixture's latent heat in its row.
 void frmGasData::FillCase() {
-    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const bool mixture = IsYes(Calc.MixtureFlag);
     const UnitFactors& factor = Calc.UnitFactor;
     Store({{input::BoilingPoint, TemperatureShown(Calc.NormalBoilingPoint)},
            {input::BoilingLatentHeat, Calc.LatentHeatBP / factor[unit::LatentHeat]},

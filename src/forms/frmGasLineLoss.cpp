@@ -150,20 +150,13 @@ PlotDrawing frmGasLineLoss::DrawingOf(int caseIndex) const {
 void frmGasLineLoss::ShowResults(const GasLineResults& results) {
     const Filling filling;
     const int i = Calc.CaseIndex;
-    Calc.CaseResult[result::LossPer100][ThisCase()] = results.LossPer100;
-    Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
-    Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;
     Calc.CaseResult[result::SonicVelocity][ThisCase()] = results.SonicVelocity;
-    Calc.CaseResult[result::EquivLength][0] = results.EquivLength;
-    ShowNumber(txtDestPress(i), results.FinalPressure);
-    ShowNumber(txtDropP100(i), results.LossPer100);
-    ShowNumber(txtVelocity(i), results.Velocity);
     ShowNumber(txtSonicVelocity(i), results.SonicVelocity);
-    ShowNumber(txtEquivLen, results.EquivLength);
-    if (results.IsSonic) txtDestPress(i).SetText("");
-    if (results.IsSonic || Calc.EquivLength == 0) txtDropP100(i).SetText("");
+    ShowLineResults(results);
     if (Calc.EquivLength == 0) txtEquivLen.SetText("");
-    Calc.ResultsClearable[ThisCase()] = words::Yes;
+    if (!results.IsSonic) return;
+    txtDestPress(i).SetText("");
+    txtDropP100(i).SetText("");
 }
 
 // --- The gas -----------------------------------------------------------------------------------------------

@@ -30,7 +30,7 @@ frmLiqData::frmLiqData()
 // The flash point of a mixture's last component says nothing of the mixture: a share of a lighter one may
 // flash hundreds of degrees below it.
 void frmLiqData::FillCase() {
-    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const bool mixture = IsYes(Calc.MixtureFlag);
     const UnitFactors& factor = Calc.UnitFactor;
     Calc.BulkModulus = BulkModulusAt(Calc.BulkModulusBase, Calc.BulkModulusSlope, Calc.FlowPressure);
     Store({{input::VaporPressure, Known(Calc.VaporPressure / factor[unit::VaporPressure])},

@@ -90,19 +90,9 @@ PlotDrawing frmLiqLineLoss::DrawingOf(int caseIndex) const {
 void frmLiqLineLoss::ShowResults() {
     const LiquidLineResults results = LiquidLineResultsOf(Calc);
     const Filling filling;
-    const int i = Calc.CaseIndex;
-    Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
-    Calc.CaseResult[result::LossPer100][ThisCase()] = results.LossPer100;
-    Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;
     Calc.CaseResult[result::ReynoldsNumber][ThisCase()] = results.Reynolds;
-    Calc.CaseResult[result::EquivLength][0] = results.EquivLength;
-    ShowNumber(txtDestPress(i), results.FinalPressure);
-    ShowNumber(txtDropP100(i), results.LossPer100);
-    ShowNumber(txtVelocity(i), results.Velocity);
-    ShowNumber(txtReynoldsNum(i), results.Reynolds);
-    ShowNumber(txtEquivLen, results.EquivLength);
-    if (Calc.EquivLength == 0) txtDropP100(i).SetText("");  // nothing to spread the loss over
-    Calc.ResultsClearable[ThisCase()] = words::Yes;
+    ShowNumber(txtReynoldsNum(Calc.CaseIndex), results.Reynolds);
+    ShowLineResults(results);
 }
 
 // Rounds the liquid's properties into the case in hand, in the units shown.

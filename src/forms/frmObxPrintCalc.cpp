@@ -16,8 +16,10 @@
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/Printer.h"
 #include "records/SaveRecord.h"
+#include "records/TextLengths.h"
 
 namespace quillmetra {
 
@@ -30,9 +32,8 @@ constexpr const char* ProblemOfPrinting = "Printing Problem";
 constexpr const char* DatePrompt = "Date";
 constexpr double SmallestFont = 8;  // points: below it a page is hard to read,
 constexpr double LargestFont = 12;  // above it lines run into each other
-constexpr std::size_t HeadingLength = 60;
 
-bool IsBatch() { return Suite.BatchPrinting == words::Yes; }
+bool IsBatch() { return IsYes(Suite.BatchPrinting); }
 
 void TellProblem(const RuntimeError& error) {
     Tell(error.Description + " (Error " + std::to_string(error.Number) + ")", ProblemOfPrinting, Icon::Stop);
@@ -53,12 +54,12 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
                                                             {&txtManufacturer, &lblManufacturer},
                                                             {&txtModel, &lblModel}}) {
         box->Describe(label);
-        box->MaxLength = HeadingLength;
+        box->MaxLength = longest::Heading;
     }
-    txtManufacturer.MaxLength = txtModel.MaxLength = LongestMaker;
+    txtManufacturer.MaxLength = txtModel.MaxLength = longest::Maker;
     txtComments.Each([this](TextBox& box, int i) {
         box.Describe(&lblComments, nullptr, std::to_string(i + 1));
-        box.MaxLength = HeadingLength;
+        box.MaxLength = longest::Note;
     });
     cmdDate.Describe(&lblDate);
     cmdDate.SetToolTip("Takes today's date; Escape puts the former one back");
@@ -70,7 +71,7 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
 
     cmdDate.Click = [this] { cmdDate_Click(); };
     cmdDate.KeyPress = [this](Key& key) {
-        if (key.Name != "Escape") return;
+        if (key.Name != keys::Escape) return;
         ShowDate(Calc.CaseText[text::CalcDate]);
         key.Handled = true;
     };
@@ -165,7 +166,7 @@ void frmObxPrintCalc::mnuPrinterFonts_Click() {
 void frmObxPrintCalc::mnuPageSetup_Click() { AskPageSetup(); }
 
 void frmObxPrintCalc::cmdCancel_Click() {
-    const bool stored = Calc.BrowserOpen == words::Yes;
+    const bool stored = IsYes(Calc.BrowserOpen);
     if (!stored && Calc.CaseUnitsText[printed::Date].empty())
         Calc.CaseUnitsText[printed::Date] = Calc.HeadingText[heading::PrintDate];
     UnloadForm(Name());
@@ -244,7 +245,7 @@ void frmObxPrintCalc::PrintCopies(int copies) {
         Printer.Font.Size = base;
         throw;
     }
-    if (Calc.BrowserOpen != words::Yes) DateRecord();
+    if (!IsYes(Calc.BrowserOpen)) DateRecord();
 }
 
 }  // namespace quillmetra

@@ -12,6 +12,7 @@
 #include "forms/RegisterForms.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "reports/FormRefresh.h"
 
 namespace quillmetra {
@@ -24,7 +25,7 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
     Fixed = true;
     DefaultButton = &cmdOK;
     CancelButton = &cmdCancel;
-    mnuHelp.Shortcut = "F1";
+    mnuHelp.Shortcut = keys::Help;
     const std::pair<MenuItem*, const TableDescription*> tables[] = {{&mnuGasTable, &table::Gas},
                                                                     {&mnuLiquidTable, &table::Liquid},
                                                                     {&mnuMaterialTable, &table::Material},
@@ -56,7 +57,7 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
 
 void frmObxProg::Load() {
     ApplyColours(*this);
-    if (Calc.InCalculation != words::Yes) {
+    if (!IsYes(Calc.InCalculation)) {
         ResetRecord();
         LoadDefaults();
         Calc.HeadingText[heading::Note1].clear();

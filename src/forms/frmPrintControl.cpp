@@ -15,13 +15,13 @@
 #include "platform/Forms.h"
 #include "records/RecordFiles.h"
 #include "records/SaveRecord.h"
+#include "records/TextLengths.h"
 
 namespace quillmetra {
 
 namespace {
 
-constexpr std::size_t TitleLength = 60;  // as on the printout of one calculation
-constexpr std::size_t FirstTitle = 2;    // of the heading lines
+constexpr std::size_t FirstTitle = 2;  // of the heading lines
 
 using Headings = Row<std::string, 11>;
 
@@ -66,7 +66,7 @@ frmPrintControl::frmPrintControl() : SuiteForm("frmPrintControl") {
     for (const auto& field : fields) {
         field.Box.Describe(&field.Name);
         field.Box.ColourGroup = field.Box.Locked ? 4 : 2;
-        field.Box.MaxLength = TitleLength;
+        field.Box.MaxLength = longest::Heading;
     }
     for (Control* control : std::initializer_list<Control*>{&chkPrintDate, &txtPrintoutDate}) {
         control->SetToolTip("Not ticked, each page has the date of its calculation");

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/FileNames.h"
 #include "core/Suite.h"
 #include "forms/ColourSchemes.h"
 #include "platform/Dialogs.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr std::size_t FileWidth = 14;
 
 // Holds the version whose rows the user was told of.
-std::string ToldFile() { return Suite.DefaultPaths[path::Program] + "\\TRSHIP.TXT"; }
+std::string ToldFile() { return InDefaultPath(path::Program, filename::ShippedRows); }
 
 bool WasTold() {
     try {

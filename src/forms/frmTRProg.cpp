@@ -10,6 +10,7 @@
 #include "forms/WinSeek.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "units/StandardRange.h"
 
 namespace quillmetra {
@@ -19,8 +20,7 @@ constexpr int BrowserHelpTopic = 400;
 constexpr const char* SuiteName = "Quillmetra";
 
 bool PromptsAreHidden() {
-    return Suite.HideFluidReminder == words::Yes && Suite.HideRoundReminder == words::Yes &&
-           Suite.HideFlowStatus == words::Yes;
+    return IsYes(Suite.HideFluidReminder) && IsYes(Suite.HideRoundReminder) && IsYes(Suite.HideFlowStatus);
 }
 }  // namespace
 
@@ -34,7 +34,7 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
         }
     }
     mnuExit.SeparatorBefore = true;
-    mnuHelp.Shortcut = "F1";
+    mnuHelp.Shortcut = keys::Help;
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);
     fraTags.SetVisible(false);

@@ -11,6 +11,7 @@
 #include "forms/ColourSchemes.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
@@ -219,13 +220,13 @@ void frmTables::StoreRow() {
 }
 
 void frmTables::StorePending(const std::string& row, const char* ending) {
-    if (RowEdited != words::Yes) return;
+    if (!IsYes(RowEdited)) return;
     if (AskYesNo(StoreQuestion + row + ending, ChangedTitle)) StoreRow();
 }
 
 void frmTables::grdTable_Click() {
     const int row = grdTable.Selected();
-    const bool dropped = RowEdited == words::Yes;
+    const bool dropped = IsYes(RowEdited);
     ShowRow(row);
     txtRecall.SetText(TrimmedStr(row));
     if (dropped) SetStatus("What was typed into the boxes before is in no row");
@@ -268,7 +269,7 @@ void frmTables::txtHole_Change() {
 }
 
 void frmTables::txtHole_KeyPress(int index, Key& key) {
-    if (key.Name != "Enter") return;
+    if (key.Name != keys::Enter) return;
     key.Handled = true;
     if (!HasTable()) return;
     if (CurrentRow == RowCount()) grdTable.InsertRow(CurrentRow, {});
@@ -303,7 +304,7 @@ void frmTables::cmdRecall_Click() {
     ShowRow(*row);
     grdTable.Preselect(*row, 1);
     RowEdited.clear();
-    if (GridChanged != words::Yes) FileEdited.clear();
+    if (!IsYes(GridChanged)) FileEdited.clear();
 }
 
 void frmTables::cmdLoadRow_Click() {
@@ -416,7 +417,7 @@ bool frmTables::Save(Answer preset) {
 void frmTables::cmdSaveGrid_Click() { Save(Answer::No); }
 
 void frmTables::cmdReloadGrid_Click() {
-    const bool changed = FileEdited == words::Yes || GridChanged == words::Yes;
+    const bool changed = IsYes(FileEdited) || IsYes(GridChanged);
     if (table_ == nullptr || !ReadTableFile()) return;
     EnableWork(true);
     SetStatus(changed ? "Read again from the file; what was changed since the last save is gone" : "");
@@ -425,7 +426,7 @@ void frmTables::cmdReloadGrid_Click() {
 // A save that failed keeps the form with what it holds. Who has said here that the file is to be saved does
 // not lose it by Enter at the next question.
 void frmTables::cmdCancelGrid_Click() {
-    const bool changed = FileEdited == words::Yes || GridChanged == words::Yes;
+    const bool changed = IsYes(FileEdited) || IsYes(GridChanged);
     if (changed && HasTable() && AskYesNo("Save the new file?", ChangedTitle) && !Save(Answer::Yes)) return;
     FileEdited.clear();
     RowEdited.clear();

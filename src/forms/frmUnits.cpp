@@ -29,9 +29,8 @@ constexpr std::pair<int, int> FlowParts[] = {
     {unit::LiquidFlow, unit::LiquidTimeBase}};  // quantity and time base of a flow unit
 
 constexpr const char* ChooseText =
-    "To select, double click the required unit.   To add a unit, click an empty line. Type in the name and "
-    "the "
-    "multiplier to convert to the first line unit";
+    "To select, double click the required unit.   To add a unit, click an empty line. "
+    "Type in the name and the multiplier to convert to the first line unit";
 constexpr const char* BasisText =
     "Either mass or volumetric units are available.  The current selection is shown";
 constexpr const char* SelectionsText =

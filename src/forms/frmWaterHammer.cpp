@@ -7,6 +7,7 @@
 #include "hammer/PipeModulus.h"
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
+#include "records/TextLengths.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "tables/TableFiles.h"
@@ -17,9 +18,7 @@
 
 namespace quillmetra {
 
-namespace {
-constexpr std::size_t MaterialLength = 30;  // the longest name that the database keeps
-}
+namespace {}
 
 frmWaterHammer::frmWaterHammer()
     : FluidForm({.Program = 3,
@@ -39,7 +38,7 @@ frmWaterHammer::frmWaterHammer()
     txtSelectedTime.SetToolTip(
         "A time below the critical one gives more than the full pressure rise, which no valve can cause");
     lblLiqTestBasis.SetToolTip("The basis of the flow: mass or volume");
-    txtPipeMatl.MaxLength = MaterialLength;
+    txtPipeMatl.MaxLength = longest::Material;
     txtPipeMatl.Describe(&lblPipeMatl);
     txtPipeMatl.Change = [this] { ClearAllCases(); };
     pltClosing.ColourGroup = 4;  // as the results
@@ -97,7 +96,7 @@ void frmWaterHammer::CloseOverlays() {
 
 void frmWaterHammer::ShowChoices() {
     Calc.CaseIndex = 0;
-    if (Calc.MixtureFlag != words::Yes) Calc.FluidOk = words::FluidPicked;  // not "OK", as the others have it
+    if (!IsYes(Calc.MixtureFlag)) Calc.FluidOk = words::FluidPicked;  // not "OK", as the others have it
     Moduli.Close();
     ShowFluidEntries();
     lblLiqTestBasis.SetCaption("");
@@ -132,11 +131,11 @@ void frmWaterHammer::FillCase() {
 
 void frmWaterHammer::FluidTaken() {
     cmdCalculateliq.SetFocus();
-    if (Calc.MixtureFlag != words::Yes) Recalculate();  // that of a mixture follows by itself
+    if (!IsYes(Calc.MixtureFlag)) Recalculate();  // that of a mixture follows by itself
 }
 
 void frmWaterHammer::Recalculate() {
-    if (Calc.HammerCalculated == words::Yes) cmdCalculateliq_Click();
+    if (IsYes(Calc.HammerCalculated)) cmdCalculateliq_Click();
 }
 
 // --- The pipe --------------------------------------------------------------------------------------------

@@ -10,14 +10,14 @@
 
 namespace quillmetra {
 
-// Korteweg: a = 8.618176 / sqrt(gravity (1 / K + (d / wall) / E)). The pipe's walls give way, and so the wave
-// is slower than sound in the liquid, 8.618176 sqrt(K / gravity).
+// D. J. Korteweg, Ann. Phys. 241 (1878) 525: a = 8.618176 / sqrt(gravity (1 / K + (d / wall) / E)). The
+// pipe's walls give way, and so the wave is slower than sound in the liquid, 8.618176 sqrt(K / gravity).
 double WaveVelocityOf(double gravity, double bulkModulus, double diameter, double wall, double pipeModulus);
 
 // Of the flow: m / (rho area).
 double FlowVelocityOf(double massFlow, double gravity, double diameter);
 
-// Joukowski: the rise when the flow stops at once, rho a v.
+// N. Joukowsky (1898): the rise when the flow stops at once, rho a v.
 double PressureRiseOf(double waveVelocity, double flowVelocity, double gravity);
 
 // On the support of a bend, by the rise over the pipe's bore.
@@ -29,8 +29,9 @@ double CriticalTimeOf(double length, double waveVelocity);
 // The shortest closing time that keeps within the allowable rise.
 double MinimumTimeOf(double rise, double allowableRise, double criticalTime);
 
-// The rise of a closing time by inverse proportion. It is not capped: a time shorter than the critical one
-// gives a rise above Joukowski's, which no valve can bring about.
+// The rise of a closing time by inverse proportion, the customary rule (E. B. Wylie and V. L. Streeter,
+// 1993). It is not capped: a time shorter than the critical one gives a rise above Joukowski's, which no
+// valve can bring about.
 double RiseAtTime(double rise, double criticalTime, double closingTime);
 
 // From the record's working layer to its working layer and HammerResult, with four figures in the units

@@ -34,12 +34,10 @@ constexpr std::array<TurbulenceRow, 15> TurbulenceTable = {{
     {48, 0.01, 50000000},
 }};
 
+// Any number but those of the first two is the third case.
 const char* CaseWord() {
-    switch (Calc.CaseIndex) {
-        case 0: return "Maximum";
-        case 1: return "Normal";
-        default: return "Minimum";
-    }
+    const bool isFirstTwo = Calc.CaseIndex == 0 || Calc.CaseIndex == 1;
+    return words::Cases[isFirstTwo ? At(Calc.CaseIndex) : 2];
 }
 
 // What is told of a zone. Telling it moves the two marks along.
@@ -98,7 +96,7 @@ void CalcFlowStatus() {
         Calc.TurbulentFactor = row->Factor;
         if (Calc.ReynoldsNumber < row->ReynoldsLimit) Calc.TransitionMark = words::Transition;
     }
-    if (Suite.HideFlowStatus != words::Yes) TellFlowZone();
+    if (!IsYes(Suite.HideFlowStatus)) TellFlowZone();
     SetEquivalentLengths();
 }
 

@@ -25,6 +25,7 @@ void WarnOfNoConvergence() {
     Tell("Will not converge\nUse data with care", Calc.MessageTitle, Icon::Question);
 }
 
+// Hagen and Poiseuille.
 void TakeLaminarFactor() {
     Calc.FlowZone = words::Laminar;
     Calc.FrictionFactor = 64 / Calc.ReynoldsNumber;
@@ -95,7 +96,7 @@ void CalcFriction() {
     CalcFlowStatus();
     if (Calc.CurrentProgram == program::LiquidLine) Calc.Density = Calc.FlowingSG * FrictionWaterDensity;
 
-    Calc.MessageTitle = "Line pressure loss calculation";
+    Calc.MessageTitle = LineLossTitle;
     Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[TheLine], Calc.Density);
     Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[TheLine]);
     const double equipment = Calc.EquipLoss[TheLine] / Calc.LossPer100 * 100;

@@ -6,11 +6,14 @@
 
 namespace quillmetra {
 
+// The title of the boxes that tell of a loss.
+inline constexpr const char* LineLossTitle = "Line pressure loss calculation";
+
 // Bounds of the flow zones by Reynolds number; each belongs to the zone below it.
 constexpr double LaminarLimit = 2000;
 constexpr double CriticalLimit = 4000;
 
-// 6.31 x flow (lb/h) / inside diameter (in) / viscosity (cp).
+// The definition, 4 W / (pi d u), as 6.31 x flow (lb/h) / inside diameter (in) / viscosity (cp).
 double ReynoldsOf(double massFlow, double pipeId, double viscosity);
 
 struct ColebrookResult {
@@ -20,7 +23,8 @@ struct ColebrookResult {
     bool Converged;
 };
 
-// Solves 1 / sqrt(f) = -2 log10(e / 3.7 / D + a / (Re sqrt(f))) for the Darcy friction factor f by damped
+// C. F. Colebrook, J. Inst. Civ. Eng. 11 (1939) 133: solves
+// 1 / sqrt(f) = -2 log10(e / 3.7 / D + a / (Re sqrt(f))) for the Darcy friction factor f by damped
 // Newton steps from 0.01 until a step is 1e-6 or less, at most 100 rounds. pipeId in inches, as the
 // roughness. Without a material the Colebrook term stays at lastTerm.
 ColebrookResult SolveColebrook(double reynolds, double pipeId, const PipeMaterial* material, double lastTerm);
@@ -29,14 +33,15 @@ constexpr double LargestLoss = 50000.0;  // psi per 100 ft
 
 // The next two stand here because a gas line calls them foot by foot.
 
-// Darcy's formula: psi per 100 ft, at most LargestLoss. Flow lb/h, inside diameter in, density lb/ft3.
+// Darcy's formula as Crane's Technical Paper No. 410 has it: psi per 100 ft, at most LargestLoss. Flow lb/h,
+// inside diameter in, density lb/ft3.
 inline double LossPer100Feet(double frictionFactor, double massFlow, double pipeId, double density) {
     const double fifthPower = pipeId * pipeId * pipeId * pipeId * pipeId;
     const double loss = 0.000336 * frictionFactor * (massFlow * massFlow) / fifthPower / density;
     return loss > LargestLoss ? LargestLoss : loss;
 }
 
-// ft/s from flow (lb/h), density (lb/ft3) and inside diameter (in).
+// Continuity, 4 W / (pi d2 rho): ft/s from flow (lb/h), density (lb/ft3) and inside diameter (in).
 inline double LineVelocity(double massFlow, double density, double pipeId) {
     return massFlow / 19.65 / density / (pipeId * pipeId);
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/Filling.h"
 #include "core/Words.h"
 #include "fluids/GasData.h"
 #include "lineloss/FlowStatus.h"
@@ -18,7 +19,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr const char* Title = "Line pressure loss calculation";
 constexpr const char* LimitText = "Increase line size, or\nIncrease pressure, or\nDecrease flow rate";
 
 constexpr double FewestSteps = 20;
@@ -26,15 +26,6 @@ constexpr double FewestSteps = 20;
 constexpr double MostSteps = 1e15;
 constexpr std::int64_t LongMarch = 1000000;
 constexpr std::int64_t StepsOfABreath = 100000;
-
-// Marks the record for the life of a march.
-class Marching {
-public:
-    Marching() { Calc.InCalculation = words::Yes; }
-    ~Marching() { Calc.InCalculation = words::No; }
-    Marching(const Marching&) = delete;
-    Marching& operator=(const Marching&) = delete;
-};
 
 std::int64_t GasStepCount(double pipeLength) {
     const double steps = pipeLength > FewestSteps ? Int(pipeLength) : FewestSteps;
@@ -58,19 +49,19 @@ void TellSonicInlet() {
     const double limit = RoundedThree(flow * Calc.SonicVelocity / Calc.Velocity);
     Tell("Sonic velocity exists, flow is limited to\n" + Str(limit) + " " + Calc.UnitName[unit::GasFlow] +
              "\n" + LimitText,
-         Title, Icon::Stop);
+         LineLossTitle, Icon::Stop);
 }
 
 std::string PercentOfLine(double part) { return Str(Int(part * 100 + 0.5)) + " % of equiv line length\n"; }
 
 // No line break stands before the advice.
 void TellZeroPressure(double part) {
-    Tell("Zero pressure reached @" + PercentOfLine(part) + "Flow cannot be maintained" + LimitText, Title,
-         Icon::Stop);
+    Tell("Zero pressure reached @" + PercentOfLine(part) + "Flow cannot be maintained" + LimitText,
+         LineLossTitle, Icon::Stop);
 }
 
 void TellSonicVelocity(double part) {
-    Tell("Sonic velocity reached @" + PercentOfLine(part), Title, Icon::Stop);
+    Tell("Sonic velocity reached @" + PercentOfLine(part), LineLossTitle, Icon::Stop);
 }
 
 // The steps from the inlet on, one after the other in the record.
@@ -80,7 +71,7 @@ public:
 
     // False when the user ended it.
     bool Run(bool converges) {
-        const Marching marching;
+        const Setting marching(Calc.InCalculation, words::Yes, words::No);
         const bool isLong = count_ > LongMarch;
         for (std::int64_t step = 1; step <= count_; ++step) {
             if (!Step(static_cast<double>(step) / static_cast<double>(count_))) return true;
@@ -109,7 +100,7 @@ private:
         // The sonic velocity takes the new pressure over the old density; it stands so.
         TakeVelocities();
         if (observer_) observer_(StationAt(part));
-        // Numbers that are none stop nothing here: the comparison must stay this way round.
+        // A velocity that is not a number stops nothing here: the comparison must stay this way round.
         if (Calc.Velocity > Calc.SonicVelocity) {
             TellSonicVelocity(part);
             Calc.Velocity = Calc.SonicVelocity;
@@ -149,7 +140,7 @@ void CalcGasFriction() {
 
     Calc.FlowPressure = Calc.SourcePressure[TheLine];
     CalcCompressibility();
-    Calc.MessageTitle = Title;
+    Calc.MessageTitle = LineLossTitle;
     Calc.LossPer100 = LossPer100Feet(Calc.FrictionFactor, Calc.MassFlow, Calc.PipeId[TheLine], Calc.Density);
     Calc.Velocity = LineVelocity(Calc.MassFlow, Calc.Density, Calc.PipeId[TheLine]);
     Calc.FittingsEquivLength = LengthWithFittings();
@@ -172,17 +163,9 @@ bool CalcGasProfile(const GasLineObserver& observer) {
 }
 
 GasLineResults GasLineResultsOf(const CalcRecord& record) {
-    const auto& factor = record.UnitFactor;
     const bool isSonic = record.Velocity == record.SonicVelocity;
-    const double difference = record.SourcePressure[TheLine] - record.FlowPressure;
-    const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
-    return {
-        .IsSonic = isSonic,
-        .FinalPressure = isSonic ? 0 : ShownFigures(PressureShown(record.FlowPressure, record)),
-        .LossPer100 = isSonic ? 0 : ShownFigures(loss / factor[unit::PressureDrop] * factor[unit::Length]),
-        .Velocity = ShownFigures(record.Velocity / factor[unit::Velocity]),
-        .SonicVelocity = ShownFigures(record.SonicVelocity / factor[unit::Velocity]),
-        .EquivLength = ShownFigures(std::fabs(record.EquivLength) / factor[unit::Length])};
+    const double sonic = record.SonicVelocity / record.UnitFactor[unit::Velocity];
+    return {LineResultsOf(record, !isSonic), isSonic, ShownFigures(sonic)};
 }
 
 }  // namespace quillmetra

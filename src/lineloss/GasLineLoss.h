@@ -4,11 +4,11 @@
 
 #include <functional>
 
-#include "core/CalcRecord.h"
+#include "lineloss/LineResults.h"
 
 namespace quillmetra {
 
-// ft/s, from psia and lb/ft3.
+// Of isentropic flow: 4639 is 144 in2/ft2 x 32.2 ft/s2 to 0.05 %. ft/s, from psia and lb/ft3.
 double SonicVelocityOf(double ratioSpecificHeats, double pressure, double density);
 
 // The friction factor of the line of the record in hand, and at the inlet CompressFactor, Density, LossPer100
@@ -38,15 +38,10 @@ using GasLineObserver = std::function<void(const GasStation&)>;
 // there is no result to show.
 bool CalcGasProfile(const GasLineObserver& observer = {});
 
-// In the units of the record, four figures each.
-struct GasLineResults {
-    bool IsSonic;          // the line has no pressure at its end, and the first two are 0
-    double FinalPressure;  // unit row 3, gauge or absolute as the pressure mode
-    double LossPer100;     // unit row 4 per 100 of row 25: the whole difference over the equivalent length of
-                           // the last step; 0 when that length is 0
-    double Velocity;       // unit row 20
+// The equivalent length is that of the last step; it is 0, and with it the loss, when the inlet is sonic.
+struct GasLineResults : LineResults {
+    bool IsSonic;          // the line has no pressure at its end
     double SonicVelocity;  // unit row 20
-    double EquivLength;    // unit row 25, never negative; 0 when the inlet is sonic
 };
 
 // Throws a RuntimeError when a result is not finite.

@@ -1,9 +1,8 @@
 // See LiquidLineLoss.h.
 #include "lineloss/LiquidLineLoss.h"
 
-#include <cmath>
-
 #include "core/Words.h"
+#include "lineloss/Friction.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
 #include "units/Border.h"
@@ -29,19 +28,12 @@ void CalcFinalPressure() {
     if (!(Calc.FlowPressure <= 0)) return;
     Tell("Zero pressure reached @" + Str(PercentReached(difference)) +
              " % of equiv line length\nFlow cannot be maintained",
-         "Line pressure loss calculation", Icon::Stop);
+         LineLossTitle, Icon::Stop);
     Calc.FlowPressure = 0;
 }
 
 LiquidLineResults LiquidLineResultsOf(const CalcRecord& record) {
-    const auto& factor = record.UnitFactor;
-    const double difference = record.SourcePressure[TheLine] - record.FlowPressure;
-    const double loss = record.EquivLength == 0 ? 0 : difference / record.EquivLength * 100;
-    return {.FinalPressure = ShownFigures(PressureShown(record.FlowPressure, record)),
-            .LossPer100 = ShownFigures(loss / factor[unit::PressureDrop] * factor[unit::Length]),
-            .Velocity = ShownFigures(record.Velocity / factor[unit::Velocity]),
-            .Reynolds = ShownFigures(record.ReynoldsNumber),
-            .EquivLength = ShownFigures(std::fabs(record.EquivLength) / factor[unit::Length])};
+    return {LineResultsOf(record), ShownFigures(record.ReynoldsNumber)};
 }
 
 }  // namespace quillmetra

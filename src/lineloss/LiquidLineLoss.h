@@ -1,7 +1,7 @@
 // The pressure at the far end of a liquid line, and a case's results in the units shown.
 #pragma once
 
-#include "core/CalcRecord.h"
+#include "lineloss/LineResults.h"
 
 namespace quillmetra {
 
@@ -10,14 +10,8 @@ namespace quillmetra {
 // told to the user and leaves FlowPressure 0, which stands for no result.
 void CalcFinalPressure();
 
-// In the units of the record, four figures each.
-struct LiquidLineResults {
-    double FinalPressure;  // unit row 3, gauge or absolute as the pressure mode
-    double LossPer100;     // unit row 4 per 100 of row 25: the whole difference over the equivalent length,
-                           // elevation and equipment in both; 0 when that length is 0
-    double Velocity;       // unit row 20
+struct LiquidLineResults : LineResults {
     double Reynolds;
-    double EquivLength;  // unit row 25, never negative
 };
 
 // Throws a RuntimeError when a result is not finite.

@@ -14,8 +14,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double TwipsPerPoint = 20;
-constexpr double TwipsPerInch = 1440;
 // Letters are made in one size and scaled when they are drawn, so that no device rounds their widths.
 constexpr int UnitSize = 100;
 constexpr double ThinLine = 10;  // twips

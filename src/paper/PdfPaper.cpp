@@ -14,8 +14,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double TwipsPerPoint = 20;
-
 // Letters need an application; a program without windows gets one that needs no display.
 void EnsureApplication() {
     if (QCoreApplication::instance() != nullptr) return;

@@ -9,7 +9,7 @@ namespace quillmetra {
 // "11/24/2026", "01/05/2026"
 std::string Today();
 
-// A day as the suite writes it from its year-month-day form ("2026-11-24"); empty for a text that is none.
+// A day as the suite writes it from its year-month-day form ("2026-11-24"); empty for a text that is no day.
 std::string DateText(const std::string& isoDay);
 
 // The year-month-day form of a text month/day/year with two or four digits of year (00 to 29 stand for 2000

@@ -47,8 +47,7 @@ const char* Word(ControlKind kind);
 // A caption as it is read: without the "&" that marks its access key and without a colon at its end.
 std::string SpokenCaption(const std::string& caption);
 
-// A key press: one character, or the name of a key ("Enter", "Escape", "F1"), with modifiers in front
-// ("Ctrl+c"). A handler that uses the key up sets Handled.
+// A key press, by the names of Keys.h. A handler that uses the key up sets Handled.
 struct Key {
     std::string Name;
     bool Handled = false;

@@ -88,7 +88,7 @@ struct DatabaseKind {
 
 class Database {
 public:
-    // Opens a database that exists. A file that is none of this kind, and one of a newer schema, is refused
+    // Opens a database that exists. A file of another kind, and one of a newer schema, is refused
     // before the engine touches it. A file that nobody may write is opened for reading.
     Database(const std::filesystem::path& file, const DatabaseKind& kind);
     ~Database();
@@ -161,6 +161,9 @@ private:
     bool open_ = true;
 };
 
+// The index of each table, by its key.
+inline constexpr std::string_view TagIndex = "Tag_Number";
+
 // The rows of one table. It stands on the first row when it is made. No lock is held between two calls.
 class Recordset {
 public:
@@ -169,8 +172,9 @@ public:
     struct Unplaced {};
     Recordset(Database& database, const TableShape& table, Unplaced);
 
-    void Index(std::string_view name);  // "Tag_Number", the key of each table
+    void Index(std::string_view name);  // TagIndex, no other
     bool Seek(std::string_view key);    // false, NoMatch and no current row when there is none
+    // Kept for its name beside Seek, whose answer all callers take.
     bool NoMatch() const { return noMatch_; }
 
     // A move over the end (start) leaves no current row and AtEnd (AtStart); a move from there, and any move

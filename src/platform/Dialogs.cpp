@@ -2,11 +2,11 @@
 #include "platform/Dialogs.h"
 
 #include <algorithm>
-#include <cctype>
 #include <stdexcept>
 
 #include "platform/Events.h"
 #include "platform/Host.h"
+#include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -28,9 +28,9 @@ bool HasEnding(const std::string& file) {
     const std::size_t point = file.find_last_of(".\\/");
     if (point == std::string::npos || file[point] != '.') return false;
     const std::string ending = file.substr(point + 1);
-    const auto isPart = [](unsigned char c) { return std::isalnum(c) != 0; };
+    const auto isPart = [](char c) { return IsLetter(c) || IsDigit(c); };
     return ending.size() >= 2 && ending.size() <= 4 && std::ranges::all_of(ending, isPart) &&
-           std::isalpha(static_cast<unsigned char>(ending[0])) != 0;
+           IsLetter(ending[0]);
 }
 
 // The ending of the filter's first pattern ("*.pdf") goes behind a name without any. False when nothing was
@@ -46,6 +46,14 @@ bool AddEnding(std::string& file, const std::string& filter) {
 
 Host* CurrentHost() { return InstalledHost; }
 void InstallHost(Host* host) { InstalledHost = host; }
+
+bool Offers(const MessageBox& box, Answer answer) {
+    switch (answer) {
+        case Answer::Ok: return box.Choice == Buttons::Ok;
+        case Answer::Cancel: return box.Choice == Buttons::YesNoCancel;
+        default: return box.Choice != Buttons::Ok;
+    }
+}
 
 Answer DefaultAnswer(const MessageBox& box) {
     return box.Default.value_or(box.Choice == Buttons::Ok ? Answer::Ok : Answer::Yes);

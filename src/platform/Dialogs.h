@@ -42,6 +42,9 @@ struct PrinterChoice {
     int ToPage = 0;    // 0: to the last
 };
 
+// Whether a box has a button for the answer.
+bool Offers(const MessageBox& box, Answer answer);
+
 // The default answer of a box when it names none: OK or Yes.
 Answer DefaultAnswer(const MessageBox& box);
 

@@ -43,7 +43,7 @@ public:
     // Size and margins of the sheets, kept by the host.
     virtual void PageSetupDialog() = 0;
     // The paper for the pages of a job; a printer is the one that the printer dialog chose last. Throws a
-    // RuntimeError when there is none to be had.
+    // RuntimeError when there is no such paper.
     virtual std::unique_ptr<Paper> OpenPaper(const PrintJob& job) = 0;
     virtual void ShowHelp(int topic) = 0;
     virtual void CopyText(const std::string& text) = 0;

@@ -16,11 +16,11 @@
 #endif
 #endif
 
+#include "platform/TextCase.h"
+
 namespace quillmetra {
 
 namespace {
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The leading number of a text with its blanks taken out, in the spelling of from_chars, and how far the
 // text was read.

@@ -16,15 +16,16 @@ RecordingPrinter Printer;
 
 namespace {
 
-constexpr double LineHeight = 240;    // twips, of a line of the page as characters
-constexpr double TwipsPerPoint = 24;  // a line's advance under letters of that many points
+constexpr double LineHeight = 240;  // twips, of a line of the page as characters
+// From line to line, for each point of the letters: 1.2 of their size.
+constexpr double LineAdvance = 24;  // twips
 
 double GridWidth(const std::string& text) {
     return Paper::ColumnWidth * static_cast<double>(CharacterCount(text));
 }
 
 // A text of one line, whatever a file or a user has put in it.
-std::string OnOneLine(std::string text) {
+std::string WithoutControls(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
     return text;
@@ -97,13 +98,13 @@ void RecordingPrinter::Abandon() {
 }
 
 void RecordingPrinter::Print(std::vector<PrintCell> cells, Anchor fit) {
-    for (PrintCell& cell : cells) cell.Text = OnOneLine(std::move(cell.Text));
+    for (PrintCell& cell : cells) cell.Text = WithoutControls(std::move(cell.Text));
     PrintOp op{.X = CurrentX, .Y = CurrentY, .FontSize = Font.Size, .FontBold = Font.Bold, .Fit = fit};
     if (CurrentX) op.Width = TextWidth(cells.front().Text);
     op.Cells = std::move(cells);
     page_.Ops.push_back(std::move(op));
     CurrentX.reset();
-    CurrentY += Font.Size * TwipsPerPoint;
+    CurrentY += Font.Size * LineAdvance;
 }
 
 void RecordingPrinter::Line(double x, double y, double stepX, double stepY) {

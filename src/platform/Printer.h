@@ -15,6 +15,9 @@
 
 namespace quillmetra {
 
+constexpr double TwipsPerInch = 1440;
+constexpr double TwipsPerPoint = 20;
+
 // How a text that is too wide for its place shrinks: towards its left end, its middle or its right end.
 enum class Anchor { Left, Centre, Right };
 

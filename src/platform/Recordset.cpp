@@ -125,7 +125,7 @@ bool Recordset::Fetch(Act act, std::string_view key) {
 }
 
 void Recordset::Index(std::string_view name) {
-    if (name != "Tag_Number") throw failure::NoSuchField(name);
+    if (name != TagIndex) throw failure::NoSuchField(name);
     indexed_ = true;
 }
 

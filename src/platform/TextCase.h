@@ -1,4 +1,5 @@
-// Comparison of names without regard to the case of the letters A to Z.
+// Comparison of names without regard to the case of the letters A to Z. Like all of the suite it asks no
+// locale what a letter is.
 #pragma once
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 
 namespace quillmetra {
 
+inline bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 inline char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 inline std::string LowerCase(std::string text) {

@@ -5,6 +5,7 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/TextCase.h"
 #include "platform/Utf8.h"
 
@@ -68,7 +69,7 @@ bool EnterBeside(Form& form, const Control& label) {
 }
 
 bool PressShortcut(Form& form, const std::string& key) {
-    const bool access = key.size() == 5 && key.starts_with("Alt+");
+    const bool access = key.size() == 5 && key.starts_with(keys::Alt);
     for (Control* control : form.Controls()) {
         const bool isMenu = control->Kind() == ControlKind::MenuItem;
         if (isMenu && SameName(static_cast<MenuItem*>(control)->Shortcut, key)) return ClickControl(*control);
@@ -78,7 +79,7 @@ bool PressShortcut(Form& form, const std::string& key) {
         }
         if (access && IsKeyOf(*control, key)) return EnterBeside(form, *control);
     }
-    if (key != "F1" || ShowHelpOf == nullptr) return false;
+    if (key != keys::Help || ShowHelpOf == nullptr) return false;
     form.Dispatch([&] { ShowHelpOf(form); });
     return true;
 }
@@ -87,26 +88,26 @@ bool MoveInList(ListBox& list, const std::string& key) {
     constexpr int page = 10;
     const int row = list.Selected();
     int wanted = row;
-    if (key == "Up") wanted = row - 1;
-    if (key == "Down") wanted = row + 1;
-    if (key == "PageUp") wanted = row - page;
-    if (key == "PageDown") wanted = row + page;
+    if (key == keys::Up) wanted = row - 1;
+    if (key == keys::Down) wanted = row + 1;
+    if (key == keys::PageUp) wanted = row - page;
+    if (key == keys::PageDown) wanted = row + page;
     wanted = std::clamp(wanted, 0, std::max(0, list.RowCount() - 1));
     return wanted != row && PickRow(list, wanted);
 }
 
 bool MoveInGrid(Grid& grid, const std::string& key) {
     int row = std::max(grid.Selected(), grid.FixedRows - 1);
-    if (key == "Up") --row;
-    if (key == "Down") ++row;
-    const bool moves = (key == "Up" || key == "Down") && row >= grid.FixedRows;
+    if (key == keys::Up) --row;
+    if (key == keys::Down) ++row;
+    const bool moves = (key == keys::Up || key == keys::Down) && row >= grid.FixedRows;
     return moves && MoveToCell(grid, row, std::max(grid.SelectedColumn(), grid.FixedColumns));
 }
 
 // The arrows go round the options of a frame and choose.
 bool MoveInOptions(Control& option, const std::string& key) {
-    const bool on = key == "Down" || key == "Right";
-    if (!on && key != "Up" && key != "Left") return false;
+    const bool on = key == keys::Down || key == keys::Right;
+    if (!on && key != keys::Up && key != keys::Left) return false;
     std::vector<Control*> options = option.Owner().Controls();
     std::erase_if(options, [&](const Control* each) {
         return each->Kind() != ControlKind::OptionButton || each->Container() != option.Container() ||
@@ -119,8 +120,8 @@ bool MoveInOptions(Control& option, const std::string& key) {
 }
 
 bool EditByKey(TextBox& box, const std::string& key) {
-    if (key == "Delete") return TypeText(box, "");
-    if (key == "Backspace") return TypeText(box, WithoutLastCharacter(box.Text()));
+    if (key == keys::Delete) return TypeText(box, "");
+    if (key == keys::Backspace) return TypeText(box, WithoutLastCharacter(box.Text()));
     return IsOneCharacter(key) && TypeText(box, box.Text() + key);
 }
 
@@ -131,12 +132,13 @@ bool PressEnter(Control& control) {
         auto& grid = static_cast<Grid&>(control);
         return PickCell(grid, grid.Selected(), grid.SelectedColumn());
     }
-    return PressKey(form, "Enter");
+    return PressKey(form, keys::Enter);
 }
 
 bool PressPlainKey(Control& control, const std::string& key) {
-    if (key == "Enter") return PressEnter(control);
-    if (key == "Escape" || key == "Tab" || key == "Shift+Tab") return PressKey(control.Owner(), key);
+    if (key == keys::Enter) return PressEnter(control);
+    if (key == keys::Escape || key == keys::Tab || key == keys::BackTab)
+        return PressKey(control.Owner(), key);
     switch (control.Kind()) {
         case ControlKind::TextBox: return EditByKey(static_cast<TextBox&>(control), key);
         case ControlKind::ListBox:
@@ -279,12 +281,14 @@ void SetHelpKey(void (*show)(const Form& form)) { ShowHelpOf = show; }
 
 bool PressKey(Form& form, const std::string& key) {
     const FormHold hold(form);
-    const bool enter = key == "Enter";
-    CommandButton* const button = enter ? form.DefaultButton : key == "Escape" ? form.CancelButton : nullptr;
+    const bool enter = key == keys::Enter;
+    CommandButton* const button = enter                 ? form.DefaultButton
+                                  : key == keys::Escape ? form.CancelButton
+                                                        : nullptr;
     if (button != nullptr && CanAct(*button)) return ClickControl(*button);
     if (PressShortcut(form, key)) return true;
-    const bool moves = key == "Tab" || key == "Shift+Tab" || (enter && form.EnterMovesOn);
-    if (moves) MoveAlong(form, key == "Shift+Tab");
+    const bool moves = key == keys::Tab || key == keys::BackTab || (enter && form.EnterMovesOn);
+    if (moves) MoveAlong(form, key == keys::BackTab);
     return moves;
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/CalcRecord.h"
 #include "core/PhysicalConstants.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
@@ -94,8 +95,6 @@ bool LineDiffers() {
            Calc.PipeFouling != Calc.PipeFoulingSaved || !SameText(Calc.PipeMaterial, Calc.PipeMaterialSaved);
 }
 
-bool IsYes(const std::string& word) { return word == words::Yes; }
-
 // A record under a new tag is new to the database: all that it has is to be written.
 void MarkForNewTag() {
     Calc.RecordChanged = words::Yes;
@@ -129,10 +128,10 @@ void DetectChanges() {
                                    BasisDiffers() || BarometerDiffers() ||
                                    TextsDiffer(Calc.HeadingText, Calc.HeadingTextSaved, 2, 10));
     Calc.SaveFDRow = words::No;
-    MarkIf(Calc.SaveFDRow, (program == 4 || program == 5) && CommonPartDiffers());
+    MarkIf(Calc.SaveFDRow, program::IsFluidData(program) && CommonPartDiffers());
     Calc.SavePDRow = words::No;
-    MarkIf(Calc.SavePDRow, (program == 1 || program == 2) && LineDiffers());
-    if (program == 3) CompareWaterHammer();
+    MarkIf(Calc.SavePDRow, program::IsLine(program) && LineDiffers());
+    if (program == program::WaterHammer) CompareWaterHammer();
     if (IsYes(Calc.MixtureFlag)) CompareMixture();
     MarkIf(Calc.RecordChanged, IsYes(Calc.SavePDRow) || IsYes(Calc.MixtureSave) || IsYes(Calc.SaveWHRow) ||
                                    IsYes(Calc.SaveFDRow));

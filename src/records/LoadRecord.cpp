@@ -12,6 +12,7 @@
 #include "fluids/FluidTables.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
+#include "records/OptionCodes.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
@@ -31,7 +32,7 @@ void TellNotFound(const RecordTable& table) {
 
 bool GetRow(Database& database, const RecordTable& table) {
     Recordset rows(database, table.Shape, Recordset::Unplaced());
-    rows.Index("Tag_Number");
+    rows.Index(TagIndex);
     if (!rows.Seek(Calc.Tag)) {
         TellNotFound(table);
         return false;
@@ -40,29 +41,26 @@ bool GetRow(Database& database, const RecordTable& table) {
     return true;
 }
 
-// A code of the option texts, positions counted from 1; empty past the end.
-std::string Code(const std::string& codes, std::size_t position, std::size_t length) {
-    return position > codes.size() ? "" : codes.substr(position - 1, length);
-}
-
-const char* YesIf(bool yes) { return yes ? words::Yes : words::No; }
-
-// Rows of units that no field holds follow from those that one does, and from the unit system.
+// Rows of units that no field holds follow from those that one does, or are as every unit set leaves them:
+// taking the record's set once more then changes nothing.
 void CompleteUnits() {
-    const bool si = Calc.UnitSystem == words::SI;
-    const bool absolute = Calc.PressureMode == words::Absolute;
-    const auto set = [](std::size_t row, const char* name, double factor) {
-        Calc.UnitName[row] = name;
-        Calc.UnitFactor[row] = factor;
+    const auto ofSet = [si = Calc.UnitSystem == words::SI](std::size_t row) {
+        Calc.UnitName[row] = si ? UnitRows[row].SIName : UnitRows[row].EnglishName;
+        Calc.UnitFactor[row] = si ? UnitRows[row].SIFactor : 1;
     };
     const auto copy = [](std::size_t to, std::size_t from) {
         Calc.UnitName[to] = Calc.UnitName[from];
         Calc.UnitFactor[to] = Calc.UnitFactor[from];
     };
-    if (Calc.FluidType == words::Liquid) copy(9, 6);
-    if (Calc.FluidType == words::Gas) copy(13, 7);
-    set(24, si ? (absolute ? "kPaa" : "kPag") : (absolute ? "psia" : "psig"), si ? PsiPerKPa : 1);
-    set(26, si ? "kPaa" : "psia", si ? PsiPerKPa : 1);
+    constexpr int ofNoQuantity = 17;
+    for (const int row : {ofNoQuantity, unit::SecondGauge, unit::AbsolutePressure}) ofSet(At(row));
+    if (Calc.FluidType == words::Liquid) {
+        copy(unit::Density, unit::LiquidDensity);
+        ofSet(unit::GasViscosity);
+    } else if (Calc.FluidType == words::Gas) {
+        copy(unit::GasViscosity, unit::Viscosity);
+        ofSet(unit::LiquidDensity);
+    }
     MendUnitFactors();
     CarryDensityUnit();
 }
@@ -82,30 +80,33 @@ bool GetProgramRow(Database& database) {
     const std::string& codes = Calc.OtherCalcs;
     switch (Calc.CurrentProgram) {
         case program::LiquidLine:
-        case program::GasLine: Calc.PDRowLoaded = YesIf(Code(codes, 1, 2) == "PD"); return GetTRDB(database);
+        case program::GasLine:
+            Calc.PDRowLoaded = YesIf(HasCode(codes, code::PressureDropRow));
+            return GetTRDB(database);
         case program::WaterHammer:
-            Calc.WHRowLoaded = YesIf(Code(codes, 5, 2) == "WH");
+            Calc.WHRowLoaded = YesIf(HasCode(codes, code::WaterHammerRow));
             return GetWHCalc(database);
         case program::LiquidData:
-            Calc.FDRowLoaded = YesIf(Code(codes, 3, 2) == "FD");
+            Calc.FDRowLoaded = YesIf(HasCode(codes, code::FluidDataRow));
             return GetFDCalc(database);
         default:
             // The gas data program looks at another position than the save writes, so its word stays unset;
             // the row is read all the same.
-            if (Code(codes, 1, 2) == "FD") Calc.FDRowLoaded = words::Yes;
+            if (HasCode(codes, {code::PressureDropRow.Position, code::FluidDataRow.Letters}))
+                Calc.FDRowLoaded = words::Yes;
             return GetFDCalc(database);
     }
 }
 
 void TakeOptions(Database& database) {
-    const std::string kind = Code(Calc.OtherCalcs, 7, 2);
-    Calc.MixtureFlag = YesIf(kind == "MX");
-    if (kind == "MX") GetMixture(database);
+    const std::string& kind = Calc.OtherCalcs;
+    Calc.MixtureFlag = YesIf(HasCode(kind, code::Mixture));
+    if (HasCode(kind, code::Mixture)) GetMixture(database);
     Calc.MixtureMarker = words::Yes;
-    if (kind == "SU") Calc.SteamKind = words::Superheated;
-    if (kind == "SA") Calc.SteamKind = words::Saturated;
-    Calc.LiquidDensityMode = Code(Calc.CalcOption, 1, 2) == "DN" ? words::Density : words::Gravity;
-    Calc.PressureMode = Code(Calc.CalcOption, 3, 2) == "AB" ? words::Absolute : words::Gauge;
+    if (HasCode(kind, code::Superheated)) Calc.SteamKind = words::Superheated;
+    if (HasCode(kind, code::Saturated)) Calc.SteamKind = words::Saturated;
+    Calc.LiquidDensityMode = HasCode(Calc.CalcOption, code::DensityMode) ? words::Density : words::Gravity;
+    Calc.PressureMode = HasCode(Calc.CalcOption, code::AbsolutePressure) ? words::Absolute : words::Gauge;
     Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
     Calc.PressureModePrevious = Calc.PressureMode;
 }
@@ -136,7 +137,7 @@ void FinishLoad() {
     RenewChosenUnitNames();
     Calc.FluidDataSource.clear();
     Calc.FluidRow.clear();
-    if (Code(Calc.CalcOption, 5, 1) == "L") {
+    if (HasCode(Calc.CalcOption, code::FluidLoaded)) {
         Calc.FluidDataSource = words::Loaded;
         if (Calc.MixtureFlag == words::No) FindFluidRow();
     }
@@ -151,15 +152,14 @@ void FinishLoad() {
 void TakeFluidType(const std::string& headFluidType, int storedProgramNumber) {
     Calc.FluidType = std::string(Trim(headFluidType));
     if (Calc.FluidType == words::Liquid || Calc.FluidType == words::Gas) return;
-    const int program = storedProgramNumber > 90 ? storedProgramNumber / 100 : storedProgramNumber;
-    Calc.FluidType = program == 2 || program == 5 ? words::Gas : words::Liquid;
+    Calc.FluidType = program::IsOfGas(ProgramOf(storedProgramNumber)) ? words::Gas : words::Liquid;
 }
 
 bool GetTRCalc() {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
     const RecordTable& table = HeadTable();
     Recordset heads(*database, table.Shape, Recordset::Unplaced());
-    heads.Index("Tag_Number");
+    heads.Index(TagIndex);
     Calc.Tag = std::string(Trim(Calc.Tag));
     if (!heads.Seek(Calc.Tag)) {
         TellNotFound(table);
@@ -188,7 +188,7 @@ bool GetTRUnits(Database& database) {
 
 bool GetTRDB(Database& database) {
     if (!GetRow(database, PressureDropTable())) {
-        if (Calc.OtherCalcs.size() >= 2) Calc.OtherCalcs.replace(0, 2, "XX");
+        if (Calc.OtherCalcs.size() >= 2) SetCode(Calc.OtherCalcs, code::NoPressureDropRow);
         Calc.PDRowLoaded = words::No;
         return false;
     }
@@ -220,7 +220,7 @@ bool GetSettings(Database& database) {
     bool found = false;
     if (database.HasTable(table.Shape.Name)) {
         Recordset rows(database, table.Shape, Recordset::Unplaced());
-        rows.Index("Tag_Number");
+        rows.Index(TagIndex);
         found = rows.Seek(Calc.Tag);
         if (found) TakeRow(table, rows);
     }

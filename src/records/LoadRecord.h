@@ -8,8 +8,8 @@ namespace quillmetra {
 // Loads the record of Calc.Tag from Suite.DatabaseFile. The caller has reset the record and set FluidType
 // from the head's "Fluid Type" (TakeFluidType), which is not read here. True when the record can be shown:
 // it then counts as unchanged and as the reference for colours. False, after a message, when there is no such
-// tag or its program number is none. A record without its row of units or of its program is told of and
-// shown with what the head knows. Throws as OpenRecords.
+// tag or its program number is that of no program. A record without its row of units or of its program is
+// told of and shown with what the head knows. Throws as OpenRecords.
 //
 // After it the form of Calc.CurrentProgram is loaded with InCalculation "Yes"; UnitsConverted is "Yes", so
 // its first refresh shows all cases.

@@ -6,6 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/NumberText.h"
 #include "platform/TextFiles.h"
+#include "records/OptionCodes.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 
@@ -70,7 +71,7 @@ std::string ItemOf(const FieldShape& shape, const FieldValue& value) {
 struct Part {
     Part(Database& database, const RecordTable& from, Columns columns)
         : Table(from), Fields(std::move(columns)), Rows(database, from.Shape) {
-        Rows.Index("Tag_Number");
+        Rows.Index(TagIndex);
     }
 
     const RecordTable& Table;
@@ -111,7 +112,7 @@ int ExportRecords(const std::string& databaseFile, const std::string& csvFile) {
     for (; !head.Rows.AtEnd(); head.Rows.MoveNext(), ++count) {
         const std::string tag = head.Rows.Text("Tag");
         const auto number = static_cast<int>(head.Rows.Number("Program Number"));
-        const RecordTable* const own = ProgramTable(number > 90 ? number / 100 : number);
+        const RecordTable* const own = ProgramTable(ProgramOf(number));
         line.clear();
         head.AppendRow(line, true);
         for (Part& part : others) {

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "core/CalcRecord.h"
+#include "core/FileNames.h"
 #include "core/Suite.h"
 #include "platform/Dialogs.h"
 #include "platform/SafeFiles.h"
@@ -29,8 +30,8 @@ std::vector<TableShape> Shapes() {
     return shapes;
 }
 
-fs::path InFolder(const std::string& folder, const char* name) {
-    return MachinePath(folder + "\\" + std::string(name));
+fs::path InFolder(const std::string& folder, const std::string& name) {
+    return MachinePath(folder + "\\" + name);
 }
 
 // Puts a new database in the place of a former one, which no other program may be writing. What an engine
@@ -43,7 +44,7 @@ void Replace(const fs::path& beside, const fs::path& file) {
         former = std::make_unique<Database>(file, Kind);
         lock.emplace(*former);
     } catch (const RuntimeError& error) {
-        if (IsLock(error)) throw;  // else it is no database that anybody could be at work on
+        if (IsLock(error)) throw;  // else nobody can be at work on it
     }
     for (const char* ending : {"-journal", "-wal", "-shm"}) RemoveIfThere(fs::path(file) += ending);
     if (!OpenFilesCanBeReplaced) {
@@ -113,7 +114,7 @@ void DeleteRows(Database& database, const std::string& tag) {
     for (const RecordTable* table : RecordTables()) {
         if (!database.HasTable(table->Shape.Name)) continue;
         Recordset rows(database, table->Shape);
-        rows.Index("Tag_Number");
+        rows.Index(TagIndex);
         if (rows.Seek(tag)) rows.Delete();
     }
 }
@@ -182,12 +183,28 @@ bool CreateDB(bool agreed) {
     return true;
 }
 
+bool OfferDatabase(const std::string& title) {
+    if (!AskYesNo("There is no TRDB.MDB on\n" + Suite.DatabasePath + "\nCreate it?", title)) return false;
+    Calc.MessageTitle = title;
+    return CreateDB(true);
+}
+
+std::string AskDatabaseFile(bool forSaving) {
+    const auto file = AskFile({.Title = DatabaseTitle,
+                               .Filter = "Access DB Files(TRDB.MDB)|TRDB.MDB",
+                               .Folder = Suite.DatabasePath,
+                               .ForSaving = forSaving});
+    if (!file || file->empty() || IsDatabaseName(*file)) return file.value_or("");
+    Tell("Must find file named TRDB.MDB", "Database file");
+    return "";
+}
+
 void CompactDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
     const fs::path file = MachinePath(name);
     if (IsWriteProtected(file)) throw WriteProtected(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
-    const Scratch backup(InFolder(folder, "TRDB.BAK.new"));
+    const Scratch backup(InFolder(folder, filename::Backup + std::string(".new")));
     std::unique_ptr<Database> database = OpenRecords(name);
     CopyWhole(file, backup.File);
     // Nobody may write between the copying and the renaming, which a second connection sees to. It is opened
@@ -201,7 +218,7 @@ void CompactDB(const std::string& folder) {
         keeper.reset();
         database.reset();
     }
-    MoveOver(backup.File, InFolder(folder, "TRDB.BAK"));
+    MoveOver(backup.File, InFolder(folder, filename::Backup));
     MoveOver(beside.File, file);
 }
 
@@ -212,12 +229,12 @@ RepairReport RepairDB(const std::string& folder) {
     const fs::path file = MachinePath(name);
     const FileStamp stamp = StampOf(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
-    const Scratch aside(InFolder(folder, "TRDB.BAD.new"));
+    const Scratch aside(InFolder(folder, filename::Damaged + std::string(".new")));
     SalvageReport found = SalvageInto(beside.File, file, *fault);
     CopyWhole(file, aside.File);
     if (StampOf(file) != stamp) throw failure::DatabaseReplaced();
     RepairReport report{true, found.Records, found.MissingPages, std::move(found.Lost),
-                        SuitePath(InFolder(folder, "TRDB.BAD"))};
+                        SuitePath(InFolder(folder, filename::Damaged))};
     MoveOver(aside.File, report.KeptAs);
     Replace(beside.File, file);
     return report;

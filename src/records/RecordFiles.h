@@ -48,6 +48,11 @@ void MakeEmptyDatabase(const std::string& name);
 // Suite.DatabaseFile. A database that is there already is replaced without a question when the user has
 // agreed and it may be written; else the user is asked. False when the user said No.
 bool CreateDB(bool agreed);
+// Asks whether to make the database that Suite.DatabasePath lacks; false when the user says No.
+bool OfferDatabase(const std::string& title);
+// Asks for the name of a database, from Suite.DatabasePath on; empty when the user cancels, and after a
+// message for a file of another name.
+std::string AskDatabaseFile(bool forSaving = false);
 
 // Rewrites the database without the room of deleted records. The former file stays as the one backup
 // TRDB.BAK.

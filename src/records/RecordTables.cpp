@@ -6,6 +6,8 @@
 
 #include "core/Programs.h"
 #include "core/Words.h"
+#include "records/TextLengths.h"
+#include "units/UnitCatalogue.h"
 
 namespace quillmetra {
 
@@ -15,6 +17,7 @@ constexpr FieldType T = FieldType::Text;
 constexpr FieldType I = FieldType::Integer;
 constexpr FieldType S = FieldType::Single;
 constexpr FieldType D = FieldType::Date;
+constexpr int UnitLetters = LongestUnitName;
 
 // A line of a descriptor array. In a name "%" stands for the word of each case and gives three fields, "#"
 // for the same with "Normal Flow" in place of "Normal" (so the database has them), and "*" for a number from
@@ -38,21 +41,21 @@ constexpr Cell CT(int row) { return {Group::CaseText, row}; }
 constexpr Cell HT(int row) { return {Group::HeadingText, row}; }
 
 const Line HeadLines[] = {
-    {"Tag", T, 30, Made::Tag},
+    {"Tag", T, longest::Tag, Made::Tag},
     {"Fluid Type", T, 6, &CalcRecord::FluidType, {.Load = Loads::Never}},
     {"Program Number", I, 0, Made::ProgramNumber},
-    {"Program Name", T, 60, Made::Title, {.Load = Loads::Never}},
-    {"Fluid Name", T, 30, &CalcRecord::FluidName, {.Load = Loads::Never}},
+    {"Program Name", T, longest::ProgramTitle, Made::Title, {.Load = Loads::Never}},
+    {"Fluid Name", T, longest::Fluid, &CalcRecord::FluidName, {.Load = Loads::Never}},
     {"Basis", T, 3, Made::BasisInUse, {.Load = Loads::Never}},
-    {"Calc By", T, 15, CT(text::CalcBy), {.Load = Loads::Never}},
-    {"Approv By", T, 15, CT(text::ApprovedBy), {.Load = Loads::Never}},
+    {"Calc By", T, longest::Name, CT(text::CalcBy), {.Load = Loads::Never}},
+    {"Approv By", T, longest::Name, CT(text::ApprovedBy), {.Load = Loads::Never}},
     {"Data Date", D, 0, CT(text::DataDate), {.Load = Loads::Never}},
     {"Calc Date", D, 0, CT(text::CalcDate), {.Load = Loads::Never}},
-    {"Manufacturer", T, 30, HT(heading::Manufacturer)},
-    {"Model", T, 30, HT(heading::Model)},
-    {"Note 1", T, 60, HT(heading::Note1)},
-    {"Note 2", T, 60, HT(heading::Note2)},
-    {"Note 3", T, 60, HT(heading::Note3)},
+    {"Manufacturer", T, longest::Maker, HT(heading::Manufacturer)},
+    {"Model", T, longest::Maker, HT(heading::Model)},
+    {"Note 1", T, longest::Note, HT(heading::Note1)},
+    {"Note 2", T, longest::Note, HT(heading::Note2)},
+    {"Note 3", T, longest::Note, HT(heading::Note3)},
     {"Calc Option", T, 8, &CalcRecord::CalcOption},
     {"Other Calcs", T, 8, Made::OptionCodes},
     {"Single Spare", S, 0, Spare()},
@@ -61,11 +64,11 @@ const Line HeadLines[] = {
 // The program number is read from the head alone. The Reynolds number stands before the sonic velocity but is
 // the later result row, and the critical temperature before the critical pressure.
 const Line PressureDropLines[] = {
-    {"Tag", T, 30, Made::Tag, {.Load = Loads::Never}},
+    {"Tag", T, longest::Tag, Made::Tag, {.Load = Loads::Never}},
     {"Fluid Type", T, 35, &CalcRecord::FluidType, {.Load = Loads::Never}},
     {"Program Number", I, 0, Made::ProgramNumber, {.Load = Loads::Never}},
-    {"Program Title", T, 60, Made::Title},
-    {"Fluid Name", T, 30, &CalcRecord::FluidName},
+    {"Program Title", T, longest::ProgramTitle, Made::Title},
+    {"Fluid Name", T, longest::Fluid, &CalcRecord::FluidName},
     {"Basis", T, 3, Made::BasisInUse},
     {"Entrance", S, 0, PD(pipe::Entrance)},
     {"Gate Valves", I, 0, FC(fitting::GateValves)},
@@ -81,7 +84,7 @@ const Line PressureDropLines[] = {
     {"Start Elevation", S, 0, PD(pipe::StartElevation)},
     {"End Elevation", S, 0, CI(input::EndElevation)},
     {"Pipe Material Number", I, 0, &CalcRecord::PipeMaterialNumber},
-    {"Pipe Material", T, 30, &CalcRecord::PipeMaterial},
+    {"Pipe Material", T, longest::Material, &CalcRecord::PipeMaterial},
     {"Pipe Fouling", T, 5, Made::Fouling},
     {"% Flow", S, 0, CI(input::LiquidFlow), {.GasRow = input::GasFlow}},
     {"% Temperature", S, 0, Made::Temperature},
@@ -98,8 +101,8 @@ const Line PressureDropLines[] = {
     {"% Reynolds Number", S, 0, CR(result::ReynoldsNumber)},
     {"# Sonic Velocity", S, 0, CR(result::SonicVelocity)},
     {"Equiv Length", S, 0, CR(result::EquivLength)},
-    {"Calc By", T, 15, CT(text::CalcBy)},
-    {"Approv By", T, 15, CT(text::ApprovedBy)},
+    {"Calc By", T, longest::Name, CT(text::CalcBy)},
+    {"Approv By", T, longest::Name, CT(text::ApprovedBy)},
     {"Data Date", D, 0, CT(text::DataDate)},
     {"Calc Date", D, 0, CT(text::CalcDate)},
     {"PD Single Spare", S, 0, Spare()},
@@ -107,48 +110,48 @@ const Line PressureDropLines[] = {
 };
 
 const Line UnitsLines[] = {
-    {"Tag", T, 30, Made::Tag, {.Load = Loads::Never}},
+    {"Tag", T, longest::Tag, Made::Tag, {.Load = Loads::Never}},
     {"Flow Factor", S, 0, UF(unit::LiquidFlow), {.GasRow = unit::GasFlow}},
-    {"Flow Units", T, 8, UN(unit::LiquidFlow), {.GasRow = unit::GasFlow}},
+    {"Flow Units", T, UnitLetters, UN(unit::LiquidFlow), {.GasRow = unit::GasFlow}},
     {"Temperature Factor", S, 0, UF(unit::Temperature)},
-    {"Temperature Units", T, 8, UN(unit::Temperature)},
+    {"Temperature Units", T, UnitLetters, UN(unit::Temperature)},
     {"Pressure Factor", S, 0, UF(unit::Pressure)},
-    {"Pressure Units", T, 8, UN(unit::Pressure)},
+    {"Pressure Units", T, UnitLetters, UN(unit::Pressure)},
     {"Pressure Drop Factor", S, 0, UF(unit::PressureDrop)},
-    {"Pressure Drop Units", T, 8, UN(unit::PressureDrop)},
+    {"Pressure Drop Units", T, UnitLetters, UN(unit::PressureDrop)},
     {"Latent Heat Factor", S, 0, UF(unit::LatentHeat)},
-    {"Latent Heat Units", T, 8, UN(unit::LatentHeat)},
+    {"Latent Heat Units", T, UnitLetters, UN(unit::LatentHeat)},
     {"Vapor Pressure Factor", S, 0, UF(unit::VaporPressure)},
-    {"Vapor Pressure Units", T, 8, UN(unit::VaporPressure)},
+    {"Vapor Pressure Units", T, UnitLetters, UN(unit::VaporPressure)},
     {"Viscosity Factor", S, 0, UF(unit::Viscosity)},
-    {"Viscosity Units", T, 8, UN(unit::Viscosity)},
+    {"Viscosity Units", T, UnitLetters, UN(unit::Viscosity)},
     {"Density Factor", S, 0, UF(unit::Density), {.LiquidRow = unit::LiquidDensity}},
-    {"Density Units", T, 8, UN(unit::Density), {.LiquidRow = unit::LiquidDensity}},
+    {"Density Units", T, UnitLetters, UN(unit::Density), {.LiquidRow = unit::LiquidDensity}},
     {"Critical Pressure Factor", S, 0, UF(unit::CritPressure)},
-    {"Critical Pressure Units", T, 8, UN(unit::CritPressure)},
+    {"Critical Pressure Units", T, UnitLetters, UN(unit::CritPressure)},
     {"Critical Temperature Factor", S, 0, UF(unit::CritTemperature)},
-    {"Critical Temperature Units", T, 8, UN(unit::CritTemperature)},
+    {"Critical Temperature Units", T, UnitLetters, UN(unit::CritTemperature)},
     {"Modulus Factor", S, 0, UF(unit::Modulus)},
-    {"Modulus Units", T, 8, UN(unit::Modulus)},
+    {"Modulus Units", T, UnitLetters, UN(unit::Modulus)},
     {"Force Factor", S, 0, Made::ForceFactor},
-    {"Force Units", T, 8, Made::ForceName},
+    {"Force Units", T, UnitLetters, Made::ForceName},
     {"Pipe Size Factor", S, 0, UF(unit::PipeSize)},
-    {"Pipe Size Units", T, 8, UN(unit::PipeSize)},
+    {"Pipe Size Units", T, UnitLetters, UN(unit::PipeSize)},
     {"Velocity Factor", S, 0, UF(unit::Velocity)},
-    {"Velocity Units", T, 8, UN(unit::Velocity)},
+    {"Velocity Units", T, UnitLetters, UN(unit::Velocity)},
     {"Length & Elevation Factor", S, 0, UF(unit::Length)},
-    {"Length & Elevation Units", T, 8, UN(unit::Length)},
+    {"Length & Elevation Units", T, UnitLetters, UN(unit::Length)},
     {"Unit System", T, 10, &CalcRecord::UnitSystem},
     {"Unit Single Spare", S, 0, Spare()},
     {"Unit Text Spare", T, 8, Spare()},
 };
 
 const Line WaterhammerLines[] = {
-    {"Tag", T, 30, Made::Tag, {.Load = Loads::Never}},
+    {"Tag", T, longest::Tag, Made::Tag, {.Load = Loads::Never}},
     {"Fluid Type", T, 6, Made::LiquidWord, {.Load = Loads::Never}},
     {"Program Number", I, 0, Made::ProgramNumber, {.Load = Loads::Never}},
-    {"Program Title", T, 60, Made::Title},
-    {"Liquid Name", T, 30, &CalcRecord::FluidName},
+    {"Program Title", T, longest::ProgramTitle, Made::Title},
+    {"Liquid Name", T, longest::Fluid, &CalcRecord::FluidName},
     {"Liquid Basis", T, 3, &CalcRecord::LiquidBasis},
     {"Flow", S, 0, CI(input::LiquidFlow)},
     {"Temperature", S, 0, Made::Temperature},
@@ -158,7 +161,7 @@ const Line WaterhammerLines[] = {
     {"Line Length", S, 0, CI(input::LineLength)},
     {"Pipe Size", S, 0, CI(input::PipeSize)},
     {"Pipe Wall", S, 0, CI(input::PipeSize, column::Wall)},
-    {"Pipe Material", T, 30, &CalcRecord::PipeMaterial},
+    {"Pipe Material", T, longest::Material, &CalcRecord::PipeMaterial},
     {"Pipe Modulus", S, 0, CI(input::Modulus, column::OfPipe)},
     {"Allowable Pressure", S, 0, CI(input::Pressure, column::Allowable)},
     {"Selected Time", S, 0, CI(input::SelectedTime)},
@@ -169,8 +172,8 @@ const Line WaterhammerLines[] = {
     {"Minimum Time", S, 0, HR(wave::MinimumTime)},
     {"Selected Time Pressure Wave", S, 0, HR(wave::SelectedPressure)},
     {"Selected Time Pipe Force", S, 0, HR(wave::SelectedForce)},
-    {"Calc By", T, 15, CT(text::CalcBy)},
-    {"Approv By", T, 15, CT(text::ApprovedBy)},
+    {"Calc By", T, longest::Name, CT(text::CalcBy)},
+    {"Approv By", T, longest::Name, CT(text::ApprovedBy)},
     {"Data Date", D, 0, CT(text::DataDate)},
     {"Calc Date", D, 0, CT(text::CalcDate)},
     {"WH Single Spare", S, 0, Spare()},
@@ -180,11 +183,11 @@ const Line WaterhammerLines[] = {
 // Two cells are written to two fields each; a load takes each cell from the field of its fluid type. The
 // boiling point of case 3 is kept as text, unlike its neighbours: an oddity of the format.
 const Line FluidDataLines[] = {
-    {"Tag", T, 30, Made::Tag, {.Load = Loads::Never}},
+    {"Tag", T, longest::Tag, Made::Tag, {.Load = Loads::Never}},
     {"Fluid Type", T, 6, &CalcRecord::FluidType, {.Load = Loads::Never}},
     {"Program Number", I, 0, Made::ProgramNumber, {.Load = Loads::Never}},
-    {"Program Title", T, 60, Made::Title},
-    {"Fluid Name", T, 30, &CalcRecord::FluidName},
+    {"Program Title", T, longest::ProgramTitle, Made::Title},
+    {"Fluid Name", T, longest::Fluid, &CalcRecord::FluidName},
     {"Basis", T, 3, Made::BasisInUse},
     {"% Temperature", S, 0, Made::Temperature},
     {"% Pressure", S, 0, CI(input::Pressure)},
@@ -204,8 +207,8 @@ const Line FluidDataLines[] = {
     {"% SG @ FTP", S, 0, CI(input::FlowGravity)},
     {"% Flashpoint", S, 0, CI(input::FlashPoint)},
     {"% Bulk Modulus", S, 0, CI(input::Modulus)},
-    {"Calc By", T, 15, CT(text::CalcBy)},
-    {"Approv By", T, 15, CT(text::ApprovedBy)},
+    {"Calc By", T, longest::Name, CT(text::CalcBy)},
+    {"Approv By", T, longest::Name, CT(text::ApprovedBy)},
     {"Data Date", D, 0, CT(text::DataDate)},
     {"Calc Date", D, 0, CT(text::CalcDate)},
     {"FD Single Spare", S, 0, Spare()},
@@ -220,7 +223,7 @@ const Line MixturePartLines[] = {
 };
 
 const Line SettingsLines[] = {
-    {"Tag", T, 30, Made::Tag, {.Load = Loads::Never}},
+    {"Tag", T, longest::Tag, Made::Tag, {.Load = Loads::Never}},
     {"Pressure Direction", I, 0, &CalcRecord::PressureDirection},
     {"Calc Mode", T, 8, &CalcRecord::CalcMode},
     {"Data Mode", T, 8, &CalcRecord::DataMode},

@@ -10,6 +10,7 @@
 #include "platform/Clock.h"
 #include "platform/NumberText.h"
 #include "platform/Utf8.h"
+#include "records/OptionCodes.h"
 
 namespace quillmetra {
 
@@ -220,12 +221,9 @@ int StoredProgramNumber() {
 
 void SplitProgramNumber(int stored) {
     Calc.ProgramNumber = stored;
-    if (stored <= 90) {
-        Calc.CurrentProgram = stored;
-        return;
-    }
-    Calc.CurrentProgram = stored / 100;
-    (Calc.FluidType == words::Liquid ? Calc.LiquidUnitSet : Calc.GasUnitSet) = stored % 100;
+    Calc.CurrentProgram = ProgramOf(stored);
+    if (HasUnitSet(stored))
+        (Calc.FluidType == words::Liquid ? Calc.LiquidUnitSet : Calc.GasUnitSet) = stored % 100;
 }
 
 std::string CompactFluidRow(const std::string& row) {

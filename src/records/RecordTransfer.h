@@ -14,7 +14,8 @@ namespace quillmetra {
 using RowValues = std::vector<std::optional<FieldValue>>;
 
 // The row of the record in hand. Throws, naming the field, for a text that is too long and a number out of
-// range. An empty text is one blank; results that do not stand are empty; a date that is none is empty.
+// range. An empty text is one blank; results that do not stand are empty; a text that is no date leaves its
+// date empty.
 RowValues RowOfRecord(const RecordTable& table);
 
 // Takes the current row into the record. Empty fields give 0 and "". With standIn it takes those fields of a

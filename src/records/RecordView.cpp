@@ -8,6 +8,7 @@
 #include "platform/KeyOrder.h"
 #include "platform/NumberText.h"
 #include "platform/Utf8.h"
+#include "records/OptionCodes.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 
@@ -16,8 +17,7 @@ namespace quillmetra {
 namespace {
 
 const char* CalculationOf(int storedProgramNumber) {
-    const int program = storedProgramNumber > 90 ? storedProgramNumber / 100 : storedProgramNumber;
-    const RecordTable* const table = ProgramTable(program);
+    const RecordTable* const table = ProgramTable(ProgramOf(storedProgramNumber));
     if (table == nullptr) return "";
     if (table == &PressureDropTable()) return "Pressure drop";
     return table == &WaterhammerTable() ? "Waterhammer" : "Fluid data";
@@ -41,7 +41,7 @@ void RecordView::Open() {
     heads_.reset();
     database_ = std::move(database);
     heads_.emplace(*database_, HeadTable().Shape);
-    heads_->Index("Tag_Number");
+    heads_->Index(TagIndex);
     tagsVersion_ = -1;
     hasRecord_ = !heads_->AtEnd();
     if (hasRecord_) TakeHead();

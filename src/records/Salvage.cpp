@@ -8,6 +8,7 @@
 
 #include "platform/DatabasePages.h"
 #include "platform/KeyOrder.h"
+#include "records/OptionCodes.h"
 #include "records/RecordTables.h"
 
 namespace quillmetra {
@@ -58,7 +59,7 @@ public:
     explicit Salvager(Database& target) {
         for (const RecordTable* table : RecordTables()) {
             rows_.push_back(std::make_unique<Recordset>(target, table->Shape, Recordset::Unplaced()));
-            rows_.back()->Index("Tag_Number");
+            rows_.back()->Index(TagIndex);
         }
     }
 
@@ -100,8 +101,8 @@ private:
     static void TakeHead(Trace& trace, Recordset& heads, const std::string& tag) {
         heads.Seek(tag);
         const auto stored = static_cast<int>(heads.Number("Program Number"));
-        trace.Program = ProgramTable(stored > 90 ? stored / 100 : stored);
-        trace.IsMixture = heads.Text("Other Calcs").ends_with("MX");
+        trace.Program = ProgramTable(ProgramOf(stored));
+        trace.IsMixture = HasCode(heads.Text("Other Calcs"), code::Mixture);
     }
 
     void TakeSchema(const std::vector<FieldValue>& values) {

@@ -14,10 +14,12 @@
 #include "platform/TextCase.h"
 #include "platform/Utf8.h"
 #include "records/ChangeDetection.h"
+#include "records/OptionCodes.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
 #include "records/StoredRows.h"
+#include "records/TextLengths.h"
 
 namespace quillmetra {
 
@@ -25,21 +27,17 @@ namespace {
 
 bool StoreHasFailed = false;
 
-bool IsYes(const std::string& word) { return word == words::Yes; }
-const char* YesIf(bool yes) { return yes ? words::Yes : words::No; }
-
-// Which word asks for the row of a program, which tells that it was loaded, and its pair of OtherCalcs.
+// Which word asks for the row of a program, which tells that it was loaded, and its code in OtherCalcs.
 struct RowWords {
     const RecordTable& (*Table)();
     std::string CalcRecord::*Save;
     std::string CalcRecord::*Loaded;
-    std::size_t Position;  // of the pair, counted from 1
-    const char* Code;
+    const OptionCode& Code;
 };
 constexpr RowWords RowsOfPrograms[] = {
-    {PressureDropTable, &CalcRecord::SavePDRow, &CalcRecord::PDRowLoaded, 1, "PD"},
-    {FluidDataTable, &CalcRecord::SaveFDRow, &CalcRecord::FDRowLoaded, 3, "FD"},
-    {WaterhammerTable, &CalcRecord::SaveWHRow, &CalcRecord::WHRowLoaded, 5, "WH"},
+    {PressureDropTable, &CalcRecord::SavePDRow, &CalcRecord::PDRowLoaded, code::PressureDropRow},
+    {FluidDataTable, &CalcRecord::SaveFDRow, &CalcRecord::FDRowLoaded, code::FluidDataRow},
+    {WaterhammerTable, &CalcRecord::SaveWHRow, &CalcRecord::WHRowLoaded, code::WaterHammerRow},
 };
 
 const RowWords* RowWordsInHand() {
@@ -47,11 +45,6 @@ const RowWords* RowWordsInHand() {
         if (&each.Table() == ProgramTable(Calc.CurrentProgram)) return &each;
     }
     return nullptr;
-}
-
-void SetCode(std::string& codes, std::size_t position, const std::string& code) {
-    if (codes.size() < 8) codes.resize(8, 'X');
-    codes.replace(position - 1, code.size(), code);
 }
 
 // A record that goes to another database than it came from is written whole.
@@ -84,16 +77,19 @@ void AddForeignRows(Database& database) {
 }
 
 void ComposeCodes() {
-    SetCode(Calc.CalcOption, 1, Calc.LiquidDensityMode == words::Density ? "DN" : "SG");
-    SetCode(Calc.CalcOption, 3, Calc.PressureMode == words::Absolute ? "AB" : "GA");
-    SetCode(Calc.CalcOption, 5, Calc.FluidDataSource == words::Loaded ? "L" : "N");
+    SetCode(Calc.CalcOption,
+            Calc.LiquidDensityMode == words::Density ? code::DensityMode : code::GravityMode);
+    SetCode(Calc.CalcOption,
+            Calc.PressureMode == words::Absolute ? code::AbsolutePressure : code::GaugePressure);
+    SetCode(Calc.CalcOption,
+            Calc.FluidDataSource == words::Loaded ? code::FluidLoaded : code::FluidNotLoaded);
 
     if (!IsYes(Calc.MixtureFlag)) Calc.MixtureSave.clear();
-    SetCode(Calc.OtherCalcs, 7, IsYes(Calc.MixtureFlag) ? "MX" : "XX");
-    if (Calc.SteamKind == words::Superheated) SetCode(Calc.OtherCalcs, 7, "SU");
-    if (Calc.SteamKind == words::Saturated) SetCode(Calc.OtherCalcs, 7, "SA");
+    SetCode(Calc.OtherCalcs, IsYes(Calc.MixtureFlag) ? code::Mixture : code::PureFluid);
+    if (Calc.SteamKind == words::Superheated) SetCode(Calc.OtherCalcs, code::Superheated);
+    if (Calc.SteamKind == words::Saturated) SetCode(Calc.OtherCalcs, code::Saturated);
     if (const RowWords* row = RowWordsInHand(); row != nullptr && IsYes(Calc.*(row->Save))) {
-        SetCode(Calc.OtherCalcs, row->Position, row->Code);
+        SetCode(Calc.OtherCalcs, row->Code);
     }
 }
 
@@ -126,17 +122,17 @@ void SaveRow(Database& database, const RecordTable& table) {
                     &table == &MixtureTable() ? "Mixture File" : Suite.DatabaseFile, Icon::Stop);
     }
     Recordset rows(database, table.Shape, Recordset::Unplaced());
-    rows.Index("Tag_Number");
+    rows.Index(TagIndex);
     WriteRow(rows, table);
 }
 
 void DeleteRow(Database& database, const RecordTable& table) {
     Recordset rows(database, table.Shape, Recordset::Unplaced());
-    rows.Index("Tag_Number");
+    rows.Index(TagIndex);
     if (rows.Seek(Calc.Tag)) rows.Delete();
 }
 
-// Rows that the record does not have: of other programs, and of a mixture that is none any more.
+// Rows that the record does not have: of other programs, and of a mixture that has become a pure fluid.
 void DeleteLeftovers(Database& database) {
     const RowWords* const own = RowWordsInHand();
     for (const RowWords& each : RowsOfPrograms) {
@@ -195,7 +191,7 @@ bool MayOverwrite(bool inARun) {
 bool WriteRecord(bool inARun) {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
     Recordset heads(*database, HeadTable().Shape, Recordset::Unplaced());
-    heads.Index("Tag_Number");
+    heads.Index(TagIndex);
     bool mayOverwrite = false;
     std::vector<std::string> refused;
     for (bool done = false; !done;) {
@@ -229,9 +225,11 @@ std::string CutHeadings() {
     std::string cut;
     for (const auto& [line, name] : {std::pair{manufacturer, "manufacturer"}, {model, "model"}}) {
         std::string& text = Calc.HeadingText[line];
-        if (CharacterCount(text) <= LongestMaker) continue;
-        text = FirstCharacters(text, LongestMaker);
-        cut += (cut.empty() ? ". Only the first 30 letters of the " : " and the ") + std::string(name);
+        if (CharacterCount(text) <= longest::Maker) continue;
+        text = FirstCharacters(text, longest::Maker);
+        cut += (cut.empty() ? ". Only the first " + std::to_string(longest::Maker) + " letters of the "
+                            : " and the ") +
+               std::string(name);
     }
     return cut.empty() ? "" : cut + " in the headings go into the record";
 }
@@ -267,7 +265,7 @@ void WriteWholeRecord(Database& database) {
     ComposeCodes();
     Transaction all(database);
     Recordset heads(database, HeadTable().Shape, Recordset::Unplaced());
-    heads.Index("Tag_Number");
+    heads.Index(TagIndex);
     WriteRow(heads, HeadTable());
     for (const std::string& each : SaveRows(database)) throw RuntimeError(failure::ValueRefused, each);
     all.Commit();

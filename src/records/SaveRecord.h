@@ -19,10 +19,9 @@ bool SaveTRCalc(bool inARun = false);
 // Whether the last save failed for what lies with the database, so that no other record has any chance.
 bool StoreFailed();
 
-// The letters that the record has room for in manufacturer and model.
-inline constexpr std::size_t LongestMaker = 30;
-// Cuts these two, which may come from the file of the headings and then be longer; tells what was cut, in
-// words that go behind "Saved as P-101". To be called before a save, which refuses texts that are too long.
+// Cuts manufacturer and model, which may come from the file of the headings and then be too long; tells what
+// was cut, in words that go behind "Saved as P-101". To be called before a save, which refuses texts that are
+// too long.
 std::string CutHeadings();
 
 // Writes all rows of the record in hand to an empty database, under its tag, without a question or a word.

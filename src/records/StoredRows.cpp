@@ -15,7 +15,7 @@ using Stored = std::vector<FieldValue>;
 // None for a table without the tag.
 Stored StoredRow(Database& database, const RecordTable& table) {
     Recordset rows(database, table.Shape, Recordset::Unplaced());
-    rows.Index("Tag_Number");
+    rows.Index(TagIndex);
     Stored row;
     if (!rows.Seek(Calc.Tag)) return row;
     for (std::size_t i = 0; i < table.Fields.size(); ++i) row.push_back(rows.Value(i));

@@ -20,7 +20,7 @@ public:
     bool IsCut() const { return bytes_.size() % RecordSize != 0; }
 
     // Takes a record, counted from 0, into the record in hand, which was reset before: numbers in the units
-    // that were shown, units, basis, pipe and fittings. Numbers that are none read 0, an unusable factor
+    // that were shown, units, basis, pipe and fittings. Texts that are no numbers read 0, an unusable factor
     // reads 1. False, with nothing taken, for a program that this version does not have.
     bool Take(int index) const;
 

@@ -141,7 +141,7 @@ void ShowTick(Form& form, const char* name, std::size_t flag) {
 // The line-loss forms refresh all three cases after a conversion, else the one in hand; the fluid data forms
 // always all.
 std::pair<int, int> CasesToShow(int program) {
-    if (Calc.UnitsConverted == words::Yes || program::IsFluidData(program)) return {0, CaseCount - 1};
+    if (IsYes(Calc.UnitsConverted) || program::IsFluidData(program)) return {0, CaseCount - 1};
     return {Calc.CaseIndex, Calc.CaseIndex};
 }
 
@@ -153,8 +153,8 @@ bool Stands(const FormRow& row, int caseIndex) {
 
 void ShowRows(Form& form, int program) {
     const auto [first, last] = CasesToShow(program);
-    const bool results = Calc.HideResults != words::Yes;
-    const bool converted = Calc.UnitsConverted == words::Yes;
+    const bool results = !IsYes(Calc.HideResults);
+    const bool converted = IsYes(Calc.UnitsConverted);
     for (const FormRow& row : FormRows(program)) {
         if (row.IsResult() && !results) continue;
         for (int i = row.PerCase ? first : Calc.CaseIndex; i <= (row.PerCase ? last : Calc.CaseIndex); ++i) {

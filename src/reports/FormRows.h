@@ -1,6 +1,6 @@
 // Which control of a calculation form holds which number of the record. One table a program serves the
-// refresh of the form, its storing, its colours and the blanking of its results, and later the reports, so
-// that a field is written down once.
+// refresh of the form, its storing, its colours and the blanking of its results, so that a field is written
+// down once.
 #pragma once
 
 #include <span>

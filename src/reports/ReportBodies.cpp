@@ -174,7 +174,7 @@ constexpr auto ClosingLines(const char* form = nullptr) {
 
 // The heads stand one column right of the values, whose leading blank lines the digits up with them.
 constexpr std::array HeadColumns = {36, 51, 66, 80};
-constexpr Line LossColumns = ColumnHeads(HeadColumns, "Maximum", "Normal", "Minimum");
+constexpr Line LossColumns = ColumnHeads(HeadColumns, words::Cases[0], words::Cases[1], words::Cases[2]);
 
 constexpr std::array LossOutput = {Line{Look::Plain, {{{6, ""}}}, 2}, Head(25, "Output Data"),
                                    Cases(Narrow, "lblDropP100", "txtDropP100", {"unDropP100"}),
@@ -336,7 +336,7 @@ void PrintLine(ReportPage& page, const Line& line) {
 }
 
 void PrintLines(ReportPage& page, std::span<const Line> lines) {
-    const bool mixture = Calc.MixtureFlag == words::Yes;
+    const bool mixture = IsYes(Calc.MixtureFlag);
     for (const Line& line : lines) {
         if (line.If != When::Always && (line.If == When::Mixture) != mixture) continue;
         PrintLine(page, line);

@@ -16,10 +16,10 @@ struct ReportTexts {
 };
 
 struct ReportPage {
-    int LineHeight = 240;     // twips
-    long ReportWidth = 9000;  // twips, of the frame
-    int ReportRow = 0;        // the next line stands at ReportRow x LineHeight
-    double BaseFontSize = 10;
+    int LineHeight = 240;        // twips
+    long ReportWidth = 9000;     // twips, of the frame
+    int ReportRow = 0;           // the next line stands at ReportRow x LineHeight
+    double BaseFontSize = 10;    // points
     bool DocumentEnded = false;  // a mixture that failed ended it: nothing follows on this page
 
     // The upper edge of the line in hand, so many twips above its row.
@@ -28,9 +28,9 @@ struct ReportPage {
     void Letters(double factor, bool bold) const;
 };
 
-// Prints one copy of the page for the record and the form in hand. Throws a RuntimeError when the printer
-// fails; what fails in the body is told there, and heading and notes are printed all the same. The notes go
-// to the record.
+// Prints one copy of the page for the record and the form in hand; sizes in points. Throws a RuntimeError
+// when the printer fails; what fails in the body is told there, and heading and notes are printed all the
+// same. The notes go to the record.
 void PrintReportPage(const ReportTexts& texts, double baseFontSize);
 
 // Prints the body of CurrentProgram; nothing for a number that is no program.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/TextCase.h"
 #include "platform/UserActs.h"
 #include "script/ScriptCommands.h"
@@ -82,16 +83,14 @@ int FindRow(const ListBox& list, const ScriptWord& word) {
     throw ScriptFailure{"no row of " + list.FullName() + " starts with " + word.Text};
 }
 
-// A key as UserActs.h names it: one character or the name of a key, with modifiers in front.
+// A key as Keys.h names it: one character or the name of a key, with modifiers in front.
 bool IsKey(std::string key) {
-    for (const char* modifier : {"Ctrl+", "Alt+", "Shift+"}) {
+    for (const char* modifier : {keys::Ctrl, keys::Alt, keys::Shift}) {
         if (key.size() > std::string_view(modifier).size() && key.starts_with(modifier)) {
             key.erase(0, std::string_view(modifier).size());
         }
     }
-    constexpr std::array names = {"Enter", "Escape", "Tab",   "Backspace", "Delete",   "Up",
-                                  "Down",  "Left",   "Right", "PageUp",    "PageDown", "F1"};
-    if (std::find(names.begin(), names.end(), key) != names.end()) return true;
+    if (std::find(keys::Named.begin(), keys::Named.end(), key) != keys::Named.end()) return true;
     const auto starts = std::count_if(
         key.begin(), key.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
     return starts == 1;

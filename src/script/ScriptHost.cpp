@@ -15,15 +15,6 @@ namespace quillmetra {
 
 namespace {
 
-bool Offers(const MessageBox& box, Answer answer) {
-    switch (box.Choice) {
-        case Buttons::Ok: return answer == Answer::Ok;
-        case Buttons::YesNo: return answer == Answer::Yes || answer == Answer::No;
-        case Buttons::YesNoCancel: return answer != Answer::Ok;
-    }
-    return false;
-}
-
 // Pages on the output, each of their lines marked as such.
 class OutputPaper : public Paper {
 public:

@@ -1,5 +1,6 @@
 // The suite's names for what is done with each table: load it for the editor, split one of its lines, give
-// the notes of a column. All of them are the one engine with the table's description.
+// the notes of a column. All of them are the one engine with the table's description, and that is what the
+// suite itself calls; they are kept for their names.
 #pragma once
 
 #include "tables/TableSheet.h"

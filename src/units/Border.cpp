@@ -33,6 +33,11 @@ double PressureShown(double psia, const CalcRecord& record) {
     return (psia - GaugeZero(record)) / record.UnitFactor[unit::Pressure];
 }
 
+void TakePressure(std::size_t caseIndex) {
+    Calc.EnteredPressure = Calc.CaseInput[input::Pressure][caseIndex] * Calc.UnitFactor[unit::Pressure];
+    Calc.FlowPressure = Calc.EnteredPressure + GaugeZero();
+}
+
 // --- Temperature -----------------------------------------------------------------------------------------
 
 double TemperatureIn(double shown) {

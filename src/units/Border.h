@@ -8,7 +8,7 @@
 namespace quillmetra {
 
 // A calculated number as it is stored and shown: four figures. Throws "Overflow" or "Division by zero" for
-// what is none.
+// what is no finite number.
 double ShownFigures(double value);
 
 // psia at which a pressure of the record reads 0: the barometer where pressures are gauge, else 0.
@@ -16,6 +16,8 @@ double GaugeZero(const CalcRecord& record = Calc);
 // psia, by unit row 3 and the pressure mode.
 double PressureIn(double shown, const CalcRecord& record = Calc);
 double PressureShown(double psia, const CalcRecord& record = Calc);
+// Takes row 3 of a case, or of a column of the water hammer, as EnteredPressure and FlowPressure.
+void TakePressure(std::size_t caseIndex);
 
 // degF by unit row 2, and degR by row 12 for critical temperatures.
 double TemperatureIn(double shown);

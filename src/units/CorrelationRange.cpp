@@ -85,7 +85,7 @@ HintList HintsOf(std::span<const CorrelationRange> ranges, const CalcRecord& rec
     for (const CorrelationRange& range : ranges) {
         if (!range.IsUsed(record)) continue;
         const double value = range.Value(record), low = range.Low.In(record), high = range.High.In(record);
-        // No comparison holds with a bound or a value that is none.
+        // No comparison holds with a bound or a value that is no number.
         const bool below = value < low;
         if (!below && !(value > high)) continue;
         const double error = range.Error.In(record);

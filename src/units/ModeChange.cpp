@@ -81,7 +81,7 @@ void ChangePressureMode(const std::string& mode) {
     if (!changes) return;
     if (!(Calc.BaroPressure > 0)) Calc.BaroPressure = SeaLevelBarometer;
     const double barometer = Calc.BaroPressure / Calc.UnitFactorPrevious[unit::Pressure];
-    if (Calc.NoConversion != words::Yes) {
+    if (!IsYes(Calc.NoConversion)) {
         ChangePressures([=](double pressure) {
             return toAbsolute ? AbsoluteFromGauge(pressure, barometer)
                               : GaugeFromAbsolute(pressure, barometer);
@@ -99,7 +99,7 @@ void ChangeDensityMode(const std::string& mode) {
     if (!changes) return;
     if (toDensity) FillDensityUnit();
     for (double& value : Calc.CaseInput[input::FlowGravity]) {
-        if (value > 0 && Calc.NoConversion != words::Yes)
+        if (value > 0 && !IsYes(Calc.NoConversion))
             Renew(value, toDensity ? DensityFromGravity : GravityFromDensity);
     }
     Calc.UnitFactorPrevious[unit::LiquidDensity] = Calc.UnitFactor[unit::LiquidDensity];

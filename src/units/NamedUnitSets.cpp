@@ -7,6 +7,7 @@
 #include "core/Words.h"
 #include "units/RecordUnits.h"
 #include "units/Rounding.h"
+#include "units/Temperature.h"
 #include "units/UnitCatalogue.h"
 #include "units/UserUnits.h"
 
@@ -79,7 +80,7 @@ void STPEnglish() {
 
 void STPSI() {
     ShowStandardConditions(words::SI, "degC", "kPaa", PsiPerKPa);
-    Calc.CaseInput[input::StdTemperature][0] = RoundedSix((Calc.StdTemperature - 32) / 1.8);
+    Calc.CaseInput[input::StdTemperature][0] = RoundedSix(CelsiusOf(Calc.StdTemperature));
     Calc.CaseInput[input::StdPressure][0] = RoundedSix(Calc.StdPressure / PsiPerKPa);
     Calc.CaseInput[input::Barometer][0] = RoundedSix(Calc.BaroPressure / PsiPerKPa);
 }

@@ -9,8 +9,6 @@ namespace quillmetra {
 
 constexpr int UserUnitSet = 5;
 
-// As the unit lists have it.
-
 struct NamedUnitSet {
     // A flow unit: composite of quantity and time base, with the factor to lb/h, USgal/h or sft3/h.
     struct FlowUnit {

@@ -233,7 +233,7 @@ void ConvertLiquidLineData(ZeroTemperature zero) {
     ConvertCases(LiquidLineSteps, zero);
     Calc.UnitsConverted = words::Yes;
     conversion.Finish();
-    RoundSix();
+    RoundSix();  // the one act on Scratch, kept with its name
 }
 
 void ConvertWaterHammerData(ZeroTemperature zero) {

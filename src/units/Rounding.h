@@ -11,7 +11,8 @@ double RoundedThree(double value);
 double RoundedFour(double value);
 double RoundedSix(double value);
 
-// The same on the record's Scratch, in and out.
+// The same on the record's Scratch, in and out: kept for their names, since the rest of the suite rounds what
+// it has in hand.
 void RoundThree();
 void RoundFour();
 void RoundSix();

@@ -8,6 +8,9 @@
 
 namespace quillmetra {
 
+constexpr double CelsiusOf(double degF) { return (degF - 32) / 1.8; }
+constexpr double FahrenheitOf(double degC) { return degC * 1.8 + 32; }
+
 // degF from a value in a unit and back. The factor counts for a unit of the user's own alone.
 double ToDegF(std::string_view unit, double value, double factor);
 double FromDegF(std::string_view unit, double degF, double factor);

@@ -41,7 +41,7 @@ bool UnitChange::HasNewUnits() const {
 void UnitChange::Commit(ZeroTemperature zero, const std::function<void()>& modesStand) {
     ChangeModes();
     if (modesStand) modesStand();
-    if (Calc.FormClosing != words::Yes) Convert(zero);
+    if (!IsYes(Calc.FormClosing)) Convert(zero);
     committed_ = true;
 }
 
@@ -62,7 +62,7 @@ void UnitChange::ChangeModes() const {
 }
 
 void UnitChange::ConvertValues(ZeroTemperature zero) const {
-    if (Calc.NoConversion == words::Yes) return RenewChosenUnitNames();
+    if (IsYes(Calc.NoConversion)) return RenewChosenUnitNames();
     if (HasNewUnits()) {
         ConvertProgramData(zero);
     } else if (Calc.RoundedFlag == words::No) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "core/FileNames.h"
 #include "core/Suite.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
@@ -19,7 +20,7 @@ namespace {
 
 using Library = decltype(Suite.UnitLibrary);
 
-std::string FileName() { return Suite.DefaultPaths[path::DataFiles] + "\\TRLib.TXT"; }
+std::string FileName() { return InDefaultPath(path::DataFiles, filename::UnitLibrary); }
 
 Library ReadFile() {
     LineReader file(FileName());

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/CalcRecord.h"
+#include "core/FileNames.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -43,7 +44,7 @@ struct UserFile {
     double BaroPressure = 0;  // psia
 };
 
-std::string FileName() { return Suite.DefaultPaths[path::UserUnits] + "\\TRUNS.txt"; }
+std::string FileName() { return InDefaultPath(path::UserUnits, filename::UserUnits); }
 
 // --- Reading ---------------------------------------------------------------------------------------------
 

@@ -352,7 +352,7 @@ TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
     }
     EXPECT_EQ(left, std::ssize(files)) << "nothing is left beside the files";
     // Colours come with a folder of tables that is made anew, once, and into none that is there.
-    const std::filesystem::path another = Folder / "another", colours = another / "TRData" / "TRColr.txt";
+    const std::filesystem::path another = Folder / "another", colours = another / "TRData" / "TRcolr.txt";
     SeedShippedData(SuitePath(another));
     EXPECT_EQ(FileBytes(colours), FileBytes(SourceFolder() / "data" / "Light.txt"));
     std::filesystem::remove(colours);

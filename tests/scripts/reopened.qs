@@ -18,6 +18,9 @@ expect-message New database
 click mnuProgram
 open L-1
 expect pltLine "Normal case: Pressure 100 to 90.31 psig over 1000 ft"
+# The same options once more are no change to save.
+click cmdFormLayout
+click cmdOKOptions
 click mnuProgram
 
 # --- A water hammer: its fluid typed by hand ---------------------------------------------------------------------

@@ -1,0 +1,30 @@
+// Keys by name, as the hosts hand them to the forms: a character stands for itself, every other key has its
+// name, and modifiers stand in front ("Shift+Tab", "Ctrl+c").
+#pragma once
+
+#include <array>
+
+namespace quillmetra::keys {
+
+inline constexpr const char* Enter = "Enter";
+inline constexpr const char* Escape = "Escape";
+inline constexpr const char* Tab = "Tab";
+inline constexpr const char* BackTab = "Shift+Tab";
+inline constexpr const char* Backspace = "Backspace";
+inline constexpr const char* Delete = "Delete";
+inline constexpr const char* Up = "Up";
+inline constexpr const char* Down = "Down";
+inline constexpr const char* Left = "Left";
+inline constexpr const char* Right = "Right";
+inline constexpr const char* PageUp = "PageUp";
+inline constexpr const char* PageDown = "PageDown";
+inline constexpr const char* Help = "F1";
+
+inline constexpr std::array Named = {Enter, Escape, Tab,   Backspace, Delete,   Up,
+                                     Down,  Left,   Right, PageUp,    PageDown, Help};
+
+inline constexpr const char* Ctrl = "Ctrl+";
+inline constexpr const char* Alt = "Alt+";
+inline constexpr const char* Shift = "Shift+";
+
+}  // namespace quillmetra::keys
