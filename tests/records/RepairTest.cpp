@@ -85,6 +85,15 @@ protected:
     int repaired_ = 0, withLosses_ = 0;
 };
 
+TEST(RepairText, TellsWhatWasLostAndWhatIsKept) {
+    const RepairReport report{
+        .WasDamaged = true, .Records = 1, .MissingPages = 2, .Lost = {"a"}, .KeptAs = "k"};
+    EXPECT_EQ(
+        RepairText(report),
+        "The database was damaged.\nIt broke off: 2 pages of its end are missing.\n1 record was saved.\n"
+        "1 row could not be read:\na\nThe damaged file is kept as k");
+}
+
 TEST_F(RepairTest, ASoundFileStaysAsItIs) {
     EXPECT_FALSE(RepairDB(Suite.DatabasePath).WasDamaged);
     EXPECT_EQ(RepairText({}), "");
