@@ -83,7 +83,8 @@ void frmShippedRows::ShowRows() {
     std::vector<std::string> lines(rows_.size());
     std::transform(rows_.begin(), rows_.end(), lines.begin(), ListLine);
     lstRows.SetRows(std::move(lines));
-    lstRows.PickAll();
+    // From the last to the first, at which the list then stands.
+    for (int i = lstRows.RowCount() - 1; i >= 0; --i) lstRows.Pick(i, true);
     lstRows_Click();
     if (rows_.empty()) SetStatus("Your tables hold all that is shipped");
 }
@@ -97,7 +98,8 @@ std::vector<ShippedRow> frmShippedRows::PickedRows() const {
 }
 
 void frmShippedRows::lstRows_Click() {
-    const std::size_t picked = PickedRows().size();
+    int picked = 0;
+    for (int i = 0; i < lstRows.RowCount(); ++i) picked += lstRows.IsPicked(i) ? 1 : 0;
     lblPicked.SetCaption(std::to_string(picked) + " of " + std::to_string(rows_.size()) + " picked");
     cmdOK.SetEnabled(picked > 0);
 }

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "core/Words.h"
+#include "forms/frmShippedRows.h"
 #include "forms/frmTables.h"
 #include "forms/RegisterForms.h"
 #include "platform/UserActs.h"
@@ -136,6 +137,29 @@ TEST_F(TablesForm, RowsThatMoveTakeTheRowInHandAlong) {
     TypeText(form.txtRecall, "1e300");
     ClickControl(form.cmdRecall);
     EXPECT_EQ(User.LastText(), "Maximum row number is  421");
+}
+
+TEST_F(TablesForm, NewerShippedRowsAreToldOnceAndWrittenWhereTheyMay) {
+    const fs::path gases = DataFolder() / "Gas.txt", shipped = SourceFolder() / "data";
+    fs::copy_file(shipped / "former" / "Gas.txt", gases, fs::copy_options::overwrite_existing);
+    Suite.VersionText = "Ver.1.0.0.  ";
+    TellOfShippedRows();
+    Form& browser = LoadForm("frmTRProg");
+    EXPECT_NE(browser.Status().find("Shipped rows"), std::string::npos);
+    browser.SetStatus("");
+    TellOfShippedRows();
+    EXPECT_EQ(browser.Status(), "");
+
+    const std::string before = Bytes("Gas.txt");
+    fs::permissions(gases, fs::perms::owner_read);
+    ShowForm("frmShippedRows", Modal::Yes);
+    auto& offer = static_cast<frmShippedRows&>(LoadForm("frmShippedRows"));
+    ClickControl(offer.cmdOK);
+    EXPECT_EQ(User.LastText().substr(0, 13), "File Gas.txt\n");
+    EXPECT_EQ(Bytes("Gas.txt"), before);
+    fs::permissions(gases, fs::perms::owner_read | fs::perms::owner_write);
+    ClickControl(offer.cmdOK);
+    EXPECT_EQ(Bytes("Gas.txt"), ReadBytes(SuitePath(shipped / "Gas.txt"))) << "the table as shipped";
 }
 
 }  // namespace
