@@ -17,6 +17,7 @@ namespace {
 
 constexpr int Backwards = 2;        // the pressure direction of a march from the destination
 constexpr double FirstSigns = 0.3;  // of sonic velocity
+constexpr double First = 1000;  // before any error: the status line may be cut, and relief lines hang on it
 
 struct GasState {
     double Density, Sonic;  // lb/ft3, ft/s
@@ -92,9 +93,8 @@ HintList ChokedFlowHints(const CalcRecord& record) {
     const std::string shown =
         TrimmedStr(std::round(100 * ShownMachOfChoking(FrictionLengthOf(record))) / 100);
     const bool isAbove = record.MassFlow > most;
-    return {{isAbove ? 1000.0 : 0,
-             "The line chokes at " + flow + ", where " + shown + " of sonic velocity is shown" +
-                 (isAbove ? ": it cannot pass this flow" : "") + " (adiabatic, not printed)."}};
+    return {{First, "The line chokes at " + flow + (isAbove ? " and cannot pass this flow" : "") +
+                        " (adiabatic, not printed), seen here as " + shown + " of sonic velocity."}};
 }
 
 }  // namespace quillmetra

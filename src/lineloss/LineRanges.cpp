@@ -102,7 +102,7 @@ constexpr CorrelationRange Ranges[] = {
 
     // The momentum balance of isothermal flow divides the friction loss by 1 - k M^2: 13 % more at 0.3.
     {"Velocity over sonic velocity", OutletMach, NoBound, 0.3, BoundUnit::None,
-     "the loss that speeds up the gas is not in the result, which is about {}", HasGasLoss,
+     "the loss is about {}, without what speeds up the gas", HasGasLoss,
      [](const CalcRecord& record) { return ErrorAt(GasLosses, OutletMach(record)); }},
     {"Reduced pressure", LastReducedPressure, NoBound, SonicGoodTo, BoundUnit::None,
      "the sonic velocity is about {}, and choking is told late", IsGas,

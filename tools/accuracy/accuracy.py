@@ -150,7 +150,7 @@ def choked_table(answers):
     yield "| Length, ft | Most that passes, lb/h | Told, lb/h | Shown of sonic velocity |"
     yield "|---|---|---|---|"
     for (length, flow), (_, hint) in zip(CHOKED, answers):
-        told, shown = re.search(r"chokes at (\d+) \S+, where ([\d.]+) of", hint).groups()
+        told, shown = re.search(r"chokes at (\d+) .*seen here as ([\d.]+) of", hint).groups()
         yield f"| {length:,} | {flow:,} | {int(told):,} | {shown} |"
 
 
