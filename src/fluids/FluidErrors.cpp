@@ -14,9 +14,8 @@ namespace quillmetra {
 
 namespace {
 
-constexpr double Base = 60;            // degF, of the gravities
-constexpr double ModulusBase = 68;     // degF
-constexpr double NearCritical = 0.85;  // reduced temperature
+constexpr double Base = 60;         // degF, of the gravities
+constexpr double ModulusBase = 68;  // degF
 
 double DegR(double degF) { return degF + ZeroFInDegR; }
 
@@ -94,16 +93,29 @@ double OneOverT(double degF, const CalcRecord& record) {
     return 1 / DegR(degF) - 1 / DegR(record.NormalBoilingPoint);
 }
 
-struct Sublimation {
+struct NamedTemperature {
     const char* Name;
-    double Temperature;  // degF, at one atmosphere
+    double Temperature;  // degF
 };
-constexpr Sublimation Sublimations[] = {{"Carbon Dioxide", -109.2}, {"Sulphur Hexafluoride", -82.9}};
+// At one atmosphere.
+constexpr NamedTemperature Sublimations[] = {{"Carbon Dioxide", -109.2}, {"Sulphur Hexafluoride", -82.9}};
+
+constexpr NamedTemperature ColdModuli[] = {
+    {"Carbon Dioxide", -49}, {"Ethane", -47}, {"Ethylene", -78}, {"Methane", -202}, {"Nitrous Oxide", -42}};
 
 }  // namespace
 
-bool IsBasedNearCritical(const CalcRecord& record) {
-    return ReducedBase(record) > NearCritical && ReducedBase(record) < 1;
+// By the reduced temperature of 60 degF: refrigerants from 407C to 32, hydrogen chloride, nitrous oxide and
+// ethane, carbon dioxide.
+double ColdGravityGoodFrom(const CalcRecord& record) {
+    constexpr MeasuredError good[] = {{0.8, 0.65}, {0.84, 0.73}, {0.89, 0.84}, {0.95, 0.93}};
+    const double base = ReducedBase(record);
+    return base < 0.8 || base >= 1 ? NoBound.Number : std::round(100 * ErrorAt(good, base)) / 100;
+}
+
+double ColdGravityError(const CalcRecord& record) {
+    constexpr MeasuredError errors[] = {{0.8, -3}, {0.84, -5}, {0.89, -6.5}, {0.94, -9}, {0.95, -12}};
+    return ErrorAt(errors, ReducedBase(record));
 }
 
 // A base gravity above the critical temperature is none; it was chosen for the boiling point.
@@ -118,16 +130,23 @@ double PressedGravityError(const CalcRecord& record) {
 
 double WaterModulusError(const CalcRecord& record) { return ErrorAt(WaterModuli, record.FlowTemperature); }
 
-bool HasColdModulus(const CalcRecord& record) { return ReducedBase(record) > 0.9; }
+double ColdModulusTemperature(const CalcRecord& record) {
+    for (const NamedTemperature& each : ColdModuli) {
+        if (record.FluidName == each.Name) return each.Temperature;
+    }
+    return NoBound.Number;
+}
+
+bool HasWarmModulus(const CalcRecord& record) { return ReducedBase(record) < 0.9; }
 
 // The modulus of a liquid falls to nothing at its critical temperature, as a power of the distance from it.
 double ModulusError(const CalcRecord& record) {
-    constexpr double coldState = 0.75, warmPower = 1.8, coldPower = 1.5;
-    const double critical = record.CritTemperature;
-    const bool isCold = HasColdModulus(record);
-    const double from = critical - (isCold ? coldState * critical : DegR(ModulusBase));
-    const double to = critical - DegR(record.FlowTemperature);
-    return 100 * (std::pow(from / to, isCold ? coldPower : warmPower) - 1);
+    constexpr double warmPower = 1.8, coldPower = 1.5;
+    const bool isWarm = HasWarmModulus(record);
+    const double from = DegR(isWarm ? ModulusBase : ColdModulusTemperature(record));
+    const double ratio =
+        (record.CritTemperature - from) / (record.CritTemperature - DegR(record.FlowTemperature));
+    return 100 * (std::pow(ratio, isWarm ? warmPower : coldPower) - 1);
 }
 
 // 6 % of the modulus, 3 of the velocity.
@@ -159,7 +178,7 @@ double VaporPressureGoodFrom(const CalcRecord& record) {
 }
 
 double SublimationPoint(const CalcRecord& record) {
-    for (const Sublimation& each : Sublimations) {
+    for (const NamedTemperature& each : Sublimations) {
         if (record.FluidName == each.Name) return each.Temperature;
     }
     return NoBound.Number;

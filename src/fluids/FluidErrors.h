@@ -12,8 +12,9 @@ namespace quillmetra {
 // true at 60 degF wherever that lies.
 double GravityError(const CalcRecord& record);
 // Liquids whose base gravity at 60 degF is that of a state next to their critical point: the line is then too
-// flat, and gravity low in the cold.
-bool IsBasedNearCritical(const CalcRecord& record);
+// flat, and gravity low in the cold, below that reduced temperature by up to so much. No number for others.
+double ColdGravityGoodFrom(const CalcRecord& record);
+double ColdGravityError(const CalcRecord& record);
 
 // Of the gravity of a light organic liquid, by its pressure alone.
 double PressedGravityError(const CalcRecord& record);
@@ -24,9 +25,11 @@ double ModulusError(const CalcRecord& record);
 // degF between which it is not worth telling: 58 to 78, less for a liquid near its critical point.
 double ModulusGoodFrom(const CalcRecord& record);
 double ModulusGoodTo(const CalcRecord& record);
-// Liquids whose critical point is so near to 68 degF that the table has the modulus of a colder state, at
-// three quarters of the critical temperature.
-bool HasColdModulus(const CalcRecord& record);
+// The same of the liquids whose critical point is so near to 68 degF that the table has the modulus of a
+// colder state: at that temperature, degF; no number for others.
+double ColdModulusTemperature(const CalcRecord& record);
+// Liquids that have a modulus at 68 degF.
+bool HasWarmModulus(const CalcRecord& record);
 
 // Of the vapor pressure of the liquids for which Miller's equation is known to fail below their boiling
 // point: alcohols from C3 and glycols, amines, acids, paraffins from C11. 0 for all others.

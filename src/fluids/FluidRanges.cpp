@@ -56,10 +56,6 @@ bool IsSolution(const CalcRecord& record) {
     return IsLiquidButWater(record) && IsOfClass(record, fluidclass::Inorganic) &&
            record.NormalBoilingPoint > boilsAbove;
 }
-bool ShowsColdModulus(const CalcRecord& record) {
-    return ShowsModulus(record) && IsLiquidButWater(record) && HasColdModulus(record);
-}
-
 // Lighter than water, and warm enough for the general compressibility to be too large.
 bool IsLightOrganic(const CalcRecord& record) {
     constexpr double warm = 0.65;  // reduced temperature
@@ -118,9 +114,8 @@ constexpr CorrelationRange Ranges[] = {
                 GravityError(record) > worthTelling;
      },
      GravityError},
-    // Carbon dioxide, nitrous oxide, ethane, hydrogen chloride.
-    {"Temperature", Temperature, 45, NoBound, BoundUnit::Temperature, "the gravity is 5 to 12 % low",
-     [](const CalcRecord& record) { return IsLiquidButWater(record) && IsBasedNearCritical(record); }, -9},
+    {"Reduced temperature", ReducedTemperature, ColdGravityGoodFrom, NoBound, BoundUnit::None,
+     "the gravity is up to {}", IsLiquidButWater, ColdGravityError},
     // The polynomial changes its sign there: the liquid would grow under pressure.
     {"Reduced temperature", ReducedTemperature, 0.353, NoBound, BoundUnit::None,
      "the correction of gravity for pressure has the wrong sign", IsLiquidButWater, 1},
@@ -171,13 +166,17 @@ constexpr CorrelationRange Ranges[] = {
      "the bulk modulus is that at 68 degF, about {}",
      [](const CalcRecord& record) {
          return ShowsModulus(record) && IsLiquidButWater(record) && !IsSolution(record) &&
-                !HasColdModulus(record) && ReducedTemperature(record) < 1;
+                HasWarmModulus(record) && ReducedTemperature(record) < 1;
      },
      ModulusError},
-    // Carbon dioxide, nitrous oxide, ethane, ethylene, methane.
-    {"Reduced temperature", ReducedTemperature, 0.73, 0.77, BoundUnit::None,
-     "the bulk modulus is that at 0.75, about {}",
-     [](const CalcRecord& record) { return ShowsColdModulus(record) && ReducedTemperature(record) < 1; },
+    // Carbon dioxide, nitrous oxide, ethane, ethylene, methane: 6 degF are 6 % of the modulus.
+    {"Temperature", Temperature, [](const CalcRecord& record) { return ColdModulusTemperature(record) - 6; },
+     [](const CalcRecord& record) { return ColdModulusTemperature(record) + 6; }, BoundUnit::Temperature,
+     "the bulk modulus is that of another temperature, about {}",
+     [](const CalcRecord& record) {
+         return ShowsModulus(record) && IsPure(record) && !HasWarmModulus(record) &&
+                ReducedTemperature(record) < 1;
+     },
      ModulusError},
     {"Boiling point", [](const CalcRecord& record) { return record.NormalBoilingPoint; }, SublimationPoint,
      NoBound, BoundUnit::Temperature, "it is fitted to the vapor pressure, the solid sublimes at that bound",

@@ -75,7 +75,14 @@ TEST_F(Ranges, AreLeftAtTheirBounds) {
         // Still true at 60 degF, where that is warm.
         {[] { Liquid(), Calc.CritTemperature = 648; }, 60, 100, ""},
         {[] { Liquid(), Calc.CritTemperature = 547; }, 44, 100,
-         "Temperature below 7.222 degC: the gravity is 5 to 12 % low."},
+         "Reduced temperature below 0.93: the gravity is up to 12 % low."},
+        {[] { DataOf("Nitrous Oxide"), Calc.CritTemperature = 557; }, 40, 100,
+         "Temperature above -37.78 degC: the bulk modulus is that of another temperature, about 3.8 times "
+         "the "
+         "true one. Reduced temperature below 0.9: the gravity is up to 9 % low."},
+        {[] { DataOf("Nitrous Oxide"), Calc.CritTemperature = 557, Calc.CurrentProgram = 1; }, 45, 100, ""},
+        {[] { DataOf("LNG Typical"), Calc.CritTemperature = 360, Calc.ViscosityTemp2 = -250; }, -240, 100,
+         ""},
         {Liquid, 195, 1001, "Pressure above 6793 kPag: the gravity under pressure is about 1 % high."},
         {Liquid, 185, 3000, ""},
         {[] { Liquid(), Calc.CurrentProgram = 3; }, 58, 100, ""},
