@@ -14,10 +14,10 @@
 #include "forms/frmLiqLineLoss.h"
 #include "forms/RegisterForms.h"
 #include "platform/Forms.h"
+#include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
 #include "platform/UserActs.h"
 #include "script/ScriptHost.h"
-#include "script/TemporaryFolder.h"
 
 namespace quillmetra {
 

@@ -10,12 +10,12 @@
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
+#include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
 #include "script/ScriptHost.h"
-#include "script/TemporaryFolder.h"
 #include "units/NamedUnitSets.h"
 
 namespace quillmetra {

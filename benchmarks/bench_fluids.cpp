@@ -10,7 +10,7 @@
 #include "fluids/GasData.h"
 #include "fluids/LiquidData.h"
 #include "fluids/Mixtures.h"
-#include "script/TemporaryFolder.h"
+#include "platform/TemporaryFolder.h"
 
 namespace {
 

@@ -23,7 +23,7 @@
 #include "reports/FormRows.h"
 #include "reports/ReportPage.h"
 #include "script/ScriptHost.h"
-#include "script/TemporaryFolder.h"
+#include "platform/TemporaryFolder.h"
 #include "units/NamedUnitSets.h"
 
 namespace {

@@ -7,8 +7,8 @@
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
+#include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
-#include "script/TemporaryFolder.h"
 
 namespace {
 
