@@ -20,9 +20,11 @@
 #include "desktop/KeyNames.h"
 #include "desktop/Menus.h"
 #include "desktop/Painting.h"
+#include "desktop/ReadyForUser.h"
 #include "desktop/WindowPlaces.h"
 #include "forms/ColourSchemes.h"
 #include "forms/ColourShades.h"
+#include "forms/WindowTitle.h"
 #include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/TextCase.h"
@@ -81,9 +83,7 @@ bool IsOptionArrow(const Control& control, const std::string& key) {
 FormWindow::FormWindow(Form& form)
     : form_(&form), pane_(new QWidget), scroll_(new QScrollArea), status_(new QLabel) {
     setObjectName(ToQt(form.Name()));
-    if (form.Fixed)
-        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                       Qt::WindowCloseButtonHint);
+    if (form.Fixed) setWindowFlags(DialogFlags);
     scroll_->setWidgetResizable(true);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setFocusPolicy(Qt::NoFocus);
@@ -215,6 +215,7 @@ void FormWindow::Renew(const Control& control, Aspect aspect) {
     ControlView* const view = ViewOf(control);
     if (view == nullptr) return;
     view->Renew(aspect);
+    FollowFormSoon();
     switch (aspect) {
         case Aspect::Text:
             if (control.Kind() == ControlKind::TextBox) break;
@@ -241,14 +242,16 @@ void FormWindow::Renew(const Control& control, Aspect aspect) {
 }
 
 void FormWindow::RenewForm() {
-    setWindowTitle(ToQt(form_->Caption()));
-    status_->setText(ToQt(form_->Status()));
+    RenewTitle();
+    status_->setText(ToRead(form_->Status()));
     status_->setToolTip(status_->text());
     PaintArea(*pane_, form_->BackColour(), Readable(form_->BackColour(), SlotColour(slot::AreaText)));
     pane_->setEnabled(form_->Enabled());
     if (menuWidget() != nullptr) menuBar()->setEnabled(form_->Enabled());
     FollowFocusSoon();
 }
+
+void FormWindow::RenewTitle() { setWindowTitle(ToQt(WindowTitle(*form_))); }
 
 void FormWindow::PaintAreas() {
     for (const LayoutBuilder::PaintedArea& area : areas_) {
@@ -282,6 +285,19 @@ void FormWindow::MarkDefaultButton() {
         const bool isDefault = view->Model() == form_->DefaultButton;
         if (button != nullptr && button->isDefault() != isDefault) button->setDefault(isDefault);
     }
+}
+
+// Once for all that an act changes: what the title says of the record is decided after its controls are told.
+void FormWindow::FollowFormSoon() {
+    if (followFormSoon_) return;
+    followFormSoon_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            followFormSoon_ = false;
+            if (form_ != nullptr) RenewTitle();
+        },
+        Qt::QueuedConnection);
 }
 
 void FormWindow::FollowFocusSoon() {

@@ -62,6 +62,8 @@ private:
     void MouseTookFocus(ControlView& view);
     void UserReached(Control& control);
     void FollowFocusSoon();
+    void FollowFormSoon();
+    void RenewTitle();
     void MarkDefaultButton();
 
     Form* form_;
@@ -74,6 +76,7 @@ private:
     std::vector<LayoutBuilder::PaintedArea> areas_;
     ControlView* pressed_ = nullptr;  // took the keyboard at the press of the mouse, its release is to come
     bool followSoon_ = false;
+    bool followFormSoon_ = false;
     std::deque<std::function<void()>> acts_;  // see Later
     bool acting_ = false;
 };

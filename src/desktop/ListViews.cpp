@@ -30,7 +30,7 @@ public:
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
 
     QVariant data(const QModelIndex& index, int role) const override {
-        if (role == Qt::DisplayRole) return ToQt(list_.Row(index.row()));
+        if (role == Qt::DisplayRole) return ToRead(list_.Row(index.row()));
         if (role == Qt::SizeHintRole) return size_;
         return {};
     }

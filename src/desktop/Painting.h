@@ -8,12 +8,15 @@
 #include <QWidget>
 
 #include "platform/Controls.h"
+#include "platform/PathText.h"
 
 namespace quillmetra {
 
 inline QString ToQt(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+// The same, with paths as this system writes them: for words that are read and not typed.
+inline QString ToRead(const std::string& text) { return ToQt(WithSystemPaths(text)); }
 QColor ToQt(Colour colour);
 
 QColor Between(const QColor& from, const QColor& to, double part);

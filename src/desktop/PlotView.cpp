@@ -7,15 +7,16 @@
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
 #include "desktop/SchemePalette.h"
+#include "forms/ColourShades.h"
 #include "platform/Plot.h"
 
 namespace quillmetra {
 
 namespace {
 
-// Curves in the order of the drawing: blue, vermilion, green, told apart by the colour-blind as well and of a
-// brightness between that of light and of dark grounds.
-const QColor CurveColours[] = {{0, 114, 178}, {213, 94, 0}, {0, 158, 115}};
+// Curves in the order of the drawing: blue, vermilion, green, told apart by the colour-blind as well.
+constexpr Colour CurveColours[] = {0xB27200, 0x005ED5, 0x739E00};
+constexpr double CurveContrast = 3;
 constexpr int LegendRow = 2;  // below title and axes
 constexpr double CurveWidth = 1.8;
 constexpr double MarkLabelGap = 0.02;  // of the picture's height or width, from its edge
@@ -95,9 +96,10 @@ public:
         replot(rpQueuedReplot);
     }
 
-    void TakeColours(const QColor& back, const QColor& fore) {
-        back_ = back;
+    void TakeColours(Colour ground, const QColor& fore) {
+        ground_ = ground;
         fore_ = fore;
+        const QColor back = ToQt(ground);
         setBackground(QBrush(back));
         QColor faint = fore;
         faint.setAlphaF(0.15F);
@@ -112,6 +114,11 @@ public:
         title_->setTextColor(fore);
         legend->setTextColor(fore);
         for (int i = 0; i < itemCount(); ++i) ColourItem(*item(i));
+        for (int i = 0; i < graphCount(); ++i) {
+            QPen pen = graph(i)->pen();
+            pen.setColor(CurveColour(i));
+            graph(i)->setPen(pen);
+        }
         replot(rpQueuedReplot);
     }
 
@@ -142,6 +149,12 @@ private:
         title_->setFont(font());
     }
 
+    // As bright as its ground demands.
+    QColor CurveColour(int curve) const {
+        const auto place = static_cast<std::size_t>(curve) % std::size(CurveColours);
+        return ToQt(Readable(ground_, CurveColours[place], CurveContrast));
+    }
+
     // Below the axes, where it hides no curve. An empty one would take the width away from the picture.
     void ShowLegend(bool show) {
         legend->setVisible(show);
@@ -156,10 +169,10 @@ private:
     }
 
     void AddCurve(const PlotSeries& series) {
-        const auto colour = static_cast<std::size_t>(graphCount()) % std::size(CurveColours);
+        const QColor colour = CurveColour(graphCount());
         QCPGraph* const curve = addGraph(xAxis, series.OnRightAxis ? yAxis2 : yAxis);
         curve->setName(ToQt(series.Name));
-        curve->setPen(QPen(CurveColours[colour], CurveWidth, series.Dashed ? Qt::DashLine : Qt::SolidLine));
+        curve->setPen(QPen(colour, CurveWidth, series.Dashed ? Qt::DashLine : Qt::SolidLine));
         curve->setData(QVector<double>(series.X.begin(), series.X.end()),
                        QVector<double>(series.Y.begin(), series.Y.end()));
     }
@@ -211,7 +224,8 @@ private:
     }
 
     QCPTextElement* title_;
-    QColor back_ = Qt::white, fore_ = Qt::black;
+    Colour ground_ = 0xFFFFFF;
+    QColor fore_ = Qt::black;
 };
 
 class PlotView : public ControlView {
@@ -230,9 +244,7 @@ protected:
         picture_->setToolTip(ToQt(plot_.ToolTip().empty() ? plot_.Text() : plot_.ToolTip()));
     }
 
-    void RenewColours() override {
-        picture_->TakeColours(ToQt(plot_.BackColour()), ToQt(plot_.ForeColour()));
-    }
+    void RenewColours() override { picture_->TakeColours(plot_.BackColour(), ToQt(plot_.ForeColour())); }
 
 private:
     Plot& plot_;

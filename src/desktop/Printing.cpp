@@ -2,6 +2,7 @@
 #include "desktop/Printing.h"
 
 #include <QApplication>
+#include <QGraphicsView>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -11,6 +12,7 @@
 #include "desktop/DesktopHost.h"
 #include "desktop/Painting.h"
 #include "desktop/ReadyForUser.h"
+#include "forms/ColourSchemes.h"
 #include "forms/FileGuard.h"
 #include "paper/PagePainter.h"
 #include "paper/PdfPaper.h"
@@ -57,6 +59,9 @@ void PreviewPaper::Finish() {
     QPrintPreviewDialog dialog(&printer_, WindowInHand());
     dialog.setWindowTitle(ToQt(name_));
     dialog.resize(dialog.screen()->availableSize() * 0.85);
+    for (auto* const sheets : dialog.findChildren<QGraphicsView*>()) {
+        sheets->setBackgroundBrush(ToQt(SlotColour(slot::Form)));
+    }
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [this](QPrinter* printer) {
         QPainter painter(printer);
         for (std::size_t i = 0; i < pages_.size(); ++i) {

@@ -8,6 +8,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -31,7 +32,19 @@ namespace {
 class Question : public QMessageBox {
 public:
     explicit Question(bool mustAnswer) : QMessageBox(WindowInHand()), mustAnswer_(mustAnswer) {
+        setWindowFlags(DialogFlags);
         if (mustAnswer_) setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+
+    // A title that is longer than the text would be cut; the frame has its buttons beside it.
+    void FitTitle() {
+        constexpr int frameButtons = 100;
+        QFont titles = font();
+        titles.setBold(true);
+        const int width = QFontMetrics(titles).horizontalAdvance(windowTitle()) + frameButtons;
+        auto* const grid = qobject_cast<QGridLayout*>(layout());
+        if (grid == nullptr) return;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
 
 protected:
@@ -94,13 +107,14 @@ Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
     Question question(box.Choice == Buttons::YesNo);
     question.setWindowTitle(ToQt(box.Title));
     question.setTextFormat(Qt::PlainText);
-    question.setText(ToQt(box.Text));
+    question.setText(ToRead(box.Text));
     question.setIcon(SignOf(box.Sign));
     for (const AnswerButton& each : AnswerButtons) {
         if (!Offers(box, each.Means)) continue;
         QPushButton* const button = question.addButton(each.Button);
         if (each.Means == DefaultAnswer(box)) question.setDefaultButton(button);
     }
+    question.FitTitle();
     const int pressed = question.exec();
     for (const AnswerButton& each : AnswerButtons) {
         if (each.Button == pressed) return each.Means;
@@ -111,8 +125,8 @@ Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
 std::optional<std::string> DesktopHost::InputBox(const std::string& prompt, const std::string& title) {
     const ReadyForUser ready;
     bool accepted = false;
-    const QString text =
-        QInputDialog::getText(WindowInHand(), ToQt(title), ToQt(prompt), QLineEdit::Normal, {}, &accepted);
+    const QString text = QInputDialog::getText(WindowInHand(), ToQt(title), ToRead(prompt), QLineEdit::Normal,
+                                               {}, &accepted, DialogFlags);
     if (!accepted) return std::nullopt;
     return text.toStdString();
 }

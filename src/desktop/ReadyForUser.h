@@ -19,6 +19,10 @@ inline QWidget* WindowInHand() {
     return window != nullptr && window->isVisible() ? window : nullptr;
 }
 
+// A box is not made larger or put away: its frame has no buttons for that.
+inline constexpr Qt::WindowFlags DialogFlags =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+
 // An open menu would keep the mouse from a box, and a busy pointer would say that nobody waits for the user.
 class ReadyForUser {
 public:

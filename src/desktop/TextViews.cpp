@@ -62,7 +62,7 @@ public:
     }
 
 protected:
-    void RenewText() override { widget_->setText(ToQt(Model()->Caption())); }
+    void RenewText() override { widget_->setText(ToRead(Model()->Caption())); }
 
 private:
     QLabel* widget_;

@@ -54,7 +54,6 @@ int main(int argc, char** argv) {
     AnswerTheShell(parser, QStringList(argv + 1, argv + argc));
 
     const QApplication app(argc, argv);
-    QApplication::setApplicationDisplayName("Quillmetra");
     QApplication::setWindowIcon(QIcon(":/quillmetra.png"));
     QApplication::setQuitOnLastWindowClosed(false);
     quillmetra::UseSuiteStyle();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/Suite.h"
+#include "forms/WindowTitle.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
@@ -159,6 +160,10 @@ void ExpectFocus(ScriptPlayer& player, const Arguments& arguments) {
 
 void ExpectTitle(ScriptPlayer& player, const Arguments& arguments) {
     RequireSame("the title", player.FormInHand().Caption(), arguments[0].Text);
+}
+
+void ExpectWindow(ScriptPlayer& player, const Arguments& arguments) {
+    RequireSame("the title bar", WindowTitle(player.FormInHand()), arguments[0].Text);
 }
 
 void ExpectStatus(ScriptPlayer& player, const Arguments& arguments) {

@@ -55,6 +55,7 @@ constexpr ScriptCommand Table[] = {
      "enabled, disabled, visible, hidden, checked or unchecked"},
     {"expect-form", "NAME", script::ExpectForm, "the form in hand, none when the suite has ended"},
     {"expect-title", "TEXT", script::ExpectTitle, "the title of the form in hand"},
+    {"expect-window", "TEXT", script::ExpectWindow, "the title bar of the form in hand"},
     {"expect-status", "TEXT", script::ExpectStatus, "the status line of the form in hand"},
     {"expect-focus", "CONTROL", script::ExpectFocus, "the control that has the focus"},
     {"expect-tip", "CONTROL TEXT", script::ExpectTip, "the tool tip"},

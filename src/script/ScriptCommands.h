@@ -76,6 +76,7 @@ void ExpectState(ScriptPlayer& player, const Arguments& arguments);
 void ExpectForm(ScriptPlayer& player, const Arguments& arguments);
 void ExpectFocus(ScriptPlayer& player, const Arguments& arguments);
 void ExpectTitle(ScriptPlayer& player, const Arguments& arguments);
+void ExpectWindow(ScriptPlayer& player, const Arguments& arguments);
 void ExpectStatus(ScriptPlayer& player, const Arguments& arguments);
 void ExpectTip(ScriptPlayer& player, const Arguments& arguments);
 void ExpectColour(ScriptPlayer& player, const Arguments& arguments);

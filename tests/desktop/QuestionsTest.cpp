@@ -32,7 +32,7 @@ TEST_F(QuestionsTest, BoxesShowWhatTheyAreGiven) {
          QMessageBox::Question,
          Answer::Yes},
         {{.Text = "Are you sure?",
-          .Title = "Confirm",
+          .Title = "Gas Mixture Properties of the Normal case",
           .Choice = Buttons::YesNo,
           .Sign = Icon::Exclamation,
           .Default = Answer::No},
@@ -52,6 +52,8 @@ TEST_F(QuestionsTest, BoxesShowWhatTheyAreGiven) {
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
             EXPECT_EQ(box.windowTitle(), ToQt(each.Box.Title));
             EXPECT_EQ(box.icon(), each.Sign);
+            EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(box.windowTitle()) + 60);
+            EXPECT_FALSE(box.windowFlags() & (Qt::WindowMinMaxButtonsHint));
             EXPECT_EQ(static_cast<std::size_t>(box.buttons().size()), each.Buttons.size());
             for (const auto button : each.Buttons) EXPECT_NE(box.button(button), nullptr);
             QTest::keyClick(&box, Qt::Key_Return);

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/PathText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryFolder.h"
 
@@ -135,6 +136,14 @@ TEST_F(TextFiles, AllBytesSurviveReadingAndWriting) {
                              "\xE2\x82", "\xFF\xFE"}) {
         EXPECT_EQ(Code1252From(text), text);
     }
+}
+
+// On a system that writes "/"; a tag keeps its "\".
+TEST_F(TextFiles, WordsHaveThePathsOfTheSystem) {
+    if (fs::path::preferred_separator == '\\') GTEST_SKIP();
+    EXPECT_EQ(WithSystemPaths("None on /a\\b c\\d\nA\\B \\ x of 1/2\\3"),
+              "None on /a/b c/d\nA\\B \\ x of 1/2\\3");
+    EXPECT_EQ(WithSystemPaths("A\\B is on file\n\\tmp\\x"), "A\\B is on file\n/tmp/x");
 }
 
 TEST_F(TextFiles, NamesAreFoundWithoutRegardToCase) {

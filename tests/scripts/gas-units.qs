@@ -86,8 +86,13 @@ answer OK
 click mnuSave
 expect-message Create
 expect-message New database
+expect-window "G-1 - Ver.6.0.0.  Line Loss  - Gas Flow"
 click mnuProgram
 open G-1
+expect-window "G-1 - Ver.6.0.0.  Line Loss  - Gas Flow"
+type txtTemp(1) -9
+expect-window "G-1* - Ver.6.0.0.  Line Loss  - Gas Flow"
+type txtTemp(1) -10
 expect txtEquip(1) ""
 expect txtTemp(1) -10
 quit

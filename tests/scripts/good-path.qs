@@ -13,6 +13,7 @@ expect-form frmTRProg
 new 1
 expect-form frmLiqLineLoss
 expect-title "Ver.6.0.0.  Line Loss  - Liquid flow"
+expect-window "Ver.6.0.0.  Line Loss  - Liquid flow"
 expect-focus txtTagNum
 expect lblSetupSelections "English mass units, calculate data"
 expect lblCalcSource "Colebrook equation, Darcy formula and Crane Technical Paper No. 410"
