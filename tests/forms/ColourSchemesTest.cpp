@@ -87,6 +87,26 @@ TEST_F(ColourSchemesTest, AGroupIsRepaintedAlone) {
     EXPECT_EQ(box.BackColour(), DefaultColours[6]);
 }
 
+// A control shows after it what it has shown before: the focus, changed data.
+TEST_F(ColourSchemesTest, ASchemeIsSeenOnAllForms) {
+    Form& browser = LoadForm("frmTRProg");
+    Control& box = *browser.Find("txtSearchTag");
+    Control& behind = *LoadForm("frmObxProg").Find("fraProgram");
+    box.ColourGroup = 2;
+    const std::pair<int, int> looks[] = {{3, 4}, {3, 10}, {11, 12}};
+    for (const char* scheme : SchemeNames) {
+        for (const auto& [back, text] : looks) {
+            box.SetColours(SlotColour(back), SlotColour(text));
+            TakeScheme(scheme);
+            EXPECT_EQ(box.BackColour(), SlotColour(back)) << scheme << " " << text;
+            EXPECT_EQ(box.ForeColour(), SlotColour(text)) << scheme << " " << text;
+        }
+        EXPECT_EQ(behind.BackColour(), SlotColour(1)) << scheme;
+        EXPECT_STREQ(SchemeNames.at(static_cast<std::size_t>(SchemeInForce())), scheme);
+    }
+    EXPECT_TRUE(User.Boxes.empty());
+}
+
 // The list of before stays until the user closes the new one.
 TEST_F(ColourSchemesTest, BackgroundsReplaceTheListOnceItIsClosed) {
     WriteData("Background.TXT", "1\r\n");

@@ -23,7 +23,7 @@ answer OK
 click mnuLoadColor
 expect-message holds no twelve colours
 
-# --- The schemes by their names: seen at once, also by what is changed and by a form behind; kept only by a save.
+# --- The schemes by their names: seen at once, kept only by a save.
 click mnuDark
 expect-state mnuDark checked
 expect-colour fraRecord 2 1
