@@ -170,7 +170,9 @@ protected:
             last_ = form.Name() + "." + control.FullName();
             calculates = Calculates(form, control);
             ActOn(control);
-            if (const auto now = UsableForms(); Below(4) == 0 && !now.empty()) {
+            // The act that showed a modal form ends with that form, before the user comes to a key elsewhere.
+            const bool waits = modalForms_ == 0 || form.Visible();
+            if (const auto now = UsableForms(); Below(4) == 0 && !now.empty() && waits) {
                 elsewhere = elsewhere || now.back() != &form;
                 calculates = calculates || ShowsFluids(*now.back());
                 PressAnyKey(*now.back());
@@ -236,6 +238,7 @@ protected:
     }
 
     void StayWith(quillmetra::Form& form) {
+        ++modalForms_;
         for (int act = Below(20); act > 0 && form.Visible() && !ProcessHasEnded(); --act) {
             Act();
             if (HasFatalFailure()) break;
@@ -247,6 +250,7 @@ protected:
                 HideForm(form.Name());
             }
         }
+        --modalForms_;
     }
 
     // A user who leaves comes back.
@@ -342,7 +346,8 @@ protected:
 
     RandomUser User;
     const int program_ = std::get<0>(GetParam());
-    std::string last_;  // act
+    std::string last_;    // act
+    int modalForms_ = 0;  // whose acts are within another
     Row<std::string, CaseCount> inputs_{};
     int results_ = 0;
 };
