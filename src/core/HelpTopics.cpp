@@ -2,11 +2,14 @@
 #include "core/HelpTopics.h"
 
 #include <algorithm>
+#include <iterator>
+#include <sstream>
 
 #include "platform/Folders.h"
 #include "platform/NumberText.h"
 #include "platform/ProgramPlaces.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 
 namespace quillmetra {
@@ -47,6 +50,18 @@ std::vector<HelpTopic> ReadHelpTopics(const std::filesystem::path& folder) {
         // no help was installed
     }
     return topics;
+}
+
+std::vector<std::string> SearchWords(const std::string& search) {
+    std::istringstream words(search);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+bool HasWords(const HelpTopic& topic, const std::vector<std::string>& words) {
+    const std::string text = LowerCase(topic.Text);
+    return std::all_of(words.begin(), words.end(), [&text](const std::string& word) {
+        return text.find(LowerCase(word)) != std::string::npos;
+    });
 }
 
 }  // namespace quillmetra

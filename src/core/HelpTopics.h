@@ -19,4 +19,10 @@ std::filesystem::path HelpFolder();
 // none.
 std::vector<HelpTopic> ReadHelpTopics(const std::filesystem::path& folder);
 
+// The words of a search, which blanks part.
+std::vector<std::string> SearchWords(const std::string& search);
+
+// Whether a topic has all the words, in any order, as words or parts of them, without regard to case.
+bool HasWords(const HelpTopic& topic, const std::vector<std::string>& words);
+
 }  // namespace quillmetra

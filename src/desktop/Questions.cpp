@@ -179,7 +179,7 @@ void DesktopHost::ShowHelp(int topic) {
         const QWidget* const dialog = QApplication::activeModalWidget();
         help_->winId();
         help_->windowHandle()->setTransientParent(dialog == nullptr ? nullptr : dialog->windowHandle());
-        return help_->ShowTopic(topic);
+        return help_->ShowTopic(topic, WindowInHand());
     }
     if (FileExists(Suite.HelpFile)) {
         const QString file = QString::fromStdU16String(MachinePath(Suite.HelpFile).u16string());

@@ -1,4 +1,6 @@
 // Message boxes: what they say, which buttons they have, and that a question wants an answer.
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTextBrowser>
 
@@ -107,6 +109,57 @@ TEST_F(QuestionsTest, HelpOpensItsTopicAndFollowsLinks) {
     EXPECT_EQ(list->currentRow(), 0);
     list->setCurrentRow(1);
     EXPECT_EQ(text->toPlainText(), "Method\nDarcy.");
+}
+
+TEST_F(QuestionsTest, HelpIsSearchedAndGoneThroughByKeys) {
+    HelpWindow help({{401, "Line", "# Line\n\nPipe and flow."},
+                     {402, "Method", "# Method\n\nFlow by Darcy."},
+                     {403, "Units", "# Units\n\nFeet."}});
+    auto* const list = help.findChild<QListWidget*>("topics");
+    auto* const search = help.findChild<QLineEdit*>("search");
+    const auto press = [&](QWidget* on, int key, Qt::KeyboardModifiers with = {}) {
+        QTest::keyClick(on, static_cast<Qt::Key>(key), with);
+        return list->currentRow();
+    };
+    help.ShowTopic(403);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+    press(list, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(search->hasFocus());
+    QTest::keyClicks(search, "FLOW  dar");
+    EXPECT_EQ(help.findChild<QLabel*>("found")->text(), "1 topic");
+    EXPECT_EQ(press(search, Qt::Key_Return), 1);
+    EXPECT_EQ(help.findChild<QTextBrowser*>("text")->extraSelections().size(), 2);
+    search->setText("flow");
+    EXPECT_EQ(press(search, Qt::Key_Return), 0);
+    EXPECT_EQ(press(search, Qt::Key_Return), 1);
+    EXPECT_EQ(press(search, Qt::Key_Left, Qt::AltModifier), 0);
+    EXPECT_EQ(press(search, Qt::Key_Left, Qt::AltModifier), 1);
+    EXPECT_EQ(press(search, Qt::Key_Left, Qt::AltModifier), 2) << "not found, and read all the same";
+    EXPECT_EQ(search->text(), "");
+    EXPECT_EQ(press(list, Qt::Key_Left, Qt::AltModifier), 2);
+    EXPECT_EQ(press(list, Qt::Key_Right, Qt::AltModifier), 1);
+    list->setCurrentRow(2);
+    EXPECT_FALSE(help.findChild<QPushButton*>("forward")->isEnabled());
+    search->setText("nowhere");
+    EXPECT_EQ(help.findChild<QLabel*>("found")->text(), "No topic has these words");
+    EXPECT_EQ(press(search, Qt::Key_Return), 2);
+    press(search, Qt::Key_Escape);
+    EXPECT_TRUE(search->text().isEmpty() && help.isVisible());
+    press(search, Qt::Key_Escape);
+    EXPECT_FALSE(help.isVisible());
+}
+
+TEST_F(QuestionsTest, HelpOpensBesideItsForm) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const int left : {0, room.width() / 2}) {
+        HelpWindow help({{401, "Line", "# Line"}});
+        QWidget form;
+        form.setGeometry(left, 60, room.width() / 2 - 20, 300);
+        form.show();
+        help.ShowTopic(401, &form);
+        EXPECT_FALSE(help.frameGeometry().intersects(form.frameGeometry())) << left;
+        EXPECT_TRUE(room.contains(help.geometry())) << left;
+    }
 }
 
 }  // namespace
