@@ -160,11 +160,12 @@ bool ReadDefaultPaths(std::size_t count) {
 }
 
 void SaveDefaultPaths() {
+    std::array paths = {Suite.ChosenDataPath, Suite.DefaultPaths[2], Suite.DefaultPaths[3],
+                        Suite.DefaultPaths[4]};
     TextWriter file(InDefaultPath(path::Program, filename::DefaultPaths));
-    for (std::size_t i = 1; i <= 4; ++i) {
-        const std::string& path = i == 1 ? Suite.ChosenDataPath : Suite.DefaultPaths[i];
-        if (path.find_first_of("\"\r\n\x1A") != std::string::npos || !IsIn1252(path))
-            throw failure::BadFileName();
+    if (!std::all_of(paths.begin(), paths.end(), IsIn1252)) file.UseUtf8();
+    for (const std::string& path : paths) {
+        if (path.find_first_of("\"\r\n\x1A") != std::string::npos) throw failure::BadFileName();
         file.Quoted(path);
     }
     file.Commit();

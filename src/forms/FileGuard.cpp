@@ -10,6 +10,7 @@
 #include "core/FileNames.h"
 #include "core/Suite.h"
 #include "platform/Dialogs.h"
+#include "platform/Folders.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
@@ -73,6 +74,7 @@ bool BeginsAsDatabase(const fs::path& file) {
 }  // namespace
 
 std::string WhyNotToWrite(const std::string& file, const std::string& by) {
+    if (IsDevice(file)) return file + " is the name of a device: it cannot be written over by " + by;
     const fs::path name = TrueName(file);
     if (IsDatabaseName(file) || BeginsAsDatabase(name)) return "A database cannot be written over by " + by;
     if (!IsOwnFile(name)) return "";

@@ -2,6 +2,7 @@
 #include "platform/Folders.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <system_error>
 
@@ -55,6 +56,16 @@ std::error_code MakeNewFile(const fs::path& path) {
     close(file);
 #endif
     return {};
+}
+
+// Names that Windows gives to devices, in any case of letters and with any ending.
+bool IsDeviceName(std::string_view name) {
+    constexpr std::array devices = {"CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4",
+                                    "COM5", "COM6", "COM7", "COM8", "COM9", "LPT1", "LPT2", "LPT3",
+                                    "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
+    const std::string stem(name.substr(0, name.find('.')));
+    return std::any_of(devices.begin(), devices.end(),
+                       [&stem](const char* device) { return SameName(device, stem); });
 }
 
 bool CanBeWritten(const std::string& name) {
@@ -121,7 +132,16 @@ std::string ProposedFile(const std::string& folder, std::string name) {
                    std::string_view("\\/:*?\"<>|").find(static_cast<char>(c)) != std::string_view::npos;
         },
         '-');
+    if (IsDeviceName(name)) name.insert(std::min(name.find('.'), name.size()), "-");
     return folder.empty() ? name : Joined(folder, name);
+}
+
+bool IsDevice([[maybe_unused]] std::string_view file) {
+#ifdef _WIN32
+    return IsDeviceName(file.substr(file.find_last_of("\\/:") + 1));
+#else
+    return false;
+#endif
 }
 
 FolderContents ListFolder(std::string_view suitePath) {

@@ -20,9 +20,13 @@ std::filesystem::path MachineFolder(std::string_view suitePath);
 // Path, "\", name; a path that ends in "\" gets no second one.
 std::string Joined(const std::string& path, const std::string& name);
 
-// The file that a dialog proposes in a folder: what no file's name may hold becomes "-". Without a folder,
-// the name alone.
+// The file that a dialog proposes in a folder: what no file's name may hold becomes "-", and what some
+// machine takes for a device ends in "-". Without a folder, the name alone.
 std::string ProposedFile(const std::string& folder, std::string name);
+
+// Whether the machine takes a file of this name for a device, as Windows does with "NUL" and "con.pdf": what
+// is written there is gone.
+bool IsDevice(std::string_view file);
 
 struct FolderContents {
     std::vector<std::string> Folders;  // links to folders are left out

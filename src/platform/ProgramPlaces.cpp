@@ -18,6 +18,7 @@
 #endif
 
 #include "platform/NumberText.h"
+#include "platform/TextFiles.h"
 
 namespace quillmetra {
 
@@ -26,7 +27,7 @@ namespace fs = std::filesystem;
 namespace {
 fs::path FromEnvironment(const char* name) {
     const char* const value = std::getenv(name);
-    return value == nullptr ? fs::path() : fs::path(value);
+    return value == nullptr ? fs::path() : MachinePath(value);
 }
 
 #ifdef __linux__
@@ -74,10 +75,10 @@ fs::path UserDataFolder() {
     const fs::path folder = FromEnvironment("HOME") / "Library" / "Application Support";
 #else
     const fs::path named = FromEnvironment("XDG_DATA_HOME");
-    const fs::path folder = named.is_absolute() ? named : FromEnvironment("HOME") / ".local" / "share";
+    const fs::path folder = named.has_root_directory() ? named : FromEnvironment("HOME") / ".local" / "share";
 #endif
     // Where there is no such place, never the folder that a program happened to be started in.
-    return (folder.is_absolute() ? folder : fs::temp_directory_path()) / "quillmetra";
+    return (folder.has_root_directory() ? folder : fs::temp_directory_path()) / "quillmetra";
 }
 
 fs::path ShippedDataFolder() { return ExecutableFolder().parent_path() / "share" / "quillmetra" / "data"; }
@@ -91,9 +92,31 @@ double ProcessAge() {
     if (!ticks.empty() && !up.empty()) {
         return (Val(up) - Val(ticks) / static_cast<double>(sysconf(_SC_CLK_TCK))) * 1000;
     }
+#elif defined(_WIN32)
+    FILETIME created{}, now{}, unused{};
+    GetSystemTimePreciseAsFileTime(&now);
+    if (GetProcessTimes(GetCurrentProcess(), &created, &unused, &unused, &unused) != 0) {
+        const auto milliseconds = [](FILETIME time) {  // of steps of 100 ns
+            return (4294967296.0 * time.dwHighDateTime + time.dwLowDateTime) / 10000;
+        };
+        return milliseconds(now) - milliseconds(created);
+    }
 #endif
     static const auto start = std::chrono::steady_clock::now();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+Utf8Console::Utf8Console() {
+#ifdef _WIN32
+    former_ = GetConsoleOutputCP();
+    SetConsoleOutputCP(CP_UTF8);
+#endif
+}
+
+Utf8Console::~Utf8Console() {
+#ifdef _WIN32
+    SetConsoleOutputCP(former_);
+#endif
 }
 
 }  // namespace quillmetra

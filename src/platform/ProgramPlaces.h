@@ -21,4 +21,16 @@ std::filesystem::path ShippedDataFolder();
 // (in steps of 10 ms), else since the first call.
 double ProcessAge();
 
+// Has a console show the suite's texts letter by letter as long as it lives.
+class Utf8Console {
+public:
+    Utf8Console();
+    ~Utf8Console();
+    Utf8Console(const Utf8Console&) = delete;
+    Utf8Console& operator=(const Utf8Console&) = delete;
+
+private:
+    [[maybe_unused]] unsigned former_ = 0;
+};
+
 }  // namespace quillmetra

@@ -61,8 +61,7 @@ bool IsAscii(std::string_view bytes) {
 }
 
 // The text to the byte that ends a file, and what stands behind it unless these are blanks.
-std::string ReadWhole(std::string_view suitePath, std::string* behind = nullptr) {
-    std::string bytes = ReadBytes(suitePath);
+std::string TextOf(std::string bytes, std::string* behind = nullptr) {
     if (const std::size_t end = bytes.find('\x1A'); end != std::string::npos) {
         const std::size_t text = bytes.find_first_not_of("\x1A \t\r\n", end);
         if (behind != nullptr && text != std::string::npos) *behind = Utf8From1252(bytes.substr(text));
@@ -70,6 +69,13 @@ std::string ReadWhole(std::string_view suitePath, std::string* behind = nullptr)
     }
     if (IsAscii(bytes)) return bytes;
     return Utf8From1252(bytes);
+}
+
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
+std::string ItemsOf(std::string bytes) {
+    if (!bytes.starts_with(Utf8Mark)) return TextOf(std::move(bytes));
+    return bytes.substr(Utf8Mark.size(), bytes.find('\x1A') - Utf8Mark.size());
 }
 
 bool IsEndOfLine(char c) { return c == '\r' || c == '\n'; }
@@ -92,10 +98,23 @@ bool UserMayWrite([[maybe_unused]] const fs::path& path) {
 #endif
 }
 
+fs::path PathOf(std::string_view utf8) { return std::u8string(utf8.begin(), utf8.end()); }
+
+// The length of "//server/share", the root of a path over the network: not every library takes it for one.
+std::size_t ShareLength([[maybe_unused]] std::string_view path) {
+#ifdef _WIN32
+    if (!path.starts_with("//") || path.starts_with("///")) return 0;
+    const std::size_t share = path.find('/', 2);
+    return share == std::string_view::npos ? path.size() : std::min(path.find('/', share + 1), path.size());
+#else
+    return 0;
+#endif
+}
+
 // The name in a folder that matches a wanted one without regard to case.
 fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
     std::error_code error;
-    fs::path exact = folder / std::u8string(wanted.begin(), wanted.end());
+    fs::path exact = folder / PathOf(wanted);
     if (fs::exists(exact, error)) return exact;
     for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end; !error && entry != end;
          entry.increment(error)) {
@@ -109,10 +128,11 @@ fs::path MatchInFolder(const fs::path& folder, const std::string& wanted) {
 fs::path MachinePath(std::string_view suitePath) {
     std::string text(suitePath);
     std::replace(text.begin(), text.end(), '\\', '/');
-    fs::path path = fs::path(std::u8string(text.begin(), text.end())).lexically_normal();
+    const std::size_t share = ShareLength(text);
+    const fs::path path = PathOf(std::string_view(text).substr(share)).lexically_normal();
+    fs::path found = share == 0 ? path.root_path() : PathOf(text.substr(0, share)).make_preferred();
     std::error_code error;
-    if (fs::exists(path, error)) return path;
-    fs::path found = path.root_path();
+    if (fs::path whole = found / path.relative_path(); fs::exists(whole, error)) return whole;
     for (const fs::path& part : path.relative_path()) {
         found = part == ".." ? found / part : MatchInFolder(found, SuitePath(part));
     }
@@ -214,7 +234,7 @@ std::string Code1252From(std::string_view utf8) {
 bool IsIn1252(std::string_view utf8) { return Utf8From1252(Code1252From(utf8)) == utf8; }
 
 LineReader::LineReader(std::string_view suitePath)
-    : text_(ReadWhole(suitePath, &behind_)), lineFeed_(std::min(text_.find('\n'), text_.size())) {}
+    : text_(TextOf(ReadBytes(suitePath), &behind_)), lineFeed_(std::min(text_.find('\n'), text_.size())) {}
 
 std::size_t LineReader::EndOfLine() {
     // Looked for once, also in a file whose lines all end in CR.
@@ -239,7 +259,7 @@ std::string LineReader::NextWhole() {
     return std::string(Trim(line));
 }
 
-ItemReader::ItemReader(std::string_view suitePath) : text_(ReadWhole(suitePath)) {}
+ItemReader::ItemReader(std::string_view suitePath) : text_(ItemsOf(ReadBytes(suitePath))) {}
 
 void ItemReader::SkipBlanks() {
     while (next_ < text_.size() && (text_[next_] == ' ' || text_[next_] == '\t')) ++next_;
@@ -301,8 +321,13 @@ void ReplaceFile(std::string_view suitePath, std::string_view bytes) {
 
 TextWriter::TextWriter(std::string_view suitePath) : path_(suitePath) {}
 
+void TextWriter::UseUtf8() {
+    utf8_ = true;
+    text_ = Utf8Mark;
+}
+
 void TextWriter::Line(std::string_view text) {
-    text_ += Code1252From(text);
+    text_ += utf8_ ? std::string(text) : Code1252From(text);
     text_ += "\r\n";
 }
 

@@ -69,7 +69,7 @@ private:
 };
 
 // Reads item by item: items end at a comma or at the end of a line, blanks around them are dropped, and an
-// item in quotes may hold commas.
+// item in quotes may hold commas. A file that begins with the mark of UTF-8 is read as such.
 class ItemReader {
 public:
     explicit ItemReader(std::string_view suitePath);
@@ -95,6 +95,8 @@ class TextWriter {
 public:
     explicit TextWriter(std::string_view suitePath);
 
+    // First of all, for items with letters that the code page does not have: an ItemReader knows them.
+    void UseUtf8();
     void Line(std::string_view text);
     void Quoted(std::string_view text);  // a text item in quotes
     void Number(double value);           // as Str writes it
@@ -103,6 +105,7 @@ public:
 private:
     std::string path_;
     std::string text_;
+    bool utf8_ = false;
 };
 
 }  // namespace quillmetra

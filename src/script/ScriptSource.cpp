@@ -69,7 +69,8 @@ ScriptWord TakeArgument(std::string_view argument, bool last, std::string_view& 
 void ScriptSource::Open(const std::string& path) {
     if (files_.size() > DeepestInclude) throw ScriptFailure{"too many scripts include one another"};
     if (path == "-") return Open("standard input", std::cin);
-    const fs::path file = files_.empty() ? fs::path(path) : fs::path(files_.back().Name).parent_path() / path;
+    const fs::path folder = files_.empty() ? fs::path() : MachinePath(files_.back().Name).parent_path();
+    const fs::path file = folder / std::u8string(path.begin(), path.end());
     std::error_code error;
     auto stream = std::make_unique<std::ifstream>(file, std::ios::binary);
     if (!*stream || fs::is_directory(file, error)) {

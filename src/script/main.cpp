@@ -5,6 +5,7 @@
 
 #include "core/Version.h"
 #include "forms/RegisterForms.h"
+#include "platform/ProgramPlaces.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptPlayer.h"
 
@@ -39,6 +40,7 @@ int main(int count, char** arguments) {
         std::fputs("Usage: quillmetra-script FILE, or --help\n", stderr);
         return 1;
     }
+    const quillmetra::Utf8Console console;
     quillmetra::RegisterForms();
     return quillmetra::ScriptPlayer(std::cout, std::cerr).Play(what);
 }

@@ -7,6 +7,7 @@ source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 
 Build=build/windows
 Package=$Build/package
+Version=$(SuiteVersion)
 
 # Without what Windows does not have, what the suite does not use, and tabletevent, whose header Debian leaves out.
 MakeQt() {
@@ -16,7 +17,7 @@ MakeQt() {
     fi
     Heading "Qt"
     Source qt6-base
-    for Name in sql testlib dbus vulkan concurrent openssl schannel glib icu tabletevent; do
+    for Name in sql dbus direct2d vulkan concurrent openssl schannel glib icu tabletevent; do
         Options+=("-DFEATURE_$Name=OFF")
     done
     for Name in zlib png jpeg harfbuzz freetype pcre2 doubleconversion; do
@@ -78,20 +79,6 @@ MakeDocuments() {
     cp -r docs "$Package/docs"
 }
 
-# What the uninstaller removes: the files that were installed, and the folders when nothing else is in them.
-ListForUninstaller() {
-    (cd -- "$Package" && find . -type f -printf '%P\n' | sed 's#/#\\#g; s#.*#Delete "$INSTDIR\\&"#')
-    (cd -- "$Package" && find . -mindepth 1 -depth -type d -printf '%P\n' | sed 's#/#\\#g; s#.*#RMDir "$INSTDIR\\&"#')
-}
-
-MakeSetup() {
-    Heading "The setup"
-    ListForUninstaller >"$Build/uninstall.nsh"
-    makensis -V2 -NOCD "-DVERSION=$Version" "-DPACKAGE=$Package" "-DFILES=$Build/uninstall.nsh" \
-        "-DKILOBYTES=$(du -sk "$Package" | cut -f1)" "-DSETUP=$Build/Quillmetra-$Version-setup.exe" \
-        packaging/windows/quillmetra.nsi
-}
-
 # A folder TRData beside the program makes that place the suite's own folder.
 MakePortable() {
     local Name=Quillmetra-$Version-portable
@@ -105,14 +92,14 @@ MakePortable() {
 
 InstallMissing "${BuildPackages[@]}" "${WindowsPackages[@]}" "${WindowsSetupPackages[@]}"
 CompilerLibraries=$(dirname -- "$("$Target-g++-posix" -print-file-name=libstdc++-6.dll)")
-Version=$(sed -n 's/^project(quillmetra VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 MakeSqlite
 MakeGoogleTest
 MakeQt
 MakeQCustomPlot
 MakeSuite
 MakePackage
-MakeSetup
+Heading "The setup"
+MakeSetup "$Package" "$Version" "$Build/Quillmetra-$Version-setup.exe"
 MakePortable
 Heading "Done"
 ls -l "$Build"/Quillmetra-"$Version"-*

@@ -86,6 +86,22 @@ MakeGoogleTest() {
     InstallLibrary /usr/src/googletest googletest -DBUILD_GMOCK=OFF -DCMAKE_CXX_STANDARD=17
 }
 
+SuiteVersion() { sed -n 's/^project(quillmetra VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt; }
+
+# What the uninstaller removes of a package: the files that were installed, and the folders when nothing else is in them.
+ListForUninstaller() {
+    (cd -- "$1" && find . -type f -printf '%P\n' | sed 's#/#\\#g; s#.*#Delete "$INSTDIR\\&"#')
+    (cd -- "$1" && find . -mindepth 1 -depth -type d -printf '%P\n' | sed 's#/#\\#g; s#.*#RMDir "$INSTDIR\\&"#')
+}
+
+# MakeSetup PACKAGE VERSION SETUP
+MakeSetup() {
+    local Files=build/windows/uninstall.nsh
+    ListForUninstaller "$1" >"$Files"
+    makensis -V2 -NOCD "-DVERSION=$2" "-DPACKAGE=$1" "-DFILES=$Files" "-DKILOBYTES=$(du -sk "$1" | cut -f1)" \
+        "-DSETUP=$3" packaging/windows/quillmetra.nsi
+}
+
 # Wine has a home of its own, made anew for each run of a script and ended with it.
 StartWine() {
     WineHome=$(mktemp -d)
@@ -151,11 +167,30 @@ PlayTests() {
 # What a script prints, the same on every machine but for the names of its own folder.
 Plain() { sed -E 's/\r$//; s#([A-Z]:\\users\\[^\\]*\\Temp|[\\/]tmp)[\\/]quillmetra-[0-9]+#FOLDER#g'; }
 
+# Both players, each in a folder of its own; what they print and the pages they write must be the same.
 PlayBoth() {
-    local Script=$PWD/$2 Windows=$WineHome/windows Machine=$WineHome/machine
-    (cd -- "$WineHome" && wine "$1" "$(WindowsPath "$Script")") >"$Windows"
-    (cd -- "$WineHome" && QT_QPA_PLATFORM=offscreen "$Player" "$Script") >"$Machine"
-    diff <(Plain <"$Machine") <(Plain <"$Windows")
+    local Script=$PWD/$2 Windows=$WineHome/windows Machine=$WineHome/machine Page
+    rm -rf -- "$Windows" "$Machine"
+    mkdir "$Windows" "$Machine"
+    (cd -- "$Windows" && QT_QPA_PLATFORM=offscreen wine "$1" "$(WindowsPath "$Script")" >printed)
+    (cd -- "$Machine" && QT_QPA_PLATFORM=offscreen "$Player" "$Script" >printed)
+    diff <(Plain <"$Machine/printed") <(Plain <"$Windows/printed")
+    for Page in "$Machine"/*.pdf; do
+        if [[ -f $Page ]]; then
+            SamePages "$Page" "$Windows/$(basename -- "$Page")"
+        fi
+    done
+}
+
+# As texts with their places, and as pictures, dot by dot.
+SamePages() {
+    diff <(pdftotext -layout "$1" -) <(pdftotext -layout "$2" -)
+    pdftoppm -r 100 "$1" "$1"
+    pdftoppm -r 100 "$2" "$2"
+    local Picture
+    for Picture in "$1"-*.ppm; do
+        cmp -- "$Picture" "$2${Picture#"$1"}"
+    done
 }
 
 # PlayScript PROGRAM SCRIPT: it ends well, and prints what the machine's own player prints.
