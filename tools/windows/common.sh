@@ -161,7 +161,7 @@ PlayTests() {
     local Program=$1
     shift
     QUILLMETRA_SOURCE=$(WindowsPath "$PWD") Judge "$(basename -- "$Program" .exe)" "$WineHome/log" \
-        timeout 900 wine "$Program" --gtest_brief=1 "$@"
+        timeout "${Patience:-900}" wine "$Program" --gtest_brief=1 "$@"
 }
 
 # What a script prints, the same on every machine but for the names of its own folder.
