@@ -95,7 +95,7 @@ StartsOnce() {
 
 # The texts of the suite to a pipe are UTF-8, lines ending as Windows has it.
 SpeaksUtf8() {
-    printf 'start\r\nnew 1\r\ntype txtPreparedBy "P-1 \xc2\xb0 \xd0\x96"\r\nshow txtPreparedBy\r\n' >"$WineHome/letters.qs"
+    printf 'start\r\nnew 1\r\ntype txtBy "P-1 \xc2\xb0 \xd0\x96"\r\nshow txtBy\r\n' >"$WineHome/letters.qs"
     wine "$Package/bin/quillmetra-script.exe" "$(WindowsPath "$WineHome/letters.qs")" >"$WineHome/letters"
     cat "$WineHome/letters"
     grep -q $'P-1 \xc2\xb0 \xd0\x96\r$' "$WineHome/letters"
