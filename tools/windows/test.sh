@@ -59,6 +59,12 @@ Batch() {
 
 Program() { echo "\"$(WindowsPath "$PWD/$Package/bin/quillmetra.exe")\""; }
 
+WasQuick() {
+    local Milliseconds
+    Milliseconds=$(sed -n 's/^\([0-9]*\) ms.*/\1/p' "$WineHome/start")
+    [[ -n $Milliseconds && $Milliseconds -lt 1000 ]]
+}
+
 # The user's folder has letters of two scripts and a blank in its name; the windows are there in less than a second,
 # of five starts at most, and nothing is written into the installed folder, which may be write-protected.
 Starts() {
@@ -68,7 +74,7 @@ Starts() {
     chmod -R a-w "$Package"
     for Try in 1 2 3 4 5; do
         Batch "set APPDATA=$(WindowsPath "$Home")" "$(Program) --time-start" | tee "$WineHome/start"
-        [[ $(tr -cd 0-9 <"$WineHome/start") -lt 1000 ]] && break
+        WasQuick && break
     done
     chmod -R u+w "$Package"
     find "$PWD/$Package" -type f -exec sha1sum {} + | sort | diff "$WineHome/before" -
@@ -76,7 +82,7 @@ Starts() {
     Home=$(find "$WineHome" -maxdepth 2 -name quillmetra)
     [[ $Home == *水* || $Home == *╨* ]]
     [[ -f $Home/TRData/Liquid.txt && -f $Home/STEAM.txt ]]
-    [[ $(tr -cd 0-9 <"$WineHome/start") -lt 1000 ]]
+    WasQuick
 }
 
 # A second start on a folder brings the first to the front and ends.
