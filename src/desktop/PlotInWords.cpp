@@ -1,8 +1,11 @@
-// The view of a plot where the plotting library is missing: its words.
+// The view of a plot where the plotting library is missing: its words. Its menu copies the figures.
 #include <QLabel>
+#include <QMenu>
+#include <QPointer>
 
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
+#include "desktop/PlotMenu.h"
 #include "platform/Plot.h"
 
 namespace quillmetra {
@@ -14,6 +17,10 @@ public:
     PlotInWords(Plot& plot, QLabel* words) : ControlView(plot, words), plot_(plot), words_(words) {
         words_->setTextFormat(Qt::PlainText);
         words_->setWordWrap(true);
+        words_->setFocusPolicy(Qt::TabFocus);
+        words_->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(words_, &QWidget::customContextMenuRequested, this,
+                [this](const QPoint& at) { ShowMenu(at); });
     }
 
 protected:
@@ -23,6 +30,15 @@ protected:
     }
 
 private:
+    void ShowMenu(const QPoint& at) {
+        const auto later = [this](const Handler& act) {
+            Later([view = QPointer(this), act] {
+                if (view != nullptr && view->Model() != nullptr && !view->plot_.IsEmpty()) act();
+            });
+        };
+        MakePlotMenu(plot_, nullptr, *words_, later)->popup(words_->mapToGlobal(at));
+    }
+
     Plot& plot_;
     QLabel* words_;
 };

@@ -1,11 +1,16 @@
-// The view of a plot, drawn by the plotting library. The user reads it and does nothing to it.
+// The view of a plot, drawn by the plotting library. Its menu copies and saves the picture.
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
+#include <vector>
 
 #include <qcustomplot.h>
+#include <QPointer>
 
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
+#include "desktop/PlotMenu.h"
 #include "desktop/SchemePalette.h"
 #include "forms/ColourShades.h"
 #include "platform/Plot.h"
@@ -17,9 +22,15 @@ namespace {
 // Curves in the order of the drawing: blue, vermilion, green, told apart by the colour-blind as well.
 constexpr Colour CurveColours[] = {0xB27200, 0x005ED5, 0x739E00};
 constexpr double CurveContrast = 3;
+// Of cases where each has one curve, else of the curves of a case.
+constexpr Qt::PenStyle Strokes[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine};
+constexpr int TextShade = -1;  // a curve in the colour of the text
+constexpr int LegendColumns = 3;
 constexpr int LegendRow = 2;  // below title and axes
 constexpr double CurveWidth = 1.8;
 constexpr double MarkLabelGap = 0.02;  // of the picture's height or width, from its edge
+
+constexpr double PictureScale = 2;  // dots of a copied picture for each on the screen
 
 constexpr const char* Nothing = "Drawn when calculated";
 
@@ -49,6 +60,21 @@ private:
     double high_ = -std::numeric_limits<double>::infinity();
 };
 
+// The cases of a drawing, or the curves of each, by name in their order.
+std::vector<std::string> NamesIn(const PlotDrawing& drawing, std::string PlotSeries::*name) {
+    std::vector<std::string> names;
+    for (const PlotSeries& series : drawing.Series) {
+        if (std::find(names.begin(), names.end(), series.*name) == names.end()) names.push_back(series.*name);
+    }
+    return names;
+}
+
+int PlaceOf(const std::string& name, const std::vector<std::string>& names) {
+    return static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin());
+}
+
+Qt::PenStyle StrokeOf(int place) { return Strokes[static_cast<std::size_t>(place) % std::size(Strokes)]; }
+
 QString AxisLabel(const PlotAxis& axis) {
     return ToQt(axis.Unit.empty() ? axis.Title : axis.Title + ", " + axis.Unit);
 }
@@ -56,13 +82,14 @@ QString AxisLabel(const PlotAxis& axis) {
 class Picture : public QCustomPlot {
 public:
     explicit Picture(QWidget* parent) : QCustomPlot(parent) {
-        setFocusPolicy(Qt::NoFocus);
+        setFocusPolicy(Qt::TabFocus);
         setMinimumSize(DigitsWide(*this, 40), 9 * fontMetrics().height());
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         plotLayout()->insertRow(0);
         plotLayout()->addElement(0, 0, title_ = new QCPTextElement(this));
         plotLayout()->setRowSpacing(2);
         legend->setFillOrder(QCPLegend::foColumnsFirst);
+        legend->setWrap(LegendColumns);
         legend->setBorderPen(Qt::NoPen);
         legend->setBrush(Qt::NoBrush);
         legend->setMargins({4, 0, 4, 2});
@@ -83,10 +110,11 @@ public:
     void Show(const PlotDrawing& drawing) {
         clearPlottables();
         clearItems();
+        shades_.clear();
         const bool isEmpty = drawing.Series.empty();
         title_->setText(isEmpty ? QString(Nothing) : ToQt(drawing.Title));
         axisRect()->setVisible(!isEmpty);
-        for (const PlotSeries& series : drawing.Series) AddCurve(series);
+        AddCurves(drawing);
         ShowLegend(drawing.Series.size() > 1);
         for (const PlotMark& mark : drawing.Marks) AddMark(mark);
         xAxis->setLabel(AxisLabel(drawing.Bottom));
@@ -116,18 +144,30 @@ public:
         for (int i = 0; i < itemCount(); ++i) ColourItem(*item(i));
         for (int i = 0; i < graphCount(); ++i) {
             QPen pen = graph(i)->pen();
-            pen.setColor(CurveColour(i));
+            pen.setColor(CurveColour(shades_[static_cast<std::size_t>(i)]));
             graph(i)->setPen(pen);
         }
         replot(rpQueuedReplot);
+    }
+
+    void DrawOn(QPaintDevice& device) {
+        QCPPainter painter(&device);
+        painter.setMode(QCPPainter::pmVectorized);
+        painter.setMode(QCPPainter::pmNoCaching);
+        toPainter(&painter, width(), height());
     }
 
 protected:
     void paintEvent(QPaintEvent* event) override {
         QCustomPlot::paintEvent(event);
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(role::HairLine), 1));
-        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+        if (hasFocus()) {
+            painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+            painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+        } else {
+            painter.setPen(QPen(palette().color(role::HairLine), 1));
+            painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+        }
     }
 
     void changeEvent(QEvent* event) override {
@@ -151,6 +191,7 @@ private:
 
     // As bright as its ground demands.
     QColor CurveColour(int curve) const {
+        if (curve == TextShade) return fore_;
         const auto place = static_cast<std::size_t>(curve) % std::size(CurveColours);
         return ToQt(Readable(ground_, CurveColours[place], CurveContrast));
     }
@@ -168,13 +209,43 @@ private:
         }
     }
 
-    void AddCurve(const PlotSeries& series) {
-        const QColor colour = CurveColour(graphCount());
+    void AddCurves(const PlotDrawing& drawing) {
+        const std::vector<std::string> cases = NamesIn(drawing, &PlotSeries::Case);
+        if (cases.size() < 2) {
+            for (const PlotSeries& series : drawing.Series) {
+                const Qt::PenStyle stroke = series.Dashed ? Qt::DashLine : Qt::SolidLine;
+                AddCurve(series, series.Name, graphCount(), stroke);
+            }
+            return;
+        }
+        AddCases(drawing, cases, NamesIn(drawing, &PlotSeries::Name));
+    }
+
+    // A colour for each case. Where a case has several curves, the legend tells cases and curves apart, not
+    // each of their pairs.
+    void AddCases(const PlotDrawing& drawing, const std::vector<std::string>& cases,
+                  const std::vector<std::string>& curves) {
+        const bool isOne = curves.size() == 1;
+        for (const PlotSeries& series : drawing.Series) {
+            const int place = PlaceOf(series.Case, cases);
+            const Qt::PenStyle stroke = StrokeOf(isOne ? place : PlaceOf(series.Name, curves));
+            QCPGraph* const curve = AddCurve(series, series.Case, place, stroke);
+            if (!isOne && series.Name != curves.front()) curve->removeFromLegend();
+        }
+        if (isOne) return;
+        for (const std::string& name : curves) {
+            AddCurve({}, name, TextShade, StrokeOf(PlaceOf(name, curves)));
+        }
+    }
+
+    QCPGraph* AddCurve(const PlotSeries& series, const std::string& name, int shade, Qt::PenStyle stroke) {
         QCPGraph* const curve = addGraph(xAxis, series.OnRightAxis ? yAxis2 : yAxis);
-        curve->setName(ToQt(series.Name));
-        curve->setPen(QPen(colour, CurveWidth, series.Dashed ? Qt::DashLine : Qt::SolidLine));
+        shades_.push_back(shade);
+        curve->setName(ToQt(name));
+        curve->setPen(QPen(CurveColour(shade), CurveWidth, stroke));
         curve->setData(QVector<double>(series.X.begin(), series.X.end()),
                        QVector<double>(series.Y.begin(), series.Y.end()));
+        return curve;
     }
 
     void AddMark(const PlotMark& mark) {
@@ -224,13 +295,18 @@ private:
     }
 
     QCPTextElement* title_;
+    std::vector<int> shades_;  // of each curve
     Colour ground_ = 0xFFFFFF;
     QColor fore_ = Qt::black;
 };
 
 class PlotView : public ControlView {
 public:
-    PlotView(Plot& plot, Picture* picture) : ControlView(plot, picture), plot_(plot), picture_(picture) {}
+    PlotView(Plot& plot, Picture* picture) : ControlView(plot, picture), plot_(plot), picture_(picture) {
+        picture_->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(picture_, &QWidget::customContextMenuRequested, this,
+                [this](const QPoint& at) { ShowMenu(at); });
+    }
 
 protected:
     // The words go with the picture: to the screen reader as its name, and as its tip.
@@ -247,6 +323,19 @@ protected:
     void RenewColours() override { picture_->TakeColours(plot_.BackColour(), ToQt(plot_.ForeColour())); }
 
 private:
+    // What is taken of the menu is done while the form is still there.
+    void ShowMenu(const QPoint& at) {
+        const PlotPicture drawn{.Pixels = [this] { return picture_->toPixmap(0, 0, PictureScale).toImage(); },
+                                .Paint = [this](QPaintDevice& device) { picture_->DrawOn(device); },
+                                .Size = picture_->size()};
+        const auto later = [this](const Handler& act) {
+            Later([view = QPointer(this), act] {
+                if (view != nullptr && view->Model() != nullptr && !view->plot_.IsEmpty()) act();
+            });
+        };
+        MakePlotMenu(plot_, &drawn, *picture_, later)->popup(picture_->mapToGlobal(at));
+    }
+
     Plot& plot_;
     Picture* picture_;
 };

@@ -57,6 +57,7 @@ void LineLossForm::OrderTabs() {
         TabOrder.push_back(control);
     }
     cmdUnits.Each([this](CommandButton& button, int) { TabOrder.push_back(&button); });
+    TabOrder.push_back(&pltLine);
     AppendFluidTabs();
 }
 
@@ -160,7 +161,6 @@ void LineLossForm::cmdCalculate_Click(int index) {
     Calc.PipeIndex = 1;
     try {
         if (!CalculateCase()) return;
-        drawnCase_ = index;
     } catch (const RuntimeError& error) {
         if (!TellNoResult(error)) throw;
         return;
@@ -199,20 +199,24 @@ void LineLossForm::Recalculate() {
     }
 }
 
-// Without results of the case drawn last, as in a saved record, the first case that has some is drawn.
 void LineLossForm::DrawResults() {
-    const auto hasResults = [](int caseIndex) { return StandingResult(result::Velocity, caseIndex) > 0; };
-    for (int i = 0; i < CaseCount && !hasResults(drawnCase_); ++i) {
-        if (hasResults(i)) drawnCase_ = i;
+    for (int i = 0; i < CaseCount; ++i) {
+        PlotDrawing& drawing = drawn_[static_cast<std::size_t>(i)];
+        drawing = StandingResult(result::Velocity, i) > 0 ? DrawingOf(i) : PlotDrawing{};
+        drawing.Title = SpokenCaption(lblCase(i).Caption()) + " case";
     }
-    if (!hasResults(drawnCase_)) return pltLine.Clear();
-    PlotDrawing drawing = DrawingOf(drawnCase_);
-    drawing.Title = lblCase(drawnCase_).Caption() + " case";
-    pltLine.Draw(std::move(drawing));
+    DrawCases();
 }
 
 void LineLossForm::ResultsBlanked(int caseIndex) {
-    if (caseIndex == drawnCase_) pltLine.Clear();
+    drawn_[static_cast<std::size_t>(caseIndex)] = {};
+    DrawCases();
+}
+
+void LineLossForm::DrawCases() {
+    PlotDrawing all = AllCasesOf({drawn_.begin(), drawn_.end()});
+    if (all.Series.empty()) return pltLine.Clear();
+    pltLine.Draw(std::move(all));
 }
 
 // --- The line ------------------------------------------------------------------------------------------

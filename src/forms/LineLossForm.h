@@ -85,7 +85,7 @@ public:
     Label lblEquivLen{Picture1, "lblEquivLen", "Equivalent length"};
     TextBox txtEquivLen{Picture1, "txtEquivLen"};
     Label unEquivLen{Picture1, "unEquivLen"};
-    Plot pltLine{Picture1, "pltLine"};  // what goes on along the line of the case calculated last
+    Plot pltLine{Picture1, "pltLine"};  // what goes on along the line, in each case with results
 
     void cmdCalculate_Click(int index);
     void cmdMatl_Click();
@@ -124,11 +124,12 @@ protected:
 
 private:
     void OrderTabs();
+    void DrawCases();
     void HookLine();
     bool CheckData();
     bool CheckLine();
 
-    int drawnCase_ = 0;  // that calculated last, as long as its results stand
+    Row<PlotDrawing, CaseCount> drawn_;  // of each case, empty without results
 };
 
 }  // namespace quillmetra

@@ -76,7 +76,10 @@ frmObxPrintCalc::frmObxPrintCalc() : SuiteForm("frmObxPrintCalc") {
         key.Handled = true;
     };
     cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdPreview.Click = [this] { mnuPreview_Click(); };
+    cmdPdf.Click = [this] { mnuPdf_Click(); };
     cmdSave.Click = [this] { cmdSave_Click(); };
+    cmdSave.SetToolTip("Keeps the headings as the default of the office");
     cmdCancel.Click = [this] { cmdCancel_Click(); };
     mnuPreview.Click = [this] { mnuPreview_Click(); };
     mnuPageSetup.Click = [this] { mnuPageSetup_Click(); };

@@ -43,8 +43,10 @@ public:
     Label lblComments{fraHeadings, "lblComments", "Not&e"};
     ControlArray<TextBox> txtComments{fraHeadings, "txtComments", {0, 1, 2}};
 
-    CommandButton cmdOK{*this, "cmdOK", "OK"};
-    CommandButton cmdSave{*this, "cmdSave", "&Save"};
+    CommandButton cmdOK{*this, "cmdOK", "P&rint"};
+    CommandButton cmdPreview{*this, "cmdPreview", "Pre&view"};
+    CommandButton cmdPdf{*this, "cmdPdf", "&Save as PDF"};
+    CommandButton cmdSave{*this, "cmdSave", "Save &headings"};
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
     void cmdDate_Click();

@@ -66,6 +66,7 @@ void frmWaterHammer::OrderTabs() {
                 &txtSelectedTime, &cmdCalculateliq, &txtBy,         &txtApprov,      &cmdDate,
                 &txtComments(0),  &txtComments(1),  &cmdFormLayout};
     cmdUnits.Each([this](CommandButton& button, int) { TabOrder.push_back(&button); });
+    TabOrder.push_back(&pltClosing);
     AppendFluidTabs();
     for (Control* control :
          std::initializer_list<Control*>{&Moduli.List, &Moduli.cmdSelect, &Moduli.cmdCancel})

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/Dialogs.h"
+#include "platform/Form.h"
 #include "platform/NumberText.h"
 
 namespace quillmetra {
@@ -51,7 +53,58 @@ std::string BottomInWords(const PlotDrawing& drawing) {
     return least == 0 ? WithUnit(Figure(most), drawing.Bottom) : FromTo(least, most, drawing.Bottom);
 }
 
+// Enough digits to draw the curve anew.
+std::string TableFigure(double value) {
+    char text[32];
+    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 8).ptr;
+    return {text, end};
+}
+
+std::string Heading(const std::string& name, const PlotAxis& axis) {
+    return axis.Unit.empty() ? name : name + ", " + axis.Unit;
+}
+
+// A column of the table: its heading and its figures.
+struct Figures {
+    std::string Head;
+    const std::vector<double>* Values;
+};
+
+std::vector<Figures> ColumnsOf(const PlotDrawing& drawing) {
+    std::vector<Figures> columns;
+    const std::vector<double>* shared = nullptr;
+    for (const PlotSeries& series : drawing.Series) {
+        if (shared == nullptr || *shared != series.X) {
+            columns.push_back({Heading(drawing.Bottom.Title, drawing.Bottom), shared = &series.X});
+        }
+        const std::string name = series.Case.empty() ? series.Name : series.Case + " " + series.Name;
+        columns.push_back({Heading(name, series.OnRightAxis ? drawing.Right : drawing.Left), &series.Y});
+    }
+    return columns;
+}
+
+std::string RowOf(const std::vector<Figures>& columns, std::size_t row) {
+    std::string line;
+    for (const Figures& column : columns) {
+        if (&column != &columns.front()) line += '\t';
+        if (row < column.Values->size()) line += TableFigure((*column.Values)[row]);
+    }
+    return line + "\n";
+}
+
 }  // namespace
+
+Plot::Plot(const Parent& parent, std::string name, int index)
+    : Control(parent, ControlKind::Plot, std::move(name), {}, index) {
+    TabStop = true;
+    SetEnabled(false);
+    KeyPress = [this](Key& key) {
+        if (key.Name != Plot::CopyKey) return;
+        CopyText(FiguresOf(drawing_));
+        Owner().SetStatus("The figures of the plot are copied");
+        key.Handled = true;
+    };
+}
 
 void Plot::Draw(PlotDrawing drawing) {
     for (PlotSeries& series : drawing.Series) series = FinitePointsOf(std::move(series));
@@ -59,6 +112,7 @@ void Plot::Draw(PlotDrawing drawing) {
     std::erase_if(drawing.Marks, [](const PlotMark& mark) { return !std::isfinite(mark.At); });
     drawing_ = std::move(drawing);
     text_ = InWords(drawing_);
+    SetEnabled(!IsEmpty());
     Notify(Aspect::Rows);
 }
 
@@ -69,8 +123,12 @@ void Plot::Clear() {
 std::string InWords(const PlotDrawing& drawing) {
     if (drawing.Series.empty()) return {};
     std::string text = drawing.Title.empty() ? "" : drawing.Title + ": ";
+    const std::string* former = nullptr;
     for (const PlotSeries& series : drawing.Series) {
-        if (&series != &drawing.Series.front()) text += ", ";
+        const bool isNext = former == nullptr || *former != series.Case;
+        if (former != nullptr) text += isNext ? "; " : ", ";
+        if (isNext && !series.Case.empty()) text += series.Case + ": ";
+        former = &series.Case;
         text += series.Name + " " +
                 FromTo(series.Y.front(), series.Y.back(), series.OnRightAxis ? drawing.Right : drawing.Left);
     }
@@ -80,6 +138,41 @@ std::string InWords(const PlotDrawing& drawing) {
         text += ", " + mark.Name + " " + WithUnit(Figure(mark.At), axis);
     }
     return text;
+}
+
+std::string FiguresOf(const PlotDrawing& drawing) {
+    const std::vector<Figures> columns = ColumnsOf(drawing);
+    std::string table;
+    if (columns.empty()) return table;
+    if (!drawing.Title.empty()) table += drawing.Title + "\n";
+    std::size_t rows = 0;
+    for (const Figures& column : columns) {
+        table += (&column == &columns.front() ? "" : "\t") + column.Head;
+        rows = std::max(rows, column.Values->size());
+    }
+    table += "\n";
+    for (std::size_t row = 0; row < rows; ++row) table += RowOf(columns, row);
+    for (const PlotMark& mark : drawing.Marks) {
+        table += Heading(mark.Name, mark.Vertical ? drawing.Bottom : drawing.Left) + "\t" +
+                 TableFigure(mark.At) + "\n";
+    }
+    return table;
+}
+
+PlotDrawing AllCasesOf(std::vector<PlotDrawing> cases) {
+    std::erase_if(cases, [](const PlotDrawing& each) { return each.Series.empty(); });
+    if (cases.empty()) return {};
+    PlotDrawing all = std::move(cases.front());
+    if (cases.size() == 1) return all;
+    for (PlotSeries& series : all.Series) series.Case = all.Title;
+    all.Title.clear();
+    for (auto other = cases.begin() + 1; other != cases.end(); ++other) {
+        for (PlotSeries& series : other->Series) {
+            series.Case = other->Title;
+            all.Series.push_back(std::move(series));
+        }
+    }
+    return all;
 }
 
 }  // namespace quillmetra

@@ -21,6 +21,7 @@ struct PlotSeries {
     std::vector<double> X, Y;  // point by point; when one is longer, its rest does not count
     bool OnRightAxis = false;
     bool Dashed = false;
+    std::string Case = {};  // which of several cases it belongs to; empty where the title says it
 };
 
 // A straight line across the picture, as a limit or a selected time.
@@ -39,8 +40,10 @@ struct PlotDrawing {
 
 class Plot : public Control {
 public:
-    Plot(const Parent& parent, std::string name, int index = NoIndex)
-        : Control(parent, ControlKind::Plot, std::move(name), {}, index) {}
+    // On the plot it copies the figures.
+    static constexpr const char* CopyKey = "Ctrl+c";
+
+    Plot(const Parent& parent, std::string name, int index = NoIndex);
 
     // Shows a drawing in place of the one before. Points and marks that are not finite are left out, and so
     // is a curve without points.
@@ -56,7 +59,15 @@ private:
 };
 
 // "Maximum case: Pressure 114.7 to 105.1 psia over 1000 ft": each curve from its first to its last point,
-// then the marks. Empty without a curve.
+// then the marks; of several cases one after the other. Empty without a curve.
 std::string InWords(const PlotDrawing& drawing);
+
+// The points as a table for a spreadsheet, tabs between the columns: a column of X before the curves that
+// share it, each under its heading; then the marks. Empty without a curve.
+std::string FiguresOf(const PlotDrawing& drawing);
+
+// The curves of several cases in one picture: the first has the axes and marks. The title says of which case
+// they are where there is one alone.
+PlotDrawing AllCasesOf(std::vector<PlotDrawing> cases);
 
 }  // namespace quillmetra

@@ -1,9 +1,14 @@
 // A plot on the screen: curves, colours and words follow the model.
 #include "platform/Plot.h"
 
+#include <array>
 #include <cmath>
 
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QImage>
+#include <QLineEdit>
+#include <QMenu>
 
 #include "tests/desktop/DesktopFixture.h"
 
@@ -91,6 +96,49 @@ TEST_F(PlotOnTheScreen, SpeaksAndTakesItsColours) {
     const QImage image = Seen();
     EXPECT_EQ(image.pixelColor(image.width() / 2, 3), QColor(0, 0, 0x40));
     EXPECT_LT(RowsOf(QColor(255, 255, 128)).first, 1) << "axes and words in the text colour";
+}
+
+TEST_F(PlotOnTheScreen, ShowsEachCaseInItsColour) {
+    PlotDrawing two = Line(100, 50);
+    two.Series[0].Case = "Maximum case";
+    two.Series.push_back({"Pressure", {0, 1000}, {90, 40}, false, false, "Normal case"});
+    pltLine->Draw(two);
+    for (const QColor& colour : {First, Second}) EXPECT_GT(RowsOf(colour).second, 0.5);
+}
+
+// By the Menu key, entry by entry.
+TEST_F(PlotOnTheScreen, ItsMenuCopiesAndSaves) {
+    pltLine->Draw(Line(100, 50));
+    MoveFocus(*pltLine);
+    Settle();
+    QWidget& picture = WidgetOf(*pltLine);
+    EXPECT_TRUE(picture.hasFocus());
+    const auto choose = [&picture](const char* entry) {
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(9, 9), QPoint(9, 9));
+        QCoreApplication::sendEvent(&picture, &asked);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        menu->findChild<QAction*>(entry)->trigger();
+        menu->close();
+        Settle();
+    };
+    choose("copyFigures");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              "Normal case\nLength, ft\tPressure, psia\n0\t100\n1000\t50\n");
+    choose("copyPicture");
+    EXPECT_EQ(QGuiApplication::clipboard()->image().width(), 2 * picture.width());
+    const std::array<std::array<const char*, 3>, 3> files = {
+        {{"savePng", "a.png", "\x89PNG"}, {"saveSvg", "b.svg", "<?xml"}, {"savePdf", "c.pdf", "%PDF"}}};
+    for (const auto& [entry, name, start] : files) {
+        const std::string file = (Folder / name).string();
+        WhenDialogOpens([&file](QWidget& dialog) {
+            auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+            edit->setText(ToQt(file));
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        choose(entry);
+        EXPECT_TRUE(ReadBytes(SuitePath(file)).starts_with(start)) << name;
+    }
 }
 
 TEST_F(PlotOnTheScreen, DrawsAbsurdFigures) {

@@ -1,6 +1,7 @@
 // The printout form from the print entry to the sheet, and what may go wrong on the way.
 #include "core/Programs.h"
 #include "forms/frmObxPrintCalc.h"
+#include "forms/PictureFile.h"
 #include "tests/forms/LiquidFormFixture.h"
 
 namespace quillmetra {
@@ -116,7 +117,7 @@ TEST_F(Printout, SaysWhereThePagesWentOrThatThereAreNone) {
     EXPECT_EQ(printout.cmdDate.Caption(), "Date");
     Calc.Tag = "FT-1/2";
     User.ChosenFile = "one.of.PDF";
-    ClickControl(printout.mnuPdf);
+    ClickControl(printout.cmdPdf);
     EXPECT_TRUE(User.Proposed.ends_with("\\FT-1-2.pdf")) << User.Proposed;
     EXPECT_EQ(printout.Status(), "1 page: one.of.PDF");
     EXPECT_EQ(Calc.HeadingText[1], "");  // the prompt is no date
@@ -141,6 +142,22 @@ TEST_F(Printout, CancelledDialogPrintsNothing) {
     EXPECT_TRUE(User.Jobs.empty());
     EXPECT_TRUE(User.Boxes.empty());
     EXPECT_TRUE(IsFormLoaded("frmObxPrintCalc"));
+    ClickControl(Shown().cmdPreview);
+    ASSERT_EQ(User.Jobs.size(), 1U);
+    EXPECT_EQ(User.Jobs[0].To, PrintJob::Target::Preview);
+}
+
+TEST_F(Printout, APictureIsNotWrittenOverAFileOfTheSuite) {
+    const auto bytes = [] { return std::string("picture"); };
+    User.ChosenFile = SuitePath(DataFolder() / "Liquid.txt.png");
+    SavePicture(Shown(), "png", bytes);
+    EXPECT_EQ(ReadBytes(*User.ChosenFile), "picture");
+    EXPECT_TRUE(User.Boxes.empty());
+    User.ChosenFile = SuitePath(DataFolder() / "Liquid.txt");
+    const std::string table = ReadBytes(*User.ChosenFile);
+    SavePicture(Shown(), "txt", bytes);
+    EXPECT_EQ(User.Boxes.size(), 1U);
+    EXPECT_EQ(ReadBytes(*User.ChosenFile), table);
 }
 
 TEST_F(Printout, HeadingsAreSavedAndReadBack) {

@@ -73,5 +73,31 @@ TEST_F(PlotOnAForm, TellsTheHostOfEachDrawing) {
     EXPECT_EQ(User.Changes, 2);
 }
 
+TEST_F(PlotOnAForm, ShowsAllCasesAndCopiesTheirFigures) {
+    const auto of = [](const char* title, std::vector<double> x, std::vector<double> y) {
+        PlotDrawing drawing = PressureLine(std::move(x), std::move(y));
+        drawing.Title = title;
+        return drawing;
+    };
+    EXPECT_TRUE(AllCasesOf({{}, {}}).Series.empty());
+    EXPECT_EQ(InWords(AllCasesOf({of("Normal case", {0, 1000}, {80, 70}), {}})),
+              "Normal case: Pressure 80 to 70 psia over 1000 ft");
+    PlotDrawing all = AllCasesOf({of("Maximum case", {0, 1000}, {100, 90.123456}),
+                                  of("Normal case", {0, 1000}, {80, 70}), of("Minimum case", {0}, {5})});
+    EXPECT_EQ(InWords(all),
+              "Maximum case: Pressure 100 to 90.12 psia; Normal case: Pressure 80 to 70 psia; Minimum case: "
+              "Pressure 5 psia over 1000 ft");
+    all.Marks = {{"critical", 0.5}};
+    pltLine.Draw(all);
+    Key copy{Plot::CopyKey};
+    pltLine.KeyPress(copy);
+    EXPECT_TRUE(copy.Handled);
+    EXPECT_EQ(User.Copied,
+              "Length, ft\tMaximum case Pressure, psia\tNormal case Pressure, psia\tLength, ft\t"
+              "Minimum case Pressure, psia\n0\t100\t80\t0\t5\n1000\t90.123456\t70\t\t\ncritical, ft\t0.5\n");
+    pltLine.Clear();
+    EXPECT_FALSE(pltLine.Enabled()) << "there is nothing to copy";
+}
+
 }  // namespace
 }  // namespace quillmetra

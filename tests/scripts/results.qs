@@ -18,7 +18,9 @@ expect-message Transition
 expect txtTagNum FT-101
 expect pltLine "Maximum case: Pressure 100 to 90.31 psig over 1000 ft"
 click cmdCalculate(1)
-expect pltLine "Normal case: Pressure 100 to 90.31 psig over 1000 ft"
+expect pltLine "Maximum case: Pressure 100 to 90.31 psig; Normal case: Pressure 100 to 90.31 psig over 1000 ft"
+key pltLine Ctrl+c
+expect-status "The figures of the plot are copied"
 
 # --- A changed number: of one case, of the line.
 type txtFlow(0) 90000

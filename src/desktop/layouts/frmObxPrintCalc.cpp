@@ -18,7 +18,7 @@ Node frmObxPrintCalc() {
                                                line("", "txtComments(1)"),
                                                line("", "txtComments(2)")}))
                        .Grow(),
-                   Buttons({"cmdOK", "cmdSave", "cmdCancel"})});
+                   Buttons({"cmdOK", "cmdPreview", "cmdPdf", "cmdSave", "cmdCancel"})});
 }
 
 }  // namespace quillmetra::layout
