@@ -3,6 +3,7 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <string_view>
 #include <vector>
 
 #include <qcustomplot.h>
@@ -71,6 +72,12 @@ std::vector<std::string> NamesIn(const PlotDrawing& drawing, std::string PlotSer
 
 int PlaceOf(const std::string& name, const std::vector<std::string>& names) {
     return static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin());
+}
+
+// "Maximum case" is "Maximum" where it has little room.
+std::string ShortCase(const std::string& name) {
+    constexpr std::string_view tail = " case";
+    return name.ends_with(tail) ? name.substr(0, name.size() - tail.size()) : name;
 }
 
 Qt::PenStyle StrokeOf(int place) { return Strokes[static_cast<std::size_t>(place) % std::size(Strokes)]; }
@@ -229,7 +236,7 @@ private:
         for (const PlotSeries& series : drawing.Series) {
             const int place = PlaceOf(series.Case, cases);
             const Qt::PenStyle stroke = StrokeOf(isOne ? place : PlaceOf(series.Name, curves));
-            QCPGraph* const curve = AddCurve(series, series.Case, place, stroke);
+            QCPGraph* const curve = AddCurve(series, ShortCase(series.Case), place, stroke);
             if (!isOne && series.Name != curves.front()) curve->removeFromLegend();
         }
         if (isOne) return;
