@@ -10,6 +10,7 @@
 #include "platform/KeyOrder.h"
 #include "records/LoadRecord.h"
 #include "records/RecordExport.h"
+#include "records/RecordList.h"
 #include "records/RecordView.h"
 #include "records/SaveRecord.h"
 
@@ -173,6 +174,46 @@ void PlainOutdated(benchmark::State& state) {
     });
 }
 
+// What the browser does with all records as it opens a database.
+void Table(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    Measure(state, [&view] {
+        view.ForgetLines();
+        RecordList list;
+        list.Take(view.Lines());
+        return list.Rows();
+    });
+}
+
+void PlainTable(benchmark::State& state) {
+    PlainRecords plain(ManyRecordsFile());
+    Measure(state, [&plain] {
+        std::vector<PlainRecords::Row> rows;
+        plain.EachRow(
+            "SELECT \"Tag\", \"Program Number\", \"Fluid Name\", \"Calc By\", \"Calc Date\", \"Data Date\" "
+            "FROM \"" +
+                HeadTable().Shape.Name + "\"",
+            {}, [&rows](const PlainRecords::Row& row) { rows.push_back(row); });
+        return rows.size();
+    });
+}
+
+// One key after the other, as they come.
+void TableFilter(benchmark::State& state) {
+    RecordView view(ManyRecordsFile());
+    RecordList list;
+    list.Take(view.Lines());
+    Measure(state, [&list] {
+        static int key = 0;
+        constexpr std::array typed = {"w", "wa", "water", "water 1", "water 12", ""};
+        list.Filter(typed[static_cast<std::size_t>(++key) % typed.size()]);
+        return list.Rows();
+    });
+}
+
+BENCHMARK(Table)->Name("browser/table of all records");
+BENCHMARK(PlainTable)->Name("browser/table of all records/plain");
+BENCHMARK(TableFilter)->Name("browser/table filtered by a key");
 BENCHMARK(Open)->Name("browser/open");
 BENCHMARK(PlainOpen)->Name("browser/open/plain");
 BENCHMARK(List)->Name("browser/list of all tags");

@@ -51,6 +51,8 @@ PROMISES = [
     Promise("record/save", ratio=2.5, time=20 * MS, remark="checks all fields, looks for rows left over"),
     Promise("browser/open", time=200 * MS),
     Promise("browser/list of all tags", time=300 * MS),
+    Promise("browser/table of all records", ratio=NONE, time=300 * MS, remark="makes all cells and what the filter searches"),
+    Promise("browser/table filtered by a key", time=50 * MS),
     Promise("browser/next", time=1 * MS),
     Promise("browser/previous", time=1 * MS),
     Promise("browser/find", time=1 * MS),

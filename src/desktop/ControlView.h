@@ -59,6 +59,7 @@ ControlView* MakeView(Control& control, QWidget* parent);
 ControlView* MakeTextView(Control& control, QWidget* parent);
 ControlView* MakeButtonView(Control& control, QWidget* parent);
 ControlView* MakeListView(Control& control, QWidget* parent);
+ControlView* MakeGridView(Grid& grid, QWidget* parent);
 ControlView* MakePlotView(Plot& plot, QWidget* parent);
 
 }  // namespace quillmetra

@@ -6,16 +6,19 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QStyle>
+#include <QUrl>
 
 #include "desktop/KeyNames.h"
 #include "desktop/Menus.h"
@@ -28,6 +31,7 @@
 #include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/TextCase.h"
+#include "platform/TextFiles.h"
 
 namespace quillmetra {
 
@@ -83,6 +87,7 @@ bool IsOptionArrow(const Control& control, const std::string& key) {
 FormWindow::FormWindow(Form& form)
     : form_(&form), pane_(new QWidget), scroll_(new QScrollArea), status_(new QLabel) {
     setObjectName(ToQt(form.Name()));
+    setAcceptDrops(form.FileDropped != nullptr);
     if (form.Fixed) setWindowFlags(DialogFlags);
     scroll_->setWidgetResizable(true);
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -339,6 +344,25 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     Later([this] {
         if (form_ != nullptr) CloseWindow(*form_);
+    });
+}
+
+namespace {
+// The one file that is let fall; empty for anything else.
+QString FileIn(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+}  // namespace
+
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!FileIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void FormWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    Later([this, file = FileIn(*event->mimeData())] {
+        if (form_ != nullptr && !file.isEmpty()) DropFile(*form_, SuitePath(file.toStdU16String()));
     });
 }
 

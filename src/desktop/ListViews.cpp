@@ -1,19 +1,16 @@
-// Views of lists, combos and grids. The rows are read from the model as they are drawn, so that a list of
+// Views of lists and combos. The rows are read from the model as they are drawn, so that a list of
 // 100,000 rows costs no more than the few that show.
 #include <algorithm>
 #include <utility>
 
 #include <QAbstractListModel>
-#include <QAbstractTableModel>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include "desktop/ControlView.h"
@@ -287,145 +284,10 @@ private:
     QLineEdit* edit_;
 };
 
-// The first of the fixed rows and columns are the headers of the table.
-class CellsModel : public QAbstractTableModel {
-public:
-    CellsModel(const Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {}
-
-    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
-    int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : columns_; }
-
-    QVariant data(const QModelIndex& index, int role) const override {
-        if (role != Qt::DisplayRole) return {};
-        return ToQt(grid_.Cell(index.row() + grid_.FixedRows, index.column() + grid_.FixedColumns));
-    }
-
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (role != Qt::DisplayRole) return {};
-        if (orientation == Qt::Horizontal) {
-            return grid_.FixedRows == 0 ? QVariant() : ToQt(grid_.Cell(0, section + grid_.FixedColumns));
-        }
-        return grid_.FixedColumns == 0 ? QVariant() : ToQt(grid_.Cell(section + grid_.FixedRows, 0));
-    }
-
-    // True when the columns are others than before. Else the view keeps its place: a row more or less is told
-    // as one at the end, and all cells as changed, of which the view fetches those that are seen.
-    bool Renew() {
-        const int columns = std::max(0, grid_.ColumnCount() - grid_.FixedColumns);
-        const int rows = std::max(0, grid_.RowCount() - grid_.FixedRows);
-        if (columns != columns_) {
-            SetSize(rows, columns);
-            return true;
-        }
-        SetRowCount(rows);
-        if (rows > 0 && columns > 0) {
-            emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
-            emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
-        }
-        return false;
-    }
-
-    void Empty() { SetSize(0, 0); }
-
-private:
-    void SetSize(int rows, int columns) {
-        beginResetModel();
-        rows_ = rows;
-        columns_ = columns;
-        endResetModel();
-    }
-
-    void SetRowCount(int rows) {
-        if (rows > rows_) {
-            beginInsertRows({}, rows_, rows - 1);
-            rows_ = rows;
-            endInsertRows();
-        } else if (rows < rows_) {
-            beginRemoveRows({}, rows, rows_ - 1);
-            rows_ = rows;
-            endRemoveRows();
-        }
-    }
-
-    const Grid& grid_;
-    int rows_ = 0;
-    int columns_ = 0;
-};
-
-class GridView : public ControlView {
-public:
-    GridView(Grid& grid, QTableView* table)
-        : ControlView(grid, table), grid_(grid), table_(table), cells_(new CellsModel(grid, table)) {
-        table_->setModel(cells_);
-        table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        table_->setSelectionMode(QAbstractItemView::SingleSelection);
-        table_->setTabKeyNavigation(false);
-        table_->horizontalHeader()->setVisible(grid.FixedRows > 0);
-        table_->verticalHeader()->setVisible(grid.FixedColumns > 0);
-        // All rows of one height, so that none has to be measured.
-        table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-        table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
-        // Later, as the grid first takes the focus of the mouse, which its click may pass on.
-        connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
-            Later([this, place = QPersistentModelIndex(cell)] { Chosen(place); });
-        });
-        connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-                [this](const QModelIndex& cell) { Reached(cell); });
-    }
-
-    QWidget* MouseTarget() const override { return table_->viewport(); }
-
-    void Forget() override {
-        cells_->Empty();
-        ControlView::Forget();
-    }
-
-protected:
-    void RenewColours() override {
-        if (Model()->ColourGroup != 0) PaintField(*table_, Model()->BackColour(), Model()->ForeColour());
-    }
-
-    void RenewRows() override {
-        renewing_ = true;
-        if (cells_->Renew()) table_->resizeColumnsToContents();
-        renewing_ = false;
-        RenewSelection();
-    }
-
-    void RenewSelection() override {
-        const QModelIndex cell =
-            cells_->index(grid_.Selected() - grid_.FixedRows, grid_.SelectedColumn() - grid_.FixedColumns);
-        if (cell == table_->currentIndex()) return;
-        renewing_ = true;
-        table_->setCurrentIndex(cell);
-        renewing_ = false;
-    }
-
-private:
-    // By the arrow keys; a press of the mouse is told when it is a click.
-    void Reached(const QModelIndex& cell) {
-        if (Model() == nullptr || renewing_ || !cell.isValid() ||
-            QApplication::mouseButtons() != Qt::NoButton)
-            return;
-        MoveToCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
-    }
-
-    void Chosen(const QModelIndex& cell) {
-        if (Model() == nullptr) return;
-        PickCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
-    }
-
-    Grid& grid_;
-    QTableView* table_;
-    CellsModel* cells_;
-    bool renewing_ = false;  // the view follows the model, not the user
-};
-
 }  // namespace
 
 ControlView* MakeListView(Control& control, QWidget* parent) {
-    if (control.Kind() == ControlKind::Grid)
-        return new GridView(static_cast<Grid&>(control), new QTableView(parent));
+    if (control.Kind() == ControlKind::Grid) return MakeGridView(static_cast<Grid&>(control), parent);
     if (control.Kind() == ControlKind::ListBox) {
         auto* const view = new RowList(parent);
         return new ListBoxView(static_cast<ListBox&>(control), view, view);

@@ -45,7 +45,7 @@ public:
 protected:
     MenuItem& Entry() const { return static_cast<MenuItem&>(*Model()); }
 
-    void RenewText() override { action_->setText(ToQt(Entry().Caption())); }
+    void RenewText() override { action_->setText(ToRead(Entry().Caption())); }
     void RenewEnabled() override { action_->setEnabled(Entry().Enabled()); }
     void RenewVisible() override { action_->setVisible(Entry().Visible()); }
     void RenewColours() override {}

@@ -12,6 +12,7 @@
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "core/Version.h"
+#include "desktop/DatabaseMemory.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/OneInstance.h"
 #include "desktop/Painting.h"
@@ -75,7 +76,10 @@ int main(int argc, char** argv) {
     QTimer minute;
     QObject::connect(&minute, &QTimer::timeout, [] { quillmetra::KeepUnsavedWork(); });
     minute.start(std::chrono::minutes(1));
-    QTimer::singleShot(0, [] {
+    quillmetra::DatabaseMemory databases(home + "\\TRWIN.ini");
+    // A folder that was named is another one than that of the last run.
+    QTimer::singleShot(0, [&databases, opens = !parser.isSet(folder)] {
+        if (opens) databases.OpenAgain();
         quillmetra::TellOfShippedRows();
         quillmetra::OfferRecovery();
     });

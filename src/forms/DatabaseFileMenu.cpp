@@ -16,6 +16,7 @@ namespace quillmetra {
 
 namespace {
 
+constexpr const char* ExportTitle = "Export records";
 constexpr const char* CreateTitle = "Create New Database File";
 
 // Asks for a database and takes it as the one in hand; false when the user cancels or picks another file.
@@ -79,24 +80,25 @@ void frmTRProg::mnuRepairDB_Click() {
 
 // For people who live in spreadsheets: all records of the open database in one file.
 void frmTRProg::mnuExport_Click() {
-    constexpr const char* title = "Export records";
-    if (view_ == nullptr) {
-        Tell("Open the database first", title);
-        return;
-    }
-    const auto file = AskFile({.Title = title,
+    if (view_ == nullptr) return Tell("Open the database first", ExportTitle);
+    ExportTags({});
+}
+
+// All records when no tag is given.
+void frmTRProg::ExportTags(const std::vector<std::string>& tags) {
+    const auto file = AskFile({.Title = ExportTitle,
                                .Filter = "Comma separated values(*.csv)|*.csv",
                                .Folder = ProposedFile(Suite.DatabasePath, "TRDB.csv"),
                                .ForSaving = true});
-    if (!file || file->empty() || !MayWrite(*file, "an export", title)) return;
+    if (!file || file->empty() || !MayWrite(*file, "an export", ExportTitle)) return;
     std::size_t count = 0;
     {
         const BusyPointer busy;
-        count = static_cast<std::size_t>(ExportRecords(Suite.DatabaseFile, *file));
+        count = static_cast<std::size_t>(ExportRecords(Suite.DatabaseFile, *file, tags));
     }
     const std::string records = Counted(count, "record");
     SetStatus(records + ": " + *file);
-    Tell(records + " written to\n" + *file, title);
+    Tell(records + " written to\n" + *file, ExportTitle);
 }
 
 }  // namespace quillmetra

@@ -5,6 +5,7 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/FindDialog.h"
+#include "forms/frmPrintControl.h"
 #include "forms/frmTRProg.h"
 #include "forms/RecordInHand.h"
 #include "forms/UnsavedWork.h"
@@ -64,6 +65,8 @@ void frmTRProg::HookDatabase() {
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
     mnuPrinting.Click = [this] { mnuPrinting_Click(); };
+    HookTable();
+    HookHistory();
     mnuConvertRandom.Click = [this] { mnuConvertRandom_Click(); };
 }
 
@@ -111,11 +114,8 @@ bool frmTRProg::OpenView() {
 
 void frmTRProg::cmdDBOpen_Click() {
     CloseView();
-    if (!ChooseDatabase() || !OpenView()) return;
-    Suite.DefaultPaths[path::Database] =
-        Suite.DatabasePath;  // new calculations go to the database on the screen
-    lblPath(0).SetCaption(Suite.DatabaseFile);
-    ShowRecord();
+    if (!ChooseDatabase() || !OpenView()) return KeepInHistory();
+    ShowOpened();
     if (view_->HasRecord()) {
         cmdDisplayCalc.SetFocus();
     } else {
@@ -124,16 +124,28 @@ void frmTRProg::cmdDBOpen_Click() {
     }
 }
 
+void frmTRProg::ShowOpened() {
+    Suite.DefaultPaths[path::Database] =
+        Suite.DatabasePath;  // new calculations go to the database on the screen
+    lblPath(0).SetCaption(Suite.DatabaseFile);
+    ShowRecord();
+    KeepInHistory();
+}
+
 void frmTRProg::cmdDBClose_Click() {
     CloseCalculations();
     CloseView();
     optDefaultDB.SetChecked(true);
+    KeepInHistory();
 }
 
 // Nor does the path of a database that was looked at outlast it.
 void frmTRProg::CloseView() {
     ShowTags(false);
     view_.reset();
+    list_.Clear();
+    txtFilter.SetText("");
+    ShowTable();
     if (!Suite.ChosenDataPath.empty()) Suite.DefaultPaths[path::Database] = Suite.ChosenDataPath;
     lblPath(0).SetCaption("");
     ShowFields(false);
@@ -171,10 +183,12 @@ void frmTRProg::ShowFields(bool visible) {
         }
     }
     cmdDBClose.SetEnabled(view_ != nullptr);
+    EnableTable(visible);
 }
 
 void frmTRProg::ShowRecord() {
     const bool any = view_->HasRecord();
+    RenewTable();
     ShowFields(any);
     Suite.RecordTotal = view_->Count();
     if (!any) return;
@@ -184,6 +198,7 @@ void frmTRProg::ShowRecord() {
     Record.Show(head);
     lblCurrentRecord.SetCaption(std::to_string(view_->Position()));
     lblNumRecords.SetCaption(std::to_string(view_->Count()));
+    MarkRow();
 }
 
 void frmTRProg::cmdFirst_Click() {
@@ -212,7 +227,8 @@ void frmTRProg::cmdPrev_Click() {
 
 void frmTRProg::ShowTags(bool visible) {
     fraTags.SetVisible(visible);
-    for (Control* control : std::initializer_list<Control*>{&fraPrograms, &fraDatabase, &fraRecord, &cmdOK}) {
+    for (Control* control :
+         std::initializer_list<Control*>{&fraPrograms, &fraDatabase, &fraRecords, &fraRecord, &cmdOK}) {
         control->SetEnabled(!visible);
     }
     DefaultButton = visible ? &cmdSelect : &cmdOK;
@@ -270,13 +286,11 @@ void frmTRProg::cmdFind_Click() {
 }
 
 void frmTRProg::cmdDelete_Click() {
-    const std::string tag = view_->Head().Tag;
-    if (!AskYesNo("Delete Tag Number:  " + tag + "\n\nAre you sure?", "Confirm Record Delete", Icon::None,
-                  Answer::No)) {
-        return;
-    }
-    DeleteRecord(Suite.DatabaseFile, tag);
-    if (SameName(Calc.TagSaved, tag)) {
+    const std::vector<std::string> tags = PickedTags();
+    if (!AskDelete(tags)) return;
+    DeleteRecords(Suite.DatabaseFile, tags);
+    for (const std::string& tag : tags) {
+        if (!SameName(Calc.TagSaved, tag)) continue;
         // What is in hand is in no database any more: its next save writes every row.
         Calc.TagSaved.clear();
         Calc.LoadedDatabaseFile.clear();
@@ -334,11 +348,16 @@ void frmTRProg::DisplayRecord() {
 // Opens the database first, as its button does, when none is open.
 void frmTRProg::mnuPrinting_Click() {
     if (view_ == nullptr) cmdDBOpen_Click();
-    if (view_ == nullptr) return;
+    if (view_ != nullptr) PrintTags({});
+}
+
+// With these picked already.
+void frmTRProg::PrintTags(const std::vector<std::string>& tags) {
     Suite.DatabaseFile = lblPath(0).Caption();
     ReadHeadingLines(std::span(Suite.DefaultHeadings).first<8>());
     CloseCalculations();
     UnloadForm("frmPrintControl");  // so that its load lists the records as they now are
+    static_cast<frmPrintControl&>(LoadForm("frmPrintControl")).PickTags(tags);
     ShowForm("frmPrintControl");
     HideForm(Name());
 }

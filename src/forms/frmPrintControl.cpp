@@ -13,6 +13,7 @@
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/NumberText.h"
 #include "records/RecordFiles.h"
 #include "records/SaveRecord.h"
 #include "records/TextLengths.h"
@@ -117,6 +118,15 @@ void frmPrintControl::cmdNone_Click() {
 void frmPrintControl::cmdAll_Click() {
     Calc.MessageText = words::Bypass;
     lstTags.PickAll();
+}
+
+void frmPrintControl::PickTags(const std::vector<std::string>& tags) {
+    for (const std::string& tag : tags) {
+        const int row = view_ == nullptr ? -1 : static_cast<int>(view_->IndexOf(tag));
+        if (Trim(lstTags.Row(row)) != tag) continue;
+        Calc.MessageText = words::Bypass;
+        lstTags.Pick(row, true);
+    }
 }
 
 // The titles are those of the run, so that they stay while records are picked.

@@ -63,6 +63,9 @@ public:
     void cmdProceed_Click();
     void cmdPdf_Click();
 
+    // Picks these of the list, without a look at each.
+    void PickTags(const std::vector<std::string>& tags);
+
     // Moves by the word in MessageText ("Last", "Next", "Previous", "First", or "Select" for the record of
     // Tag), reads that record and shows it.
     void FieldData();

@@ -34,6 +34,8 @@ frmTRProg::frmTRProg() : SuiteForm("frmTRProg") {
         }
     }
     mnuExit.SeparatorBefore = true;
+    mnuFindRecord.SeparatorBefore = true;
+    mnuFindRecord.Shortcut = "Ctrl+F";
     mnuHelp.Shortcut = keys::Help;
     DefaultButton = &cmdOK;
     optDefaultDB.SetChecked(true);

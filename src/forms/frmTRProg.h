@@ -4,9 +4,12 @@
 
 #include <array>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "forms/RecordFields.h"
 #include "forms/SuiteForm.h"
+#include "records/RecordList.h"
 #include "records/RecordView.h"
 
 namespace quillmetra {
@@ -24,6 +27,8 @@ public:
     MenuItem mnuCreateDB{mnuFile, "mnuCreateDB", "C&reate database"};
     MenuItem mnuCompactDB{mnuFile, "mnuCompactDB", "&Compact database"};
     MenuItem mnuRepairDB{mnuFile, "mnuRepairDB", "R&epair database"};
+    MenuItem mnuRecent{mnuFile, "mnuRecent", "Recent &databases"};
+    ControlArray<MenuItem> mnuRecentFile{mnuRecent, "mnuRecentFile", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
     MenuItem mnuExport{mnuFile, "mnuExport", "Exp&ort records..."};
     MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
     MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
@@ -55,6 +60,14 @@ public:
     MenuItem mnuBackgroundList{mnuColours, "mnuBackgroundList", "Backgrou&nd list"};
     MenuItem mnuOptions{*this, "mnuOptions", "&Options"};
     MenuItem mnuDoNotShow{mnuOptions, "mnuDoNotShow", "&Hide prompting messages"};
+    // Of the rows that are selected in the table; also what the right button shows there.
+    MenuItem mnuManage{*this, "mnuManage", "&Manage"};
+    MenuItem mnuShowRecord{mnuManage, "mnuShowRecord", "&Display calculation"};
+    MenuItem mnuCopyRecord{mnuManage, "mnuCopyRecord", "&Copy as another tag..."};
+    MenuItem mnuPrintRecords{mnuManage, "mnuPrintRecords", "&Print..."};
+    MenuItem mnuExportRecords{mnuManage, "mnuExportRecords", "&Export..."};
+    MenuItem mnuDeleteRecords{mnuManage, "mnuDeleteRecords", "De&lete"};
+    MenuItem mnuFindRecord{mnuManage, "mnuFindRecord", "&Find in the table"};
     MenuItem mnuHelpHead{*this, "mnuHelpHead", "&Help"};
     MenuItem mnuHelp{mnuHelpHead, "mnuHelp", "&Help"};
     MenuItem mnuAbout{mnuHelpHead, "mnuAbout", "&About"};
@@ -65,6 +78,12 @@ public:
     CommandButton cmdDBOpen{fraDatabase, "cmdDBOpen", "O&pen database"};
     CommandButton cmdDBClose{fraDatabase, "cmdDBClose", "Clos&e database"};
     ControlArray<Label> lblPath{fraDatabase, "lblPath", {0}, ""};
+
+    Frame fraRecords{*this, "fraRecords", "All records"};
+    Label lblFilter{fraRecords, "lblFilter", "&Quick filter"};
+    TextBox txtFilter{fraRecords, "txtFilter"};
+    Label lblShown{fraRecords, "lblShown"};
+    Grid grdRecords{fraRecords, "grdRecords"};
 
     Frame fraRecord{*this, "fraRecord", "Selected record"};
     RecordFields Record{fraRecord};
@@ -116,6 +135,15 @@ public:
     void cmdDisplayCalc_Click();
     void mnuPrinting_Click();
 
+    // The table of all records, in RecordTable.cpp
+    void txtFilter_Change();
+    void txtFilter_KeyPress(Key& key);
+    void grdRecords_Click();
+    void grdRecords_KeyPress(Key& key);
+    void mnuCopyRecord_Click();
+    void mnuPrintRecords_Click();
+    void mnuExportRecords_Click();
+
     // The file as a whole, in DatabaseFileMenu.cpp
     void mnuCreateDB_Click();
     void mnuCompactDB_Click();
@@ -125,11 +153,41 @@ public:
     // Records of version 5, in OldDataMenu.cpp
     void mnuConvertRandom_Click();
 
+    // The databases that were opened last, in DatabaseHistory.cpp
+    using Files = std::vector<std::string>;
+    void ShowRecent(const Files& files);
+    const Files& Recent() const { return recent_; }  // the newest first
+    // The file of the open database; empty for none.
+    const std::string& OpenFile() const { return lblPath(0).Caption(); }
+    // Told after each of these has changed, for a host that keeps them from one run to the next.
+    Handler DatabasesChanged;
+    // Opens a database as the user would: by the default path when it is the one there, else as one looked
+    // at.
+    void OpenByName(const std::string& file);
+    // As at the start, without a box: what goes wrong is told in the status line.
+    void OpenAgain(const std::string& file);
+
 private:
+    void HookHistory();
+    void ChooseFolder(const std::string& folder);
+    void KeepInHistory();
+    void ShowOpened();
     // Standard conditions that a new calculation had better not start from.
     std::string StandingStatus() const override;
     void ShowStanding();
     void HookDatabase();
+    void HookTable();
+    // Shows the table as it now is; with a database, its records when they have changed.
+    void ShowTable();
+    void RenewTable();
+    // Makes the row of the record in hand the selected one.
+    void MarkRow();
+    void EnableTable(bool any);
+    // Of the rows that are selected; of the record in hand when it is not among the rows.
+    std::vector<std::string> PickedTags() const;
+    bool AskDelete(const std::vector<std::string>& tags);
+    void ExportTags(const std::vector<std::string>& tags);
+    void PrintTags(const std::vector<std::string>& tags);
     // Sets Suite.DatabasePath and DatabaseFile from the chosen path; false, after a message, when there is
     // none.
     bool ChooseDatabase();
@@ -141,8 +199,10 @@ private:
     void DisplayRecord();
 
     std::unique_ptr<RecordView> view_;  // null while no database is open
-    int shownTags_ = 0;
-    std::string standing_;  // as it was shown last: a file written since may say otherwise
+    Files recent_;
+    RecordList list_;
+    std::vector<std::string> heads_;  // of its columns
+    std::string standing_;            // as it was shown last: a file written since may say otherwise
     std::array<MenuItem*, 12> ColourEntries();
     std::array<MenuItem*, 4> SchemeEntries();  // in the order of SchemeNames
     void HookColours();

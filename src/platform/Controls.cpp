@@ -209,6 +209,7 @@ const std::string& Grid::Cell(int row, int column) const {
     if (row < 0 || row >= RowCount() || column < 0 || column >= columns_) {
         throw failure::SubscriptOutOfRange();
     }
+    if (source_) return source_(row, column);
     return cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
 }
 
@@ -220,7 +221,19 @@ void Grid::SetSize(int rows, int columns) {
     Notify(Aspect::Rows);
 }
 
+void Grid::SetSource(int rows, int columns, CellOf cell) {
+    columns_ = std::max(columns, 0);
+    cells_.clear();
+    source_ = std::move(cell);
+    sourceRows_ = std::max(rows, 0);
+    selected_ = -1;
+    selectedColumn_ = 0;
+    picked_.clear();
+    Notify(Aspect::Rows);
+}
+
 void Grid::SetRows(std::vector<Cells> rows, int columns) {
+    source_ = nullptr;
     columns_ = std::max(columns, 0);
     cells_ = std::move(rows);
     MendRows(0);
@@ -284,7 +297,26 @@ void Grid::Preselect(int row, int column) {
     text_ = Cell(row, column);
     selected_ = row;
     selectedColumn_ = column;
+    picked_.clear();
+    if (IsList && row >= FixedRows) picked_.push_back(row);
     Notify(Aspect::Selection);
+}
+
+void Grid::Deselect() {
+    if (selected_ < 0) return;
+    text_.clear();
+    selected_ = -1;
+    picked_.clear();
+    Notify(Aspect::Selection);
+}
+
+void Grid::PickRows(std::vector<int> rows, int row) {
+    std::sort(rows.begin(), rows.end());
+    text_ = Cell(row, 0);
+    selected_ = row;
+    picked_ = std::move(rows);
+    Notify(Aspect::Selection);
+    if (Click) Click();
 }
 
 }  // namespace quillmetra

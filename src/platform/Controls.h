@@ -293,9 +293,13 @@ public:
         TabStop = true;
     }
 
-    int RowCount() const { return static_cast<int>(cells_.size()); }
+    int RowCount() const { return source_ ? sourceRows_ : static_cast<int>(cells_.size()); }
     int ColumnCount() const { return columns_; }
     const std::string& Cell(int row, int column) const;  // throws outside of the grid
+    // Rows that the form keeps, heads included: a cell is asked for when it is seen. Nothing is selected
+    // after it.
+    using CellOf = std::function<const std::string&(int row, int column)>;
+    void SetSource(int rows, int columns, CellOf cell);
     void SetSize(int rows, int columns);
     void SetCell(int row, int column, const std::string& text);
     // Whole rows, each in one call whatever the size of the grid. Missing cells are empty, those past the
@@ -311,6 +315,17 @@ public:
     void Select(int row, int column);
     // As Select, without the event.
     void Preselect(int row, int column);
+    void Deselect();
+
+    // The rows selected together, in their order, and the one of them in hand; with Click.
+    void PickRows(std::vector<int> rows, int row);
+    const std::vector<int>& Picked() const { return picked_; }
+
+    // A list with columns: whole rows are selected, several at once too, a move by the arrow keys selects,
+    // and a click on a head is told as one on row 0.
+    bool IsList = false;
+    // Its entries show at a click of the right button, on the row below it.
+    MenuItem* PopUp = nullptr;
 
     int FixedRows = 1;
     int FixedColumns = 1;
@@ -324,9 +339,12 @@ private:
     void KeepSelectionInside();
 
     std::vector<Cells> cells_;
+    CellOf source_;
+    int sourceRows_ = 0;
     int columns_ = 0;
     int selected_ = -1;
     int selectedColumn_ = 0;
+    std::vector<int> picked_;
 };
 
 // Controls of one name told apart by their index. It holds the indices it was made with and no others: a

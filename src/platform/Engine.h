@@ -43,10 +43,15 @@ inline void Bind(sqlite3_stmt* statement, int place, const FieldValue& value) {
     }
 }
 
-inline std::string TextAt(sqlite3_stmt* statement, int column) {
+// Lasts until the next step.
+inline std::string_view ViewAt(sqlite3_stmt* statement, int column) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
     if (text == nullptr) return {};
     return {text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))};
+}
+
+inline std::string TextAt(sqlite3_stmt* statement, int column) {
+    return std::string(ViewAt(statement, column));
 }
 
 }  // namespace quillmetra

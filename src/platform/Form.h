@@ -2,6 +2,7 @@
 // act of a user enters (Dispatch).
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -64,7 +65,9 @@ public:
     CommandButton* CancelButton = nullptr;   // pressed by Escape
     bool EnterMovesOn = false;               // Enter goes to the next box, as on the calculation forms
     bool Fixed = false;                      // a dialog whose size the user does not change
-    bool FitsFrames = false;                 // its window grows and shrinks with the frames that show
+    // A file of the user's was let fall on the window.
+    std::function<void(const std::string& file)> FileDropped;
+    bool FitsFrames = false;  // its window grows and shrinks with the frames that show
 
 private:
     friend class Control;

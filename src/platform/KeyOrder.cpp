@@ -71,4 +71,21 @@ int CompareKeys(std::string_view a, std::string_view b) {
     return i == a.size() ? -1 : 1;
 }
 
+// All letters that have a small form have two bytes in UTF-8, or one, and so has the small form.
+std::string SmallLetters(std::string_view text) {
+    std::string small(text);
+    for (std::size_t i = 0; i < small.size();) {
+        const std::size_t start = i;
+        if (const auto c = static_cast<std::uint8_t>(small[i]); c < 0x80) {
+            small[i++] = static_cast<char>(SmallLetter(c));
+            continue;
+        }
+        const char32_t c = SmallLetter(NextCharacter(text, i));
+        if (i - start != 2) continue;
+        small[start] = static_cast<char>(0xC0U | (c >> 6U));
+        small[start + 1] = static_cast<char>(0x80U | (c & 0x3FU));
+    }
+    return small;
+}
+
 }  // namespace quillmetra

@@ -5,11 +5,15 @@
 // so it must go with a new schema number and a rebuilding of the keys.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace quillmetra {
 
 // Below 0, 0 or above 0 as the first UTF-8 text stands before, beside or behind the second.
 int CompareKeys(std::string_view a, std::string_view b);
+
+// The text in small letters, so that what CompareKeys holds for the same is the same.
+std::string SmallLetters(std::string_view text);
 
 }  // namespace quillmetra

@@ -201,6 +201,21 @@ std::vector<std::string> Recordset::Keys() {
     return keys;
 }
 
+void Recordset::EachRow(std::span<const std::string_view> fields, const std::function<void(TextRow)>& act) {
+    std::string sql;
+    for (const std::string_view field : fields) sql += (sql.empty() ? "SELECT " : ", ") + Quoted(field);
+    sql += " FROM " + Quoted(table_.Name);
+    sqlite3_stmt* const statement = database_.Prepared(sql);
+    const Run run(statement);
+    std::vector<std::string_view> texts(fields.size());
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
+        for (std::size_t i = 0; i < texts.size(); ++i) texts[i] = ViewAt(statement, static_cast<int>(i));
+        act(texts);
+    }
+    if (result != SQLITE_DONE) database_.Fail();
+}
+
 std::size_t Recordset::FieldNumber(std::string_view name) const {
     for (std::size_t i = 0; i < table_.Fields.size(); ++i) {
         if (table_.Fields[i].Name == name) return i;

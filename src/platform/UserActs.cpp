@@ -258,7 +258,24 @@ bool MoveToCell(Grid& grid, int row, int column) {
     if (!CanAct(grid) || row < 0 || row >= grid.RowCount() || column < 0 || column >= grid.ColumnCount()) {
         return false;
     }
-    grid.Owner().Dispatch([&] { grid.Preselect(row, column); });
+    grid.Owner().Dispatch([&] { grid.IsList ? grid.Select(row, column) : grid.Preselect(row, column); });
+    return true;
+}
+
+bool PickRows(Grid& grid, const std::vector<int>& rows, int row) {
+    const auto isRow = [&](int each) { return each >= grid.FixedRows && each < grid.RowCount(); };
+    if (!grid.IsList || !CanAct(grid) || !isRow(row) || !std::all_of(rows.begin(), rows.end(), isRow))
+        return false;
+    grid.Owner().Dispatch([&] {
+        grid.Owner().Focus.UserMoves(grid);
+        if (CanAct(grid) && row < grid.RowCount()) grid.PickRows(rows, row);
+    });
+    return true;
+}
+
+bool DropFile(Form& form, const std::string& file) {
+    if (!form.FileDropped || !TakesInput(form)) return false;
+    form.Dispatch([&] { form.FileDropped(file); });
     return true;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/Form.h"
 
@@ -28,7 +29,10 @@ bool OpenMenu(MenuItem& head);
 bool PickRow(ListBox& list, int row);
 bool UnpickRow(ListBox& list, int row);
 bool PickCell(Grid& grid, int row, int column);
-// The cell in hand goes elsewhere by the arrow keys; Enter then picks it.
+// Several rows of a list with columns, and the one of them that is in hand.
+bool PickRows(Grid& grid, const std::vector<int>& rows, int row);
+// The cell in hand goes elsewhere by the arrow keys; Enter then picks it. In a list with columns the row is
+// picked.
 bool MoveToCell(Grid& grid, int row, int column);
 
 // The control's own KeyPress alone, for a host whose widgets edit by themselves. True when used up.
@@ -40,6 +44,9 @@ bool PressKey(Control& control, const std::string& key);
 bool PressKey(Form& form, const std::string& key);
 
 void CloseWindow(Form& form);
+// A file of another program that the user lets fall on the window, in the suite's words; false where a form
+// has no use for one.
+bool DropFile(Form& form, const std::string& file);
 
 // What F1 does on a form without a menu entry for it.
 void SetHelpKey(void (*show)(const Form& form));

@@ -1,6 +1,7 @@
 // See RecordExport.h.
 #include "records/RecordExport.h"
 
+#include <set>
 #include <vector>
 
 #include "platform/Clock.h"
@@ -91,7 +92,8 @@ struct Part {
 
 }  // namespace
 
-int ExportRecords(const std::string& databaseFile, const std::string& csvFile) {
+int ExportRecords(const std::string& databaseFile, const std::string& csvFile,
+                  const std::vector<std::string>& tags) {
     const std::unique_ptr<Database> database = OpenRecords(databaseFile);
     Part head(*database, HeadTable(), AllColumns(HeadTable()));
     std::vector<Part> others;
@@ -100,6 +102,7 @@ int ExportRecords(const std::string& databaseFile, const std::string& csvFile) {
     for (const RecordTable* table : {&PressureDropTable(), &WaterhammerTable(), &FluidDataTable()}) {
         others.emplace_back(*database, *table, ResultColumns(*table));
     }
+    const std::set<std::string> wantedTags(tags.begin(), tags.end());
 
     TextWriter file(csvFile);
     std::string line;
@@ -109,8 +112,10 @@ int ExportRecords(const std::string& databaseFile, const std::string& csvFile) {
     file.Line(line);
 
     int count = 0;
-    for (; !head.Rows.AtEnd(); head.Rows.MoveNext(), ++count) {
+    for (; !head.Rows.AtEnd(); head.Rows.MoveNext()) {
         const std::string tag = head.Rows.Text("Tag");
+        if (!wantedTags.empty() && !wantedTags.contains(std::string(Trim(tag)))) continue;
+        ++count;
         const auto number = static_cast<int>(head.Rows.Number("Program Number"));
         const RecordTable* const own = ProgramTable(ProgramOf(number));
         line.clear();

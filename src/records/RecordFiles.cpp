@@ -119,6 +119,19 @@ void DeleteRows(Database& database, const std::string& tag) {
     }
 }
 
+void CopyRow(Database& database, const RecordTable& table, const std::string& tag,
+             const std::string& newTag) {
+    Recordset rows(database, table.Shape, Recordset::Unplaced());
+    rows.Index(TagIndex);
+    if (!rows.Seek(tag)) return;
+    std::vector<FieldValue> values;
+    for (std::size_t field = 0; field < table.Fields.size(); ++field) values.push_back(rows.Value(field));
+    values.front() = newTag;
+    rows.AddNew();
+    rows.SetAll(values);
+    rows.Update();
+}
+
 }  // namespace
 
 std::string DatabaseFileOf(const std::string& folder) { return folder + "\\" + FileName; }
@@ -262,21 +275,40 @@ std::string RepairText(const RepairReport& report) {
     return text + "\nThe damaged file is kept as " + report.KeptAs;
 }
 
-bool DeleteRecord(const std::string& file, const std::string& tag) {
+bool DeleteRecord(const std::string& file, const std::string& tag) { return DeleteRecords(file, {tag}); }
+
+bool DeleteRecords(const std::string& file, const std::vector<std::string>& tags) {
     const std::unique_ptr<Database> database = OpenRecords(file);
     if (Recordset(*database, HeadTable().Shape).AtEnd()) {
         Tell("Database is empty", file);
         return false;
     }
     Transaction all(*database);
-    DeleteRows(*database, tag);
+    for (const std::string& tag : tags) DeleteRows(*database, tag);
     all.Commit();
-    if (SameName(Calc.TagSaved, tag) && IsSameFile(Calc.LoadedDatabaseFile, file)) {
+    for (const std::string& tag : tags) {
+        if (!SameName(Calc.TagSaved, tag) || !IsSameFile(Calc.LoadedDatabaseFile, file)) continue;
         // The record may still be open in a form: its next save writes every row.
         Calc.TagSaved.clear();
         Calc.LoadedDatabaseFile.clear();
     }
     return true;
+}
+
+void CopyRecord(const std::string& file, const std::string& tag, const std::string& newTag) {
+    if (newTag.empty())
+        throw RuntimeError{failure::ValueRefused, "Each record must have a unique Tag number"};
+    const std::unique_ptr<Database> database = OpenRecords(file);
+    Transaction all(*database);
+    Recordset heads(*database, HeadTable().Shape, Recordset::Unplaced());
+    heads.Index(TagIndex);
+    if (heads.Seek(newTag)) throw RuntimeError{failure::ValueRefused, "Tag Number is on file"};
+    if (!heads.Seek(tag)) throw RuntimeError{failure::ValueRefused, "Not found"};
+    DeleteRows(*database, newTag);  // rows without a head, which a crash of another program may have left
+    for (const RecordTable* table : RecordTables()) {
+        if (database->HasTable(table->Shape.Name)) CopyRow(*database, *table, tag, newTag);
+    }
+    all.Commit();
 }
 
 }  // namespace quillmetra

@@ -75,5 +75,10 @@ std::string RepairText(const RepairReport& report);
 
 // Removes a record's rows from all tables. False with "Database is empty" when there are none.
 bool DeleteRecord(const std::string& file, const std::string& tag);
+// Those of several records, all or none.
+bool DeleteRecords(const std::string& file, const std::vector<std::string>& tags);
+// The rows of a record once more under another tag. Throws when that is on file, too long or empty, or the
+// record is gone.
+void CopyRecord(const std::string& file, const std::string& tag, const std::string& newTag);
 
 }  // namespace quillmetra

@@ -2,6 +2,8 @@
 #include "records/RecordView.h"
 
 #include <algorithm>
+#include <map>
+#include <numeric>
 
 #include "core/Words.h"
 #include "platform/Clock.h"
@@ -32,6 +34,50 @@ bool IsOutdated(const Recordset& heads) {
     return !data.empty() && !calculated.empty() && data > calculated;
 }
 
+// A day as it is compared and as it is shown; many records share one.
+struct Day {
+    std::string Iso, Shown;
+};
+class Days {
+public:
+    const Day& Of(std::string_view stored) {
+        const auto found = days_.find(stored);
+        if (found != days_.end()) return found->second;
+        const std::string text(stored);
+        return days_.emplace(text, Day{IsoDate(text), DateText(text)}).first->second;
+    }
+
+private:
+    std::map<std::string, Day, std::less<>> days_;
+};
+
+constexpr std::string_view LineFields[] = {"Tag",     "Program Number", "Fluid Name",
+                                           "Calc By", "Calc Date",      "Data Date"};
+
+RecordLine LineOf(Recordset::TextRow row, Days& days) {
+    const auto text = [&row](std::size_t field) { return std::string(Trim(row[field])); };
+    const Day& date = days.Of(Trim(row[4]));
+    const Day& dataDate = days.Of(Trim(row[5]));
+    const bool isOutdated = !date.Iso.empty() && !dataDate.Iso.empty() && dataDate.Iso > date.Iso;
+    return {{text(0), CalculationOf(static_cast<int>(Val(row[1]))), text(2), text(3), date.Shown,
+             dataDate.Shown, isOutdated ? "Yes" : ""}};
+}
+
+// In the order of the tags.
+RecordLines Sorted(RecordLines lines) {
+    std::vector<std::size_t> places(lines.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    const auto tag = [&lines](std::size_t place) -> const std::string& {
+        return lines[place].Cells[RecordLine::Tag];
+    };
+    std::sort(places.begin(), places.end(),
+              [&](std::size_t a, std::size_t b) { return IsBefore(tag(a), tag(b)); });
+    RecordLines sorted;
+    sorted.reserve(lines.size());
+    for (const std::size_t place : places) sorted.push_back(std::move(lines[place]));
+    return sorted;
+}
+
 }  // namespace
 
 RecordView::RecordView(const std::string& file) : file_(file) { Open(); }
@@ -42,7 +88,7 @@ void RecordView::Open() {
     database_ = std::move(database);
     heads_.emplace(*database_, HeadTable().Shape);
     heads_->Index(TagIndex);
-    tagsVersion_ = -1;
+    tagsVersion_ = linesVersion_ = -1;
     hasRecord_ = !heads_->AtEnd();
     if (hasRecord_) TakeHead();
 }
@@ -140,6 +186,18 @@ const std::vector<std::string>& RecordView::Tags() {
         tagsVersion_ = version;
     }
     return tags_;
+}
+
+std::shared_ptr<const RecordLines> RecordView::Lines() {
+    Renew();
+    const std::int64_t version = database_->Version();
+    if (version == linesVersion_) return lines_;
+    RecordLines lines;
+    Days days;
+    heads_->EachRow(LineFields, [&](Recordset::TextRow row) { lines.push_back(LineOf(row, days)); });
+    lines_ = std::make_shared<const RecordLines>(Sorted(std::move(lines)));
+    linesVersion_ = version;
+    return lines_;
 }
 
 std::size_t RecordView::IndexOf(std::string_view tag) {

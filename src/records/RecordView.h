@@ -5,6 +5,8 @@
 // place of the one that is open, as by compacting it, is opened before the next move.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,6 +26,16 @@ struct RecordHead {
     std::string ProgramName, FluidName, CalcBy, ApprovedBy, DataDate, CalcDate, OtherCalcs;
     bool IsOutdated = false;  // both dates stand and the data are later than the calculation
 };
+
+// A record in a table of all: tag, calculation, fluid, by, date, process data date, and "Yes" for an outdated
+// one.
+struct RecordLine {
+    enum Column : std::uint8_t { Tag, Calculation, Fluid, By, Date, DataDate, Outdated };
+    static constexpr int Columns = 7;
+
+    std::array<std::string, Columns> Cells;
+};
+using RecordLines = std::vector<RecordLine>;
 
 class RecordView {
 public:
@@ -46,6 +58,9 @@ public:
 
     // All tags in their order, and where one stands (or would stand) among them, from 0.
     const std::vector<std::string>& Tags();
+    // All records in the order of their tags; another object when the file has changed.
+    std::shared_ptr<const RecordLines> Lines();
+    void ForgetLines() { linesVersion_ = -1; }  // so that they are read anew
     std::size_t IndexOf(std::string_view tag);
     // The position that the browser shows: 1 for the first record, 0 when there is none.
     int Position();
@@ -66,7 +81,8 @@ private:
     RecordHead head_;
     bool hasRecord_ = false;
     std::vector<std::string> tags_;
-    std::int64_t tagsVersion_ = -1;
+    std::int64_t tagsVersion_ = -1, linesVersion_ = -1;
+    std::shared_ptr<const RecordLines> lines_;
 };
 
 }  // namespace quillmetra

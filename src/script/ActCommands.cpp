@@ -173,6 +173,19 @@ void ClickRow(ScriptPlayer& player, const Arguments& arguments) {
     }
 }
 
+// Rows that follow one another, as with the Shift key; the last is in hand.
+void ClickRows(ScriptPlayer& player, const Arguments& arguments) {
+    Control& control = player.Named(arguments[0].Text);
+    if (control.Kind() != ControlKind::Grid || !static_cast<Grid&>(control).IsList)
+        throw ScriptFailure{control.FullName() + " takes one row only"};
+    RequireAct(control);
+    std::vector<int> rows;
+    const int last = WholeNumber(arguments[2]);
+    for (int row = WholeNumber(arguments[1]); row <= last; ++row) rows.push_back(row);
+    if (!PickRows(static_cast<Grid&>(control), rows, last))
+        throw ScriptFailure{control.FullName() + " has no such rows"};
+}
+
 void CloseForm(ScriptPlayer& player, const Arguments&) {
     Form& form = player.FormInHand();
     const std::string inert = WhyInert(form);

@@ -9,6 +9,7 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
+#include "platform/UserActs.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptFailure.h"
 #include "script/ScriptPlayer.h"
@@ -78,6 +79,11 @@ void QueueInput(ScriptPlayer& player, const Arguments& arguments) {
 
 void QueueFile(ScriptPlayer& player, const Arguments& arguments) {
     player.Host.Dialogs.emplace_back(ScriptHost::FileAnswer{FileNamed(player, arguments[0].Text), false});
+}
+
+void Drop(ScriptPlayer& player, const Arguments& arguments) {
+    if (!DropFile(player.FormInHand(), FileNamed(player, arguments[0].Text)))
+        throw ScriptFailure{player.FormInHand().Name() + " takes no file"};
 }
 
 void QueueSaveAs(ScriptPlayer& player, const Arguments& arguments) {

@@ -32,7 +32,9 @@ constexpr ScriptCommand Table[] = {
     {"pick", "LIST ROW", script::Pick, "a row by its number from 0, or by how it starts"},
     {"unpick", "LIST ROW", script::Unpick, "takes a row out of a list of several"},
     {"row", "GRID N [COLUMN]", script::ClickRow, "clicks a row of a grid"},
+    {"rows", "GRID FROM TO", script::ClickRows, "selects rows of a list with columns"},
     {"key", "CONTROL KEY", script::Press, "goes to a control and presses a key"},
+    {"drop", "PATH", script::Drop, "lets a file fall on the form in hand"},
     {"focus", "CONTROL", script::Focus, "goes to a control"},
     {"leave", "", script::Leave, "leaves the control that has the focus"},
 

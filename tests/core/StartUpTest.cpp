@@ -5,10 +5,12 @@
 #include <sstream>
 
 #include "core/Words.h"
+#include "forms/frmTRProg.h"
 #include "forms/LoadDefaults.h"
 #include "forms/RegisterForms.h"
 #include "platform/ProgramPlaces.h"
 #include "platform/UserActs.h"
+#include "records/RecordFiles.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {
@@ -48,6 +50,31 @@ TEST_F(StartUpTest, AnEmptyFolderShowsTheBrowserWithoutAWord) {
     EXPECT_EQ(Suite.HelpFile, SuitePath(Folder) + "\\VOTR.HLP");
     for (std::size_t slot = 1; slot <= 12; ++slot) EXPECT_EQ(Suite.Colours[slot], DefaultColours[slot - 1]);
     EXPECT_FALSE(fs::exists(DataFolder())) << "nothing is written before there is something to keep";
+}
+
+// Without a box, on the path that it lies on, and with the default path as it was.
+TEST_F(StartUpTest, TheDatabaseOfTheLastRunOpensAgain) {
+    Start();
+    auto& browser = dynamic_cast<frmTRProg&>(*LoadedForm("frmTRProg"));
+    const std::string usual = Suite.DefaultPaths[1], other = SuitePath(Folder / "other");
+    for (const std::string& folder : {usual, other}) {
+        fs::create_directories(MachinePath(folder));
+        MakeEmptyDatabase(DatabaseFileOf(folder));
+        browser.Dispatch([&] { browser.OpenAgain(DatabaseFileOf(folder)); });
+        EXPECT_EQ(browser.OpenFile(), DatabaseFileOf(folder)) << browser.Status();
+        EXPECT_EQ(browser.optBrouseDB.Checked(), folder == other);
+        browser.Dispatch([&] { browser.cmdDBClose_Click(); });
+        EXPECT_EQ(Suite.DefaultPaths[1], usual);
+    }
+    EXPECT_EQ(browser.Recent(), (frmTRProg::Files{DatabaseFileOf(other), DatabaseFileOf(usual)}));
+    std::ofstream(MachinePath(DatabaseFileOf(other))) << "words";
+    for (const std::string& file : {DatabaseFileOf(other), other + "\\none\\TRDB.MDB"}) {
+        browser.Dispatch([&] { browser.OpenAgain(file); });
+        EXPECT_TRUE(browser.Status().starts_with("Not opened again: " + file)) << browser.Status();
+        EXPECT_TRUE(browser.OpenFile().empty());
+        EXPECT_EQ(Suite.DefaultPaths[1], usual);
+    }
+    EXPECT_TRUE(User.Boxes.empty()) << User.LastText();
 }
 
 TEST_F(StartUpTest, PathsComeFromAWholeFileOnly) {

@@ -1,6 +1,8 @@
 // A window and its form say the same, whoever changes it, and the focus goes the model's way.
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -12,6 +14,7 @@
 #include "desktop/SchemePalette.h"
 #include "forms/ColourSchemes.h"
 #include "forms/ColourShades.h"
+#include "forms/frmTRProg.h"
 #include "forms/WinSeek.h"
 #include "tests/desktop/DesktopFixture.h"
 #include "tests/desktop/SampleForm.h"
@@ -292,6 +295,46 @@ TEST_F(WindowTest, CombosAndGrids) {
     EXPECT_EQ(table.currentIndex().row(), 1);
     Sample->grdCells.SetSize(1, 1);
     EXPECT_EQ(table.model()->rowCount(), 0);
+}
+
+// A list with columns: rows whole and several, a head told as row 0, the arrows choose, a menu at the right
+// button.
+TEST_F(WindowTest, AGridThatIsAListSelectsRows) {
+    Show("frmTRProg");
+    auto& browser = static_cast<frmTRProg&>(*LoadedForm("frmTRProg"));
+    auto& grid = browser.grdRecords;
+    const std::string cell = "cell";
+    std::string clicked;
+    grid.SetEnabled(true);
+    grid.SetSource(100001, 3, [&](int, int) -> const std::string& { return cell; });
+    grid.Click = [&] {
+        clicked += std::to_string(grid.Selected()) + ":" + std::to_string(grid.Picked().size()) + " ";
+    };
+    auto& table = static_cast<QTableView&>(WidgetOf(grid));
+    const auto click = [&](int row, Qt::KeyboardModifiers keys) {
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, keys,
+                          table.visualRect(table.model()->index(row, 1)).center());
+        Settle();
+    };
+    click(1, {});
+    click(3, Qt::ControlModifier);
+    EXPECT_EQ(grid.Picked(), (std::vector<int>{2, 4}));
+    click(5, Qt::ShiftModifier);
+    QTest::keyClick(&table, Qt::Key_Down);
+    Settle();
+    EXPECT_EQ(table.selectionModel()->selectedRows().size(), 1);
+    QTest::mouseClick(table.horizontalHeader()->viewport(), Qt::LeftButton, {}, {5, 5});
+    Settle();
+    EXPECT_EQ(clicked, "2:1 4:2 6:3 7:1 0:0 ");
+    grid.PickRows({1, 2, 9}, 9);
+    EXPECT_EQ(table.selectionModel()->selectedRows().size(), 3);
+    EXPECT_EQ(table.currentIndex().row(), 8);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, {5, 5}, table.viewport()->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(table.viewport(), &menu);
+    Settle();
+    QWidget* const popup = QApplication::activePopupWidget();
+    ASSERT_NE(popup, nullptr);
+    popup->close();
 }
 
 // What the model does not paint goes with what it does; nothing stands unread on its ground.

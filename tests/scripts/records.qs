@@ -233,6 +233,76 @@ new 1
 click mnuProgram
 expect txtTagNum S-1
 
+# --- The table of all records --------------------------------------------------------------------------------------
+expect-count grdRecords 8
+expect lblShown "7 records"
+expect-cell grdRecords 0 0 "Tag number ▲"
+expect grdRecords S-1
+click mnuFindRecord
+expect-focus txtFilter
+type txtFilter "FLUID tol"
+expect lblShown "1 of 7 records"
+expect-cell grdRecords 1 2 Toluene
+expect txtTagNum S-1
+key txtFilter Down
+expect-focus grdRecords
+expect txtTagNum L-1
+key txtFilter Escape
+expect-focus txtFilter
+expect grdRecords L-1
+# By a column, the other way round, and in its order the arrows choose.
+row grdRecords 0 1
+row grdRecords 0 1
+expect-cell grdRecords 0 1 "Calculation ▼"
+expect-cell grdRecords 1 0 W-1
+expect grdRecords L-1
+click cmdLast
+expect grdRecords W-1
+key grdRecords Down
+expect txtTagNum G-1
+doubleclick grdRecords
+expect-form frmGasLineLoss
+click mnuProgram
+expect-cell grdRecords 1 0 W-1
+row grdRecords 0 0
+# A copy under a tag of its own.
+input "l-1"
+answer OK
+click mnuCopyRecord
+expect-box "Copy G-1" "Tag Number is on file" OK Stop
+input "A tag number that is too long"
+answer OK
+click mnuCopyRecord
+expect-message characters
+input " G-9 "
+click mnuCopyRecord
+expect txtTagNum G-9
+key grdRecords Enter
+expect txtFluid Mixture
+expect txtDestPress(0) 149.9
+click mnuProgram
+# Several at once.
+rows grdRecords 1 2
+save-as @two.csv
+answer OK
+click mnuExportRecords
+expect-message 2 records written to
+click mnuPrintRecords
+expect-form frmPrintControl
+click cmdCancelPrint
+row grdRecords 1
+rows grdRecords 2 3
+answer No
+key grdRecords Delete
+expect-box "Confirm Record Delete" "Delete 2 records:  G-9, L-1\n\nAre you sure?" YesNo None No
+row grdRecords 2
+answer Yes
+key grdRecords Delete
+expect-message Delete Tag Number:  G-9
+expect grdRecords L-1
+open S-1
+click mnuProgram
+
 # --- Delete ------------------------------------------------------------------------------------------------------
 answer No
 click cmdDelete
@@ -340,6 +410,8 @@ click mnuExport
 expect-message A database cannot be written over by an export
 click cmdDBClose
 expect-state txtTagNum hidden
+expect-count grdRecords 1
+expect-state txtFilter disabled
 # A database that was looked at is not the default when it is closed, neither to save to nor to open.
 click optBrouseDB
 answer OK
@@ -348,6 +420,21 @@ expect-message Path
 key txtPath V
 click cmdOK
 click cmdDBOpen
+expect lblNumRecords 1
+# The databases opened last; one that falls on the window opens by the path that it lies on.
+click mnuRecentFile(2)
+expect lblNumRecords 5
+expect-state optDefaultDB checked
+click mnuRecentFile(2)
+expect lblNumRecords 1
+expect-state optBrouseDB checked
+answer OK
+drop @other.mdb
+expect-box "Database file" "Must find file named TRDB.MDB" OK
+drop @TRData/TRDB.MDB
+expect lblNumRecords 5
+expect-state optDefaultDB checked
+drop @TRData/V/TRDB.MDB
 expect lblNumRecords 1
 click cmdDBClose
 new 4

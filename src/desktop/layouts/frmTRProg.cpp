@@ -11,6 +11,12 @@ Node Database() {
                          Item("lblPath(0)").Wrapped()}));
 }
 
+Node AllRecords() {
+    return Frame("fraRecords", Column({Row({"lblFilter", Item("txtFilter").Wide(30), Stretch(), "lblShown"}),
+                                       Item("grdRecords").Wide(96).Tall(9).Grow()}))
+        .Grow();
+}
+
 Node Record() {
     const auto box = [](const char* name) { return Item(name).Wide(22).Grow(); };
     return Frame(
@@ -35,7 +41,7 @@ Node Tags() {
 Node frmTRProg() {
     return Over(Column({Frame("fraPrograms",
                               Row({Words("Choose one of the calculation programs"), Stretch(), "cmdOK"})),
-                        Database(), Record(), Stretch()}),
+                        Database(), AllRecords(), Record()}),
                 {Tags()});
 }
 

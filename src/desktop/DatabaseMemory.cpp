@@ -1,0 +1,44 @@
+// See DatabaseMemory.h.
+#include "desktop/DatabaseMemory.h"
+
+#include <QStringList>
+
+#include "desktop/Painting.h"
+#include "forms/frmTRProg.h"
+#include "platform/Forms.h"
+#include "platform/TextFiles.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* OpenKey = "databases/open";
+constexpr const char* RecentKey = "databases/recent";
+
+frmTRProg* Browser() { return dynamic_cast<frmTRProg*>(LoadedForm("frmTRProg")); }
+
+}  // namespace
+
+DatabaseMemory::DatabaseMemory(const std::string& suitePath)
+    : settings_(QString::fromStdU16String(MachinePath(suitePath).u16string()), QSettings::IniFormat) {
+    frmTRProg* const browser = Browser();
+    if (browser == nullptr) return;
+    frmTRProg::Files files;
+    for (const QString& file : settings_.value(RecentKey).toStringList()) files.push_back(file.toStdString());
+    browser->ShowRecent(files);
+    browser->DatabasesChanged = [this, browser] {
+        QStringList recent;
+        for (const std::string& file : browser->Recent()) recent << ToQt(file);
+        settings_.setValue(RecentKey, recent);
+        settings_.setValue(OpenKey, ToQt(browser->OpenFile()));
+    };
+}
+
+void DatabaseMemory::OpenAgain() const {
+    const std::string file = settings_.value(OpenKey).toString().toStdString();
+    frmTRProg* const browser = Browser();
+    if (browser == nullptr || file.empty() || !browser->Visible()) return;
+    browser->Dispatch([&] { browser->OpenAgain(file); });
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,268 @@
+// Views of grids. The cells are read from the model as they are drawn, so that 100,000 rows cost no more than
+// the few that show.
+#include <algorithm>
+#include <utility>
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QTableView>
+
+#include "desktop/ControlView.h"
+#include "desktop/Painting.h"
+
+namespace quillmetra {
+
+namespace {
+
+// The first of the fixed rows and columns are the headers of the table.
+class CellsModel : public QAbstractTableModel {
+public:
+    CellsModel(const Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {}
+
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
+    int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : columns_; }
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole) return {};
+        return ToQt(grid_.Cell(index.row() + grid_.FixedRows, index.column() + grid_.FixedColumns));
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        if (role != Qt::DisplayRole) return {};
+        if (orientation == Qt::Horizontal) {
+            return grid_.FixedRows == 0 ? QVariant() : ToQt(grid_.Cell(0, section + grid_.FixedColumns));
+        }
+        return grid_.FixedColumns == 0 ? QVariant() : ToQt(grid_.Cell(section + grid_.FixedRows, 0));
+    }
+
+    // True when the columns are others than before, or there are rows for the first time. Else the view keeps
+    // its place: a row more or less is told as one at the end, and all cells as changed, of which the view
+    // fetches those that are seen.
+    bool Renew() {
+        const int columns = std::max(0, grid_.ColumnCount() - grid_.FixedColumns);
+        const int rows = std::max(0, grid_.RowCount() - grid_.FixedRows);
+        if (columns != columns_ || (rows_ == 0 && rows > 0)) {
+            SetSize(rows, columns);
+            return true;
+        }
+        SetRowCount(rows);
+        if (rows > 0 && columns > 0) {
+            emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
+            emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
+        }
+        return false;
+    }
+
+    void Empty() { SetSize(0, 0); }
+
+private:
+    void SetSize(int rows, int columns) {
+        beginResetModel();
+        rows_ = rows;
+        columns_ = columns;
+        endResetModel();
+    }
+
+    void SetRowCount(int rows) {
+        if (rows > rows_) {
+            beginInsertRows({}, rows_, rows - 1);
+            rows_ = rows;
+            endInsertRows();
+        } else if (rows < rows_) {
+            beginRemoveRows({}, rows, rows_ - 1);
+            rows_ = rows;
+            endRemoveRows();
+        }
+    }
+
+    const Grid& grid_;
+    int rows_ = 0;
+    int columns_ = 0;
+};
+
+class GridView : public ControlView {
+public:
+    GridView(Grid& grid, QTableView* table)
+        : ControlView(grid, table),
+          grid_(grid),
+          table_(table),
+          cells_(new CellsModel(grid, table)),
+          viewport_(table->viewport()) {
+        table_->setModel(cells_);
+        table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        table_->setSelectionMode(grid.IsList ? QAbstractItemView::ExtendedSelection
+                                             : QAbstractItemView::SingleSelection);
+        table_->setTabKeyNavigation(false);
+        table_->horizontalHeader()->setVisible(grid.FixedRows > 0);
+        table_->verticalHeader()->setVisible(grid.FixedColumns > 0);
+        // All rows of one height, so that none has to be measured.
+        table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+        if (grid.IsList) {
+            BeAList();
+            return;
+        }
+        // Later, as the grid first takes the focus of the mouse, which its click may pass on.
+        connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+            Later([this, place = QPersistentModelIndex(cell)] { Chosen(place); });
+        });
+        connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex& cell) { Reached(cell); });
+    }
+
+    QWidget* MouseTarget() const override { return table_->viewport(); }
+
+    void Forget() override {
+        renewing_ = true;
+        cells_->Empty();
+        ControlView::Forget();
+    }
+
+    // While the mouse is down the user is still choosing rows.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == viewport_ && event->type() == QEvent::MouseButtonRelease) PassPicksLater();
+        if (watched == viewport_ && event->type() == QEvent::ContextMenu && Model() != nullptr) {
+            ShowPopUp(static_cast<QContextMenuEvent*>(event)->globalPos());
+            return true;
+        }
+        return ControlView::eventFilter(watched, event);
+    }
+
+protected:
+    void RenewColours() override {
+        if (Model()->ColourGroup != 0) PaintField(*table_, Model()->BackColour(), Model()->ForeColour());
+    }
+
+    void RenewRows() override {
+        renewing_ = true;
+        if (cells_->Renew()) FitColumns();
+        renewing_ = false;
+        RenewSelection();
+    }
+
+    void RenewSelection() override {
+        const QModelIndex cell =
+            cells_->index(grid_.Selected() - grid_.FixedRows, grid_.SelectedColumn() - grid_.FixedColumns);
+        if (cell == table_->currentIndex() && (!grid_.IsList || PickedRows() == grid_.Picked())) return;
+        renewing_ = true;
+        if (grid_.IsList) {
+            table_->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+            table_->selectionModel()->select(PickedByModel(), QItemSelectionModel::ClearAndSelect);
+            if (cell.isValid()) table_->scrollTo(cell);
+        } else {
+            table_->setCurrentIndex(cell);
+        }
+        renewing_ = false;
+    }
+
+private:
+    void BeAList() {
+        table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+        table_->setShowGrid(false);
+        table_->setWordWrap(false);
+        table_->horizontalHeader()->setStretchLastSection(true);
+        table_->horizontalHeader()->setSectionsClickable(true);
+        table_->horizontalHeader()->setHighlightSections(false);
+        table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        table_->viewport()->installEventFilter(this);
+        connect(table_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+            Later([this, section] {
+                if (Model() != nullptr) PickCell(grid_, 0, section + grid_.FixedColumns);
+            });
+        });
+        connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            if (!renewing_ && QApplication::mouseButtons() == Qt::NoButton) PassPicksLater();
+        });
+    }
+
+    // With room for the arrow that a head may get.
+    void FitColumns() {
+        table_->resizeColumnsToContents();
+        if (!grid_.IsList) return;
+        const int arrow = table_->fontMetrics().horizontalAdvance(QStringLiteral(" \u25B2"));
+        for (int i = 0; i < cells_->columnCount({}); ++i)
+            table_->setColumnWidth(i, table_->columnWidth(i) + arrow);
+    }
+
+    std::vector<int> PickedRows() const {
+        std::vector<int> rows;
+        for (const QItemSelectionRange& range : table_->selectionModel()->selection()) {
+            for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + grid_.FixedRows);
+        }
+        std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+        return rows;
+    }
+
+    // Rows that follow one another are one range.
+    QItemSelection PickedByModel() const {
+        QItemSelection picked;
+        const std::vector<int>& rows = grid_.Picked();
+        for (std::size_t first = 0; first < rows.size();) {
+            std::size_t last = first;
+            while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) ++last;
+            picked.append(QItemSelectionRange(
+                cells_->index(rows[first] - grid_.FixedRows, 0),
+                cells_->index(rows[last] - grid_.FixedRows, cells_->columnCount({}) - 1)));
+            first = last + 1;
+        }
+        return picked;
+    }
+
+    // Later, as the grid first takes the focus of the mouse.
+    void PassPicksLater() {
+        if (std::exchange(passing_, true)) return;
+        Later([this] {
+            passing_ = false;
+            if (Model() == nullptr || !table_->currentIndex().isValid()) return;
+            const std::vector<int> rows = PickedRows();
+            const int row = table_->currentIndex().row() + grid_.FixedRows;
+            if (!rows.empty() && (rows != grid_.Picked() || row != grid_.Selected()))
+                PickRows(grid_, rows, row);
+            if (Model() != nullptr) RenewSelection();
+        });
+    }
+
+    void ShowPopUp(const QPoint& place) {
+        const auto* const window = qobject_cast<QMainWindow*>(table_->window());
+        if (grid_.PopUp == nullptr || window == nullptr || !CanAct(grid_)) return;
+        for (const QAction* head : window->menuBar()->actions()) {
+            if (head->objectName() != ToQt(grid_.PopUp->FullName()) || head->menu() == nullptr) continue;
+            Later([menu = QPointer<QMenu>(head->menu()), place] {
+                if (menu != nullptr) menu->popup(place);
+            });
+        }
+    }
+
+    // By the arrow keys; a press of the mouse is told when it is a click.
+    void Reached(const QModelIndex& cell) {
+        if (Model() == nullptr || renewing_ || !cell.isValid() ||
+            QApplication::mouseButtons() != Qt::NoButton)
+            return;
+        MoveToCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
+    }
+
+    void Chosen(const QModelIndex& cell) {
+        if (Model() == nullptr) return;
+        PickCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
+    }
+
+    Grid& grid_;
+    QTableView* table_;
+    CellsModel* cells_;
+    const QObject* viewport_;  // also asked for while the view is being destroyed
+    bool passing_ = false;
+    bool renewing_ = false;  // the view follows the model, not the user
+};
+
+}  // namespace
+
+ControlView* MakeGridView(Grid& grid, QWidget* parent) { return new GridView(grid, new QTableView(parent)); }
+
+}  // namespace quillmetra
