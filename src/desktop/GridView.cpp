@@ -181,12 +181,12 @@ private:
         });
     }
 
-    // With room for the arrow that a head may get.
+    // With room for the arrow that a head may get; the last column takes what is left.
     void FitColumns() {
         table_->resizeColumnsToContents();
         if (!grid_.IsList) return;
         const int arrow = table_->fontMetrics().horizontalAdvance(QStringLiteral(" \u25B2"));
-        for (int i = 0; i < cells_->columnCount({}); ++i)
+        for (int i = 0; i + 1 < cells_->columnCount({}); ++i)
             table_->setColumnWidth(i, table_->columnWidth(i) + arrow);
     }
 

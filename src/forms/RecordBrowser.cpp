@@ -234,6 +234,7 @@ void frmTRProg::ShowTags(bool visible) {
     DefaultButton = visible ? &cmdSelect : &cmdOK;
     CancelButton = visible ? &cmdCancel : nullptr;
     if (!visible) lstTags.Clear();
+    EnableTable(!visible && view_ != nullptr && view_->HasRecord());
 }
 
 void frmTRProg::cmdBrowse_Click() {

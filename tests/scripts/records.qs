@@ -140,6 +140,7 @@ click cmdBrowse
 expect-state fraTags visible
 expect-state cmdSelect disabled
 expect-state cmdOK disabled
+expect-state mnuDeleteRecords disabled
 expect-count lstTags 7
 type txtSearchTag p-
 expect lstTags P-102
