@@ -1,6 +1,7 @@
 // Program 4: the properties of a liquid at temperature and pressure.
 #pragma once
 
+#include "forms/BasisLabels.h"
 #include "forms/DataForm.h"
 
 namespace quillmetra {
@@ -16,6 +17,7 @@ public:
     MenuItem mnuMixture2{mnuCase(1), "mnuMixture2", "&Mixture"};
     MenuItem mnuMixture3{mnuCase(2), "mnuMixture3", "&Mixture"};
 
+    BasisLabels Basis{Picture1};
     Label lblSGFTP{Picture1, "lblSGFTP", "Specific gravity @ FTP"};
     ControlArray<TextBox> txtSGFTP{Picture1, "txtSGFTP", {0, 1, 2}};
     Label lblSGBase{Picture1, "lblSGBase", "Specific gravity @ Base"};

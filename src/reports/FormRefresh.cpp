@@ -275,11 +275,12 @@ void ShowWaterHammer() {
     ShowSignatures(form);
 }
 
-// The form has no place for units' title and source; the report of this program reads them on the gas form.
+// The report of this program reads units' title and source on the gas form.
 void ShowLiquidData() {
     const Filling filling;
     Form& form = LoadForm("frmLiqData");
     ShowIdentity(form);
+    ShowBasis(form);
     ShowBasis(LoadForm("frmGasLineLoss"));
     ShowUnits(form, LiquidDataUnits);
     const bool density = Calc.LiquidDensityMode == words::Density;

@@ -15,7 +15,7 @@ Node frmLiqData() {
                            Cases("lblVapPressure", "txtVapPressure", "unVapPressure"),
                            Cases("lblFlashpoint", "txtFlashpoint", "unFlashPoint"),
                            Cases("lblBulkMod", "txtBulkModulus", "unBulkMod")},
-                          {}),
+                          {Basis()}),
                 {Fluids("fraLiquidData"), Components()});
 }
 

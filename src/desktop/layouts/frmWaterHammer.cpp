@@ -17,15 +17,16 @@ std::vector<Node> PassingValue(const char* label, const char* box, const char* u
 }
 
 Node Liquid() {
-    return Panel("Liquid", Column({Table({{"lblMaxLiqFlow", Item("txtMaxLiqFlow").Wide(CaseDigits),
-                                           "cmdUnits(1)", Item("lblLiqTestBasis").Wide(4)},
-                                          Value("lblFlowTemp", "txtFlowTemp", "cmdUnits(2)"),
-                                          Value("lblOperPressure", "txtOperPressure", "cmdUnits(3)"),
-                                          Value("lblSGFlow", "txtSGFlow", "cmdUnits(6)"),
-                                          Value("lblBulkModulus", "txtBulkModulus", "cmdUnits(27)"),
-                                          {"", "cmdCalculateliq"}})
-                                       .Wide(LabelDigits),
-                                   Stretch()}));
+    return Panel("Liquid",
+                 Column({Table({{"lblMaxLiqFlow", Item("txtMaxLiqFlow").Wide(CaseDigits), "cmdUnits(1)"},
+                                {"lblFlowBasis", Item("lblLiqTestBasis").Wide(4)},
+                                Value("lblFlowTemp", "txtFlowTemp", "cmdUnits(2)"),
+                                Value("lblOperPressure", "txtOperPressure", "cmdUnits(3)"),
+                                Value("lblSGFlow", "txtSGFlow", "cmdUnits(6)"),
+                                Value("lblBulkModulus", "txtBulkModulus", "cmdUnits(27)"),
+                                {"", "cmdCalculateliq"}})
+                             .Wide(LabelDigits),
+                         Stretch()}));
 }
 
 Node Line() {
