@@ -248,6 +248,8 @@ struct CalcRecord {
     Row<double, 4> StdConditions{};  // 1 to 3: pressure, temperature, barometer as a unit set left them
     double Scratch = 0;              // in and out of RoundThree, RoundFour and RoundSix
 
+    bool operator==(const CalcRecord&) const = default;
+
     CalcRecord() {
         UnitFactor.fill(1);
         UnitFactorShown.fill(1);

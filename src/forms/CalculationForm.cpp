@@ -17,6 +17,7 @@
 #include "platform/NumberText.h"
 #include "platform/Plot.h"
 #include "platform/TextFiles.h"
+#include "platform/UserActs.h"
 #include "records/ChangeDetection.h"
 #include "records/RecordFiles.h"
 #include "records/Recovery.h"
@@ -79,6 +80,7 @@ CalculationForm::CalculationForm(const Names& names)
     mnuSave.Shortcut = "Ctrl+S";
     mnuPrint.Shortcut = "Ctrl+P";
     mnuCopyResults.Shortcut = "Ctrl+Shift+C";
+    mnuCalculateAll.Shortcut = keys::CalculateAll;
     mnuHelp.Shortcut = keys::Help;
     mnuHelp.StandsLast = true;
     mnuPrint.SetEnabled(false);  // a print waits for results
@@ -90,6 +92,8 @@ CalculationForm::CalculationForm(const Names& names)
     mnuProgram.Click = [this] { mnuProgram_Click(); };
     mnuExit.Click = [this] { mnuExit_Click(); };
     mnuCopyResults.Click = [this] { mnuCopyResults_Click(); };
+    // By its button, so that the box in hand is left first.
+    mnuCalculateAll.Click = [this] { ClickControl(CalculateAllButton()); };
     mnuHelp.Click = [this] { mnuHelp_Click(); };
     mnuPathDataFile.Click = [] { FindDefaultPath(1); };
     mnuPathUserUnitFile.Click = [] { FindDefaultPath(2); };
@@ -230,7 +234,7 @@ void CalculationForm::ClearCase(int caseIndex) {
     if (Control* button = CalculateButton(caseIndex)) button->SetEnabled(true);
     BlankResults(caseIndex);
     ResultsBlanked(caseIndex);
-    if (caseIndex == hintedCase_) ShowHint("");
+    if (caseIndex == hintedCase_ || hintedCase_ == EveryCase) ShowHint("");
     clearable = words::No;
     if (!LineResultStands()) BlankLineResults();
 }

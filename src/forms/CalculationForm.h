@@ -25,6 +25,7 @@ public:
     };
     static constexpr std::initializer_list<int> EachCase = {0, 1, 2};
     static constexpr std::initializer_list<int> OneCase = {};
+    static constexpr const char* CalculateAllTip = "Calculates every case that has data (F5)";
 
     explicit CalculationForm(const Names& names);
 
@@ -52,6 +53,7 @@ public:
     MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
     MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
     MenuItem mnuCopyResults{mnuEdit, "mnuCopyResults", "&Copy inputs and results"};
+    MenuItem mnuCalculateAll{mnuEdit, "mnuCalculateAll", "Calculate &all"};
     MenuItem mnuFluiProp;
     ControlArray<MenuItem> mnuCase;
     MenuItem mnuDefPath{*this, "mnuDefPath", "Default pa&ths"};
@@ -97,6 +99,10 @@ public:
     void mnuHelp_Click();
     void cmdDate_Click();
 
+    // Calculates each case that has data, as its button does, from the first on. What there is only to be told
+    // is told at the end, in one box; a question is asked at its case.
+    void CalculateAll();
+
     // Gives up what is open over the inputs, before an act that takes the record as it is.
     virtual void CloseOverlays() {}
 
@@ -117,6 +123,12 @@ protected:
     virtual void ShowChoices() {}
     // The calculate button of a case, null when there is none.
     virtual Control* CalculateButton(int) { return nullptr; }
+    // The button that calculates all there is to calculate.
+    virtual CommandButton& CalculateAllButton() = 0;
+    // Whether a case has what its calculation begins with.
+    virtual bool HasData(int) { return true; }
+    // As the heads of the columns have it.
+    virtual std::string CaseName(int caseIndex) const;
     int InputSlot(const Control& box) const override;
     std::string StandingStatus() const override { return hint_; }
     // What a user should know about the case in hand as it is calculated: where it lies outside the range of
@@ -150,10 +162,12 @@ private:
     bool SaveTo(const std::string& databaseFile);
     void BlankResults(int caseIndex);
     void BlankLineResults();
+    static void PressCase(Control& button);
     void SetCalculateButtons(bool enabled);
 
     int program_;
     std::string hint_;
+    static constexpr int EveryCase = -1;
     int hintedCase_ = 0;
 };
 

@@ -24,9 +24,12 @@ DataForm::DataForm(const Names& names) : FluidForm(names) {
         lblCase(i).SetCaption("Case " + std::to_string(i + 1));
         mnuCase(i).SetCaption(CaseMenus[word]);
         cmdOK(i).SetCaption(words::Cases[word]);
-        cmdOK(i).SetToolTip("Finds the properties of the fluid in hand for case " + std::to_string(i + 1));
+        cmdOK(i).Describe(&lblCase(i));
+        cmdOK(i).SetToolTip("Finds the properties of the fluid in hand for Case " + std::to_string(i + 1));
         cmdOK(i).Click = [this, i] { cmdOK_Click(i); };
     }
+    cmdCalculateAll.SetToolTip(CalculateAllTip);
+    cmdCalculateAll.Click = [this] { CalculateAll(); };
     HookUnits(cmdUnits);
 }
 
@@ -40,7 +43,7 @@ void DataForm::Assemble() {
         }
     }
     for (Control* control : std::initializer_list<Control*>{
-             &txtBy, &txtApprov, &cmdDate, &txtComments(0), &txtComments(1), &cmdFormLayout,
+             &cmdCalculateAll, &txtBy, &txtApprov, &cmdDate, &txtComments(0), &txtComments(1), &cmdFormLayout,
              &cmdUnits(unit::Temperature), &cmdUnits(unit::Pressure)}) {
         TabOrder.push_back(control);
     }
@@ -77,6 +80,14 @@ bool DataForm::CheckState() {
     }
     Calc.TempPressureOk = words::Yes;
     return true;
+}
+
+// Saturated steam finds its temperature by itself.
+bool DataForm::HasData(int caseIndex) {
+    NoteEntered(caseIndex);
+    const bool hasPressure = !Trim(txtPressure(caseIndex).Text()).empty();
+    const bool hasTemperature = !Trim(txtTemp(caseIndex).Text()).empty();
+    return hasPressure && (hasTemperature || (Calc.SteamKind == words::Saturated && CanPick(caseIndex)));
 }
 
 void DataForm::cmdOK_Click(int index) {

@@ -18,6 +18,7 @@ public:
     Label lblPressure{Picture1, "lblPressure", "Pressure"};
     ControlArray<TextBox> txtPressure{Picture1, "txtPressure", {0, 1, 2}};
     ControlArray<CommandButton> cmdOK{Picture1, "cmdOK", {0, 1, 2}, ""};
+    CommandButton cmdCalculateAll{Picture1, "cmdCalculateAll", "&Calculate all"};
     ControlArray<CommandButton> cmdUnits{Picture1, "cmdUnits", {2, 3}, ""};
 
     // Properties of liquids and of gases
@@ -63,6 +64,8 @@ protected:
     void FluidTaken() override;
     void ShowChoices() override;
     void StoreOwn() override;
+    CommandButton& CalculateAllButton() override { return cmdCalculateAll; }
+    bool HasData(int caseIndex) override;
     Control* CalculateButton(int caseIndex) override { return &cmdOK(caseIndex); }
 
     // To be called by the form when its own controls stand.

@@ -7,6 +7,7 @@
 #include "forms/DataCheck.h"
 #include "lineloss/LineRanges.h"
 #include "platform/Keys.h"
+#include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "units/Border.h"
 #include "units/CorrelationRange.h"
@@ -52,6 +53,7 @@ void LineLossForm::OrderTabs() {
         }
         TabOrder.push_back(&cmdCalculate(i));
     }
+    TabOrder.push_back(&cmdCalculateAll);
     for (Control* control : std::initializer_list<Control*>{&txtBy, &txtApprov, &cmdDate, &txtComments(0),
                                                             &txtComments(1), &cmdFormLayout}) {
         TabOrder.push_back(control);
@@ -64,6 +66,8 @@ void LineLossForm::OrderTabs() {
 void LineLossForm::HookLine() {
     cmdCalculate.Each(
         [this](CommandButton& button, int i) { button.Click = [this, i] { cmdCalculate_Click(i); }; });
+    cmdCalculateAll.SetToolTip(CalculateAllTip);
+    cmdCalculateAll.Click = [this] { CalculateAll(); };
     cmdPipeID.Click = [this] { OpenPipeSizes(); };
     cmdMatl.Click = [this] { cmdMatl_Click(); };
     lstMatl.DoubleClick = [this] { lstMatl_DoubleClick(); };
@@ -83,6 +87,10 @@ void LineLossForm::HookLine() {
 }
 
 void LineLossForm::ShowChoices() {
+    for (Control* control : std::initializer_list<Control*>{&lblEquivLen, &txtEquivLen}) {
+        control->SetToolTip(
+            "Of the case calculated last, with its equipment and elevation as length of pipe");
+    }
     lstMatl.SetVisible(false);
     ShowFluidEntries();
     if (Calc.PressureDirection == 2) {
@@ -170,6 +178,11 @@ void LineLossForm::cmdCalculate_Click(int index) {
     Calc.CalculatedFlag = words::Yes;
 }
 
+bool LineLossForm::HasData(int caseIndex) {
+    const auto isEmpty = [](const TextBox& box) { return Trim(box.Text()).empty(); };
+    return !isEmpty(txtFlow(caseIndex)) && !isEmpty(txtTemp(caseIndex)) && !isEmpty(txtPressure(caseIndex));
+}
+
 void LineLossForm::ShowLineResults(const LineResults& results) {
     const int i = Calc.CaseIndex;
     Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
@@ -202,13 +215,16 @@ void LineLossForm::Recalculate() {
 void LineLossForm::DrawResults() {
     for (int i = 0; i < CaseCount; ++i) {
         PlotDrawing& drawing = drawn_[static_cast<std::size_t>(i)];
-        drawing = StandingResult(result::Velocity, i) > 0 ? DrawingOf(i) : PlotDrawing{};
+        const bool hasResults = StandingResult(result::Velocity, i) > 0;
+        hasResults ? ShowFigures(i) : BlankFigures(i);
+        drawing = hasResults ? DrawingOf(i) : PlotDrawing{};
         drawing.Title = SpokenCaption(lblCase(i).Caption()) + " case";
     }
     DrawCases();
 }
 
 void LineLossForm::ResultsBlanked(int caseIndex) {
+    BlankFigures(caseIndex);
     drawn_[static_cast<std::size_t>(caseIndex)] = {};
     DrawCases();
 }

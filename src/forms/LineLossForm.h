@@ -70,6 +70,7 @@ public:
     Label lblEquip{Picture1, "lblEquip", "Equipment loss"};
     ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
     ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
+    CommandButton cmdCalculateAll{Picture1, "cmdCalculateAll", "&Calculate all"};
     ControlArray<CommandButton> cmdUnits;
 
     // Results
@@ -114,6 +115,11 @@ protected:
     void DrawResults() override;
     // The line of a case whose results stand; without series when the form knows nothing to draw of it.
     virtual PlotDrawing DrawingOf(int caseIndex) const = 0;
+    // What follows from the results of a case.
+    virtual void ShowFigures(int caseIndex) = 0;
+    virtual void BlankFigures(int caseIndex) = 0;
+    CommandButton& CalculateAllButton() override { return cmdCalculateAll; }
+    bool HasData(int caseIndex) override;
     Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
 
     // The results that both lines have, to the record and to their boxes.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/BaseConditions.h"
+#include "forms/CaseFigures.h"
 #include "forms/GasEntries.h"
 #include "forms/LineLossForm.h"
 #include "lineloss/GasLineLoss.h"
@@ -39,6 +40,7 @@ public:
     Label lblSonicVelocity{Picture1, "lblSonicVelocity", "Sonic velocity"};
     ControlArray<TextBox> txtSonicVelocity{Picture1, "txtSonicVelocity", {0, 1, 2}};
     Label unSonicVelocity{Picture1, "unSonicVelocity"};
+    GasRows Figures{Picture1};
     BaseConditions Base{*this};
 
     void CloseOverlays() override;
@@ -52,6 +54,8 @@ protected:
     bool CalculateCase() override;
     HintList Hints() const override;
     PlotDrawing DrawingOf(int caseIndex) const override;
+    void ShowFigures(int caseIndex) override { Figures.Show(caseIndex, GasFiguresOf(caseIndex)); }
+    void BlankFigures(int caseIndex) override { Figures.Blank(caseIndex); }
     void FillCase() override;
     std::vector<TextBox*> FluidBoxes(int caseIndex) override;
     void ShowSteam() override;

@@ -1,6 +1,7 @@
 // See frmLiqLineLoss.h.
 #include "forms/frmLiqLineLoss.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/Filling.h"
@@ -27,7 +28,11 @@ frmLiqLineLoss::frmLiqLineLoss()
                     unit::LiquidDensity, unit::Viscosity, unit::PipeSize, unit::Length}) {
     Entries = {
         {&mnuPureLiquid1, &mnuMixture1}, {&mnuPureLiquid2, &mnuMixture2}, {&mnuPureLiquid3, &mnuMixture3}};
+    chkLossParts.SetToolTip(
+        "Shows what the pipe, the fittings, the equipment and the elevation have of the total loss");
+    chkLossParts.Click = [this] { Figures.ShowParts(chkLossParts.Checked()); };
     Assemble();
+    TabOrder.insert(std::ranges::find(TabOrder, &cmdCalculateAll) + 1, &chkLossParts);
 }
 
 std::vector<LineLossForm::CaseBoxes> frmLiqLineLoss::BoxesOfACase() const {

@@ -1,6 +1,7 @@
 // Program 1: the pressure at the far end of a liquid line, for three cases.
 #pragma once
 
+#include "forms/CaseFigures.h"
 #include "forms/LineLossForm.h"
 
 namespace quillmetra {
@@ -20,6 +21,8 @@ public:
     ControlArray<TextBox> txtSGFlow{Picture1, "txtSGFlow", {0, 1, 2}};
     Label lblReynoldsNum{Picture1, "lblReynoldsNum", "Reynolds number"};
     ControlArray<TextBox> txtReynoldsNum{Picture1, "txtReynoldsNum", {0, 1, 2}};
+    LiquidRows Figures{Picture1};
+    CheckBox chkLossParts{Picture1, "chkLossParts", "Loss &in parts"};
 
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
@@ -27,6 +30,8 @@ protected:
     bool CheckSourcePressure() override;
     bool CalculateCase() override;
     PlotDrawing DrawingOf(int caseIndex) const override;
+    void ShowFigures(int caseIndex) override { Figures.Show(caseIndex, LiquidFiguresOf(caseIndex)); }
+    void BlankFigures(int caseIndex) override { Figures.Blank(caseIndex); }
     bool CheckState() override;
     void FillCase() override;
     std::vector<TextBox*> FluidBoxes(int caseIndex) override {

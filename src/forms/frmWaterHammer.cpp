@@ -18,8 +18,6 @@
 
 namespace quillmetra {
 
-namespace {}
-
 frmWaterHammer::frmWaterHammer()
     : FluidForm({.Program = 3,
                  .Form = "frmWaterHammer",
@@ -51,6 +49,8 @@ frmWaterHammer::frmWaterHammer()
     }
     OrderTabs();
 
+    Alias("cmdCalculateAll", cmdCalculateliq);  // it has one case
+    cmdCalculateliq.SetToolTip("Calculates the closing times (F5)");
     cmdCalculateliq.Click = [this] { cmdCalculateliq_Click(); };
     cmdPipeID.Click = [this] { OpenPipeSizes(); };
     cmdPipeMatl.Click = [this] { cmdPipeMatl_Click(); };

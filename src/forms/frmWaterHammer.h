@@ -21,6 +21,7 @@ public:
     // The liquid
     Label lblMaxLiqFlow{Picture1, "lblMaxLiqFlow", "Maximum flow"};
     TextBox txtMaxLiqFlow{Picture1, "txtMaxLiqFlow"};
+    Label lblFlowBasis{Picture1, "lblFlowBasis", "Flow basis"};
     Label lblLiqTestBasis{Picture1, "lblLiqTestBasis"};
     Label lblFlowTemp{Picture1, "lblFlowTemp", "Flow temperature"};
     TextBox txtFlowTemp{Picture1, "txtFlowTemp"};
@@ -105,6 +106,7 @@ protected:
     void ShowChoices() override;
     void ResultsBlanked(int) override { pltClosing.Clear(); }
     void DrawResults() override;
+    CommandButton& CalculateAllButton() override { return cmdCalculateliq; }
     Control* CalculateButton(int caseIndex) override { return caseIndex == 0 ? &cmdCalculateliq : nullptr; }
 
 private:

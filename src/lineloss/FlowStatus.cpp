@@ -14,6 +14,8 @@ namespace quillmetra {
 
 namespace {
 
+bool ToldAlone = false;
+
 // Two rows end at 3.4, so that the second is never reached, and the limit of 1500000 below 1.5 in exceeds
 // that of the row after it: the table stands as it is.
 constexpr std::array<TurbulenceRow, 15> TurbulenceTable = {{
@@ -61,6 +63,7 @@ void TellFlowZone() {
     const char* zone = ZoneText();
     if (!Suite.HideFlowStatus.empty()) return;
     Calc.MessageText = std::string(CaseWord()) + zone;
+    if (ToldAlone) return Tell(Calc.MessageText, Calc.MessageTitle, Icon::Question);
     if (AskYesNo(Calc.MessageText + "\n\n\n(Press No to hide the message)", Calc.MessageTitle,
                  Icon::Question))
         return;
@@ -88,6 +91,13 @@ const TurbulenceRow* FindTurbulenceRow(double pipeId) {
     return found == TurbulenceTable.end() ? nullptr : found;
 }
 
+const char* FlowRegimeOf(double reynolds, double statusReynolds, double pipeId) {
+    if (reynolds <= LaminarLimit) return "laminar";
+    if (reynolds <= CriticalLimit) return "critical";
+    const TurbulenceRow* const row = FindTurbulenceRow(pipeId);
+    return row != nullptr && statusReynolds < row->ReynoldsLimit ? "transition" : "turbulent";
+}
+
 void CalcFlowStatus() {
     Calc.TransitionMark.clear();
     Calc.MessageTitle = "Flow Status";
@@ -99,5 +109,8 @@ void CalcFlowStatus() {
     if (!IsYes(Suite.HideFlowStatus)) TellFlowZone();
     SetEquivalentLengths();
 }
+
+FlowStatusAlone::FlowStatusAlone() { ToldAlone = true; }
+FlowStatusAlone::~FlowStatusAlone() { ToldAlone = false; }
 
 }  // namespace quillmetra

@@ -39,9 +39,23 @@ struct TurbulenceRow {
 // The first row whose limit exceeds the inside diameter (in); null at 48 in and above.
 const TurbulenceRow* FindTurbulenceRow(double pipeId);
 
+// The zone in a word: laminar, critical, transition or turbulent. The friction goes by the first Reynolds
+// number, transition by the second one, of the liquid's constant.
+const char* FlowRegimeOf(double reynolds, double statusReynolds, double pipeId);
+
 // Sets ReynoldsNumber (by the liquid's constant, for gas too), TurbulentFactor, TransitionMark and the
 // equivalent lengths of the fittings that the line has, and tells the user the flow zone. The answer No hides
 // that message for the rest of the run. At 48 in and above TurbulentFactor keeps its last value.
 void CalcFlowStatus();
+
+// For its life the zone is told without the question that can hide it, as where several cases are calculated
+// in one act. It does not nest.
+class FlowStatusAlone {
+public:
+    FlowStatusAlone();
+    ~FlowStatusAlone();
+    FlowStatusAlone(const FlowStatusAlone&) = delete;
+    FlowStatusAlone& operator=(const FlowStatusAlone&) = delete;
+};
 
 }  // namespace quillmetra

@@ -16,10 +16,6 @@ namespace {
 constexpr int MostRounds = 100;
 constexpr double SmallestStep = 1e-06;
 
-// 62.36 lb/ft3 here, where data checking turns an entered density into a gravity by 62.366: a density entered
-// as such comes back a little changed.
-constexpr double FrictionWaterDensity = 62.36;
-
 void WarnOfNoConvergence() {
     Calc.MessageTitle = "Friction Factor Calculation";
     Tell("Will not converge\nUse data with care", Calc.MessageTitle, Icon::Question);

@@ -13,6 +13,10 @@ inline constexpr const char* LineLossTitle = "Line pressure loss calculation";
 constexpr double LaminarLimit = 2000;
 constexpr double CriticalLimit = 4000;
 
+// 62.36 lb/ft3 here, where data checking turns an entered density into a gravity by 62.366: a density entered
+// as such comes back a little changed.
+inline constexpr double FrictionWaterDensity = 62.36;
+
 // The definition, 4 W / (pi d u), as 6.31 x flow (lb/h) / inside diameter (in) / viscosity (cp).
 double ReynoldsOf(double massFlow, double pipeId, double viscosity);
 

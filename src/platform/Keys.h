@@ -19,9 +19,10 @@ inline constexpr const char* Right = "Right";
 inline constexpr const char* PageUp = "PageUp";
 inline constexpr const char* PageDown = "PageDown";
 inline constexpr const char* Help = "F1";
+inline constexpr const char* CalculateAll = "F5";
 
-inline constexpr std::array Named = {Enter, Escape, Tab,   Backspace, Delete,   Up,
-                                     Down,  Left,   Right, PageUp,    PageDown, Help};
+inline constexpr std::array Named = {Enter, Escape, Tab,    Backspace, Delete, Up,          Down,
+                                     Left,  Right,  PageUp, PageDown,  Help,   CalculateAll};
 
 inline constexpr const char* Ctrl = "Ctrl+";
 inline constexpr const char* Alt = "Alt+";

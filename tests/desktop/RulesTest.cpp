@@ -241,9 +241,9 @@ TEST_P(Rules, TabFollowsTheReadingOrder) {
 
 TEST_P(Rules, EveryNumberHasItsUnitBesideIt) {
     const std::set<std::string> withoutUnit = {
-        "txtInletGate", "txtInletGlobe",  "txtInletCheck",  "txtInlet90Deg", "txtInlet45Deg",
-        "txtInletThru", "txtInletBranch", "txtReynoldsNum", "txtPipeCond",   "txtPercent",
-        "txtMW",        "txtRatioSH",     "txtSGFTP",       "txtSGBase",     "txtCompFactor"};
+        "txtInletGate",   "txtInletGlobe",  "txtInletCheck", "txtInlet90Deg", "txtInlet45Deg", "txtInletThru",
+        "txtInletBranch", "txtReynoldsNum", "txtPipeCond",   "txtPercent",    "txtMW",         "txtRatioSH",
+        "txtSGFTP",       "txtSGBase",      "txtCompFactor", "txtRegime",     "txtOutletMach"};
     for (const Control* control : Shown.Controls()) {
         if (control->Kind() != ControlKind::TextBox || !control->Seen()) continue;
         if (!static_cast<const TextBox*>(control)->IsNumber || withoutUnit.contains(control->Name()))

@@ -187,7 +187,7 @@ protected:
     }
 
     static bool Calculates(const quillmetra::Form& form, const Control& control) {
-        return control.Name().starts_with("cmdCalculate") || control.Name().starts_with("mnuS") ||
+        return control.Name().find("Calculate") == 3 || control.Name().starts_with("mnuS") ||
                control.Name() == "cmdOK" || ShowsFluids(form);
     }
 
@@ -228,7 +228,7 @@ protected:
             std::string& former = inputs_[static_cast<std::size_t>(i)];
             if (!HasResults(*form, i)) {
                 former.clear();
-            } else if (former.empty() || (calculated && Calc.CaseIndex == i)) {
+            } else if (former.empty() || (calculated && (Calc.CaseIndex == i || last_.ends_with("All")))) {
                 former = InputsOf(*form, i);
                 ++results_;
             } else {

@@ -43,5 +43,52 @@ INSTANTIATE_TEST_SUITE_P(Seeds, RestlessSuite,
                          Combine(Range(0, 1), Range(1, 1 + Setting("QUILLMETRA_SEEDS", 4))));
 INSTANTIATE_TEST_SUITE_P(OneProgram, RestlessSuite, Combine(Range(1, 6), Range(1, 3)));
 
+// One with a hole in it, and one whose second case is refused.
+class AllCases : public RestlessFixture, public ::testing::WithParamInterface<int> {
+protected:
+    AllCases() : RestlessFixture(1) {}
+
+    CalcRecord Calculated(bool refused, bool atOnce) {
+        ResetForms();
+        RegisterForms();
+        Calc = CalcRecord();
+        Suite.HideFlowStatus.clear();
+        StartUp(SuitePath(Folder));
+        ClickControl(ControlOf("frmTRProg", "cmdOK"));
+        ClickControl(ControlOf("frmObxProg", "optProgram", GetParam()));
+        ClickControl(ControlOf("frmObxProg", "cmdOK"));
+        CalculationForm& form = *Calculation();
+        const std::vector<int> cases = GetParam() == 3 ? std::vector{0} : std::vector{0, 1, 2};
+        for (const int i : cases) {
+            if (i != 1 || refused) FillGoodCase(form, i);
+        }
+        if (refused && GetParam() != 3) Type(*form.Find("txtTemp", 1), "-500");
+        Host.Boxes.clear();
+        if (atOnce) {
+            PressKey(form, "F5");
+        } else {
+            for (const int i : cases) {
+                if (i != 1 || refused) ClickControl(*CalculateButton(form, i));
+            }
+        }
+        return Calc;
+    }
+
+    FakeHost Host;
+};
+
+TEST_P(AllCases, AreThoseOfTheirButtons) {
+    for (const bool refused : {false, true}) {
+        const CalcRecord byButtons = Calculated(refused, false);
+        EXPECT_TRUE(byButtons == Calculated(refused, true)) << refused;
+        const auto tells = [](const MessageBox& box) { return box.Choice == Buttons::Ok; };
+        EXPECT_LE(std::ranges::count_if(Host.Boxes, tells), refused ? 2 : 1);  // one as the box is left
+        EXPECT_TRUE(
+            std::ranges::none_of(Host.Boxes, [](const auto& box) { return box.Title == "Flow Status"; }));
+        EXPECT_EQ(Suite.HideFlowStatus, "");
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Programs, AllCases, Range(1, 6));
+
 }  // namespace
 }  // namespace quillmetra

@@ -109,7 +109,7 @@ bool IsInput(CalculationForm& form, Control& control) {
     if (!CanAct(control)) return false;
     switch (control.Kind()) {
         case ControlKind::TextBox: return !static_cast<TextBox&>(control).Locked;
-        case ControlKind::CheckBox: return true;
+        case ControlKind::CheckBox: return control.Name() != "chkLossParts";  // shows more, changes nothing
         case ControlKind::OptionButton: return !static_cast<OptionButton&>(control).Checked();
         default: return &control == &form.cmdDate;
     }

@@ -65,6 +65,11 @@ TEST_F(LiquidLineLossTest, AgreesWithTheIndependentProgram) {
         ASSERT_EQ(Calc.TurbulentFactor, line["turbulent"]);
         ASSERT_EQ(Calc.FlowZone.empty() ? "-" : Calc.FlowZone, line.Fields.at("zone"));
         ASSERT_EQ(Calc.TransitionMark.empty() ? "-" : Calc.TransitionMark, line.Fields.at("mark"));
+        const std::string regime = Calc.FlowZone == "Lam"        ? "laminar"
+                                   : Calc.FlowZone == "Crit"     ? "critical"
+                                   : Calc.TransitionMark.empty() ? "turbulent"
+                                                                 : "transition";
+        ASSERT_EQ(FlowRegimeOf(Calc.ReynoldsNumber, Calc.ReynoldsNumber, Calc.PipeId[1]), regime);
         ASSERT_NEAR(Calc.LossPer100 / line["loss100"], 1, 1e-12);
         ASSERT_NEAR(Calc.Velocity / line["velocity"], 1, 1e-14);
         ASSERT_NEAR(Calc.EquivLength, line["equivalent"], 1e-10 * std::fabs(line["equivalent"]));

@@ -106,6 +106,10 @@ expect-status "The line chokes at 18433 lb/h and cannot pass this flow (adiabati
 type txtFlow(1) 18200
 click cmdCalculate(1)
 expect-status "The line chokes at 18375 lb/h (adiabatic, not printed), seen here as 0.41 of sonic velocity. Velocity over sonic velocity above 0.3: the loss is about 18 % low, without what speeds up the gas."
+expect txtRegime(1) transition
+expect txtOutletMach(1) 0.3902
+expect txtTotalLoss(1) 79.71
+expect txtOutletDensity(1) 0.1011
 # Its critical pressure lowered to 100 psia and its critical temperature raised: near its liquid.
 type txtFlow(1) 5000
 type txtCritTemp(1) 540

@@ -75,4 +75,59 @@ expect txtInletPipeID ""
 expect pltLine ""
 expect cmdUnits(3) psia
 expect-title "Ver.6.0.0.  Line Loss  - Liquid flow"
+
+# --- All cases that have data at once, from the box in hand, and what follows from their record.
+key txtFlow(0) F5
+expect-status "No case has its data yet"
+type txtInletPipeLen 1000
+type txtInletPipeID 4.026
+type txtOutletPipeElev 20
+type txtInlet90Deg 4
+type txtFlow(0) 100
+type txtTemp(0) 60
+type txtPressure(0) 114.7
+type txtSGFlow(0) 1
+type txtViscosity(0) 1
+type txtFlow(1) 100000
+type txtTemp(1) 60
+type txtPressure(1) 114.7
+type txtSGFlow(1) 1
+type txtViscosity(1) 1
+type txtEquip(1) 2
+type txtFlow(2) 100000
+type txtTemp(2) 60
+key txtFlow(2) F5
+expect-no-message
+expect-focus txtBy
+expect txtRegime(0) laminar
+expect txtRegime(1) transition
+expect txtRegime(2) ""
+expect-status "Maximum: Reynolds number below 2000: the fittings count as in turbulent flow."
+type txtPressure(2) -1
+answer OK
+click cmdCalculateAll
+expect-box "Calculate all" "Minimum: Pressure must be greater than zero" OK Information
+expect txtTotalLoss(1) 20.57
+expect-state txtPipeLoss(1) hidden
+click chkLossParts
+expect-state txtPipeLoss(1) visible
+expect txtPipeLoss(1) 9.689
+expect txtFittingsLoss(1) 0.2188
+expect txtEquipmentLoss(1) 2
+expect txtElevationLoss(1) 8.661
+expect txtPipeAndFittings(0) 1001
+expect txtPipeAndFittings(1) 1023
+expect txtVaporMargin(1) ""
+click mnuPureLiquid2
+pick lstFluid "Water "
+click cmdSelect
+expect txtTotalLoss(1) ""
+click cmdCalculate(1)
+expect txtVaporMargin(1) 93.76
+expect txtNpshAvailable(1) 216.5
+click optSource
+expect txtRegime(1) ""
+click cmdCalculate(1)
+expect txtTotalLoss(1) 20.69
+expect txtVaporMargin(1) 114.5
 quit

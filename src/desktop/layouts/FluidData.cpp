@@ -9,7 +9,7 @@ Node FluidData(std::vector<std::vector<Node>> properties, std::vector<Node> besi
          Item("lblCase(2)").Centred()},
         Cases("lblTemp", "txtTemp", "cmdUnits(2)"),
         Cases("lblPressure", "txtPressure", "cmdUnits(3)"),
-        {Words("Calculate"), "cmdOK(0)", "cmdOK(1)", "cmdOK(2)"}};
+        {Words("Calculate"), "cmdOK(0)", "cmdOK(1)", "cmdOK(2)", "cmdCalculateAll"}};
     for (auto& row : properties) rows.push_back(std::move(row));
     std::vector<Node> right = {Signatures()};
     for (Node& part : beside) right.push_back(std::move(part));

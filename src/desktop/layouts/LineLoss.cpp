@@ -29,15 +29,23 @@ Node Fittings() {
 
 Node Direction() { return Panel("Direction", Column({"optDestination", "optSource", Stretch()})); }
 
-Node CasesAndResults(std::vector<std::vector<Node>> rows) {
-    rows.push_back({"lblEquivLen", Item("txtEquivLen").Wide(CaseDigits), "unEquivLen"});
+Node CasesAndResults(std::vector<std::vector<Node>> rows, std::vector<std::vector<Node>> following) {
+    rows.push_back(
+        {"lblEquivLen", Item("txtEquivLen").Wide(CaseDigits), "unEquivLen", Item("chkLossParts").Across(2)});
+    for (auto& row : following) rows.push_back(std::move(row));
     return Panel("", Column({Table(std::move(rows)).Wide(LabelDigits), Stretch()}));
 }
 
 }  // namespace
 
 std::vector<Node> CalculateRow() {
-    return {Words("Calculate"), "cmdCalculate(0)", "cmdCalculate(1)", "cmdCalculate(2)"};
+    return {Words("Calculate"), "cmdCalculate(0)", "cmdCalculate(1)", "cmdCalculate(2)", "cmdCalculateAll"};
+}
+
+std::vector<Node> PassingCases(const std::string& stem) {
+    std::vector<Node> cells = Cases("lbl" + stem, "txt" + stem, "un" + stem);
+    for (Node& cell : cells) cell = std::move(cell).Collapsing();
+    return cells;
 }
 
 std::vector<Node> CaseHeads() {
@@ -45,9 +53,9 @@ std::vector<Node> CaseHeads() {
             Item("lblCase(2)").Centred()};
 }
 
-Node LineLoss(std::vector<std::vector<Node>> rows) {
+Node LineLoss(std::vector<std::vector<Node>> rows, std::vector<std::vector<Node>> following) {
     return Frame("Picture1", Column({Identification(), Row({Line().Grow(), Direction()}), Fittings(),
-                                     Row({CasesAndResults(std::move(rows)),
+                                     Row({CasesAndResults(std::move(rows), std::move(following)),
                                           Column({Signatures(), Basis(), Item("pltLine").Grow()}).Grow()})
                                          .Grow(),
                                      Item("lstMatl").Wide(16).Tall(7).Under("cmdMatl")}))

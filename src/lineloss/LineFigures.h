@@ -1,0 +1,33 @@
+// What follows from the record of a line beside its results. The form shows it; nothing of it is stored or
+// printed.
+#pragma once
+
+namespace quillmetra {
+
+// In the fixed units of the calculations; no number where a figure is not known.
+struct LineFigures {
+    const char* Regime = "";  // laminar, critical, transition, turbulent
+    double TotalLoss;         // psi, source less destination
+    double PipeAndFittings;   // ft of straight pipe
+};
+
+// The parts make up the total loss.
+struct LiquidFigures : LineFigures {
+    double PipeLoss, FittingsLoss, EquipLoss, ElevationLoss;  // psi
+    double VaporMargin;    // psi, of the destination pressure over the vapor pressure
+    double NpshAvailable;  // ft of the liquid at the destination, without its velocity head
+};
+
+struct GasFigures : LineFigures {
+    double OutletMach;     // by the sonic velocity of the results
+    double OutletDensity;  // lb/ft3
+};
+
+// Of a case of the record in hand whose results stand.
+LiquidFigures LiquidFiguresOf(int caseIndex);
+GasFigures GasFiguresOf(int caseIndex);
+
+// ft of a liquid: 0.4331 psi is a foot of water.
+double NpshOf(double margin, double gravity);
+
+}  // namespace quillmetra
