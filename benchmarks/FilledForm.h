@@ -29,7 +29,8 @@ inline const std::vector<std::pair<std::string, std::string>> FilledBoxes = {
 
 class FilledForm {
 public:
-    FilledForm() : host_(out_) {
+    // Program 1 with its case, another one empty.
+    explicit FilledForm(int program = 1) : host_(out_) {
         ResetForms();
         InstallHost(&host_);
         Calc = CalcRecord();
@@ -37,8 +38,10 @@ public:
         RegisterForms();
         StartUp(SuitePath(folder_.Path()));
         ClickControl(ControlOf("frmTRProg", "cmdOK"));
+        ClickControl(ControlOf("frmObxProg", "optProgram", program));
         ClickControl(ControlOf("frmObxProg", "cmdOK"));
         Suite.HideFluidReminder = Suite.HideFlowStatus = words::Yes;
+        if (program != 1) return;
         for (const auto& [box, text] : FilledBoxes) TypeText(Named(box), text);
         ClickControl(Form().cmdCalculate(0));
     }

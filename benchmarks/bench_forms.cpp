@@ -1,6 +1,6 @@
 // What a user waits for on a form, on the host without a display: the refresh of a calculation, a case typed
-// and calculated, the list of a large fluid table, the unit window, a row into a large table, and a script
-// that calculates.
+// and calculated, all cases of a gas line at once, the list of a large fluid table, the unit window, a row
+// into a large table, and a script that calculates.
 #include <fstream>
 
 #include "benchmarks/FilledForm.h"
@@ -55,6 +55,35 @@ void PlainTexts(benchmark::State& state) {
 
 BENCHMARK(Refresh)->Name("form/refresh");
 BENCHMARK(PlainTexts)->Name("form/refresh/plain");
+
+// Methane in 10,000 ft of 10 in pipe.
+void AllGasCases(benchmark::State& state) {
+    FilledForm filled(2);
+    const auto type = [](const char* box, int i, const char* text) {
+        TypeText(ControlOf("frmGasLineLoss", box, i), text);
+    };
+    type("txtInletPipeLen", Control::NoIndex, "10000");
+    type("txtInletPipeID", Control::NoIndex, "10.02");
+    for (int i = 0; i < CaseCount; ++i) {
+        for (const auto& [box, text] : {std::pair{"txtFlow", "50000"},
+                                        {"txtTemp", "60"},
+                                        {"txtPressure", "100"},
+                                        {"txtMW", "16.04"},
+                                        {"txtRatioSH", "1.3"},
+                                        {"txtCritTemp", "343"},
+                                        {"txtCritPressure", "667"},
+                                        {"txtViscosity", "0.011"}}) {
+            type(box, i, text);
+        }
+    }
+    Measure(state, [&filled] {
+        filled.NextCommand();
+        ClickControl(ControlOf("frmGasLineLoss", "cmdCalculateAll"));
+    });
+    if (StandingResult(result::Velocity, 2) == 0) state.SkipWithError("the last case has no results");
+}
+
+BENCHMARK(AllGasCases)->Name("form/three gas cases of 10,000 ft at once");
 
 // A flow that differs from round to round.
 std::string NextFlow() {

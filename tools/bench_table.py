@@ -46,6 +46,7 @@ PROMISES = [
     Promise("water hammer/*", time=50 * US),
     Promise("water hammer/case", allocations=0),
     Promise("form/refresh", ratio=2.5, remark="finds each control by its name"),
+    Promise("form/three gas cases of 10,000 ft at once", time=100 * MS),
     Promise("form/unit window opened", time=20 * MS),
     Promise("form/row into a table of 10,000", time=20 * MS),
     Promise("record/save", ratio=2.5, time=20 * MS, remark="checks all fields, looks for rows left over"),
