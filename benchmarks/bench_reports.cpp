@@ -14,6 +14,7 @@
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/Printer.h"
+#include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
 #include "platform/UserActs.h"
 #include "records/RecordFiles.h"
@@ -23,7 +24,6 @@
 #include "reports/FormRows.h"
 #include "reports/ReportPage.h"
 #include "script/ScriptHost.h"
-#include "platform/TemporaryFolder.h"
 #include "units/NamedUnitSets.h"
 
 namespace {

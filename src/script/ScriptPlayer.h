@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
+#include "platform/TemporaryFolder.h"
 #include "script/ScriptHost.h"
 #include "script/ScriptSource.h"
-#include "platform/TemporaryFolder.h"
 
 namespace quillmetra {
 

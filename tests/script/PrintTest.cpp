@@ -6,8 +6,8 @@
 
 #include "forms/RegisterForms.h"
 #include "paper/PdfPaper.h"
-#include "script/ScriptPlayer.h"
 #include "platform/TemporaryFolder.h"
+#include "script/ScriptPlayer.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {
