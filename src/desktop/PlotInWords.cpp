@@ -1,7 +1,6 @@
 // The view of a plot where the plotting library is missing: its words. Its menu copies the figures.
 #include <QLabel>
 #include <QMenu>
-#include <QPointer>
 
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
@@ -32,8 +31,8 @@ protected:
 private:
     void ShowMenu(const QPoint& at) {
         const auto later = [this](const Handler& act) {
-            Later([view = QPointer(this), act] {
-                if (view != nullptr && view->Model() != nullptr && !view->plot_.IsEmpty()) act();
+            Later([this, act] {
+                if (Model() != nullptr && !plot_.IsEmpty()) act();
             });
         };
         MakePlotMenu(plot_, nullptr, *words_, later)->popup(words_->mapToGlobal(at));

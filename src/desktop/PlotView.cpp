@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <qcustomplot.h>
-#include <QPointer>
 
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
@@ -336,8 +335,8 @@ private:
                                 .Paint = [this](QPaintDevice& device) { picture_->DrawOn(device); },
                                 .Size = picture_->size()};
         const auto later = [this](const Handler& act) {
-            Later([view = QPointer(this), act] {
-                if (view != nullptr && view->Model() != nullptr && !view->plot_.IsEmpty()) act();
+            Later([this, act] {
+                if (Model() != nullptr && !plot_.IsEmpty()) act();
             });
         };
         MakePlotMenu(plot_, &drawn, *picture_, later)->popup(picture_->mapToGlobal(at));

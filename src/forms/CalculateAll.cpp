@@ -46,7 +46,9 @@ std::string Joined(const std::vector<std::pair<std::string, std::string>>& hints
     bool same = true;
     for (const auto& [name, hint] : hints) {
         same = same && hint == hints.front().second;
-        if (!hint.empty()) all += (all.empty() ? "" : " ") + name + ": " + hint;
+        if (hint.empty()) continue;
+        if (!all.empty()) all += ' ';
+        all.append(name).append(": ").append(hint);
     }
     return same ? hints.front().second : all;
 }

@@ -6,21 +6,21 @@ namespace quillmetra {
 
 // In the fixed units of the calculations; no number where a figure is not known.
 struct LineFigures {
-    const char* Regime = "";  // laminar, critical, transition, turbulent
-    double TotalLoss;         // psi, source less destination
-    double PipeAndFittings;   // ft of straight pipe
+    const char* Regime = "";     // laminar, critical, transition, turbulent
+    double TotalLoss = 0;        // psi, source less destination
+    double PipeAndFittings = 0;  // ft of straight pipe
 };
 
 // The parts make up the total loss.
 struct LiquidFigures : LineFigures {
-    double PipeLoss, FittingsLoss, EquipLoss, ElevationLoss;  // psi
-    double VaporMargin;    // psi, of the destination pressure over the vapor pressure
-    double NpshAvailable;  // ft of the liquid at the destination, without its velocity head
+    double PipeLoss = 0, FittingsLoss = 0, EquipLoss = 0, ElevationLoss = 0;  // psi
+    double VaporMargin = 0;    // psi, of the destination pressure over the vapor pressure
+    double NpshAvailable = 0;  // ft of the liquid at the destination, without its velocity head
 };
 
 struct GasFigures : LineFigures {
-    double OutletMach;     // by the sonic velocity of the results
-    double OutletDensity;  // lb/ft3
+    double OutletMach = 0;     // by the sonic velocity of the results
+    double OutletDensity = 0;  // lb/ft3
 };
 
 // Of a case of the record in hand whose results stand.

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <fstream>
+#include <memory>
 #include <system_error>
+#include <utility>
 
 #include <sqlite3.h>
 
@@ -28,18 +30,18 @@ int CompareForEngine(void*, int lengthA, const void* a, int lengthB, const void*
 }
 
 struct FailureWords {
-    int Code;
     const char* Text;
+    int Code;
     bool TellsReason;  // the words of the system belong to it
 };
 constexpr FailureWords WordsOfFailures[] = {
-    {SQLITE_BUSY, "The database is locked by another program", false},
-    {SQLITE_LOCKED, "The database is locked by another program", false},
-    {SQLITE_FULL, "The disk is full", false},
-    {SQLITE_READONLY, "The database is write-protected", false},
-    {SQLITE_PERM, "The database may not be opened", true},
-    {SQLITE_CANTOPEN, "The database, or a file beside it, cannot be opened", true},
-    {SQLITE_IOERR, "The disk reports an error", true},
+    {"The database is locked by another program", SQLITE_BUSY, false},
+    {"The database is locked by another program", SQLITE_LOCKED, false},
+    {"The disk is full", SQLITE_FULL, false},
+    {"The database is write-protected", SQLITE_READONLY, false},
+    {"The database may not be opened", SQLITE_PERM, true},
+    {"The database, or a file beside it, cannot be opened", SQLITE_CANTOPEN, true},
+    {"The disk reports an error", SQLITE_IOERR, true},
 };
 // What a damaged file, or one whose tables are not those of the suite, brings about.
 constexpr int DamageCodes[] = {SQLITE_ERROR, SQLITE_CORRUPT, SQLITE_NOTADB, SQLITE_FORMAT};
@@ -138,10 +140,9 @@ void Database::Open(const fs::path& file, int flags) {
 }
 
 void Database::GiveUp() {
-    const RuntimeError error = FailureOf(handle_, file_);
-    sqlite3_close(handle_);
-    handle_ = nullptr;
-    throw error;
+    const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> engine(std::exchange(handle_, nullptr),
+                                                                    sqlite3_close);
+    throw FailureOf(engine.get(), file_);
 }
 
 void Database::Create(const fs::path& file, const DatabaseKind& kind, const std::vector<TableShape>& tables) {

@@ -46,6 +46,20 @@ std::string FieldOf(const std::string& text, int number) {
     return field;
 }
 #endif
+
+constexpr unsigned Utf8CodePage = 65001;
+
+// The code page of the console until now; only Windows has any.
+unsigned ShowCodePage([[maybe_unused]] unsigned page) {
+#ifdef _WIN32
+    const unsigned former = GetConsoleOutputCP();
+    SetConsoleOutputCP(page);
+    return former;
+#else
+    return 0;
+#endif
+}
+
 }  // namespace
 
 fs::path ExecutableFolder() {
@@ -106,17 +120,8 @@ double ProcessAge() {
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-Utf8Console::Utf8Console() {
-#ifdef _WIN32
-    former_ = GetConsoleOutputCP();
-    SetConsoleOutputCP(CP_UTF8);
-#endif
-}
+Utf8Console::Utf8Console() : former_(ShowCodePage(Utf8CodePage)) {}
 
-Utf8Console::~Utf8Console() {
-#ifdef _WIN32
-    SetConsoleOutputCP(former_);
-#endif
-}
+Utf8Console::~Utf8Console() { ShowCodePage(former_); }
 
 }  // namespace quillmetra

@@ -30,7 +30,7 @@ public:
     Utf8Console& operator=(const Utf8Console&) = delete;
 
 private:
-    [[maybe_unused]] unsigned former_ = 0;
+    unsigned former_;
 };
 
 }  // namespace quillmetra

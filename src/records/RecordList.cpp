@@ -110,7 +110,7 @@ const std::string& RecordList::Cell(int row, int column) const {
 }
 
 std::string RecordList::Head(int column) const {
-    const std::string head = Heads[column];
+    std::string head = Heads[column];
     if (column != column_) return head;
     return head + (falling_ ? " \u25BC" : " \u25B2");
 }
