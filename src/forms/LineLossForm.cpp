@@ -5,6 +5,7 @@
 
 #include "core/Words.h"
 #include "forms/DataCheck.h"
+#include "lineloss/Friction.h"
 #include "lineloss/LineRanges.h"
 #include "platform/Keys.h"
 #include "platform/NumberText.h"
@@ -78,7 +79,7 @@ void LineLossForm::HookLine() {
     };
     for (CheckBox* tick : {&chkEntrance, &chkExit}) {
         tick->Click = [this, tick] {
-            PaintTick(*tick, Calc.PipeDataShown[tick == &chkEntrance ? 4 : 5]);
+            PaintTick(*tick, Calc.PipeDataShown[tick == &chkEntrance ? pipe::Entrance : pipe::Exit]);
             ClearAllCases();
         };
     }
@@ -105,9 +106,9 @@ void LineLossForm::ShowChoices() {
 
 void LineLossForm::StoreOwn() {
     Calc.PipeData[pipe::Entrance] = chkEntrance.Checked() ? 2 : 1;
-    Calc.EntranceK = chkEntrance.Checked() ? 1.5 : 0;
+    Calc.EntranceK = chkEntrance.Checked() ? EntranceResistance : 0;
     Calc.PipeData[pipe::Exit] = chkExit.Checked() ? 2 : 1;
-    Calc.ExitK = chkExit.Checked() ? 2.7 : 0;
+    Calc.ExitK = chkExit.Checked() ? ExitResistance : 0;
     for (int i = 0; i < CaseCount; ++i) NoteEntered(i);
     cmdUnits.Each([](const CommandButton& button, int row) {
         // Row 6 keeps its unit while it is hidden; a caption is empty before the first refresh.

@@ -43,7 +43,7 @@ void TakeColebrookFactor() {
 }  // namespace
 
 double ReynoldsOf(double massFlow, double pipeId, double viscosity) {
-    return 6.31 * massFlow / pipeId / viscosity;
+    return ReynoldsConstant * massFlow / pipeId / viscosity;
 }
 
 ColebrookResult SolveColebrook(double reynolds, double pipeId, const PipeMaterial* material,

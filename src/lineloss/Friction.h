@@ -17,6 +17,14 @@ constexpr double CriticalLimit = 4000;
 // as such comes back a little changed.
 inline constexpr double FrictionWaterDensity = 62.36;
 
+// Resistance coefficients K of a ticked entrance and exit, in velocity heads; usual figures are 0.5 and 1.
+inline constexpr double EntranceResistance = 1.5;
+inline constexpr double ExitResistance = 2.7;
+
+// Of the Reynolds number below. The march of a gas takes its own with more digits.
+inline constexpr double ReynoldsConstant = 6.31;
+inline constexpr double GasReynoldsConstant = 6.31533;
+
 // The definition, 4 W / (pi d u), as 6.31 x flow (lb/h) / inside diameter (in) / viscosity (cp).
 double ReynoldsOf(double massFlow, double pipeId, double viscosity);
 

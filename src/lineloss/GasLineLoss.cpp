@@ -134,7 +134,7 @@ double SonicVelocityOf(double ratioSpecificHeats, double pressure, double densit
 void CalcGasFriction() {
     // The friction factor and the zone go by this constant; the flow status leaves the liquid's in the
     // record.
-    Calc.ReynoldsNumber = 6.31533 * Calc.MassFlow / Calc.PipeId[TheLine] / Calc.Viscosity;
+    Calc.ReynoldsNumber = GasReynoldsConstant * Calc.MassFlow / Calc.PipeId[TheLine] / Calc.Viscosity;
     CalcFrictionFactor();
     CalcFlowStatus();
 

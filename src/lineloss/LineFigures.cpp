@@ -15,7 +15,7 @@ namespace quillmetra {
 namespace {
 
 constexpr double Unknown = std::numeric_limits<double>::quiet_NaN();
-constexpr double GasReynolds = 6.31533 / 6.31;  // the friction of a gas goes by the finer constant
+constexpr double GasReynolds = GasReynoldsConstant / ReynoldsConstant;
 
 // A case in the units of the calculations.
 struct LineCase {
@@ -49,8 +49,8 @@ Flow FlowOf(const LineCase& line, double reynoldsRatio) {
 // ft; a count below zero counts with what an earlier line has left, which is not to be had again.
 double FittingsLength(const LineCase& line, const Flow& flow) {
     const auto& counts = Calc.FittingCount;
-    const double entrance = Calc.PipeData[pipe::Entrance] == pipe::Ticked ? 1.5 : 0;
-    const double exit = Calc.PipeData[pipe::Exit] == pipe::Ticked ? 2.7 : 0;
+    const double entrance = Calc.PipeData[pipe::Entrance] == pipe::Ticked ? EntranceResistance : 0;
+    const double exit = Calc.PipeData[pipe::Exit] == pipe::Ticked ? ExitResistance : 0;
     // In the order of Fittings.
     const double byFitting[] = {entrance,
                                 counts[fitting::GateValves],
