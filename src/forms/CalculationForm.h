@@ -99,8 +99,8 @@ public:
     void mnuHelp_Click();
     void cmdDate_Click();
 
-    // Calculates each case that has data, as its button does, from the first on. What there is only to be told
-    // is told at the end, in one box; a question is asked at its case.
+    // Calculates each case that has data, as its button does, from the first on. What there is only to be
+    // told is told at the end, in one box; a question is asked at its case.
     void CalculateAll();
 
     // Gives up what is open over the inputs, before an act that takes the record as it is.
