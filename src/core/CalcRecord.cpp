@@ -107,6 +107,7 @@ void RestoreShown() {
     Calc.UnitFactor = Calc.UnitFactorShown;
     Calc.UnitName = Calc.UnitNameShown;
     Calc.PipeData = Calc.PipeDataSaved;
+    Calc.PipeName = Calc.PipeNameSaved;
     Calc.FittingCount = Calc.FittingCountShown;
     Calc.HammerResult = Calc.HammerResultSaved;
     Calc.CaseUnitsText = Calc.CaseUnitsTextSaved;
@@ -149,6 +150,7 @@ void TakeSaved() {
     Calc.LiquidBasisSaved = Calc.LiquidBasis;
     Calc.PressureDirectionSaved = Calc.PressureDirection;
     Calc.PipeMaterialSaved = Calc.PipeMaterial;
+    Calc.PipeNameSaved = Calc.PipeName;
     Calc.PipeMaterialNumberSaved = Calc.PipeMaterialNumber;
     Calc.TagSaved = Calc.Tag;
     Calc.ProgramTitleSaved = Calc.ProgramTitle;

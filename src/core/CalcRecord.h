@@ -207,6 +207,8 @@ struct CalcRecord {
     int PipeMaterialNumber = 1;  // 1 to 7
     std::string PipeMaterial = "Steel", PipeMaterialSaved = "Steel";
     Row<std::string, 8> PipeMaterialName{};
+    // "6 in sch 40" of a pipe that was picked from a table; empty once its diameter was typed over.
+    std::string PipeName, PipeNameSaved;
     std::string MixtureFlag;                // "Yes", "No" or empty
     std::string SteamKind;                  // "Saturated", "Superheated" or empty
     std::string FluidOk = "Ok";             // "Ok", "OK" or empty; the spellings differ on purpose

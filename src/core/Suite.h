@@ -19,6 +19,9 @@ struct UnitLine {
 };
 using UnitList = Row<UnitLine, 11>;  // lines 1 to 10
 
+// What becomes of numbers that a change of units has converted.
+enum class Figures : std::uint8_t { Ask, Round, Keep };
+
 struct SuiteState {
     std::string VersionText;  // "Ver.6.0.0.  "
     std::string HelpFile;
@@ -30,6 +33,7 @@ struct SuiteState {
     std::string ChosenDataPath;
     Row<std::uint32_t, 13> Colours{};                                  // 1 to 12, 0x00BBGGRR
     std::string HideFluidReminder, HideRoundReminder, HideFlowStatus;  // "Yes" or empty, never read back
+    Figures ConvertedFigures = Figures::Ask;
     Row<std::string, 36> UserLiquidUnitName{}, UserGasUnitName{};
     UnitFactors UserLiquidUnitFactor{}, UserGasUnitFactor{};  // 0 where there is no unit
     std::string UserLiquidBasis, UserGasBasis;                // of the two flow units

@@ -22,10 +22,11 @@ CalculationForm* OpenCalculation() {
     return program == nullptr ? nullptr : dynamic_cast<CalculationForm*>(LoadedForm(program->Form));
 }
 
-void ConvertToNewUnits(UnitChange& change, const std::function<void()>& showModes) {
-    change.Commit(ZeroTemperature::IsConverted, [&showModes] {
-        if (showModes) showModes();
-        if (IsYes(Calc.NoConversion)) BlankAllResults();
+void ConvertToNewUnits(UnitChange& change) {
+    if (IsYes(Calc.NoConversion)) BlankAllResults();
+    change.Commit(ZeroTemperature::IsConverted, [] {
+        Calc.UnitsConverted = words::Yes;
+        ComposeHeading();
     });
     ComposeHeading();
 }

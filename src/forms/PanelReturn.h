@@ -2,17 +2,15 @@
 // the refresh of the calculation, and the way back to it.
 #pragma once
 
-#include <functional>
-
 namespace quillmetra {
 
 class CalculationForm;
 class SuiteForm;
 class UnitChange;
 
-// Commits the change and refreshes the form; showModes is called between the modes and the values. With
-// NoConversion "Yes" all results are blanked, since they no longer belong to the inputs.
-void ConvertToNewUnits(UnitChange& change, const std::function<void()>& showModes = {});
+// Commits the change and refreshes the form. With NoConversion "Yes" all results are blanked, since they no
+// longer belong to the inputs.
+void ConvertToNewUnits(UnitChange& change);
 
 // Blanks the results of the open calculation, while a panel is open over it too.
 void BlankAllResults();

@@ -36,12 +36,6 @@ struct WordOption {
     const char* Word;
 };
 
-// The results stay as the form shows them until the record is converted.
-void ShowInputs() {
-    const Setting inputsAlone(Calc.HideResults, words::Yes, words::No);
-    ComposeHeading();
-}
-
 std::string PickedWord(std::initializer_list<WordOption> options) {
     for (const WordOption& each : options) {
         if (each.Option.Checked()) return each.Word;
@@ -219,11 +213,9 @@ std::string frmCalcOptions::TakeOptions(UnitChange& change) {
     const Filling filling;
     change.PressureMode = PressureChoice();
     if (IsLiquid()) change.DensityMode = DensityChoice();
-    ConvertToNewUnits(change, [this] {
-        Calc.DataMode = DataChoice();
-        Calc.CalcMode = CalcChoice();
-        ShowInputs();
-    });
+    Calc.DataMode = DataChoice();
+    Calc.CalcMode = CalcChoice();
+    ConvertToNewUnits(change);
     const bool newBarometer = TakeBarometer();
     if (newBarometer) BlankAllResults();
     ComposeHeading();

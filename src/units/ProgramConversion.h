@@ -7,6 +7,8 @@
 // business: no form is refreshed.
 #pragma once
 
+#include <functional>
+
 namespace quillmetra {
 
 // An empty temperature is 0 as well, so 0 is not converted unless the caller knows better: where the boxes
@@ -30,9 +32,24 @@ void ConvertCommonRows();
 // The unit of force of the water hammer program in row 0: lb with an inch or foot pipe, else kg.
 void SetForceUnit();
 
-// Asks whether to round, unless HideRoundReminder is set, and rounds inputs, pipe and results to six figures
-// and hammer results to four. Cancel rounds too, sets HideRoundReminder and saves it with the standard
-// conditions. RoundedFlag becomes "Yes" when rounded and stays as it is on No.
+// Asks whether to round, unless HideRoundReminder is set or Suite.ConvertedFigures knows the answer, and
+// rounds. Cancel rounds too, sets HideRoundReminder and saves it with the standard conditions. RoundedFlag
+// becomes "Yes" when rounded and stays as it is on No.
 void RoundRecord();
+
+// Rounds inputs, pipe and results to six figures and hammer results to four, without a question.
+void RoundNumbers();
+
+// For its life, show is called before the question, so that the form has the numbers that are asked about.
+class BeforeRounding {
+public:
+    explicit BeforeRounding(std::function<void()> show);
+    ~BeforeRounding();
+    BeforeRounding(const BeforeRounding&) = delete;
+    BeforeRounding& operator=(const BeforeRounding&) = delete;
+
+private:
+    std::function<void()> outer_;
+};
 
 }  // namespace quillmetra

@@ -1,4 +1,6 @@
 // See ProgramConversion.h.
+#include <utility>
+
 #include "core/CalcRecord.h"
 #include "core/StartUp.h"
 #include "core/Suite.h"
@@ -11,9 +13,12 @@ namespace quillmetra {
 
 namespace {
 
+std::function<void()> ShowConverted;
+
 // The answer No has no memory; Cancel hides the question for the rest of the run.
-bool WantsRounding() {
+bool AskWhetherToRound() {
     if (!Suite.HideRoundReminder.empty()) return true;
+    if (ShowConverted) ShowConverted();
     const Answer answer =
         ShowMessage({"Round converted data?\n  Yes or No to round\n\n(or Cancel to hide the message)",
                      Calc.ProgramTitle, Buttons::YesNoCancel});
@@ -24,6 +29,14 @@ bool WantsRounding() {
     return answer != Answer::No;
 }
 
+bool WantsRounding() {
+    switch (Suite.ConvertedFigures) {
+        case Figures::Round: return true;
+        case Figures::Keep: return false;
+        default: return AskWhetherToRound();
+    }
+}
+
 template <typename Values, typename Rounder>
 void RoundFirst(Values& values, std::size_t count, Rounder rounder) {
     for (std::size_t i = 0; i < count; ++i) values[i] = rounder(values[i]);
@@ -31,8 +44,14 @@ void RoundFirst(Values& values, std::size_t count, Rounder rounder) {
 
 }  // namespace
 
+BeforeRounding::BeforeRounding(std::function<void()> show) : outer_(std::exchange(ShowConverted, show)) {}
+BeforeRounding::~BeforeRounding() { ShowConverted = std::move(outer_); }
+
 void RoundRecord() {
-    if (!WantsRounding()) return;
+    if (WantsRounding()) RoundNumbers();
+}
+
+void RoundNumbers() {
     for (std::size_t row = 0; row < input::Count; ++row)
         RoundFirst(Calc.CaseInput[row], CaseCount, RoundedSix);
     for (auto& results : Calc.CaseResult) RoundFirst(results, CaseCount, RoundedSix);

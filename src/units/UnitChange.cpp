@@ -38,9 +38,9 @@ bool UnitChange::HasNewUnits() const {
            Calc.Basis != Calc.BasisPrevious || Calc.LiquidBasis != Calc.LiquidBasisPrevious;
 }
 
-void UnitChange::Commit(ZeroTemperature zero, const std::function<void()>& modesStand) {
+void UnitChange::Commit(ZeroTemperature zero, const std::function<void()>& show) {
+    const BeforeRounding shown(show);
     ChangeModes();
-    if (modesStand) modesStand();
     if (!IsYes(Calc.FormClosing)) Convert(zero);
     committed_ = true;
 }

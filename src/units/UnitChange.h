@@ -27,11 +27,12 @@ public:
     // True when a unit or a basis differs from the previous ones.
     bool HasNewUnits() const;
 
-    // Changes the modes, calls modesStand, where a form may show the inputs as they are then, converts the
-    // values and asks whether to round. With NoConversion "Yes" the values stay as they are. Without new
-    // units nothing is converted; what an earlier change has left unrounded is asked about again. No factor
-    // is 0 afterwards and nothing is left to convert. The caller refreshes the form.
-    void Commit(ZeroTemperature zero = ZeroTemperature::Stays, const std::function<void()>& modesStand = {});
+    // Changes the modes, converts the values and asks whether to round; before that question it calls show,
+    // so that the form has the new numbers under the new units and never the former ones. With NoConversion
+    // "Yes" the values stay as they are. Without new units nothing is converted; what an earlier change has
+    // left unrounded is asked about again. No factor is 0 afterwards and nothing is left to convert. The
+    // caller refreshes the form.
+    void Commit(ZeroTemperature zero = ZeroTemperature::Stays, const std::function<void()>& show = {});
 
 private:
     void ChangeModes() const;
