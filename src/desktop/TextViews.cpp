@@ -2,12 +2,17 @@
 #include <algorithm>
 
 #include <QContextMenuEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 
 #include "desktop/ControlView.h"
+#include "desktop/KeyNames.h"
 #include "desktop/Painting.h"
+#include "platform/Keys.h"
+#include "platform/TextCase.h"
 
 namespace quillmetra {
 
@@ -19,6 +24,22 @@ public:
         edit_->setReadOnly(box.Locked);
         if (box.IsNumber) edit_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { Typed(text); });
+        edit_->installEventFilter(this);
+    }
+
+    // What was typed since the box was entered is the box's own to undo; what it has no use for is the
+    // form's.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusOut) ForgetTyping(*static_cast<QFocusEvent*>(event));
+        const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+        if (!isKey) return ControlView::eventFilter(watched, event);
+        const std::string key = NameOfKey(*static_cast<QKeyEvent*>(event));
+        const bool undo = SameName(key, keys::Undo), redo = SameName(key, keys::Redo);
+        if (!undo && !redo) return false;
+        const bool isOwn = undo ? edit_->isUndoAvailable() : edit_->isRedoAvailable();
+        event->setAccepted(isOwn);
+        if (isOwn && event->type() == QEvent::KeyPress) undo ? edit_->undo() : edit_->redo();
+        return true;
     }
 
 protected:
@@ -45,6 +66,14 @@ protected:
     }
 
 private:
+    // A menu or another window takes the keyboard for a while and leaves the box in hand.
+    void ForgetTyping(const QFocusEvent& event) {
+        const auto reason = event.reason();
+        const bool stays = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
+                           reason == Qt::ActiveWindowFocusReason;
+        if (!stays && (edit_->isUndoAvailable() || edit_->isRedoAvailable())) edit_->setText(edit_->text());
+    }
+
     void Typed(const QString& text) {
         if (Model() == nullptr) return;
         TypeText(box_, text.toStdString());

@@ -77,6 +77,13 @@ CalculationForm::CalculationForm(const Names& names)
     mnuExit.SeparatorBefore = true;
     mnuProgram.SeparatorBefore = true;
     mnuNew.Shortcut = "Ctrl+N";
+    mnuUndo.Shortcut = keys::Undo;
+    mnuRedo.Shortcut = keys::Redo;
+    mnuUndo.SetEnabled(false);
+    mnuRedo.SetEnabled(false);
+    mnuCopyResults.SeparatorBefore = true;
+    mnuUndo.Click = [this] { History.Undo(); };
+    mnuRedo.Click = [this] { History.Redo(); };
     mnuSave.Shortcut = "Ctrl+S";
     mnuPrint.Shortcut = "Ctrl+P";
     mnuCopyResults.Shortcut = "Ctrl+Shift+C";
@@ -323,6 +330,7 @@ void CalculationForm::ShowPrintedTexts() {
 
 void CalculationForm::mnuNew_Click() {
     if (!MayLeaveRecord()) return;
+    History.Forget();
     const Filling filling;
     EmptyForm();
     ResetForNew();

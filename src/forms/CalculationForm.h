@@ -8,6 +8,7 @@
 #include "core/CalcRecord.h"
 #include "forms/FluidPanels.h"
 #include "forms/SuiteForm.h"
+#include "forms/UndoHistory.h"
 #include "units/CorrelationRange.h"
 
 namespace quillmetra {
@@ -31,6 +32,7 @@ public:
 
     void Load() override;
     void CloseBox() override { mnuProgram_Click(); }
+    void ControlLostFocus(Control& control) override;
 
     int ProgramNumber() const { return program_; }
 
@@ -52,6 +54,8 @@ public:
     MenuItem mnuProgram{mnuFile, "mnuProgram", "Pro&gram"};
     MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
     MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    MenuItem mnuUndo{mnuEdit, "mnuUndo", "&Undo"};
+    MenuItem mnuRedo{mnuEdit, "mnuRedo", "&Redo"};
     MenuItem mnuCopyResults{mnuEdit, "mnuCopyResults", "&Copy inputs and results"};
     MenuItem mnuCalculateAll{mnuEdit, "mnuCalculateAll", "Calculate &all"};
     MenuItem mnuFluiProp;
@@ -105,6 +109,16 @@ public:
 
     // Gives up what is open over the inputs, before an act that takes the record as it is.
     virtual void CloseOverlays() {}
+
+    UndoHistory History{*this};
+    // Nothing is open over the form or its inputs: record and boxes are those of one calculation.
+    bool IsAtRest() const;
+    // Whether the history keeps what a control shows; not what follows from the record, nor a mere view.
+    virtual bool Remembers(const Control& control) const;
+    // What puts back what the form now keeps beside record and controls.
+    virtual Handler KeepBeside();
+    // Record and controls are those of another step: what follows from them.
+    void ShowRestored();
 
 protected:
     // Before the first refresh of a saved record.

@@ -162,6 +162,16 @@ void FluidForm::CloseOverlays() {
     if (Fluids.IsOpen()) cmdCancel_Click();
 }
 
+// What the box in hand says now is no edit of the user's.
+Handler FluidForm::KeepBeside() {
+    return [this, former = CalculationForm::KeepBeside(), hints = fluidHints_, tail = titleTail_] {
+        former();
+        fluidHints_ = hints;
+        titleTail_ = tail;
+        if (edited_ != nullptr) textBefore_ = edited_->Text();
+    };
+}
+
 // A fluid of the user's own is no mixture and no steam.
 void FluidForm::FluidTyped() {
     fluidHints_.fill({});

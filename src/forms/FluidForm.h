@@ -32,6 +32,7 @@ public:
     void cmdClear_Click();
 
     void CloseOverlays() override;
+    Handler KeepBeside() override;
 
 protected:
     // Case by case; to be filled before HookFluid.

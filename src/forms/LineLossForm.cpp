@@ -224,6 +224,15 @@ void LineLossForm::DrawResults() {
     DrawCases();
 }
 
+Handler LineLossForm::KeepBeside() {
+    return [this, former = FluidForm::KeepBeside()] {
+        former();
+        lstMatl.SetVisible(false);
+        PaintTick(chkEntrance, Calc.PipeDataShown[pipe::Entrance]);
+        PaintTick(chkExit, Calc.PipeDataShown[pipe::Exit]);
+    };
+}
+
 void LineLossForm::ResultsBlanked(int caseIndex) {
     BlankFigures(caseIndex);
     drawn_[static_cast<std::size_t>(caseIndex)] = {};

@@ -88,6 +88,8 @@ public:
     Label unEquivLen{Picture1, "unEquivLen"};
     Plot pltLine{Picture1, "pltLine"};  // what goes on along the line, in each case with results
 
+    Handler KeepBeside() override;
+
     void cmdCalculate_Click(int index);
     void cmdMatl_Click();
     void lstMatl_DoubleClick();

@@ -3,6 +3,7 @@
 
 #include "core/CalcRecord.h"
 #include "core/Words.h"
+#include "forms/CalculationForm.h"
 #include "forms/FindDialog.h"
 #include "forms/frmCalcOptions.h"
 #include "forms/frmGasData.h"
@@ -18,6 +19,7 @@
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
 #include "forms/frmWaterHammer.h"
+#include "forms/PanelReturn.h"
 #include "forms/WinSeek.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
@@ -62,6 +64,7 @@ constexpr FormEntry FormTable[] = {
 // next edit blanks results. The panels of units and options clear it themselves when they close.
 void AfterAct() {
     if (!IsFormLoaded("frmUnits") && !IsFormLoaded("frmCalcOptions")) Calc.FormLoading = words::No;
+    if (CalculationForm* form = OpenCalculation()) form->History.Take();
 }
 
 void ShowHelpOf(const Form& form) {

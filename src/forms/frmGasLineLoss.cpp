@@ -58,6 +58,13 @@ void frmGasLineLoss::CloseOverlays() {
     LineLossForm::CloseOverlays();
 }
 
+Handler frmGasLineLoss::KeepBeside() {
+    return [this, former = LineLossForm::KeepBeside(), pictures = pictures_] {
+        former();
+        pictures_ = pictures;
+    };
+}
+
 void frmGasLineLoss::ShowChoices() {
     Base.Close();
     LineLossForm::ShowChoices();
@@ -121,14 +128,16 @@ bool frmGasLineLoss::CalculateCase() {
     if (!CalcGasProfile([&picture](const GasStation& station) { picture.Take(station); })) return false;
     ShowResults(GasLineResultsOf(Calc));
     picture.Complete();
-    pictures_[ThisCase()] = std::move(picture);
+    pictures_[ThisCase()] = std::make_shared<const GasLinePicture>(std::move(picture));
     return true;
 }
 
 // Nothing of a saved record, which has the two ends of a line that is curved, nor of a line whose inlet is
 // sonic.
 PlotDrawing frmGasLineLoss::DrawingOf(int caseIndex) const {
-    const std::vector<GasStation>& stations = pictures_[static_cast<std::size_t>(caseIndex)].Stations();
+    const auto& picture = pictures_[static_cast<std::size_t>(caseIndex)];
+    if (picture == nullptr) return {};
+    const std::vector<GasStation>& stations = picture->Stations();
     std::vector<double> lengths, pressures, velocities, sonic;
     for (const GasStation& station : stations) {
         lengths.push_back(station.Part * Calc.PipeData[pipe::Length]);

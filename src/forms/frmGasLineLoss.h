@@ -1,6 +1,8 @@
 // Program 2: the pressure at the far end of a gas or steam line, for three cases, and whether it chokes.
 #pragma once
 
+#include <memory>
+
 #include "forms/BaseConditions.h"
 #include "forms/CaseFigures.h"
 #include "forms/GasEntries.h"
@@ -44,6 +46,7 @@ public:
     BaseConditions Base{*this};
 
     void CloseOverlays() override;
+    Handler KeepBeside() override;
 
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
@@ -65,7 +68,8 @@ private:
     void ShowResults(const GasLineResults& results);
     void ShowFluidRows();
 
-    Row<GasLinePicture, CaseCount> pictures_;
+    Row<std::shared_ptr<const GasLinePicture>, CaseCount>
+        pictures_;  // null for none; the history shares them
 };
 
 }  // namespace quillmetra

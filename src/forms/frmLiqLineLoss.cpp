@@ -39,6 +39,17 @@ std::vector<LineLossForm::CaseBoxes> frmLiqLineLoss::BoxesOfACase() const {
     return {&txtFlow, &txtTemp, &txtPressure, &txtSGFlow, &txtViscosity, &txtEquip};
 }
 
+bool frmLiqLineLoss::Remembers(const Control& control) const {
+    return &control != &chkLossParts && LineLossForm::Remembers(control);
+}
+
+Handler frmLiqLineLoss::KeepBeside() {
+    return [this, former = LineLossForm::KeepBeside()] {
+        former();
+        Figures.ShowParts(chkLossParts.Checked());
+    };
+}
+
 bool frmLiqLineLoss::CheckState() {
     return CheckTempPressure(*this, {txtTemp(Calc.CaseIndex), txtPressure(Calc.CaseIndex)}, LiquidRules);
 }

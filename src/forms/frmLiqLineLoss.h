@@ -24,6 +24,9 @@ public:
     LiquidRows Figures{Picture1};
     CheckBox chkLossParts{Picture1, "chkLossParts", "Loss &in parts"};
 
+    bool Remembers(const Control& control) const override;
+    Handler KeepBeside() override;
+
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
     bool CheckFluid() override;

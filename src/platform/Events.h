@@ -2,6 +2,8 @@
 // focus move waits for the outermost of them to end. Nothing outside of platform/ needs it.
 #pragma once
 
+#include <string>
+
 namespace quillmetra {
 
 class Control;
@@ -37,6 +39,11 @@ bool Outermost();
 // Asks for the focus; done at once when no handler runs at this level.
 void AskFocus(Control& control);
 void ForgetFocusMoves(const Form& form);
+// What the user types into a box, until the focus goes on: an undo of the box's own.
+void NoteTyping(const Control& box, const std::string& before, const std::string& now);
+// The text before it; null when nothing was typed, or code has changed the box since.
+const std::string* TypedOver(const Control& box);
+void EndTyping();
 void Reset();
 
 }  // namespace events

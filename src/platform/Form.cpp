@@ -19,6 +19,11 @@ struct Level {
     Control* WantsFocus = nullptr;
 };
 std::vector<Level> Levels(1);
+
+struct {
+    const Control* Box = nullptr;
+    std::string Before, Now;
+} Typing;
 }  // namespace
 
 ModalLevel::ModalLevel() { Levels.emplace_back(); }
@@ -53,7 +58,22 @@ void ForgetFocusMoves(const Form& form) {
     }
 }
 
-void Reset() { Levels.assign(1, {}); }
+void NoteTyping(const Control& box, const std::string& before, const std::string& now) {
+    if (Typing.Box != &box || Typing.Now != before) Typing = {&box, before, now};
+    Typing.Now = now;
+}
+
+const std::string* TypedOver(const Control& box) {
+    const bool stands = Typing.Box == &box && Typing.Now == box.Text() && Typing.Now != Typing.Before;
+    return stands && box.Owner().Focus.Current() == &box ? &Typing.Before : nullptr;
+}
+
+void EndTyping() { Typing = {}; }
+
+void Reset() {
+    Levels.assign(1, {});
+    EndTyping();
+}
 
 }  // namespace events
 
@@ -73,6 +93,7 @@ void FocusModel::Lose() {
 
 void FocusModel::Gain(Control& target) {
     current_ = &target;
+    events::EndTyping();
     if (Host* host = CurrentHost()) host->FocusMoved(form_);
     form_.ControlGotFocus(target);
     if (target.GotFocus) target.GotFocus();
@@ -88,6 +109,7 @@ void FocusModel::UserMoves(Control& target) {
 void FocusModel::UserLeaves() {
     Lose();
     current_ = nullptr;
+    events::EndTyping();
     if (Host* host = CurrentHost()) host->FocusMoved(form_);
 }
 

@@ -20,6 +20,8 @@ inline constexpr const char* PageUp = "PageUp";
 inline constexpr const char* PageDown = "PageDown";
 inline constexpr const char* Help = "F1";
 inline constexpr const char* CalculateAll = "F5";
+inline constexpr const char* Undo = "Ctrl+Z";
+inline constexpr const char* Redo = "Ctrl+Y";
 
 inline constexpr std::array Named = {Enter, Escape, Tab,    Backspace, Delete, Up,          Down,
                                      Left,  Right,  PageUp, PageDown,  Help,   CalculateAll};

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/Dialogs.h"
+#include "platform/Events.h"
 #include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/TextCase.h"
@@ -125,6 +126,12 @@ bool EditByKey(TextBox& box, const std::string& key) {
     return IsOneCharacter(key) && TypeText(box, box.Text() + key);
 }
 
+// Whole, where a toolkit's box goes back by and by.
+bool UndoTyping(Control& box) {
+    const std::string* const before = events::TypedOver(box);
+    return before != nullptr && TypeText(box, std::string(*before));
+}
+
 bool PressEnter(Control& control) {
     Form& form = control.Owner();
     if (control.Kind() == ControlKind::CommandButton) return ClickControl(control);
@@ -188,8 +195,12 @@ bool TypeText(Control& control, const std::string& text) {
     if (control.Kind() != ControlKind::TextBox) return false;
     auto& box = static_cast<TextBox&>(control);
     if (box.Locked) return false;
-    box.Owner().Dispatch(
-        [&] { box.SetText(box.MaxLength == 0 ? text : FirstCharacters(text, box.MaxLength)); });
+    box.Owner().Dispatch([&] {
+        const std::string before = box.Text();
+        const std::string typed = box.MaxLength == 0 ? text : FirstCharacters(text, box.MaxLength);
+        events::NoteTyping(box, before, typed);
+        box.SetText(typed);
+    });
     return true;
 }
 
@@ -291,6 +302,7 @@ bool PressKey(Control& control, const std::string& key) {
     const FormHold hold(control.Owner());
     if (OfferKey(control, key)) return true;
     if (!CanAct(control)) return false;
+    if (SameName(key, keys::Undo) && UndoTyping(control)) return true;
     return PressShortcut(control.Owner(), key) || PressPlainKey(control, key);
 }
 

@@ -275,13 +275,16 @@ void ShowWaterHammer() {
     ShowSignatures(form);
 }
 
-// The report of this program reads units' title and source on the gas form.
+void ShowReportBasis() {
+    if (Calc.CurrentProgram == program::LiquidData) ShowBasis(LoadForm("frmGasLineLoss"));
+}
+
 void ShowLiquidData() {
     const Filling filling;
     Form& form = LoadForm("frmLiqData");
     ShowIdentity(form);
     ShowBasis(form);
-    ShowBasis(LoadForm("frmGasLineLoss"));
+    ShowReportBasis();
     ShowUnits(form, LiquidDataUnits);
     const bool density = Calc.LiquidDensityMode == words::Density;
     Named(form, "lblSGFTP")

@@ -13,6 +13,9 @@ void ShowCalculation();
 // Builds UnitsTitle from the units' name and the options, then runs ShowCalculation.
 void ComposeHeading();
 
+// Units' title and source where the report of the liquid data reads them, on the gas form.
+void ShowReportBasis();
+
 // The refresh of each program.
 void ShowLiquidLoss();
 void ShowGasLoss();

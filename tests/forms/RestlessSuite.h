@@ -132,7 +132,7 @@ protected:
         const auto any = [&]() -> Control& {
             return *form.Controls()[static_cast<std::size_t>(Below(form.Controls().size()))];
         };
-        for (int tries = 0; tries < 30; ++tries) {
+        for (int tries = stays_ ? -970 : 0; tries < 30; ++tries) {
             Control& control = any();
             const bool still = control.Kind() == ControlKind::Label || control.Kind() == ControlKind::Frame;
             if (CanAct(control) && !Avoids(control) && (!still || control.Click)) return control;
@@ -145,7 +145,7 @@ protected:
         const std::string& name = control.Name();
         const bool leaves =
             name == "mnuExit" || name == "mnuNew" || name == "mnuProgram" || name == "cmdCancelGrid";
-        return leaves && Below(10) != 0;
+        return (leaves && (stays_ || Below(10) != 0)) || (stays_ && name.starts_with("mnuSave"));
     }
 
     virtual void Act() {
@@ -162,7 +162,7 @@ protected:
                 FillGoodCase(*calculation, anyCase);
                 ClickControl(*button);
             }
-        } else if (Below(200) == 0) {
+        } else if (Below(200) == 0 && !(stays_ && calculation != nullptr)) {
             last_ = "closing " + form.Name();
             CloseWindow(form);
         } else {
@@ -188,7 +188,8 @@ protected:
 
     static bool Calculates(const quillmetra::Form& form, const Control& control) {
         return control.Name().find("Calculate") == 3 || control.Name().starts_with("mnuS") ||
-               control.Name() == "cmdOK" || ShowsFluids(form);
+               control.Name() == "mnuUndo" || control.Name() == "mnuRedo" || control.Name() == "cmdOK" ||
+               ShowsFluids(form);
     }
 
     // Where a fluid is picked, a form that has results may calculate them anew.
@@ -228,7 +229,8 @@ protected:
             std::string& former = inputs_[static_cast<std::size_t>(i)];
             if (!HasResults(*form, i)) {
                 former.clear();
-            } else if (former.empty() || (calculated && (Calc.CaseIndex == i || last_.ends_with("All")))) {
+            } else if (former.empty() || (calculated && (Calc.CaseIndex == i || last_.ends_with("All") ||
+                                                         last_.ends_with("do")))) {
                 former = InputsOf(*form, i);
                 ++results_;
             } else {
@@ -346,6 +348,7 @@ protected:
 
     RandomUser User;
     const int program_ = std::get<0>(GetParam());
+    bool stays_ = false;  // with one calculation that is not saved
     std::string last_;    // act
     int modalForms_ = 0;  // whose acts are within another
     Row<std::string, CaseCount> inputs_{};

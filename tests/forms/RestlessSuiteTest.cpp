@@ -43,6 +43,49 @@ INSTANTIATE_TEST_SUITE_P(Seeds, RestlessSuite,
                          Combine(Range(0, 1), Range(1, 1 + Setting("QUILLMETRA_SEEDS", 4))));
 INSTANTIATE_TEST_SUITE_P(OneProgram, RestlessSuite, Combine(Range(1, 6), Range(1, 3)));
 
+// Whatever was done to a calculation, all of it undone gives the record of before to the digit, but for what
+// the database has, and all of it done again that of after.
+class UndoneActs : public RestlessSuite {
+protected:
+    void Repeat(const char* key) {
+        while (!Calculation()->Enabled() || modalForms_ > 0) CloseWindow(*UsableForms().back());
+        Calculation()->CloseOverlays();
+        while (ClickControl(*Calculation()->Find(key))) continue;
+    }
+    std::string Texts() {
+        std::string texts;
+        for (const Control* control : Calculation()->Controls()) {
+            const bool isBox = control->Kind() == ControlKind::TextBox && Calculation()->Remembers(*control);
+            if (isBox) texts += control->FullName() + "=" + control->Text() + "\n";
+        }
+        return texts;
+    }
+};
+
+TEST_P(UndoneActs, GiveTheRecordOfBefore) {
+    stays_ = true;
+    FillGoodCase(*Calculation(), 0);
+    ClickControl(*CalculateButton(*Calculation(), 0));
+    Calculation()->History.Forget();
+    LeaveFocus(*Calculation());
+    const CalcRecord start = Calc;
+    const std::string before = Texts();
+    for (int act = 0; act < 50; ++act) Act();
+    Repeat("mnuRedo");
+    const CalcRecord end = Calc;
+    const std::string after = Texts();
+    const std::size_t boxes = User.Boxes.size();
+    Repeat("mnuUndo");
+    EXPECT_TRUE(WithSavedSideOf(start, Calc) == Calc);
+    EXPECT_EQ(before, Texts());
+    Repeat("mnuRedo");
+    EXPECT_TRUE(WithSavedSideOf(end, Calc) == Calc);
+    EXPECT_EQ(after, Texts());
+    EXPECT_EQ(User.Boxes.size(), boxes);
+}
+INSTANTIATE_TEST_SUITE_P(Programs, UndoneActs,
+                         Combine(Range(1, 6), Range(1, 1 + Setting("QUILLMETRA_SEEDS", 3))));
+
 // One with a hole in it, and one whose second case is refused.
 class AllCases : public RestlessFixture, public ::testing::WithParamInterface<int> {
 protected:
