@@ -10,7 +10,7 @@ browser-record:browser browser-tags:browser-tags selector:selector help:help
 line-results:liquid-line line-changed:liquid-line-changed line-liquids:liquids pipe-size:pipe-size message:message
 gas-results:steam-line gas-base-conditions:base-conditions hammer-selected:water-hammer hammer-moduli:pipe-moduli
 frmLiqData:liquid-properties frmGasData:gas-properties gas-mixture:gas-mixture
-units:units units-choose:units-choose options:options Gas:table-editor
+units:units units-in-place:units-in-place units-choose:units-choose options:options Gas:table-editor
 printout:printout preview:preview print-control:print-control path-finder-found:path-finder Dark:dark"
 
 ninja -C build/release quillmetra-screens

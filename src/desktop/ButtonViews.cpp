@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 
 #include "desktop/ControlView.h"
+#include "desktop/DropButtonView.h"
 #include "desktop/Painting.h"
 
 namespace quillmetra {
@@ -39,6 +40,20 @@ private:
     QAbstractButton* button_;
 };
 
+class DropView : public ButtonView {
+public:
+    DropView(DropButton& control, DropPushButton* button) : ButtonView(control, button), button_(button) {
+        button->SetModel(&control);
+    }
+    void Forget() override {
+        button_->SetModel(nullptr);
+        ButtonView::Forget();
+    }
+
+private:
+    DropPushButton* button_;
+};
+
 QAbstractButton* MakeButton(ControlKind kind, QWidget* parent) {
     if (kind == ControlKind::OptionButton) return new QRadioButton(parent);
     if (kind == ControlKind::CheckBox) return new QCheckBox(parent);
@@ -48,6 +63,9 @@ QAbstractButton* MakeButton(ControlKind kind, QWidget* parent) {
 }  // namespace
 
 ControlView* MakeButtonView(Control& control, QWidget* parent) {
+    if (auto* const drops = dynamic_cast<DropButton*>(&control)) {
+        return new DropView(*drops, new DropPushButton(parent));
+    }
     return new ButtonView(control, MakeButton(control.Kind(), parent));
 }
 

@@ -56,8 +56,8 @@ protected:
         const int caret = text.size() == edit_->text().size() ? edit_->cursorPosition() : -1;
         edit_->setText(text);
         if (caret >= 0) edit_->setCursorPosition(caret);  // a letter was put for another
-        // The end of a long result matters less than its beginning.
-        if (box_.Locked) edit_->setCursorPosition(0);
+        // The end of a long number matters less than its beginning.
+        if (box_.Locked || (box_.IsNumber && !edit_->hasFocus())) edit_->setCursorPosition(0);
     }
 
     // What the user marked with the mouse stays marked.

@@ -14,6 +14,7 @@
 #include "core/Version.h"
 #include "desktop/DatabaseMemory.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/FiguresMemory.h"
 #include "desktop/OneInstance.h"
 #include "desktop/Painting.h"
 #include "desktop/StartTime.h"
@@ -77,6 +78,7 @@ int main(int argc, char** argv) {
     QObject::connect(&minute, &QTimer::timeout, [] { quillmetra::KeepUnsavedWork(); });
     minute.start(std::chrono::minutes(1));
     quillmetra::DatabaseMemory databases(home + "\\TRWIN.ini");
+    quillmetra::RememberFigures(home + "\\TRWIN.ini");
     // A folder that was named is another one than that of the last run.
     QTimer::singleShot(0, [&databases, opens = !parser.isSet(folder)] {
         if (opens) databases.OpenAgain();

@@ -28,6 +28,7 @@
 #include "reports/ResultsTable.h"
 #include "tables/PipeSizes.h"
 #include "units/NamedUnitSets.h"
+#include "units/ProgramConversion.h"
 #include "units/RecordUnits.h"
 
 namespace quillmetra {
@@ -303,14 +304,26 @@ void CalculationForm::ShowHint(const std::string& hint) {
     hintedCase_ = Calc.CaseIndex;
 }
 
+// Figures that wait for their rounding are not printed. Who keeps them on purpose is offered to round them
+// now.
+bool CalculationForm::RoundNow() {
+    constexpr const char* title = "Print Calculation";
+    Tell("Please round before printing", title, Icon::Stop);
+    if (Suite.ConvertedFigures != Figures::Keep || !AskYesNo("Round now?", title, Icon::Question))
+        return false;
+    RoundNumbers();
+    Calc.UnitsConverted = words::Yes;
+    Calc.ChangedFlag = words::No;
+    ShowCalculation();
+    DrawResults();
+    return true;
+}
+
 void CalculationForm::mnuPrint_Click() {
     CloseOverlays();
     StoreForm();
     if (Calc.DataOk == words::No) return;
-    if (Calc.RoundedFlag == words::No) {
-        Tell("Please round before printing", "Print Calculation", Icon::Stop);
-        return;
-    }
+    if (Calc.RoundedFlag == words::No && !RoundNow()) return;
     Calc.CaseUnitsText[printed::Date] = WithoutPrompt(cmdDate.Caption(), DatePrompt);
     Calc.CaseUnitsText[printed::By] = txtBy.Text();
     Calc.CaseUnitsText[printed::Fluid] = txtFluid.Text();
@@ -407,19 +420,16 @@ void CalculationForm::mnuExit_Click() {
     if (MayLeaveRecord()) EndProcess();
 }
 
-void CalculationForm::OpenPanel(const char* panel) {
+void CalculationForm::StoreForPanel() {
     StoreForm();
     if (const Program* program = FindProgram(program_)) Calc.CalcOptionCaller = program->OptionsWord;
+}
+
+void CalculationForm::OpenPanel(const char* panel) {
+    StoreForPanel();
     SetCalculateButtons(false);
     SetEnabled(false);
     ShowForm(panel);
-}
-
-void CalculationForm::HookUnits(const ControlArray<CommandButton>& buttons) {
-    buttons.Each([this](CommandButton& button, int) {
-        button.SetToolTip("The unit of this row; click to change units");
-        button.Click = [this] { OpenPanel("frmUnits"); };
-    });
 }
 
 void CalculationForm::OpenPipeSizes() {

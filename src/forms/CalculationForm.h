@@ -9,6 +9,7 @@
 #include "forms/FluidPanels.h"
 #include "forms/SuiteForm.h"
 #include "forms/UndoHistory.h"
+#include "platform/DropButton.h"
 #include "units/CorrelationRange.h"
 
 namespace quillmetra {
@@ -125,8 +126,11 @@ protected:
     virtual void ReopenRecord() {}
     // What a fresh record of the form begins with, beside what all have.
     virtual void BeginRecord() {}
-    // The buttons that show the units of the rows and open the unit window.
-    void HookUnits(const ControlArray<CommandButton>& buttons);
+    // The buttons that show the units of the rows, open the unit window and drop the units of their family;
+    // in UnitsInPlace.cpp.
+    void HookUnits(const ControlArray<DropButton>& buttons);
+    void OpenUnits(int row);
+    void TakeUnit(int row, int line);
     // Opens the pipe size dialog for this form.
     void OpenPipeSizes();
     // The units routine of the form: applies the unit set in force to the record.
@@ -174,6 +178,8 @@ private:
     // Saves to the database on the default path; false, after a message, when it was refused.
     bool Save();
     bool SaveTo(const std::string& databaseFile);
+    bool RoundNow();
+    void StoreForPanel();
     void BlankResults(int caseIndex);
     void BlankLineResults();
     static void PressCase(Control& button);

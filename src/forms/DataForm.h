@@ -19,7 +19,7 @@ public:
     ControlArray<TextBox> txtPressure{Picture1, "txtPressure", {0, 1, 2}};
     ControlArray<CommandButton> cmdOK{Picture1, "cmdOK", {0, 1, 2}, ""};
     CommandButton cmdCalculateAll{Picture1, "cmdCalculateAll", "&Calculate all"};
-    ControlArray<CommandButton> cmdUnits{Picture1, "cmdUnits", {2, 3}, ""};
+    ControlArray<DropButton> cmdUnits{Picture1, "cmdUnits", {2, 3}, ""};
 
     // Properties of liquids and of gases
     Label lblMW{Picture1, "lblMW", "Molecular weight"};

@@ -71,7 +71,7 @@ public:
     ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
     ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
     CommandButton cmdCalculateAll{Picture1, "cmdCalculateAll", "&Calculate all"};
-    ControlArray<CommandButton> cmdUnits;
+    ControlArray<DropButton> cmdUnits;
 
     // Results
     Label lblDropP100{Picture1, "lblDropP100", "Loss per 100 "};

@@ -2,6 +2,7 @@
 #include "forms/PanelReturn.h"
 
 #include <string>
+#include <utility>
 
 #include "core/CalcRecord.h"
 #include "core/Filling.h"
@@ -13,9 +14,14 @@
 #include "platform/Forms.h"
 #include "reports/FormRefresh.h"
 #include "units/UnitChange.h"
+#include "units/UnitPicks.h"
 #include "units/UserUnits.h"
 
 namespace quillmetra {
+
+namespace {
+std::function<void(Figures)> KeepFigures;
+}  // namespace
 
 CalculationForm* OpenCalculation() {
     const Program* const program = FindProgram(Calc.CurrentProgram);
@@ -30,6 +36,33 @@ void ConvertToNewUnits(UnitChange& change) {
     });
     ComposeHeading();
 }
+
+bool PutPicks(const UnitPicks& picks) {
+    const int missing = picks.PutIntoRecord();
+    if (missing == UnitPicks::NoRow) return true;
+    Tell("Multiplier must be greater than zero", "Unit " + picks.Of(missing).Name);
+    return false;
+}
+
+bool ConvertToPicks(const UnitPicks& picks, UnitChange& change) {
+    if (!PutPicks(picks)) return false;
+    const Filling filling;
+    if (change.HasNewUnits()) {
+        // Units picked one by one belong to no named set.
+        (program::IsOfGas(Calc.CurrentProgram) ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
+        Calc.UnitSetName = SelectedUnitsName;
+    }
+    ConvertToNewUnits(change);
+    return true;
+}
+
+void ChooseFigures(Figures choice) {
+    if (choice == Suite.ConvertedFigures) return;
+    Suite.ConvertedFigures = choice;
+    if (KeepFigures) KeepFigures(choice);
+}
+
+void SetFiguresKeeper(std::function<void(Figures)> keep) { KeepFigures = std::move(keep); }
 
 void BlankAllResults() {
     const Setting asByTheUser(Calc.FormLoading, words::No);

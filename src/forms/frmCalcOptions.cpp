@@ -52,6 +52,7 @@ frmCalcOptions::frmCalcOptions() : SuiteForm("frmCalcOptions") {
     txtSTPBaro.IsNumber = true;
     txtSTPBaro.ColourGroup = 4;
     txtSTPBaro.Describe(&lblSTPBaro, &cmdBaroPress);
+    optKeepFigures.SetToolTip("A calculation whose figures are not rounded is not printed until they are");
     fraCalcInputData.SetVisible(false);
     fraCalcOptions.SetVisible(false);
     for (Control* control : Controls()) {
@@ -106,6 +107,9 @@ void frmCalcOptions::ShowOptions() {
     optPressureDrop.SetChecked(Calc.CalcMode == words::PressureDrop);
     OptCalcFlowrate.SetChecked(Calc.CalcMode == words::FlowRate);
     OptCalcValveSz.SetChecked(Calc.CalcMode == words::ValveSize);
+    optAskRounding.SetChecked(Suite.ConvertedFigures == Figures::Ask);
+    optRoundFigures.SetChecked(Suite.ConvertedFigures == Figures::Round);
+    optKeepFigures.SetChecked(Suite.ConvertedFigures == Figures::Keep);
     ShowBarometer();
 }
 
@@ -172,6 +176,11 @@ std::string frmCalcOptions::CalcChoice() const {
                        {OptCalcValveSz, words::ValveSize}});
 }
 
+Figures frmCalcOptions::FiguresChoice() const {
+    if (optRoundFigures.Checked()) return Figures::Round;
+    return optKeepFigures.Checked() ? Figures::Keep : Figures::Ask;
+}
+
 int frmCalcOptions::SetChoice() const {
     const OptionButton* const sets[] = {&optMassEnglishUnits, &optVolEnglishUnits, &optMassSIUnits,
                                         &optVolSIUnits, &optUserUnits};
@@ -203,6 +212,7 @@ void frmCalcOptions::CloseCalcOpts() {
     }
     UnitChange change;
     if (!ApplySet()) return;
+    ChooseFigures(FiguresChoice());
     const std::string note = TakeOptions(change);
     InstallOptions();
     CalculationForm* const form = OpenCalculation();

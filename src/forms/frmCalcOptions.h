@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/CalcRecord.h"
+#include "core/Suite.h"
 #include "forms/SuiteForm.h"
 
 namespace quillmetra {
@@ -36,6 +37,12 @@ public:
     Frame fraDensity{*this, "fraDensity", "Liquid density"};
     OptionButton optLiqSG{fraDensity, "optLiqSG", "Specific gravity"};
     OptionButton optLiqDensity{fraDensity, "optLiqDensity", "Density"};
+
+    // What becomes of the numbers that a change of units converts; it holds for all calculations.
+    Frame fraConverted{*this, "fraConverted", "Converted figures"};
+    OptionButton optAskRounding{fraConverted, "optAskRounding", "Ask whether to round"};
+    OptionButton optRoundFigures{fraConverted, "optRoundFigures", "Round to six figures"};
+    OptionButton optKeepFigures{fraConverted, "optKeepFigures", "Keep all digits"};
 
     // No event of the suite shows these two; their words are kept as stored.
     Frame fraCalcInputData{*this, "fraCalcInputData", "Data source"};
@@ -71,6 +78,7 @@ private:
     std::string DensityChoice() const;
     std::string DataChoice() const;
     std::string CalcChoice() const;
+    Figures FiguresChoice() const;
     // The number of the set that is picked, 0 for "leave as is".
     int SetChoice() const;
     double BarometerInPsia() const;

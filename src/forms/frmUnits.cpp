@@ -1,8 +1,7 @@
 // See frmUnits.h.
 #include "forms/frmUnits.h"
 
-#include "core/Filling.h"
-#include "core/Programs.h"
+#include "core/CalcRecord.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
@@ -15,18 +14,12 @@
 #include "units/RecordUnits.h"
 #include "units/UnitCatalogue.h"
 #include "units/UnitLibraryFile.h"
+#include "units/UnitSelection.h"
 #include "units/UserUnits.h"
 
 namespace quillmetra {
 
 namespace {
-
-constexpr int SkippedPosition = 6;
-constexpr int DensityPosition = 11;
-
-constexpr std::pair<int, int> FlowParts[] = {
-    {unit::GasFlow, unit::GasTimeBase},
-    {unit::LiquidFlow, unit::LiquidTimeBase}};  // quantity and time base of a flow unit
 
 constexpr const char* ChooseText =
     "To select, double click the required unit.   To add a unit, click an empty line. "
@@ -73,20 +66,11 @@ frmUnits::frmUnits() : SuiteForm("frmUnits") {
     mnuDeleteLib.Click = [this] { mnuDeleteLib_Click(); };
 }
 
-bool frmUnits::IsGas() const { return program::IsOfGas(Calc.CurrentProgram); }
-
 void frmUnits::Load() {
     ApplyColours(*this);
-    if (Suite.UnitLibraryName.empty()) ReadUnitLibrary();
-    ApplyPressureSuffix();
+    PrepareUnitLibrary();
     change_.emplace();
-    // The window shows a liquid's density in row 9, whatever row the program keeps it in.
-    const bool density = Calc.LiquidDensityMode == words::Density;
-    if (!IsGas() && density) {
-        Calc.UnitName[unit::Density] = Calc.UnitName[unit::LiquidDensity];
-        Calc.UnitFactor[unit::Density] = Calc.UnitFactor[unit::LiquidDensity];
-    }
-    RowCount = !IsGas() && !density ? UnitPositions - 1 : UnitPositions;
+    picks_.Begin();
     ShowTitle();
     ShowUnits();
     lblInstruct.SetCaption(SelectionsText);
@@ -99,32 +83,14 @@ void frmUnits::ShowTitle() {
     SetCaption(title);
 }
 
-// A row is shown when its position counts; a liquid with gravity leaves its density row out.
-bool frmUnits::Shows(int row) const {
-    const auto order = UnitDisplayOrder(IsGas());
-    for (int position = 1; position <= UnitPositions; ++position) {
-        if (RowCount < UnitPositions && position == DensityPosition) continue;
-        if (order[At(position)] == row) return true;
-    }
-    return false;
-}
-
 void frmUnits::ShowUnits() {
     cmdUnit.Each([this](CommandButton& button, int row) {
         button.SetCaption(UnitRowCaption(row));
-        fraRow(row).SetVisible(Shows(row));
+        fraRow(row).SetVisible(UnitPicks::Has(row));
         ActiveList[At(row)] = UnitListOf(row);
-        lblFactor(row).SetCaption(Calc.UnitName[At(row)]);
+        lblFactor(row).SetCaption(picks_.Of(row).Name);
         lblFactor(row).Describe(&button);
-        SelectedFactor[At(row)] = {Calc.UnitFactor[At(row)], false};
     });
-    for (const auto& [row, base] : FlowParts) {
-        const auto [quantity, time] = SplitFlowUnit(Calc.UnitName[At(row)]);
-        lblFactor(row).SetCaption(quantity);
-        lblFactor(base).SetCaption(time);
-        SelectedFactor[At(row)] = {FindUnitFactor(UnitListOf(row), quantity), false};
-        SelectedFactor[At(base)] = {FindUnitFactor(UnitListOf(base), time), false};
-    }
 }
 
 // --- The panel -----------------------------------------------------------------------------------------
@@ -220,19 +186,9 @@ void frmUnits::cboText_Change() {
     cboFactor.Preselect(-1);
 }
 
-// The other part of a flow unit, the quantity of a time base and the time base of a quantity; -1 for other
-// units.
-int frmUnits::OtherFlowPart() const {
-    for (const auto& [row, base] : FlowParts) {
-        if (UnitRow == row) return base;
-        if (UnitRow == base) return row;
-    }
-    return -1;
-}
-
 // The two parts of a flow unit make one name in the end.
 bool frmUnits::NameIsTooLong(const std::string& name) {
-    const int other = OtherFlowPart();
+    const int other = OtherFlowPart(UnitRow);
     const std::string whole = other < 0 ? name : name + lblFactor(other).Caption();
     if (CharacterCount(whole) <= LongestUnitName) return false;
     const bool alone = CharacterCount(name) > LongestUnitName;
@@ -275,7 +231,7 @@ void frmUnits::cmdSelect_Click() {
         return;
     }
     lblFactor(UnitRow).SetCaption(name);
-    SelectedFactor[At(UnitRow)] = {factor, true};
+    picks_.Set(UnitRow, name, factor);
     ClosePanel();
     SetStatus(readAs);
 }
@@ -306,77 +262,8 @@ bool frmUnits::AskUpdate() const {
     return AskYesNo("Update calculation for changes?\n\nOK?", "Unit Display");
 }
 
-// A unit that was not touched keeps the record's factor, which may have more digits than the library's.
-bool frmUnits::TakeUnit(int row) {
-    const Choice& chosen = SelectedFactor[At(row)];
-    if (!chosen.Touched) return true;
-    if (!IsUsableFactor(chosen.Factor)) {
-        Tell("Multiplier must be greater than zero", "Unit " + lblFactor(row).Caption());
-        return false;
-    }
-    Calc.UnitName[At(row)] = lblFactor(row).Caption();
-    Calc.UnitFactor[At(row)] = chosen.Factor;
-    return true;
-}
-
-bool frmUnits::TakeFlowUnit(int row, int baseRow) {
-    const Choice& quantity = SelectedFactor[At(row)];
-    const Choice& time = SelectedFactor[At(baseRow)];
-    if (!quantity.Touched && !time.Touched) return true;
-    const double factor = quantity.Factor * time.Factor;
-    if (!IsUsableFactor(factor)) {
-        const int missing = !IsUsableFactor(quantity.Factor) ? row : baseRow;
-        Tell("Multiplier must be greater than zero", "Unit " + lblFactor(missing).Caption());
-        return false;
-    }
-    Calc.UnitFactor[At(row)] = factor;
-    Calc.UnitName[At(row)] = lblFactor(row).Caption() + lblFactor(baseRow).Caption();
-    return true;
-}
-
-bool frmUnits::TakeUnits() {
-    for (const auto& [row, base] : FlowParts) {
-        if (!TakeFlowUnit(row, base)) return false;
-    }
-    const auto order = UnitDisplayOrder(IsGas());
-    for (int position = 2; position <= UnitPositions; ++position) {
-        // Position 6 is passed over: a liquid's viscosity is taken at position 12, and a gas keeps the unit
-        // of its critical temperature.
-        if (position == SkippedPosition) continue;
-        if (RowCount < UnitPositions && position == DensityPosition) continue;
-        if (!TakeUnit(order[At(position)])) return false;
-    }
-    const bool density = Calc.LiquidDensityMode == words::Density;
-    if (!IsGas() && density) {
-        Calc.UnitName[unit::LiquidDensity] = Calc.UnitName[unit::Density];
-        Calc.UnitFactor[unit::LiquidDensity] = Calc.UnitFactor[unit::Density];
-    }
-    if (IsGas()) {
-        Calc.UnitName[unit::Viscosity] = Calc.UnitName[unit::GasViscosity];
-        Calc.UnitFactor[unit::Viscosity] = Calc.UnitFactor[unit::GasViscosity];
-    }
-    CarryDensityUnit();
-    return true;
-}
-
 void frmUnits::cmdOK_Click() {
-    if (!AskUpdate()) return;
-    const UnitNames names = Calc.UnitName;
-    const UnitFactors factors = Calc.UnitFactor;
-    if (!TakeUnits()) {
-        Calc.UnitName = names;
-        Calc.UnitFactor = factors;
-        return;
-    }
-    {
-        const Filling filling;
-        if (change_->HasNewUnits()) {
-            // Units picked one by one belong to no named set.
-            (IsGas() ? Calc.GasUnitSet : Calc.LiquidUnitSet) = 0;
-            Calc.UnitSetName = SelectedUnitsName;
-        }
-        ConvertToNewUnits(*change_);
-    }
+    if (!AskUpdate() || !ConvertToPicks(picks_, *change_)) return;
     UnloadForm(Name());
     UnloadForm("frmCalcOptions");
     ReturnToCalculation();
@@ -389,7 +276,7 @@ void frmUnits::cmdSaveUser_Click() {
     }
     const UnitNames names = Calc.UnitName;
     const UnitFactors factors = Calc.UnitFactor;
-    if (TakeUnits()) {
+    if (PutPicks(picks_)) {
         StoreUserUnitSet();
         SaveUserUnits(*this);
     }

@@ -6,10 +6,9 @@
 #include <optional>
 #include <string>
 
-#include "core/CalcRecord.h"
 #include "forms/SuiteForm.h"
 #include "units/UnitChange.h"
-#include "units/UnitSelection.h"
+#include "units/UnitPicks.h"
 
 namespace quillmetra {
 
@@ -69,14 +68,6 @@ public:
     void mnuDeleteLib_Click();
 
 private:
-    // What the window has chosen for a row. A factor of 0 is a unit that the library does not have.
-    struct Choice {
-        double Factor = 0;
-        bool Touched = false;
-    };
-
-    bool IsGas() const;
-    bool Shows(int row) const;
     void ShowTitle();
     void ShowUnits();
     void OpenPanel(int row);
@@ -84,21 +75,15 @@ private:
     void OfferBasis(bool offer);
     void ListUnits();
     bool NameIsTooLong(const std::string& name);  // and says so
-    int OtherFlowPart() const;
     std::string& BasisOfRow() const;
     bool AskUpdate() const;
-    // Steps of OK: the chosen units go into the record; false, with a message, when one has no multiplier.
-    bool TakeUnits();
-    bool TakeFlowUnit(int row, int baseRow);
-    bool TakeUnit(int row);
     void ShowLibrary();
     bool ConfirmLibrary(const std::string& question, Answer preset) const;
 
     int UnitRow = 0;  // the row in hand
     int ProtectedCount = 0;
-    int RowCount = UnitPositions;
     std::array<int, 36> ActiveList{};
-    std::array<Choice, 36> SelectedFactor{};
+    UnitPicks picks_;
     std::optional<UnitChange> change_;  // while the window is open; Cancel ends it
     std::string basisBeforePanel_;      // for the Cancel of the panel
 };

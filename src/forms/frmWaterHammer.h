@@ -50,7 +50,7 @@ public:
     Label lblMaxAllowPressure{Picture1, "lblMaxAllowPressure", "Maximum allowable pressure"};
     TextBox txtMaxAllowPressure{Picture1, "txtMaxAllowPressure"};
     Label unMaxAllowPressure{Picture1, "unMaxAllowPressure"};
-    ControlArray<CommandButton> cmdUnits{Picture1, "cmdUnits", {1, 2, 3, 6, 18, 25, 27}, ""};
+    ControlArray<DropButton> cmdUnits{Picture1, "cmdUnits", {1, 2, 3, 6, 18, 25, 27}, ""};
 
     CommandButton cmdCalculateliq{Picture1, "cmdCalculateliq", "&Calculate"};
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/DropButton.h"
 #include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/TextCase.h"
@@ -68,19 +69,30 @@ ListBox& NamedList(ScriptPlayer& player, const std::string& name) {
 }
 
 // A row by its number, or the first that starts with a text.
-int FindRow(const ListBox& list, const ScriptWord& word) {
+int FindRow(const std::string& list, const std::vector<std::string>& rows, const ScriptWord& word) {
     const bool isNumber =
         !word.Quoted && !word.Text.empty() && word.Text.find_first_not_of("0123456789") == std::string::npos;
     if (isNumber) {
         const int row = WholeNumber(word);
-        if (row < list.RowCount()) return row;
-        throw ScriptFailure{list.FullName() + " has " + std::to_string(list.RowCount()) + " rows"};
+        if (static_cast<std::size_t>(row) < rows.size()) return row;
+        throw ScriptFailure{list + " has " + std::to_string(rows.size()) + " rows"};
     }
-    const auto& rows = list.Rows();
     const auto found = std::find_if(rows.begin(), rows.end(),
                                     [&](const std::string& row) { return row.starts_with(word.Text); });
     if (found != rows.end()) return static_cast<int>(found - rows.begin());
-    throw ScriptFailure{"no row of " + list.FullName() + " starts with " + word.Text};
+    throw ScriptFailure{"no row of " + list + " starts with " + word.Text};
+}
+
+// A line of the list that a button drops is taken by the name of the button.
+bool PickDropLine(Control& control, const ScriptWord& word) {
+    auto* const button = dynamic_cast<DropButton*>(&control);
+    if (button == nullptr) return false;
+    RequireAct(control);
+    const FormHold hold(control.Owner());
+    std::vector<std::string> rows;
+    for (const DropLine& line : OpenDropList(*button)) rows.push_back(line.Text);
+    TakeDropLine(*button, FindRow(control.FullName(), rows, word));
+    return true;
 }
 
 // A key as Keys.h names it: one character or the name of a key, with modifiers in front.
@@ -149,14 +161,15 @@ void DoubleClick(ScriptPlayer& player, const Arguments& arguments) {
 }
 
 void Pick(ScriptPlayer& player, const Arguments& arguments) {
+    if (PickDropLine(player.Named(arguments[0].Text), arguments[1])) return;
     ListBox& list = NamedList(player, arguments[0].Text);
-    PickRow(list, FindRow(list, arguments[1]));
+    PickRow(list, FindRow(list.FullName(), list.Rows(), arguments[1]));
 }
 
 void Unpick(ScriptPlayer& player, const Arguments& arguments) {
     ListBox& list = NamedList(player, arguments[0].Text);
     if (!list.Multiple) throw ScriptFailure{list.FullName() + " takes one row only"};
-    UnpickRow(list, FindRow(list, arguments[1]));
+    UnpickRow(list, FindRow(list.FullName(), list.Rows(), arguments[1]));
 }
 
 void ClickRow(ScriptPlayer& player, const Arguments& arguments) {

@@ -1,11 +1,13 @@
 // The commands that print or check what a user sees.
 #include <cmath>
 #include <cstdio>
+#include <optional>
 #include <ostream>
 #include <utility>
 
 #include "core/Suite.h"
 #include "forms/WindowTitle.h"
+#include "platform/DropButton.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
@@ -80,8 +82,16 @@ const T* As(const Control& control, std::initializer_list<ControlKind> kinds) {
     return nullptr;
 }
 
-const ListBox* AsList(const Control& control) {
-    return As<ListBox>(control, {ControlKind::ListBox, ControlKind::ComboBox});
+// The rows of a list, or of the one that a button drops; none for other controls.
+std::optional<std::vector<std::string>> RowsOf(const Control& control) {
+    if (const auto* list = As<ListBox>(control, {ControlKind::ListBox, ControlKind::ComboBox}))
+        return list->Rows();
+    const auto* const button = dynamic_cast<const DropButton*>(&control);
+    if (button == nullptr) return {};
+    std::vector<std::string> rows;
+    if (!button->Lines) return rows;
+    for (const DropLine& line : button->Lines()) rows.push_back(line.Text);
+    return rows;
 }
 
 const Grid* AsGrid(const Control& control) { return As<Grid>(control, {ControlKind::Grid}); }
@@ -185,10 +195,10 @@ void ExpectColour(ScriptPlayer& player, const Arguments& arguments) {
 
 void ExpectCount(ScriptPlayer& player, const Arguments& arguments) {
     const Control& control = player.Named(arguments[0].Text);
-    const ListBox* const list = AsList(control);
     const Grid* const grid = AsGrid(control);
-    if (list == nullptr && grid == nullptr) throw ScriptFailure{control.FullName() + " has no rows"};
-    const int found = list != nullptr ? list->RowCount() : grid->RowCount();
+    const auto rows = RowsOf(control);
+    if (!rows && grid == nullptr) throw ScriptFailure{control.FullName() + " has no rows"};
+    const int found = rows ? static_cast<int>(rows->size()) : grid->RowCount();
     const int wanted = WholeNumber(arguments[1]);
     if (found != wanted) {
         Fail("the number of rows of " + control.FullName(), std::to_string(found), std::to_string(wanted));
@@ -197,13 +207,14 @@ void ExpectCount(ScriptPlayer& player, const Arguments& arguments) {
 
 void ExpectRow(ScriptPlayer& player, const Arguments& arguments) {
     const Control& control = player.Named(arguments[0].Text);
-    const ListBox* const list = AsList(control);
-    if (list == nullptr) throw ScriptFailure{control.FullName() + " is no list"};
+    const auto rows = RowsOf(control);
+    if (!rows) throw ScriptFailure{control.FullName() + " is no list"};
     const int row = WholeNumber(arguments[1]);
-    if (row < 0 || row >= list->RowCount()) {
-        throw ScriptFailure{list->FullName() + " has " + std::to_string(list->RowCount()) + " rows"};
+    if (row < 0 || row >= static_cast<int>(rows->size())) {
+        throw ScriptFailure{control.FullName() + " has " + std::to_string(rows->size()) + " rows"};
     }
-    RequireSame("row " + std::to_string(row) + " of " + list->FullName(), list->Row(row), arguments[2].Text);
+    RequireSame("row " + std::to_string(row) + " of " + control.FullName(), (*rows)[At(row)],
+                arguments[2].Text);
 }
 
 void ExpectCell(ScriptPlayer& player, const Arguments& arguments) {

@@ -57,6 +57,11 @@ bool ReadUnitLibrary() {
     }
 }
 
+void PrepareUnitLibrary() {
+    if (Suite.UnitLibraryName.empty()) ReadUnitLibrary();
+    ApplyPressureSuffix();
+}
+
 bool WriteUnitLibrary() {
     if (Suite.UnitLibraryName.empty()) ReadUnitLibrary();
     try {

@@ -13,6 +13,9 @@ inline constexpr const char* UserLibraryName = "User Library";
 // accepts; a name keeps its first eight characters. True for the user's library.
 bool ReadUnitLibrary();
 
+// Loads a library unless one is in force, with the operating pressures as the record has them.
+void PrepareUnitLibrary();
+
 // Writes the library in force, whole or not at all, and names it the user's. False when it cannot be written.
 bool WriteUnitLibrary();
 

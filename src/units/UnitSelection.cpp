@@ -49,6 +49,22 @@ const UnitRow::Choice& ChoiceOf(int row) {
 
 std::span<const int, UnitPositions + 1> UnitDisplayOrder(bool gas) { return gas ? GasOrder : LiquidOrder; }
 
+bool IsUnitTaken(bool gas, int row) {
+    const auto order = UnitDisplayOrder(gas);
+    for (int position = 1; position <= UnitPositions; ++position) {
+        if (position != PassedPosition && order[static_cast<std::size_t>(position)] == row) return true;
+    }
+    return false;
+}
+
+int OtherFlowPart(int row) {
+    for (const auto& [quantity, base] : FlowParts) {
+        if (row == quantity) return base;
+        if (row == base) return quantity;
+    }
+    return -1;
+}
+
 std::pair<std::string, std::string> SplitFlowUnit(const std::string& unit) {
     const std::size_t slash = unit.find('/');
     if (slash == std::string::npos) return {unit, ""};

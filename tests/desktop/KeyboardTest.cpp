@@ -131,8 +131,9 @@ struct ByKeys {
 const ByKeys Ways[] = {
     {"liquid line",
      "{Return} P-1 @txtInletPipeLen 1000 @cmdPipeID {Space} 4 {Return} {Return} @txtFlow(0) 100000 {Return} "
-     "68 {Return} 100 {Alt+U} M P Tolu {Return} @cmdCalculate(0) {Space}",
-     "frmLiqLineLoss", "txtDestPress", 0, 89.39},
+     "68 {Return} 100 {Alt+U} M P Tolu {Return} @cmdCalculate(0) {Space} @cmdUnits(3) {Alt+Down} b # "
+     "{Return}",
+     "frmLiqLineLoss", "txtDestPress", 0, 6.163},
     {"gas line",
      "{Down} {Return} P-2 @txtInletPipeLen 1000 {Return} 4.026 @txtFlow(1) 5000 {Return} 60 {Return} 100 "
      "{Alt+U} N P Meth {Return} @cmdCalculate(1) {Space}",

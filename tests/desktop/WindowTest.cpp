@@ -91,6 +91,28 @@ TEST_F(WindowTest, AButtonTakesTheFocusAtTheReleaseOfTheMouse) {
     EXPECT_TRUE(HasKeyboard(Sample->cmdGo));
 }
 
+TEST_F(WindowTest, AButtonDropsItsListByArrowAndRightButton) {
+    Suite.ConvertedFigures = Figures::Round;
+    Control& pressure = *Show("frmLiqLineLoss").Find("cmdUnits", unit::Pressure);
+    QWidget& button = WidgetOf(pressure);
+    const QPoint arrow(button.width() - 8, button.height() / 2);
+    const auto menu = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+    QTest::mouseClick(&button, Qt::LeftButton, {}, arrow);
+    Settle();
+    ASSERT_NE(menu(), nullptr);
+    EXPECT_EQ(menu()->activeAction()->text(), "&psig");
+    QTest::keyClick(menu(), Qt::Key_Escape);
+    Settle();
+    QContextMenuEvent right(QContextMenuEvent::Mouse, arrow, button.mapToGlobal(arrow));
+    QCoreApplication::sendEvent(&button, &right);
+    Settle();
+    ASSERT_NE(menu(), nullptr);
+    QTest::mouseClick(menu(), Qt::LeftButton, {}, menu()->actionGeometry(menu()->actions()[1]).center());
+    Settle();
+    EXPECT_EQ(pressure.Caption(), "kPag");
+    EXPECT_EQ(pressure.Owner().Focus.Current(), &pressure);
+}
+
 TEST_F(WindowTest, ABoxTakesTheFocusAtTheReleaseOfTheMouse) {
     QTest::mousePress(&Edit(Sample->txtTwo), Qt::LeftButton);
     Settle();

@@ -104,8 +104,16 @@ protected:
                     PickCell(grid, BelowOrLast(grid.RowCount()), BelowOrLast(grid.ColumnCount()));
                 break;
             }
-            default: ClickControl(control);
+            default:
+                if (!TakesDropLine(control)) ClickControl(control);
         }
+    }
+
+    bool TakesDropLine(Control& control) {
+        auto* const button = dynamic_cast<DropButton*>(&control);
+        if (button == nullptr || Below(2) == 0) return false;
+        const DropLines lines = OpenDropList(*button);
+        return !lines.empty() && TakeDropLine(*button, Below(lines.size()));
     }
 
     // In the control that has the focus, but for a calculation, which a caller has to know of.

@@ -169,6 +169,7 @@ protected:
             Control& control = AnyControl(form);
             last_ = form.Name() + "." + control.FullName();
             calculates = Calculates(form, control);
+            elsewhere = elsewhere || control.Name() == "cmdUnits";  // converts inputs and results in place
             ActOn(control);
             // The act that showed a modal form ends with that form, before the user comes to a key elsewhere.
             const bool waits = modalForms_ == 0 || form.Visible();
@@ -178,10 +179,13 @@ protected:
                 PressAnyKey(*now.back());
             }
         }
-        // Elsewhere a record may be loaded, or numbers and results converted alike.
-        if (elsewhere) inputs_.fill({});
-        const auto renews = [](const MessageBox& box) { return box.Text == "Update Fluid Properties?"; };
-        calculates = calculates || std::any_of(User.Boxes.begin(), User.Boxes.end(), renews);
+        const auto asked = [this](std::string_view text) {
+            return std::any_of(User.Boxes.begin(), User.Boxes.end(),
+                               [text](const MessageBox& box) { return box.Text == text; });
+        };
+        // Elsewhere a record may be loaded, or numbers and results converted or rounded alike.
+        if (elsewhere || asked("Round now?")) inputs_.fill({});
+        calculates = calculates || asked("Update Fluid Properties?");
         ExpectSound();
         ExpectNoStaleResults(calculates);
     }

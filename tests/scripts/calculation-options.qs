@@ -1,6 +1,42 @@
 # The options panel through each of its messages, with Yes and with No, over a calculated case. What is given
 # up leaves the numbers alone; what is taken converts inputs and results together.
 strict on
+# --- Who keeps all digits of what was converted is refused a print as well, and may round at once.
+start
+new 1
+include good-case.qs
+answer No
+click cmdCalculate(1)
+expect-message Transition
+click cmdFormLayout
+click optKeepFigures
+click cmdCancelOptions
+click cmdFormLayout
+expect-state optAskRounding checked
+click optKeepFigures
+click cmdOKOptions
+pick cmdUnits(3) atg
+answer OK
+answer No
+click mnuPrint
+expect-box "Print Calculation" "Please round before printing" OK Stop
+expect-box "Print Calculation" "Round now?" YesNo Question
+expect-form frmLiqLineLoss
+answer OK
+answer Yes
+click mnuPrint
+expect-message Please round before printing
+expect-message Round now?
+click cmdCancel
+expect txtPressure(1) 6.80457
+click cmdFormLayout
+click optRoundFigures
+click cmdOKOptions
+pick cmdUnits(3) psig
+click mnuPrint
+expect-form frmObxPrintCalc
+click cmdCancel
+
 start
 # --- The barometer keeps its digits: kPa is only how it is seen, and no letter gets in.
 new 1

@@ -4,7 +4,11 @@ strict on
 start
 new 2
 include good-gas-case.qs
+# The window leaves this unit alone, so that its button drops no list.
+expect-count cmdUnits(12) 0
+expect-row cmdUnits(0) 1 kg/h
 click cmdUnits(25)
+expect-focus cmdUnit(25)
 expect-form frmUnits
 click cmdUnit(0)
 click cmdBasis

@@ -110,6 +110,35 @@ answer No
 click cmdCalculate(1)
 expect-message Transition
 
+# --- In place: a flow by its present basis and time base; the last line leads here -----------------------------
+expect-count cmdUnits(1) 7
+pick cmdUnits(1) Mass
+expect-form frmUnits
+expect-focus cmdUnit(1)
+click cmdUnit(5)
+pick cboUnit 4
+type cboUnit /wk
+type cboFactor 0.006
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+# A time base of the user's own that the library does not have leaves nothing to choose from.
+expect cmdUnits(1) lb/wk
+expect-count cmdUnits(1) 1
+expect-count cmdUnits(25) 2
+click cmdUnits(1)
+click cmdUnit(5)
+pick cboUnit /h
+click cmdSelect
+answer Yes
+answer Yes
+click cmdOK
+expect-message Update calculation
+expect-message Round converted data?
+
 # --- Choosing: what the panel refuses ----------------------------------------------------------------------
 click cmdUnits(25)
 expect-form frmUnits

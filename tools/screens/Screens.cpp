@@ -9,9 +9,11 @@
 #include <utility>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QImage>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTimer>
@@ -65,7 +67,12 @@ QList<QRgb> PaletteOf(const QImage& picture) {
 
 // A quarter of the file by a palette, for which the soft edges of the letters lose some of their shades.
 void SavePicture(QWidget& window, const char* name) {
-    const QImage grabbed = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QPixmap whole = window.grab();
+    // A menu is a window of its own.
+    if (QWidget* const menu = QApplication::activePopupWidget()) {
+        QPainter(&whole).drawPixmap(window.mapFromGlobal(menu->pos()), menu->grab());
+    }
+    const QImage grabbed = whole.toImage().convertToFormat(QImage::Format_RGB32);
     QImage picture = grabbed;
     for (const int step : {1, 4, 8, 16}) {
         picture = WithFewerColours(grabbed, step);
@@ -100,6 +107,14 @@ void Type(const char* name, int index, const char* text) {
 
 void Click(const char* form, const char* name, int index = Control::NoIndex) {
     ClickControl(ControlOf(form, name, index));
+    Settle();
+}
+
+void DropList(int unitRow) {
+    auto* const button = QApplication::activeWindow()->findChild<QWidget*>(
+        ToQt(ControlOf(Calculation, "cmdUnits", unitRow).FullName()));
+    QContextMenuEvent right(QContextMenuEvent::Mouse, {}, button->mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(button, &right);
     Settle();
 }
 
@@ -212,6 +227,9 @@ void ShootLiquidLine() {
     Click(Calculation, "cmdFormLayout");
     Shoot("options");
     Click("frmCalcOptions", "cmdCancelOptions");
+    DropList(1);
+    Shoot("units-in-place");
+    QApplication::activePopupWidget()->close();
     Click(Calculation, "cmdUnits", 1);
     Shoot("units");
     Click("frmUnits", "cmdUnit", 3);

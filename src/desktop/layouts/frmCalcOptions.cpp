@@ -10,7 +10,9 @@ Node frmCalcOptions() {
                   .Grow(),
               Column({Frame("fraPressure", Column({"OptGaugePress", "optAbsolutePressure", Stretch(),
                                                    Row({"lblSTPBaro", "txtSTPBaro", "cmdBaroPress"})})),
-                      Frame("fraDensity", Row({"optLiqSG", "optLiqDensity", Stretch()})), Stretch()})})
+                      Frame("fraDensity", Row({"optLiqSG", "optLiqDensity", Stretch()})), Stretch()}),
+              Frame("fraConverted",
+                    Column({"optAskRounding", "optRoundFigures", "optKeepFigures", Stretch()}))})
              .Grow(),
          Row({Frame("fraCalcInputData", Column({"optManInput", "optFileData", "optCalcDensity"})),
               Frame("fraCalcOptions", Column({"optPressureDrop", "OptCalcFlowrate", "OptCalcValveSz"}))}),
