@@ -44,7 +44,8 @@ void RoundFirst(Values& values, std::size_t count, Rounder rounder) {
 
 }  // namespace
 
-BeforeRounding::BeforeRounding(std::function<void()> show) : outer_(std::exchange(ShowConverted, show)) {}
+BeforeRounding::BeforeRounding(std::function<void()> show)
+    : outer_(std::exchange(ShowConverted, std::move(show))) {}
 BeforeRounding::~BeforeRounding() { ShowConverted = std::move(outer_); }
 
 void RoundRecord() {
