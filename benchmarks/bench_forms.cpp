@@ -1,16 +1,20 @@
 // What a user waits for on a form, on the host without a display: the refresh of a calculation, a case typed
-// and calculated, all cases of a gas line at once, the list of a large fluid table, the unit window, a row
-// into a large table, and a script that calculates.
+// and calculated, all cases of a gas line at once, a line in every pipe of the table, the list of a large
+// fluid table, the unit window, a row into a large table, and a script that calculates.
 #include <fstream>
 
 #include "benchmarks/FilledForm.h"
 #include "benchmarks/Measure.h"
+#include "benchmarks/PlainLiquidLine.h"
 #include "benchmarks/TableScene.h"
+#include "core/Programs.h"
 #include "forms/frmTables.h"
+#include "lineloss/LineTrial.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
 #include "reports/FormRows.h"
 #include "script/ScriptPlayer.h"
+#include "tables/PipeSizes.h"
 
 namespace {
 
@@ -56,13 +60,12 @@ void PlainTexts(benchmark::State& state) {
 BENCHMARK(Refresh)->Name("form/refresh");
 BENCHMARK(PlainTexts)->Name("form/refresh/plain");
 
-// Methane in 10,000 ft of 10 in pipe.
-void AllGasCases(benchmark::State& state) {
-    FilledForm filled(2);
+// Methane in 10 in pipe.
+void TypeGasCases(const char* length) {
     const auto type = [](const char* box, int i, const char* text) {
         TypeText(ControlOf("frmGasLineLoss", box, i), text);
     };
-    type("txtInletPipeLen", Control::NoIndex, "10000");
+    type("txtInletPipeLen", Control::NoIndex, length);
     type("txtInletPipeID", Control::NoIndex, "10.02");
     for (int i = 0; i < CaseCount; ++i) {
         for (const auto& [box, text] : {std::pair{"txtFlow", "50000"},
@@ -76,6 +79,11 @@ void AllGasCases(benchmark::State& state) {
             type(box, i, text);
         }
     }
+}
+
+void AllGasCases(benchmark::State& state) {
+    FilledForm filled(2);
+    TypeGasCases("10000");
     Measure(state, [&filled] {
         filled.NextCommand();
         ClickControl(ControlOf("frmGasLineLoss", "cmdCalculateAll"));
@@ -84,6 +92,48 @@ void AllGasCases(benchmark::State& state) {
 }
 
 BENCHMARK(AllGasCases)->Name("form/three gas cases of 10,000 ft at once");
+
+// --- A line in every pipe of the table ---------------------------------------------------------------------
+
+std::vector<double> PipeDiameters() {
+    SeedShippedData(Suite.DefaultPaths[path::Program]);
+    SetPipeUnits();
+    std::vector<double> diameters;
+    for (const std::string& line : AllPipeSizes()) diameters.push_back(PipeDiameterOf(line));
+    return diameters;
+}
+
+void AllSizes(benchmark::State& state, int program) {
+    const FilledForm filled(program);
+    if (program == program::GasLine) TypeGasCases("1000");
+    auto& line = dynamic_cast<LineLossForm&>(*LoadedForm(FindProgram(program)->Form));
+    const std::vector<double> diameters = PipeDiameters();
+    if (!line.TakeCase(0)) return state.SkipWithError("the case is refused");
+    Measure(state, [&] {
+        LineTrials trials;
+        double sum = 0;
+        for (const double diameter : diameters) sum += trials.WithDiameter(diameter).Results.Velocity;
+        return sum;
+    });
+}
+
+void PlainSizes(benchmark::State& state) {
+    const FilledForm filled;
+    const std::vector<double> diameters = PipeDiameters();
+    Measure(state, [&] {
+        double sum = 0;
+        for (const double diameter : diameters) {
+            PlainLine line{.Flow = 100000};
+            line.PipeId = diameter;
+            sum += PlainFinalPressure(line);
+        }
+        return sum;
+    });
+}
+
+BENCHMARK_CAPTURE(AllSizes, liquid, program::LiquidLine)->Name("sizes/422 pipes of a liquid");
+BENCHMARK(PlainSizes)->Name("sizes/422 pipes of a liquid/plain");
+BENCHMARK_CAPTURE(AllSizes, gas, program::GasLine)->Name("sizes/422 pipes of a gas line of 1,000 ft");
 
 // A flow that differs from round to round.
 std::string NextFlow() {

@@ -35,7 +35,8 @@ protected:
         std::copy(DefaultColours.begin(), DefaultColours.end(), Suite.Colours.begin() + 1);
 
         std::filesystem::create_directory(DataFolder());
-        for (const char* name : {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT"}) {
+        for (const char* name :
+             {"Liquid.txt", "Gas.txt", "W-PIPE.TXT", "Modulus.txt", "MaTLDAT.TXT", "Criteria.txt"}) {
             std::filesystem::copy_file(SourceFolder() / "data" / name, DataFolder() / name);
         }
         for (const char* name : {"STEAM.txt", "Stm07.Dat"}) {

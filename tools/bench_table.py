@@ -47,6 +47,8 @@ PROMISES = [
     Promise("water hammer/case", allocations=0),
     Promise("form/refresh", ratio=2.5, remark="finds each control by its name"),
     Promise("form/three gas cases of 10,000 ft at once", time=100 * MS),
+    Promise("sizes/422 pipes of a liquid", time=20 * MS),
+    Promise("sizes/422 pipes of a gas line of 1,000 ft", time=300 * MS),
     Promise("form/unit window opened", time=20 * MS),
     Promise("form/row into a table of 10,000", time=20 * MS),
     Promise("record/save", ratio=2.5, time=20 * MS, remark="checks all fields, looks for rows left over"),

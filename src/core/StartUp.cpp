@@ -36,6 +36,7 @@ constexpr std::array ShippedFiles = {
     ShippedFile{"Gas.txt", "\\TRData\\"},
     ShippedFile{"Modulus.txt", "\\TRData\\"},
     ShippedFile{"MaTLDAT.TXT", "\\TRData\\"},
+    ShippedFile{"Criteria.txt", "\\TRData\\"},
     ShippedFile{filename::SteamPressures, "\\"},
     ShippedFile{filename::SteamRows, "\\"},
     ShippedFile{filename::LightScheme, "\\TRData\\"},

@@ -29,6 +29,8 @@ constexpr Entry Layouts[] = {
     {"WinSeek", WinSeek},
     {"frmPrintControl", frmPrintControl},
     {"frmShippedRows", frmShippedRows},
+    {"frmSizes", frmSizes},
+    {"frmLineFlow", frmLineFlow},
 };
 }  // namespace
 

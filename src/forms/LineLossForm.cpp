@@ -3,13 +3,16 @@
 
 #include <utility>
 
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "forms/DataCheck.h"
 #include "lineloss/Friction.h"
 #include "lineloss/LineRanges.h"
+#include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/NumberText.h"
 #include "reports/FormRefresh.h"
+#include "tables/PipeSizes.h"
 #include "units/Border.h"
 #include "units/CorrelationRange.h"
 
@@ -43,11 +46,11 @@ void LineLossForm::Assemble() {
 // Tab follows the reading order of the data: what names the calculation, the line, then case by case
 // downwards, each with its calculate button, and the signatures; unit buttons come last.
 void LineLossForm::OrderTabs() {
-    TabOrder = {&txtTagNum,        &txtFluid,          &txtInletPipeLen, &txtInletPipeID, &cmdPipeID,
-                &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,     &cmdMatl,        &lstMatl,
-                &txtInletGate,     &txtInletGlobe,     &txtInletCheck,   &txtInlet90Deg,  &txtInlet45Deg,
-                &txtInletThru,     &txtInletBranch,    &chkEntrance,     &chkExit,        &optDestination,
-                &optSource};
+    TabOrder = {&txtTagNum,      &txtFluid,         &txtInletPipeLen,   &txtInletPipeID, &cmdPipeID,
+                &cmdSizes,       &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,    &cmdMatl,
+                &lstMatl,        &txtInletGate,     &txtInletGlobe,     &txtInletCheck,  &txtInlet90Deg,
+                &txtInlet45Deg,  &txtInletThru,     &txtInletBranch,    &chkEntrance,    &chkExit,
+                &optDestination, &optSource};
     for (int i = 0; i < CaseCount; ++i) {
         for (const CaseBoxes boxes : BoxesOfACase()) {
             TabOrder.push_back(&(*boxes)(i));
@@ -55,6 +58,7 @@ void LineLossForm::OrderTabs() {
         TabOrder.push_back(&cmdCalculate(i));
     }
     TabOrder.push_back(&cmdCalculateAll);
+    TabOrder.push_back(&cmdFlowFor);
     for (Control* control : std::initializer_list<Control*>{&txtBy, &txtApprov, &cmdDate, &txtComments(0),
                                                             &txtComments(1), &cmdFormLayout}) {
         TabOrder.push_back(control);
@@ -70,6 +74,10 @@ void LineLossForm::HookLine() {
     cmdCalculateAll.SetToolTip(CalculateAllTip);
     cmdCalculateAll.Click = [this] { CalculateAll(); };
     cmdPipeID.Click = [this] { OpenPipeSizes(); };
+    cmdSizes.SetToolTip("What the case in hand comes to in each pipe of a table");
+    cmdSizes.Click = [this] { cmdSizes_Click(); };
+    cmdFlowFor.SetToolTip("The flow that the line carries between two pressures");
+    cmdFlowFor.Click = [this] { cmdFlowFor_Click(); };
     cmdMatl.Click = [this] { cmdMatl_Click(); };
     lstMatl.DoubleClick = [this] { lstMatl_DoubleClick(); };
     lstMatl.KeyPress = [this](Key& key) {
@@ -150,14 +158,14 @@ bool LineLossForm::CheckLine() {
 }
 
 // Takes the working layer from the display layer, test by test in the order of the form.
-bool LineLossForm::CheckData() {
+bool LineLossForm::CheckData(Wanted wanted) {
     const std::size_t i = ThisCase();
     Calc.DataOk = words::No;
     if (!CheckState() || !CheckLine()) return false;
     Calc.SourcePressure[TheLine] = PressureIn(Calc.CaseInput[input::Pressure][i]);
     if (!CheckSourcePressure()) return false;
     Calc.EquipLoss[TheLine] = Calc.CaseInput[input::EquipLoss][i] * Calc.UnitFactor[unit::PressureDrop];
-    if (!CheckFluid()) return false;
+    if (!CheckFluid(wanted)) return false;
     ShowCalculation();
     Calc.DataOk = words::Yes;
     return true;
@@ -182,6 +190,40 @@ void LineLossForm::cmdCalculate_Click(int index) {
 bool LineLossForm::HasData(int caseIndex) {
     const auto isEmpty = [](const TextBox& box) { return Trim(box.Text()).empty(); };
     return !isEmpty(txtFlow(caseIndex)) && !isEmpty(txtTemp(caseIndex)) && !isEmpty(txtPressure(caseIndex));
+}
+
+// --- The dialogs that try the line -------------------------------------------------------------------------
+
+// The case in hand, or the first one that has its data.
+int LineLossForm::CaseToTry() {
+    if (HasData(Calc.CaseIndex)) return Calc.CaseIndex;
+    for (int i = 0; i < CaseCount; ++i) {
+        if (HasData(i)) return i;
+    }
+    return Calc.CaseIndex;
+}
+
+bool LineLossForm::TakeCase(int caseIndex, Wanted wanted) {
+    Calc.CaseIndex = caseIndex;
+    StoreForm();
+    if (!CheckData(wanted)) return false;
+    Calc.PipeIndex = 1;
+    return true;
+}
+
+void LineLossForm::TakePipe(const std::string& listLine) {
+    if (const Program* program = FindProgram(Calc.CurrentProgram)) Calc.MessageText = program->PipeWord;
+    TakePipeRow(listLine);
+    ReturnPipeSize();
+}
+
+void LineLossForm::cmdSizes_Click() {
+    if (TakeCase(CaseToTry())) ShowForm("frmSizes", Modal::Yes);
+}
+
+void LineLossForm::cmdFlowFor_Click() {
+    const int caseIndex = HasState(Calc.CaseIndex) ? Calc.CaseIndex : CaseToTry();
+    if (TakeCase(caseIndex, Wanted::NoFlow)) ShowForm("frmLineFlow", Modal::Yes);
 }
 
 void LineLossForm::ShowLineResults(const LineResults& results) {

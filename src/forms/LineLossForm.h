@@ -25,6 +25,7 @@ public:
     Label lblInletPipeID{Picture1, "lblInletPipeID", "Inside diameter"};
     TextBox txtInletPipeID{Picture1, "txtInletPipeID"};
     CommandButton cmdPipeID{Picture1, "cmdPipeID", "&Pipe size"};
+    CommandButton cmdSizes{Picture1, "cmdSizes", "Si&zes..."};
     Label lblInletPipeElev{Picture1, "lblInletPipeElev", "Start elevation"};
     TextBox txtInletPipeElev{Picture1, "txtInletPipeElev"};
     Label unInletPipeElev{Picture1, "unInletPipeElev"};
@@ -71,6 +72,7 @@ public:
     ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
     ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
     CommandButton cmdCalculateAll{Picture1, "cmdCalculateAll", "&Calculate all"};
+    CommandButton cmdFlowFor{Picture1, "cmdFlowFor", "Flow for these pressures..."};
     ControlArray<DropButton> cmdUnits;
 
     // Results
@@ -90,11 +92,22 @@ public:
 
     Handler KeepBeside() override;
 
+    bool HasData(int caseIndex) override;
     void cmdCalculate_Click(int index);
+    void cmdSizes_Click();
+    void cmdFlowFor_Click();
     void cmdMatl_Click();
     void lstMatl_DoubleClick();
     void optDestination_Click();
     void optSource_Click();
+
+    // For the dialogs that try the line of a case. Makes the case that in hand and checks its data as its
+    // button does, telling what is wrong; NoFlow when its flow is what is sought.
+    enum class Wanted { Flow, NoFlow };
+    bool TakeCase(int caseIndex, Wanted wanted = Wanted::Flow);
+    using FluidForm::HasState;
+    // The row of the pipe size lookup, as if it had been taken there.
+    void TakePipe(const std::string& listLine);
 
 protected:
     using CaseBoxes = const ControlArray<TextBox>*;
@@ -102,7 +115,7 @@ protected:
     // The boxes of a case from the top, in the order of Tab.
     virtual std::vector<CaseBoxes> BoxesOfACase() const = 0;
     // The check after that of the line and of temperature and pressure, in the order of the form.
-    virtual bool CheckFluid() = 0;
+    virtual bool CheckFluid(Wanted wanted) = 0;
     virtual bool CheckSourcePressure() = 0;
     // Runs the calculation of the checked case and shows its results; false when there are none.
     virtual bool CalculateCase() = 0;
@@ -121,7 +134,6 @@ protected:
     virtual void ShowFigures(int caseIndex) = 0;
     virtual void BlankFigures(int caseIndex) = 0;
     CommandButton& CalculateAllButton() override { return cmdCalculateAll; }
-    bool HasData(int caseIndex) override;
     Control* CalculateButton(int caseIndex) override { return &cmdCalculate(caseIndex); }
 
     // The results that both lines have, to the record and to their boxes.
@@ -131,10 +143,11 @@ protected:
     void Assemble();
 
 private:
+    int CaseToTry();
     void OrderTabs();
     void DrawCases();
     void HookLine();
-    bool CheckData();
+    bool CheckData(Wanted wanted = Wanted::Flow);
     bool CheckLine();
 
     Row<PlotDrawing, CaseCount> drawn_;  // of each case, empty without results

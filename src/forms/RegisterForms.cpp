@@ -8,6 +8,7 @@
 #include "forms/frmCalcOptions.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
+#include "forms/frmLineFlow.h"
 #include "forms/frmLiqData.h"
 #include "forms/frmLiqLineLoss.h"
 #include "forms/frmObxPrintCalc.h"
@@ -15,6 +16,7 @@
 #include "forms/frmPipeSize.h"
 #include "forms/frmPrintControl.h"
 #include "forms/frmShippedRows.h"
+#include "forms/frmSizes.h"
 #include "forms/frmTables.h"
 #include "forms/frmTRProg.h"
 #include "forms/frmUnits.h"
@@ -54,6 +56,8 @@ constexpr FormEntry FormTable[] = {
     {"frmPrintControl", MakeForm<frmPrintControl>, 417},
     {"frmTables", MakeForm<frmTables>, 415},
     {"frmShippedRows", MakeForm<frmShippedRows>, 416},
+    {"frmSizes", MakeForm<frmSizes>, 418},
+    {"frmLineFlow", MakeForm<frmLineFlow>, 418},
     {"frmWaterHammer", MakeForm<frmWaterHammer>, 403},
     {"frmUnits", MakeForm<frmUnits>, 412},
     {"frmCalcOptions", MakeForm<frmCalcOptions>, 413},

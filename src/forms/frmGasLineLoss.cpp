@@ -84,7 +84,7 @@ bool frmGasLineLoss::CheckSourcePressure() {
     return RefuseData("Absolute Source Pressure must be greater than zero", txtPressure(Calc.CaseIndex));
 }
 
-bool frmGasLineLoss::CheckFluid() {
+bool frmGasLineLoss::CheckFluid(Wanted wanted) {
     const int caseIndex = Calc.CaseIndex;
     const std::size_t i = ThisCase();
     const UnitFactors& factor = Calc.UnitFactor;
@@ -104,7 +104,7 @@ bool frmGasLineLoss::CheckFluid() {
         return RefuseData("Molecular weight must be greater than zero", txtMW(caseIndex));
     }
     Calc.MassFlow = GasFlowIn(Calc.CaseInput[input::GasFlow][i], Calc.MolecularWeight);
-    if (!(Calc.MassFlow > 0)) {
+    if (wanted == Wanted::Flow && !(Calc.MassFlow > 0)) {
         return RefuseData("Flow must be greater than zero", txtFlow(caseIndex), Icon::None);
     }
     Calc.RatioSpecificHeats = Calc.CaseInput[input::RatioSpecificHeats][i];

@@ -53,7 +53,7 @@ protected:
     bool CheckState() override;
     bool CheckPressureAlone() override;
     bool CheckSourcePressure() override;
-    bool CheckFluid() override;
+    bool CheckFluid(Wanted wanted) override;
     bool CalculateCase() override;
     HintList Hints() const override;
     PlotDrawing DrawingOf(int caseIndex) const override;

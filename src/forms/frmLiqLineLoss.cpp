@@ -59,7 +59,7 @@ bool frmLiqLineLoss::CheckSourcePressure() {
     return RefuseData("Absolute Source Pressure must be greater than zero", txtPressure(Calc.CaseIndex));
 }
 
-bool frmLiqLineLoss::CheckFluid() {
+bool frmLiqLineLoss::CheckFluid(Wanted wanted) {
     const int caseIndex = Calc.CaseIndex;
     const std::size_t i = ThisCase();
     Calc.FlowingSG = GravityIn(Calc.CaseInput[input::FlowGravity][i], unit::LiquidDensity);
@@ -71,7 +71,8 @@ bool frmLiqLineLoss::CheckFluid() {
     }
 
     Calc.MassFlow = LiquidFlowIn(Calc.CaseInput[input::LiquidFlow][i], Calc.FlowingSG);
-    if (!(Calc.MassFlow > 0)) return RefuseData("Flow must be greater than zero", txtFlow(caseIndex));
+    if (wanted == Wanted::Flow && !(Calc.MassFlow > 0))
+        return RefuseData("Flow must be greater than zero", txtFlow(caseIndex));
 
     Calc.Viscosity = LiquidViscosityIn(Calc.CaseInput[input::Viscosity][i], Calc.FlowingSG);
     if (!(Calc.Viscosity > 0))

@@ -29,7 +29,7 @@ public:
 
 protected:
     std::vector<CaseBoxes> BoxesOfACase() const override;
-    bool CheckFluid() override;
+    bool CheckFluid(Wanted wanted) override;
     bool CheckSourcePressure() override;
     bool CalculateCase() override;
     PlotDrawing DrawingOf(int caseIndex) const override;

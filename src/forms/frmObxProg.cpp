@@ -29,7 +29,8 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
     const std::pair<MenuItem*, const TableDescription*> tables[] = {{&mnuGasTable, &table::Gas},
                                                                     {&mnuLiquidTable, &table::Liquid},
                                                                     {&mnuMaterialTable, &table::Material},
-                                                                    {&mnuPipeSizes, &table::Pipe}};
+                                                                    {&mnuPipeSizes, &table::Pipe},
+                                                                    {&mnuCriteria, &table::Criteria}};
     for (const auto& [entry, table] : tables) {
         entry->Click = [keyWord = table->KeyWord] { EditTable(keyWord); };
     }

@@ -19,6 +19,7 @@ public:
     MenuItem mnuPipeSizes{mnuTables, "mnuPipeSizes", "&Pipe sizes"};
     MenuItem mnuPipeFamilies{mnuTables, "mnuPipeFamilies", "Pipe &families"};
     ControlArray<MenuItem> mnuPipeFamily{mnuPipeFamilies, "mnuPipeFamily", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
+    MenuItem mnuCriteria{mnuTables, "mnuCriteria", "&Criteria of lines"};
     MenuItem mnuShippedRows{mnuTables, "mnuShippedRows", "&Shipped rows..."};
     MenuItem mnuExit{*this, "mnuExit", "E&xit"};
     MenuItem mnuHelp{*this, "mnuHelp", "&Help"};

@@ -104,14 +104,19 @@ double DensityAt(int caseIndex, double pressure) {
     return GasDensityOf(pressure, temperature, Input(input::MolecularWeight, caseIndex), factor);
 }
 
-// Velocity and sonic velocity of the results are those at the end that was found.
-double MachOf(int caseIndex, const LineCase& line, double outletDensity) {
-    const auto& results = Calc.CaseResult;
-    const std::size_t i = At(caseIndex);
-    if (!IsBackwards()) return results[result::Velocity][i] / results[result::SonicVelocity][i];
-    const double sonic =
-        SonicVelocityOf(Input(input::RatioSpecificHeats, caseIndex), GivenPressure(caseIndex), outletDensity);
-    return LineVelocity(line.MassFlow, outletDensity, line.Diameter) / sonic;
+// Velocity and sonic velocity of the results are those at the end that was found; ft/s.
+struct Velocities {
+    double Fluid, Sonic;
+};
+
+Velocities AtOutlet(int caseIndex, const LineCase& line, double outletDensity) {
+    const auto shown = [caseIndex](int row) {
+        return Calc.CaseResult[At(row)][At(caseIndex)] * Calc.UnitFactor[unit::Velocity];
+    };
+    if (!IsBackwards()) return {shown(result::Velocity), shown(result::SonicVelocity)};
+    return {LineVelocity(line.MassFlow, outletDensity, line.Diameter),
+            SonicVelocityOf(Input(input::RatioSpecificHeats, caseIndex), GivenPressure(caseIndex),
+                            outletDensity)};
 }
 
 }  // namespace
@@ -134,6 +139,8 @@ LiquidFigures LiquidFiguresOf(int caseIndex) {
 
     LiquidFigures figures{};
     figures.Regime = flow.Regime;
+    figures.OutletVelocity = LineVelocity(line.MassFlow, density, line.Diameter);
+    figures.OutletDensity = density;
     figures.PipeAndFittings = line.Length + fittings;
     figures.PipeLoss = perFoot * line.Length;
     figures.FittingsLoss = perFoot * fittings;
@@ -161,7 +168,9 @@ GasFigures GasFiguresOf(int caseIndex) {
     figures.PipeAndFittings = line.Length + FittingsLength(line, flow);
     figures.TotalLoss = hasEnd ? LossByResults(caseIndex) : Unknown;
     figures.OutletDensity = hasEnd || IsBackwards() ? DensityAt(caseIndex, outlet) : Unknown;
-    figures.OutletMach = MachOf(caseIndex, line, figures.OutletDensity);
+    const Velocities velocities = AtOutlet(caseIndex, line, figures.OutletDensity);
+    figures.OutletVelocity = velocities.Fluid;
+    figures.OutletMach = velocities.Fluid / velocities.Sonic;
     return figures;
 }
 

@@ -9,6 +9,8 @@ struct LineFigures {
     const char* Regime = "";     // laminar, critical, transition, turbulent
     double TotalLoss = 0;        // psi, source less destination
     double PipeAndFittings = 0;  // ft of straight pipe
+    double OutletVelocity = 0;   // ft/s, where the fluid leaves the line
+    double OutletDensity = 0;    // lb/ft3
 };
 
 // The parts make up the total loss.
@@ -19,8 +21,7 @@ struct LiquidFigures : LineFigures {
 };
 
 struct GasFigures : LineFigures {
-    double OutletMach = 0;     // by the sonic velocity of the results
-    double OutletDensity = 0;  // lb/ft3
+    double OutletMach = 0;  // by the sonic velocity of the results
 };
 
 // Of a case of the record in hand whose results stand.

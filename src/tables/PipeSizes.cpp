@@ -62,14 +62,6 @@ bool IsMetric(double diameterFactor) {
 
 bool ListsMillimetres() { return SameFactor(Calc.UnitFactor[pipeunit::PipeSizeFactor], InchesPerMillimetre); }
 
-void SetPipeUnits() {
-    const bool metric = IsMetric(Calc.UnitFactor[pipeunit::Diameter]);
-    Calc.UnitFactor[pipeunit::PipeSizeRound] = metric ? MillimetreGrid : 1;
-    Calc.UnitFactor[pipeunit::PipeSizeFactor] = metric ? InchesPerMillimetre : 1;
-    Calc.UnitFactor[pipeunit::PipeSizeOffset] = metric ? ListedSizeOffset : 0;
-    Calc.UnitName[pipeunit::PipeSizeRound] = metric ? "mm" : "in";
-}
-
 // A size as it is typed: 6, .5, 1/2, 1 1/2, 2-1/2, with a unit behind it or not. 0 for anything else that a
 // number could be read from, such as two of them: another pipe would be found.
 double NominalSize(std::string_view typed) {
@@ -93,14 +85,23 @@ double TargetSize(std::string_view typed) {
     return (target / InchesPerMillimetre + TypedSizeOffset) * MillimetreGrid;
 }
 
-// The rows of the largest size not above the target. A line that starts with no size is no row of pipe.
+// The nominal size that a row of the file begins with; a line that starts with no size is no row of pipe.
+double SizeOf(std::string_view row) { return Val(row.substr(0, SizeLength)); }
+
+std::vector<std::string> RowsOfFamily() {
+    const std::string family = PipeFamilyFile();
+    std::vector<std::string> rows = ReadTable(table::PipeFamily, {.FileName = family});
+    std::erase_if(rows, [](const std::string& row) { return SizeOf(row) <= 0; });
+    return rows;
+}
+
+// The rows of the largest size not above the target.
 std::vector<std::string> RowsOfSize(double target) {
     std::vector<std::string> kept;
     double keptSize = 0;
-    const std::string family = PipeFamilyFile();
-    for (std::string& row : ReadTable(table::PipeFamily, {.FileName = family})) {
-        const double size = Val(std::string_view(row).substr(0, SizeLength));
-        if (size > target || size <= 0 || size < keptSize) continue;
+    for (std::string& row : RowsOfFamily()) {
+        const double size = SizeOf(row);
+        if (size > target || size < keptSize) continue;
         if (size > keptSize) kept.clear();
         keptSize = size;
         kept.push_back(std::move(row));
@@ -149,6 +150,14 @@ void WriteBox(const char* form, const char* box, double value) {
 
 }  // namespace
 
+void SetPipeUnits() {
+    const bool metric = IsMetric(Calc.UnitFactor[pipeunit::Diameter]);
+    Calc.UnitFactor[pipeunit::PipeSizeRound] = metric ? MillimetreGrid : 1;
+    Calc.UnitFactor[pipeunit::PipeSizeFactor] = metric ? InchesPerMillimetre : 1;
+    Calc.UnitFactor[pipeunit::PipeSizeOffset] = metric ? ListedSizeOffset : 0;
+    Calc.UnitName[pipeunit::PipeSizeRound] = metric ? "mm" : "in";
+}
+
 void PreparePipeUnits() {
     SetPipeUnits();
     const std::string& word = Calc.UnitName[pipeunit::PipeSizeRound];
@@ -192,10 +201,21 @@ std::string PipeFamilyFile() {
     return Suite.PipeFamily.empty() ? PipeFamilies.front().File : Suite.PipeFamily;
 }
 
+namespace {
+std::vector<std::string> Listed(std::vector<std::string> rows) {
+    std::transform(rows.begin(), rows.end(), rows.begin(), ListLine);
+    return rows;
+}
+}  // namespace
+
 std::vector<std::string> FindPipeSizes(std::string_view nominalSize) {
-    std::vector<std::string> lines = RowsOfSize(TargetSize(nominalSize));
-    std::transform(lines.begin(), lines.end(), lines.begin(), ListLine);
-    return lines;
+    return Listed(RowsOfSize(TargetSize(nominalSize)));
+}
+
+std::vector<std::string> AllPipeSizes() { return Listed(RowsOfFamily()); }
+
+double PipeDiameterOf(std::string_view listLine) {
+    return RoundedSix(InFormUnit(Val(SplitTableLine(table::Pipe, listLine)[2])));
 }
 
 void TakePipeRow(std::string_view listLine) {

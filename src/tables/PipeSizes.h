@@ -23,7 +23,10 @@ inline constexpr std::size_t PipeSizeFactor = 32;
 inline constexpr std::size_t PipeSizeOffset = 33;
 }  // namespace pipeunit
 
-// Sets the lookup's unit rows from the unit of the diameter and shows the dialog; returns when it is closed.
+// Sets the lookup's unit rows from the unit of the diameter.
+void SetPipeUnits();
+
+// The same, and shows the dialog; returns when it is closed.
 void PreparePipeUnits();
 
 // What can be looked up in the folder of the tables: W-PIPE.TXT, the other families of the suite that are
@@ -40,6 +43,12 @@ std::string PipeFamilyFile();
 // is not above it, as "size,schedule,inside diameter,wall," in columns. Empty when there is none. Failures
 // are those of ReadTable.
 std::vector<std::string> FindPipeSizes(std::string_view nominalSize);
+
+// The rows of all sizes of the family in hand, in the same form and in the order of the file.
+std::vector<std::string> AllPipeSizes();
+
+// The inside diameter of a line of that list as the form takes it: in its unit, to six significant figures.
+double PipeDiameterOf(std::string_view listLine);
 
 // Takes diameter and wall of a line of that list into the record, in the list's unit.
 void TakePipeRow(std::string_view listLine);

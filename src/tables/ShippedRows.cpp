@@ -24,7 +24,8 @@ struct ShippedTable {
 
 std::vector<ShippedTable> ShippedTables() {
     std::vector<ShippedTable> tables;
-    for (const TableDescription* each : {&table::Liquid, &table::Gas, &table::Modulus, &table::Material}) {
+    for (const TableDescription* each :
+         {&table::Liquid, &table::Gas, &table::Modulus, &table::Material, &table::Criteria}) {
         tables.push_back({each, std::string(each->FileName)});
     }
     for (const PipeFamily& family : PipeFamilies) tables.push_back({&table::PipeFamily, family.File});

@@ -161,6 +161,17 @@ constexpr auto ElbowColumns = std::to_array<TableColumn>({
     {"Mean radius", {"Elbow Mean Radius in inches"}},
 });
 
+constexpr auto CriteriaColumns = std::to_array<TableColumn>({
+    {"Service", {"Enter the name of the service, at most 30 letters"}},
+    {"Fluid", {"Enter Liquid, Gas or Any"}},
+    {"Velocity", {"Largest velocity in ft/s, at the outlet of the line", "Empty where the service has none"}},
+    {"C",
+     {"Constant C of the erosional velocity C / sqrt(density)", "In ft/s, of a density in lb/ft3",
+      "Empty where the service has none"}},
+    {"Loss", {"Largest loss in psi per 100 ft", "Empty where the service has none"}},
+    {"Source", {"Where the figures come from"}},
+});
+
 // The shorter valve table ends at column 11.
 constexpr auto ValveColumns = std::to_array<TableColumn>({
     {"Body", {"Enter the type of Valve Body"}},
@@ -373,13 +384,26 @@ const TableDescription Elbow = {.KeyWord = "Elbow",
                                 .Kept = KeptRows::Named,
                                 .Separator = ","};
 
+const TableDescription Criteria = {.KeyWord = "Criteria",
+                                   .Title = "Criteria Data File  Criteria.txt",
+                                   .Heading = "Velocity and loss that a line of a service should keep to",
+                                   .FileName = "Criteria.txt",
+                                   .Columns = CriteriaColumns,
+                                   .MinimumLength = 10,
+                                   .SplitLimit = 10,
+                                   .NameWidth = 31,
+                                   .TrimsFields = true,
+                                   .Kept = KeptRows::Named,
+                                   .Separator = ",",
+                                   .LongestName = 30};
+
 }  // namespace table
 
 namespace {
 constexpr const TableDescription* AllTables[] = {
     &table::Valve,      &table::Valve3,  &table::Gas,   &table::Liquid,    &table::Pipe,
     &table::PipeFamily, &table::Modulus, &table::Wedge, &table::Rotameter, &table::Material,
-    &table::Ifoa,       &table::Annubar, &table::Elbow};
+    &table::Ifoa,       &table::Annubar, &table::Elbow, &table::Criteria};
 
 template <typename Test>
 const TableDescription* FirstTable(Test test) {

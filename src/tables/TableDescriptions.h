@@ -48,7 +48,7 @@ struct TableDescription {
 
 namespace table {
 extern const TableDescription Valve, Valve3, Gas, Liquid, Pipe, PipeFamily, Modulus, Material, Wedge,
-    Rotameter, Ifoa, Annubar, Elbow;
+    Rotameter, Ifoa, Annubar, Elbow, Criteria;
 }  // namespace table
 
 // The words that end heading and notes of an annubar table, one for each group of models.

@@ -7,14 +7,13 @@ namespace {
 
 Node Line() {
     const auto box = [](const char* name) { return Item(name).Wide(CaseDigits); };
-    return Panel(
-        "Line",
-        Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "", Stretch(), "lblInletPipeElev",
-                box("txtInletPipeElev"), "unInletPipeElev"},
-               {"lblInletPipeID", box("txtInletPipeID"), "cmdUnits(18)", "cmdPipeID", "", "lblOutletPipeElev",
-                box("txtOutletPipeElev"), "unOutletPipeElev"},
-               {"lblPipeCond", box("txtPipeCond"), Words("%").Centred(), "", "", "lblMatl", "cmdMatl"}})
-            .Wide(LabelDigits));
+    return Panel("Line", Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "", Stretch(),
+                                 "lblInletPipeElev", box("txtInletPipeElev"), "unInletPipeElev"},
+                                {"lblInletPipeID", box("txtInletPipeID"), "cmdUnits(18)", "cmdPipeID", "",
+                                 "lblOutletPipeElev", box("txtOutletPipeElev"), "unOutletPipeElev"},
+                                {"lblPipeCond", box("txtPipeCond"), Words("%").Centred(), "cmdSizes", "",
+                                 "lblMatl", "cmdMatl"}})
+                             .Wide(LabelDigits));
 }
 
 Node Fittings() {
@@ -27,7 +26,10 @@ Node Fittings() {
     return Panel("", Table({std::move(names), std::move(counts)}).Wide(LabelDigits));
 }
 
-Node Direction() { return Panel("Direction", Column({"optDestination", "optSource", Stretch()})); }
+Node Direction() {
+    return Panel("Direction",
+                 Column({"optDestination", "optSource", Row({"cmdFlowFor", Stretch()}), Stretch()}));
+}
 
 Node CasesAndResults(std::vector<std::vector<Node>> rows, std::vector<std::vector<Node>> following) {
     rows.push_back(

@@ -1,0 +1,276 @@
+// See frmSizes.h.
+#include "forms/frmSizes.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/Programs.h"
+#include "core/Suite.h"
+#include "core/Words.h"
+#include "forms/ColourSchemes.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "platform/TextCase.h"
+#include "tables/Criteria.h"
+#include "tables/TableFiles.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* AllSchedules = "All";
+constexpr const char* NoService = "(none)";
+
+bool IsGas() { return Calc.CurrentProgram == program::GasLine; }
+
+std::string Figure(double value) { return std::isfinite(value) ? TrimmedStr(RoundedFour(value)) : ""; }
+
+std::string WithUnit(const std::string& words, int unitRow) {
+    return words + ", " + Calc.UnitName[At(unitRow)];
+}
+
+// What keeps a fluid from the end of its line.
+const char* WordOf(Outcome end) {
+    switch (end) {
+        case Outcome::Reached: return "";
+        case Outcome::ZeroPressure: return "zero pressure";
+        case Outcome::Sonic: return "sonic velocity";
+        case Outcome::NoResult: return "no result";
+        case Outcome::Stopped: return "stopped";
+    }
+    return "";
+}
+
+// psi per 100 ft.
+double LossPer100Of(const LineTrial& trial) {
+    return trial.Results.LossPer100 * Calc.UnitFactor[unit::PressureDrop] / Calc.UnitFactor[unit::Length];
+}
+
+}  // namespace
+
+frmSizes::frmSizes() : SuiteForm("frmSizes") {
+    SetCaption("Sizes");
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdCancel;
+    lstFamily.Describe(&lblFamily);
+    lstSchedule.Describe(&lblSchedule);
+    lstService.Describe(&lblService);
+    grdSizes.Describe(&lblSizes);
+    grdSizes.IsList = true;
+    grdSizes.FixedColumns = 0;
+    for (Control* list : std::initializer_list<Control*>{&lstFamily, &lstSchedule, &lstService, &grdSizes})
+        list->ColourGroup = 4;
+    for (Label* label : {&lblCase, &lblFamily, &lblSchedule, &lblService, &lblSource, &lblSizes, &lblMet})
+        label->ColourGroup = 1;
+    optCase.Each([this](OptionButton& option, int i) {
+        option.SetCaption(words::Cases[At(i)]);
+        option.ColourGroup = 1;
+        option.Click = [this, i] { optCase_Click(i); };
+    });
+    cmdOK.SetToolTip("Takes the selected pipe into the form");
+    lstFamily.Click = [this] { lstFamily_Click(); };
+    lstSchedule.Click = [this] { lstSchedule_Click(); };
+    lstService.Click = [this] { lstService_Click(); };
+    grdSizes.Click = [this] { grdSizes_Click(); };
+    grdSizes.DoubleClick = [this] { cmdOK_Click(); };
+    cmdCopy.Click = [this] { cmdCopy_Click(); };
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+LineLossForm* frmSizes::Line() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    return program == nullptr ? nullptr : dynamic_cast<LineLossForm*>(LoadedForm(program->Form));
+}
+
+void frmSizes::Load() {
+    ApplyColours(*this);
+    SetPipeUnits();
+    optCase(Calc.CaseIndex).SetChecked(true);
+    optCase.Each([](OptionButton& option, int i) {
+        option.SetEnabled(i == Calc.CaseIndex || (Line() != nullptr && Line()->HasData(i)));
+    });
+    ListServices();
+    families_ = PipeFiles();
+    std::vector<std::string> names;
+    for (const PipeFile& each : families_) names.push_back(each.Name);
+    lstFamily.SetRows(std::move(names));
+    const std::string file = PipeFamilyFile();
+    const auto inHand =
+        std::ranges::find_if(families_, [&](const PipeFile& each) { return SameName(each.File, file); });
+    lstFamily.Select(inHand == families_.end() ? 0 : static_cast<int>(inHand - families_.begin()));
+}
+
+void frmSizes::ListServices() {
+    criteria_ = {{.Service = NoService, .Source = ""}};
+    try {
+        for (LineCriterion& each : CriteriaOf(Calc.FluidType)) criteria_.push_back(std::move(each));
+    } catch (const RuntimeError& error) {
+        SetStatus("Criteria.txt: " + error.Description);
+    }
+    std::vector<std::string> names;
+    for (const LineCriterion& each : criteria_) names.push_back(each.Service);
+    lstService.SetRows(std::move(names));
+    lstService.Preselect(0);
+}
+
+const LineCriterion& frmSizes::Criterion() const {
+    return criteria_.at(At(std::max(0, lstService.Selected())));
+}
+
+// The family is that of the lookup too.
+void frmSizes::lstFamily_Click() {
+    Suite.PipeFamily = families_.at(At(std::max(0, lstFamily.Selected()))).File;
+    ReadFamily();
+    std::vector<std::string> schedules = {AllSchedules};
+    for (const std::string& line : lines_) {
+        const std::string schedule = SplitTableLine(table::Pipe, line)[1];
+        if (std::ranges::find(schedules, schedule) == schedules.end()) schedules.push_back(schedule);
+    }
+    lstSchedule.SetRows(std::move(schedules));
+    lstSchedule.Select(0);
+}
+
+void frmSizes::ReadFamily() {
+    lines_.clear();
+    try {
+        lines_ = AllPipeSizes();
+    } catch (const RuntimeError& error) {
+        SetStatus(PipeFamilyFile() + ": " + error.Description);
+    }
+}
+
+void frmSizes::lstSchedule_Click() {
+    TryPipes();
+    lstService_Click();
+}
+
+// A long march is heard for Escape; what is done then stands.
+void frmSizes::TryPipes() {
+    const BusyPointer busy;
+    const std::string schedule = lstSchedule.Row(lstSchedule.Selected());
+    sizes_.clear();
+    LineTrials trials;
+    for (const std::string& line : lines_) {
+        const TableFields fields = SplitTableLine(table::Pipe, line);
+        if (schedule != AllSchedules && schedule != fields[1]) continue;
+        Size size{line, fields[0], fields[1], PipeDiameterOf(line), {}, {}};
+        size.Trial = trials.WithDiameter(size.Diameter);
+        const bool isStopped = size.Trial.End == Outcome::Stopped || UserWantsToStop();
+        sizes_.push_back(std::move(size));
+        if (isStopped) return SetStatus("Stopped: these are not all pipes");
+    }
+}
+
+void frmSizes::lstService_Click() {
+    lblSource.SetCaption(Criterion().Source);
+    for (Size& size : sizes_)
+        size.Excess = ExcessOf(Criterion(), size.Trial.Figures, LossPer100Of(size.Trial));
+    ShowTable();
+}
+
+bool frmSizes::Meets(const Size& size) const {
+    return lstService.Selected() > 0 && size.Trial.End == Outcome::Reached && size.Excess.empty();
+}
+
+Grid::Cells frmSizes::Heads() const {
+    Grid::Cells heads = {"Size",
+                         "Schedule",
+                         WithUnit("Inside diameter", unit::PipeSize),
+                         WithUnit("Velocity", unit::Velocity),
+                         WithUnit("Loss per 100 " + Calc.UnitName[unit::Length], unit::PressureDrop),
+                         WithUnit(Line() == nullptr ? "" : Line()->lblDestPress.Caption(), unit::Pressure),
+                         WithUnit("Total loss", unit::PressureDrop),
+                         "Reynolds number",
+                         "Flow zone"};
+    if (IsGas()) heads.push_back("Mach at outlet");
+    heads.push_back("Criterion");
+    return heads;
+}
+
+Grid::Cells frmSizes::CellsOf(const Size& size) const {
+    const LineTrial& trial = size.Trial;
+    const bool isReached = trial.End == Outcome::Reached;
+    const auto ofTheEnd = [&](double value) { return isReached ? Figure(value) : ""; };
+    Grid::Cells cells = {size.Nominal,
+                         size.Schedule,
+                         TrimmedStr(size.Diameter),
+                         Figure(trial.Results.Velocity),
+                         ofTheEnd(trial.Results.LossPer100),
+                         ofTheEnd(trial.Results.FinalPressure),
+                         ofTheEnd(trial.Figures.TotalLoss / Calc.UnitFactor[unit::PressureDrop]),
+                         Figure(trial.Reynolds),
+                         trial.Figures.Regime};
+    if (IsGas()) cells.push_back(Figure(trial.Figures.OutletMach));
+    cells.push_back(!isReached ? WordOf(trial.End) : Meets(size) ? "meets" : size.Excess);
+    return cells;
+}
+
+void frmSizes::ShowTable() {
+    std::vector<Grid::Cells> rows = {Heads()};
+    const int columns = static_cast<int>(rows.front().size());
+    for (const Size& size : sizes_) rows.push_back(CellsOf(size));
+    grdSizes.SetRows(std::move(rows), columns);
+    const auto met = std::ranges::count_if(sizes_, [this](const Size& size) { return Meets(size); });
+    const std::string total = std::to_string(sizes_.size()) + (sizes_.size() == 1 ? " pipe" : " pipes");
+    lblMet.SetCaption(lstService.Selected() > 0 ? std::to_string(met) + " of " + total + " meet the criterion"
+                                                : total);
+    const int best = BestRow();
+    best < 0 ? grdSizes.Deselect() : grdSizes.Select(best + grdSizes.FixedRows, 0);
+    cmdOK.SetEnabled(best >= 0);
+}
+
+// The smallest that meets the criterion; without one the pipe in hand, else the smallest to get the fluid
+// through.
+int frmSizes::BestRow() const {
+    const bool hasService = lstService.Selected() > 0;
+    const double inHand = Calc.PipeData[pipe::InsideDiameter];
+    int best = -1;
+    for (std::size_t i = 0; i < sizes_.size(); ++i) {
+        const Size& size = sizes_[i];
+        if (!hasService && size.Diameter == inHand) return static_cast<int>(i);
+        if (hasService ? !Meets(size) : size.Trial.End != Outcome::Reached) continue;
+        if (best < 0 || size.Diameter < sizes_[At(best)].Diameter) best = static_cast<int>(i);
+    }
+    return best;
+}
+
+void frmSizes::grdSizes_Click() { cmdOK.SetEnabled(grdSizes.Selected() >= grdSizes.FixedRows); }
+
+// A case that is refused leaves the table of the one before.
+void frmSizes::optCase_Click(int index) {
+    if (index == Calc.CaseIndex || Line() == nullptr) return;
+    const int before = Calc.CaseIndex;
+    if (Line()->TakeCase(index)) {
+        TryPipes();
+        return lstService_Click();
+    }
+    Calc.CaseIndex = before;
+    optCase(before).SetChecked(true);
+}
+
+void frmSizes::cmdCopy_Click() {
+    std::string text;
+    for (int row = 0; row < grdSizes.RowCount(); ++row) {
+        for (int column = 0; column < grdSizes.ColumnCount(); ++column)
+            text += (column > 0 ? "\t" : "") + grdSizes.Cell(row, column);
+        text += "\n";
+    }
+    CopyText(text);
+    SetStatus("The table is on the clipboard");
+}
+
+void frmSizes::cmdOK_Click() {
+    const int row = grdSizes.Selected() - grdSizes.FixedRows;
+    if (row < 0 || row >= static_cast<int>(sizes_.size()) || Line() == nullptr) return;
+    const std::string line = sizes_[At(row)].ListLine;
+    LineLossForm& form = *Line();
+    UnloadForm(Name());
+    form.TakePipe(line);
+}
+
+void frmSizes::cmdCancel_Click() { UnloadForm(Name()); }
+
+}  // namespace quillmetra
