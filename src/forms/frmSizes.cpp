@@ -2,6 +2,7 @@
 #include "forms/frmSizes.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "core/Programs.h"
@@ -147,9 +148,12 @@ void frmSizes::lstSchedule_Click() {
     lstService_Click();
 }
 
-// A long march is heard for Escape; what is done then stands.
+// A table that takes its time hears Escape; what is done then stands.
 void frmSizes::TryPipes() {
+    using Clock = std::chrono::steady_clock;
+    constexpr std::chrono::milliseconds soon(200);
     const BusyPointer busy;
+    const auto start = Clock::now();
     const std::string schedule = lstSchedule.Row(lstSchedule.Selected());
     sizes_.clear();
     LineTrials trials;
@@ -158,7 +162,8 @@ void frmSizes::TryPipes() {
         if (schedule != AllSchedules && schedule != fields[1]) continue;
         Size size{line, fields[0], fields[1], PipeDiameterOf(line), {}, {}};
         size.Trial = trials.WithDiameter(size.Diameter);
-        const bool isStopped = size.Trial.End == Outcome::Stopped || UserWantsToStop();
+        const bool isStopped =
+            size.Trial.End == Outcome::Stopped || (Clock::now() - start > soon && UserWantsToStop());
         sizes_.push_back(std::move(size));
         if (isStopped) return SetStatus("Stopped: these are not all pipes");
     }
@@ -179,6 +184,7 @@ Grid::Cells frmSizes::Heads() const {
     Grid::Cells heads = {"Size",
                          "Schedule",
                          WithUnit("Inside diameter", unit::PipeSize),
+                         "Criterion",
                          WithUnit("Velocity", unit::Velocity),
                          WithUnit("Loss per 100 " + Calc.UnitName[unit::Length], unit::PressureDrop),
                          WithUnit(Line() == nullptr ? "" : Line()->lblDestPress.Caption(), unit::Pressure),
@@ -186,7 +192,6 @@ Grid::Cells frmSizes::Heads() const {
                          "Reynolds number",
                          "Flow zone"};
     if (IsGas()) heads.push_back("Mach at outlet");
-    heads.push_back("Criterion");
     return heads;
 }
 
@@ -197,6 +202,9 @@ Grid::Cells frmSizes::CellsOf(const Size& size) const {
     Grid::Cells cells = {size.Nominal,
                          size.Schedule,
                          TrimmedStr(size.Diameter),
+                         !isReached    ? WordOf(trial.End)
+                         : Meets(size) ? "meets"
+                                       : size.Excess,
                          Figure(trial.Results.Velocity),
                          ofTheEnd(trial.Results.LossPer100),
                          ofTheEnd(trial.Results.FinalPressure),
@@ -204,7 +212,6 @@ Grid::Cells frmSizes::CellsOf(const Size& size) const {
                          Figure(trial.Reynolds),
                          trial.Figures.Regime};
     if (IsGas()) cells.push_back(Figure(trial.Figures.OutletMach));
-    cells.push_back(!isReached ? WordOf(trial.End) : Meets(size) ? "meets" : size.Excess);
     return cells;
 }
 

@@ -192,6 +192,24 @@ void FillLine(const char* pipePicture = nullptr) {
     Type("txtComments", 0, "Cooling water supply, sheet 4.");
 }
 
+// The dialogs that try a line; schedule and service are rows of their lists.
+void ShootTrials(int schedule, int service, const char* sizes, const char* flow) {
+    Within([=] {
+        PickRow(static_cast<ListBox&>(ControlOf("frmSizes", "lstSchedule")), schedule);
+        PickRow(static_cast<ListBox&>(ControlOf("frmSizes", "lstService")), service);
+        Shoot(sizes);
+        Click("frmSizes", "cmdCancel");
+    });
+    Click(Calculation, "cmdSizes");
+    Within([=] {
+        TypeText(ControlOf("frmLineFlow", "txtEnd"), "60");
+        Click("frmLineFlow", "cmdFind");
+        Shoot(flow);
+        Click("frmLineFlow", "cmdCancel");
+    });
+    Click(Calculation, "cmdFlowFor");
+}
+
 // The liquid form, and the windows that all forms share.
 void ShootLiquidLine() {
     Open(1, "frmLiqLineLoss");
@@ -210,6 +228,7 @@ void ShootLiquidLine() {
     Type("txtInletPipeLen", Control::NoIndex, "1000");
     for (int i = 2; i >= 0; --i) Click(Calculation, "cmdCalculate", i);
     Shoot("line-results");
+    ShootTrials(7, 2, "sizes", "line-flow");
     Within([] {
         TypeText(ControlOf("frmObxPrintCalc", "txtTitle"), "Northfield Terminal");
         TypeText(ControlOf("frmObxPrintCalc", "txtSubTitle"), "Unit 200");
@@ -257,6 +276,7 @@ void ShootGasLine() {
     Shoot("gas-empty");
     for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
     Shoot("gas-results");
+    ShootTrials(0, 3, "gas-sizes", "gas-flow");
     Click(form, "mnuSTP");
     Shoot("gas-base-conditions");
     Click(form, "cmdCancelSTP");
