@@ -72,7 +72,7 @@ public:
     ControlArray<TextBox> txtEquip{Picture1, "txtEquip", {0, 1, 2}};
     ControlArray<CommandButton> cmdCalculate{Picture1, "cmdCalculate", {0, 1, 2}, ""};
     CommandButton cmdCalculateAll{Picture1, "cmdCalculateAll", "&Calculate all"};
-    CommandButton cmdFlowFor{Picture1, "cmdFlowFor", "Flow for these pressures..."};
+    CommandButton cmdFlowFor{Picture1, "cmdFlowFor", "Flo&w for these pressures..."};
     ControlArray<DropButton> cmdUnits;
 
     // Results

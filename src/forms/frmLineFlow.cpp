@@ -28,6 +28,7 @@ frmLineFlow::frmLineFlow() : SuiteForm("frmLineFlow") {
     txtFlow.Describe(&lblFlow, &unFlow);
     for (TextBox* box : {&txtGiven, &txtFlow}) {
         box->Locked = true;
+        box->TabStop = false;
         box->ColourGroup = 4;
     }
     txtEnd.IsNumber = true;

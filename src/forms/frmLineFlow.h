@@ -16,10 +16,10 @@ public:
 
     Label lblCase{*this, "lblCase", "Case"};
     ControlArray<OptionButton> optCase{*this, "optCase", {0, 1, 2}, ""};
-    Label lblGiven{*this, "lblGiven"};
+    Label lblGiven{*this, "lblGiven", "Source pressure"};
     TextBox txtGiven{*this, "txtGiven"};
     Label unGiven{*this, "unGiven"};
-    Label lblEnd{*this, "lblEnd"};
+    Label lblEnd{*this, "lblEnd", "&Destination pressure"};
     TextBox txtEnd{*this, "txtEnd"};
     Label unEnd{*this, "unEnd"};
     CommandButton cmdFind{*this, "cmdFind", "&Find flow"};

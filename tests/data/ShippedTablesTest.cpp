@@ -325,9 +325,9 @@ std::string FileBytes(const std::filesystem::path& path) {
 TEST_F(ShippedTables, EachIsPutInItsPlaceOnce) {
     const std::filesystem::path program = Folder / "fresh";
     std::vector<std::filesystem::path> files = {
-        "TRData/Liquid.txt", "TRData/Gas.txt",    "TRData/Modulus.txt",       "TRData/MaTLDAT.TXT",
-        "STEAM.txt",         "Stm07.Dat",         "TRData/High contrast.txt", "TRData/Dark.txt",
-        "TRData/Light.txt",  "TRData/Classic.txt"};
+        "TRData/Liquid.txt", "TRData/Gas.txt",     "TRData/Modulus.txt",       "TRData/MaTLDAT.TXT",
+        "STEAM.txt",         "Stm07.Dat",          "TRData/High contrast.txt", "TRData/Dark.txt",
+        "TRData/Light.txt",  "TRData/Classic.txt", "TRData/Criteria.txt"};
     for (const PipeFamily& family : PipeFamilies) files.push_back(std::string("TRData/") + family.File);
     // A file of the user's own stays, also an empty one and one whose name differs by case.
     std::filesystem::create_directories(program / "TRData");
