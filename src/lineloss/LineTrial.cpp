@@ -30,7 +30,7 @@ void CalculateLiquid(LineTrial& trial) {
     CalcFinalPressure();
     const LiquidLineResults results = LiquidLineResultsOf(Calc);
     trial.End = Calc.FlowPressure == 0 ? Outcome::ZeroPressure : Outcome::Reached;
-    trial.Results = results;
+    trial.Results = static_cast<const LineResults&>(results);
     trial.Reynolds = results.Reynolds;
     trial.Figures.Regime = FlowRegimeOf(Calc.ReynoldsNumber, Calc.ReynoldsNumber, Calc.PipeId[TheLine]);
     trial.Figures.TotalLoss =
@@ -51,7 +51,7 @@ void CalculateGas(LineTrial& trial) {
     trial.End = results.IsSonic          ? Outcome::Sonic
                 : Calc.FlowPressure == 0 ? Outcome::ZeroPressure
                                          : Outcome::Reached;
-    trial.Results = results;
+    trial.Results = static_cast<const LineResults&>(results);
     // The figures of a gas line follow from the record, so its results go there first.
     Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
     Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;

@@ -1,7 +1,5 @@
 // The dialogs that try a line: each pipe of the table is what the form shows with it, and the flow found
 // makes the form show the pressure asked for.
-#include <cmath>
-#include <map>
 
 #include "core/Words.h"
 #include "forms/frmLineFlow.h"
@@ -115,16 +113,14 @@ TEST_P(SizesTest, TheFlowFoundGivesThePressureAskedFor) {
         EXPECT_NEAR(Val(Line().txtDestPress(1).Text()), Val(asked), 0.02 + 0.001 * (100 - Val(asked)));
     }
     auto& dialog = Open<frmLineFlow>(Line().cmdFlowFor);
-    for (const auto& [asked, reason] : std::map<std::string, std::string>{
-             {"120", "Even without flow the line does not end at that pressure"}}) {
-        Type(dialog.txtEnd, asked);
-        ClickControl(dialog.cmdFind);
-        EXPECT_EQ(dialog.lblReason.Caption(), reason);
-        EXPECT_FALSE(dialog.cmdOK.Enabled());
-    }
+    Type(dialog.txtEnd, "120");
+    ClickControl(dialog.cmdFind);
+    EXPECT_EQ(dialog.lblReason.Caption(), "Even without flow the line does not end at that pressure");
+    EXPECT_FALSE(dialog.cmdOK.Enabled());
     Type(dialog.txtEnd, "-14");
     ClickControl(dialog.cmdFind);
-    std::cerr << dialog.txtFlow.Text() << "|" << dialog.lblReason.Caption() << "\n";
+    EXPECT_EQ(dialog.lblReason.Caption().starts_with("The gas becomes as fast as sound first"),
+              Kind().Program == 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, SizesTest, ::testing::Values(0, 1));
