@@ -70,7 +70,7 @@ void frmUnits::Load() {
     ApplyColours(*this);
     PrepareUnitLibrary();
     change_.emplace();
-    picks_.Begin();
+    SelectedFactor.Begin();
     ShowTitle();
     ShowUnits();
     lblInstruct.SetCaption(SelectionsText);
@@ -88,7 +88,7 @@ void frmUnits::ShowUnits() {
         button.SetCaption(UnitRowCaption(row));
         fraRow(row).SetVisible(UnitPicks::Has(row));
         ActiveList[At(row)] = UnitListOf(row);
-        lblFactor(row).SetCaption(picks_.Of(row).Name);
+        lblFactor(row).SetCaption(SelectedFactor.Of(row).Name);
         lblFactor(row).Describe(&button);
     });
 }
@@ -231,7 +231,7 @@ void frmUnits::cmdSelect_Click() {
         return;
     }
     lblFactor(UnitRow).SetCaption(name);
-    picks_.Set(UnitRow, name, factor);
+    SelectedFactor.Set(UnitRow, name, factor);
     ClosePanel();
     SetStatus(readAs);
 }
@@ -263,7 +263,7 @@ bool frmUnits::AskUpdate() const {
 }
 
 void frmUnits::cmdOK_Click() {
-    if (!AskUpdate() || !ConvertToPicks(picks_, *change_)) return;
+    if (!AskUpdate() || !ConvertToPicks(SelectedFactor, *change_)) return;
     UnloadForm(Name());
     UnloadForm("frmCalcOptions");
     ReturnToCalculation();
@@ -276,7 +276,7 @@ void frmUnits::cmdSaveUser_Click() {
     }
     const UnitNames names = Calc.UnitName;
     const UnitFactors factors = Calc.UnitFactor;
-    if (PutPicks(picks_)) {
+    if (PutPicks(SelectedFactor)) {
         StoreUserUnitSet();
         SaveUserUnits(*this);
     }

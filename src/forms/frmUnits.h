@@ -83,7 +83,7 @@ private:
     int UnitRow = 0;  // the row in hand
     int ProtectedCount = 0;
     std::array<int, 36> ActiveList{};
-    UnitPicks picks_;
+    UnitPicks SelectedFactor;           // the unit and factor chosen for each row
     std::optional<UnitChange> change_;  // while the window is open; Cancel ends it
     std::string basisBeforePanel_;      // for the Cancel of the panel
 };

@@ -15,9 +15,11 @@ constexpr int DensityPosition = 11;
 
 bool IsGas() { return program::IsOfGas(Calc.CurrentProgram); }
 bool IsLiquidWithDensity() { return !IsGas() && Calc.LiquidDensityMode == words::Density; }
-bool IsLeftOut(int position) {
-    return position == DensityPosition && !IsGas() && Calc.LiquidDensityMode != words::Density;
+// The positions of the program in hand: a liquid with gravity leaves its density out.
+int RowCount() {
+    return !IsGas() && Calc.LiquidDensityMode != words::Density ? UnitPositions - 1 : UnitPositions;
 }
+bool IsLeftOut(int position) { return position == DensityPosition && RowCount() < UnitPositions; }
 
 void CopyUnit(int to, int from) {
     Calc.UnitName[At(to)] = Calc.UnitName[At(from)];
