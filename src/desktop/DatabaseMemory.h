@@ -1,4 +1,5 @@
-// The databases of the last runs, and the one that was open at the end, beside the places of the windows.
+// The databases of the last runs, the one that was open at the end, and how many backups are kept, beside the
+// places of the windows.
 #pragma once
 
 #include <string>

@@ -21,6 +21,7 @@ constexpr Entry Layouts[] = {
     {"frmGasData", frmGasData},
     {"frmPipeSize", frmPipeSize},
     {"frmUnits", frmUnits},
+    {"frmBackups", frmBackups},
     {"frmCalcOptions", frmCalcOptions},
     {"FindDialog", FindDialog},
     {"frmWaterHammer", frmWaterHammer},

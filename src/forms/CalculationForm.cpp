@@ -18,6 +18,7 @@
 #include "platform/Plot.h"
 #include "platform/TextFiles.h"
 #include "platform/UserActs.h"
+#include "records/Backups.h"
 #include "records/ChangeDetection.h"
 #include "records/RecordFiles.h"
 #include "records/Recovery.h"
@@ -386,7 +387,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
     }
     DropRecovery();
     ShowCalculation();
-    SetStatus("Saved as " + Calc.Tag + cut);
+    SetStatus("Saved as " + Calc.Tag + cut + BackupTrouble());
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include "platform/Folders.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
+#include "records/Backups.h"
 #include "records/RecordExport.h"
 #include "records/RecordFiles.h"
 
@@ -76,6 +77,17 @@ void frmTRProg::mnuRepairDB_Click() {
     }
     if (!report.empty()) Tell(report, DatabaseTitle, Icon::Exclamation);
     Tell("End of repair procedure!", DatabaseTitle);
+}
+
+// Of the database that is open, or would be: a damaged one does not open.
+void frmTRProg::mnuBackups_Click() {
+    if (view_ == nullptr && !ChooseDatabase()) return;
+    ShowForm("frmBackups", Modal::Yes);
+}
+
+void frmTRProg::TellBackupTrouble() {
+    const std::string trouble = BackupTrouble();
+    if (!trouble.empty()) SetStatus("Done" + trouble);
 }
 
 // For people who live in spreadsheets: all records of the open database in one file.

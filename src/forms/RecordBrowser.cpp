@@ -63,6 +63,7 @@ void frmTRProg::HookDatabase() {
     mnuCreateDB.Click = [this] { mnuCreateDB_Click(); };
     mnuCompactDB.Click = [this] { mnuCompactDB_Click(); };
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
+    mnuBackups.Click = [this] { mnuBackups_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
     mnuPrinting.Click = [this] { mnuPrinting_Click(); };
     HookTable();
@@ -298,6 +299,7 @@ void frmTRProg::cmdDelete_Click() {
     }
     view_->LeaveDeleted();
     ShowRecord();
+    TellBackupTrouble();
 }
 
 // Shows the records whose process data are later than their calculation, one after the other.

@@ -146,6 +146,7 @@ void frmTRProg::mnuCopyRecord_Click() {
     }
     view_->Find(tag);
     ShowRecord();
+    TellBackupTrouble();
 }
 
 void frmTRProg::mnuPrintRecords_Click() { PrintTags(PickedTags()); }

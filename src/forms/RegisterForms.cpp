@@ -5,6 +5,7 @@
 #include "core/Words.h"
 #include "forms/CalculationForm.h"
 #include "forms/FindDialog.h"
+#include "forms/frmBackups.h"
 #include "forms/frmCalcOptions.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
@@ -52,6 +53,7 @@ constexpr FormEntry FormTable[] = {
     {"frmGasData", MakeForm<frmGasData>, 405},
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>, 417},
     {"FindDialog", MakeForm<FindDialog>, 400},
+    {"frmBackups", MakeForm<frmBackups>, 400},
     {"frmPipeSize", MakeForm<frmPipeSize>, 411},
     {"frmPrintControl", MakeForm<frmPrintControl>, 417},
     {"frmTables", MakeForm<frmTables>, 415},

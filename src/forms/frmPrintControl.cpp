@@ -14,6 +14,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "records/Backups.h"
 #include "records/RecordFiles.h"
 #include "records/SaveRecord.h"
 #include "records/TextLengths.h"
@@ -225,7 +226,7 @@ void frmPrintControl::cmdSaveInDb_Click() {
     std::ranges::copy(TitleTexts(), Calc.HeadingText.begin() + FirstTitle);
     Calc.HeadingText[heading::PrintDate] = txtPrintoutDate.Text();
     const std::string cut = CutHeadings();
-    if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag + cut);
+    if (SaveTRCalc()) SetStatus("Saved as " + Calc.Tag + cut + BackupTrouble());
 }
 
 void frmPrintControl::cmdCancelPrint_Click() { Leave(""); }

@@ -29,6 +29,7 @@ public:
     MenuItem mnuRepairDB{mnuFile, "mnuRepairDB", "R&epair database"};
     MenuItem mnuRecent{mnuFile, "mnuRecent", "Recent &databases"};
     ControlArray<MenuItem> mnuRecentFile{mnuRecent, "mnuRecentFile", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
+    MenuItem mnuBackups{mnuFile, "mnuBackups", "&Backups..."};
     MenuItem mnuExport{mnuFile, "mnuExport", "Exp&ort records..."};
     MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
     MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
@@ -148,6 +149,7 @@ public:
     void mnuCreateDB_Click();
     void mnuCompactDB_Click();
     void mnuRepairDB_Click();
+    void mnuBackups_Click();
     void mnuExport_Click();
 
     // Records of version 5, in OldDataMenu.cpp
@@ -188,6 +190,7 @@ private:
     bool AskDelete(const std::vector<std::string>& tags);
     void ExportTags(const std::vector<std::string>& tags);
     void PrintTags(const std::vector<std::string>& tags);
+    void TellBackupTrouble();
     // Sets Suite.DatabasePath and DatabaseFile from the chosen path; false, after a message, when there is
     // none.
     bool ChooseDatabase();

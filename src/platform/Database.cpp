@@ -206,6 +206,16 @@ void Database::CompactInto(const fs::path& file) {
     if (sqlite3_step(statement) != SQLITE_DONE) Fail();
 }
 
+void Database::CopyInto(const fs::path& file) const {
+    Database copy;
+    copy.Open(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    copy.Execute("PRAGMA synchronous = OFF");
+    sqlite3_backup* const pages = sqlite3_backup_init(copy.handle_, "main", handle_, "main");
+    if (pages == nullptr) copy.Fail();
+    sqlite3_backup_step(pages, -1);
+    if (sqlite3_backup_finish(pages) != SQLITE_OK) copy.Fail();
+}
+
 void Database::Reindex() { Execute("REINDEX"); }
 
 // The engine reads a last page that is cut as if it ended in zeros.

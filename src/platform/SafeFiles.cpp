@@ -36,21 +36,21 @@ void Synchronise(const fs::path& path) {
 #endif
 }
 
+}  // namespace
+
 // A colleague who could write the former file must be able to write the new one. Owner and group are kept as
 // far as this user may give files away; without a former file the new one keeps its own rights.
-void TakeRights([[maybe_unused]] const fs::path& former, [[maybe_unused]] const fs::path& file) {
+void TakeRights([[maybe_unused]] const fs::path& from, [[maybe_unused]] const fs::path& to) {
 #ifndef _WIN32
     struct stat rights {};
-    if (stat(former.c_str(), &rights) != 0 || !S_ISREG(rights.st_mode)) return;
-    const bool given = chown(file.c_str(), rights.st_uid, rights.st_gid) == 0 ||
-                       chown(file.c_str(), static_cast<uid_t>(-1), rights.st_gid) == 0;
+    if (stat(from.c_str(), &rights) != 0 || !S_ISREG(rights.st_mode)) return;
+    const bool given = chown(to.c_str(), rights.st_uid, rights.st_gid) == 0 ||
+                       chown(to.c_str(), static_cast<uid_t>(-1), rights.st_gid) == 0;
     // Another group gets no more than everybody.
     const mode_t mode = given ? rights.st_mode : (rights.st_mode & ~070U) | (rights.st_mode & 07U) << 3U;
-    if (chmod(file.c_str(), mode & 0777U) != 0) return;
+    if (chmod(to.c_str(), mode & 0777U) != 0) return;
 #endif
 }
-
-}  // namespace
 
 void MoveOver(const fs::path& from, const fs::path& to) {
     TakeRights(to, from);
@@ -75,6 +75,11 @@ void CopyWhole(const fs::path& from, const fs::path& to) {
 void RemoveIfThere(const fs::path& file) {
     std::error_code ignored;
     fs::remove(file, ignored);
+}
+
+void Scratch::Remove() const {
+    RemoveIfThere(File);
+    RemoveIfThere(fs::path(File) += "-journal");
 }
 
 RuntimeError FileFailure(const fs::path& file, const std::error_code& reason) {

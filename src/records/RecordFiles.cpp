@@ -12,6 +12,7 @@
 #include "platform/SafeFiles.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
+#include "records/Backups.h"
 #include "records/RecordTables.h"
 #include "records/Salvage.h"
 
@@ -34,42 +35,41 @@ fs::path InFolder(const std::string& folder, const std::string& name) {
     return MachinePath(folder + "\\" + name);
 }
 
-// Puts a new database in the place of a former one, which no other program may be writing. What an engine
-// leaves beside a database after a crash belongs to it under its name: it is undone, and gone before another
-// file takes the name.
-void Replace(const fs::path& beside, const fs::path& file) {
-    std::unique_ptr<Database> former;
+// As the engine reads it, which has it locked; as it lies there where the engine is at its end.
+void PutAside(Database* reader, const fs::path& file, const fs::path& aside) {
+    const Scratch half(fs::path(aside) += ".new");
+    try {
+        if (reader == nullptr) throw failure::DatabaseInvalid();
+        reader->CopyInto(half.File);
+    } catch (const RuntimeError&) {
+        CopyWhole(file, half.File);
+    }
+    TakeRights(file, half.File);
+    MoveOver(half.File, aside);
+}
+
+// Puts a new database in the place of a former one, which no other program may be writing, and which is kept
+// under another name when one is given. What an engine leaves beside a database after a crash belongs to it
+// under its name: it is undone, and gone before another file takes the name.
+void Replace(const fs::path& beside, const fs::path& file, const fs::path& aside = {}) {
+    std::unique_ptr<Database> former, reader;
     std::optional<Transaction> lock;
     try {
         former = std::make_unique<Database>(file, Kind);
+        if (!aside.empty()) reader = std::make_unique<Database>(file, Kind);
         lock.emplace(*former);
     } catch (const RuntimeError& error) {
         if (IsLock(error)) throw;  // else nobody can be at work on it
     }
+    if (!aside.empty() && fs::exists(file)) PutAside(reader.get(), file, aside);
     for (const char* ending : {"-journal", "-wal", "-shm"}) RemoveIfThere(fs::path(file) += ending);
     if (!OpenFilesCanBeReplaced) {
         lock.reset();
         former.reset();
+        reader.reset();
     }
     MoveOver(beside, file);
 }
-
-// A file that is removed on every way out, and first of all when a former run has left it behind.
-class Scratch {
-public:
-    explicit Scratch(fs::path file) : File(std::move(file)) { Remove(); }
-    ~Scratch() { Remove(); }
-    Scratch(const Scratch&) = delete;
-    Scratch& operator=(const Scratch&) = delete;
-
-    const fs::path File;
-
-private:
-    void Remove() const {
-        RemoveIfThere(File);
-        RemoveIfThere(fs::path(File) += "-journal");
-    }
-};
 
 std::vector<std::int64_t> RowCounts(Database& database) {
     std::vector<std::int64_t> counts;
@@ -253,6 +253,34 @@ RepairReport RepairDB(const std::string& folder) {
     return report;
 }
 
+namespace {
+
+// Opens it as the suite does, for the rows as well as for the engine's own order.
+bool IsSound(const std::string& name) {
+    try {
+        const std::unique_ptr<Database> database = OpenRecords(name);
+        RowCounts(*database);
+        return database->Fault().empty();
+    } catch (const RuntimeError& error) {
+        if (error.Number == failure::DatabaseInvalid().Number) return false;
+        throw;
+    }
+}
+
+}  // namespace
+
+void RestoreDatabase(const std::string& name, const std::string& backup, const std::string& aside) {
+    const fs::path file = MachinePath(name);
+    if (IsWriteProtected(file)) throw WriteProtected(file);
+    const Scratch beside(InFolder(FolderOf(name), "TRDB.new"));
+    CopyWhole(MachinePath(backup), beside.File);
+    if (!IsSound(SuitePath(beside.File))) {
+        throw RuntimeError(failure::DatabaseInvalid().Number,
+                           "This backup is damaged; the database stays as it is\n" + backup);
+    }
+    Replace(beside.File, file, MachinePath(aside));
+}
+
 std::string Counted(std::size_t count, const std::string& thing) {
     return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
@@ -283,6 +311,7 @@ bool DeleteRecords(const std::string& file, const std::vector<std::string>& tags
         Tell("Database is empty", file);
         return false;
     }
+    KeepBackupOfToday(file);
     Transaction all(*database);
     for (const std::string& tag : tags) DeleteRows(*database, tag);
     all.Commit();
@@ -298,6 +327,7 @@ bool DeleteRecords(const std::string& file, const std::vector<std::string>& tags
 void CopyRecord(const std::string& file, const std::string& tag, const std::string& newTag) {
     if (newTag.empty())
         throw RuntimeError{failure::ValueRefused, "Each record must have a unique Tag number"};
+    KeepBackupOfToday(file);
     const std::unique_ptr<Database> database = OpenRecords(file);
     Transaction all(*database);
     Recordset heads(*database, HeadTable().Shape, Recordset::Unplaced());

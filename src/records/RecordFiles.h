@@ -58,6 +58,10 @@ std::string AskDatabaseFile(bool forSaving = false);
 // TRDB.BAK.
 void CompactDB(const std::string& folder);
 
+// Puts a backup in the place of a database, which is kept under the name aside. Throws for a backup that is
+// damaged, for a protected database and for one that another program is at work on; all is then as it was.
+void RestoreDatabase(const std::string& name, const std::string& backup, const std::string& aside);
+
 struct RepairReport {
     bool WasDamaged = false;
     std::size_t Records = 0;        // that were saved

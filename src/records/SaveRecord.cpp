@@ -13,6 +13,7 @@
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
 #include "platform/Utf8.h"
+#include "records/Backups.h"
 #include "records/ChangeDetection.h"
 #include "records/OptionCodes.h"
 #include "records/RecordFiles.h"
@@ -200,6 +201,7 @@ bool WriteRecord(bool inARun) {
             mayOverwrite = MayOverwrite(inARun);
             if (!mayOverwrite) return false;
         }
+        KeepBackupOfToday(Suite.DatabaseFile);
         Transaction all(*database);
         if (heads.Seek(Calc.Tag) && !mayOverwrite) continue;
         AddForeignRows(*database);

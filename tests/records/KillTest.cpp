@@ -1,5 +1,6 @@
 // A child process is killed at every write that an act makes to the disk, in the middle of the write. What it
 // leaves must open, be sound, and hold the former or the new state.
+#include "records/Backups.h"
 #include "tests/platform/Killer.h"
 #include "tests/records/RecordFixture.h"
 
@@ -42,6 +43,11 @@ protected:
                 }};
     }
 
+    static void BackupsAreSound() {
+        for (const Backup& each : BackupsOf(Suite.DatabaseFile))
+            EXPECT_EQ(OpenRecords(each.File)->Fault(), "");
+    }
+
     // Kills the act at its first, second, ... write until it comes to its end, and checks what is left.
     int KillAtEveryWrite(
         const std::string& name, const std::function<void()>& act,
@@ -72,12 +78,15 @@ private:
 };
 
 TEST_F(KillTest, SaveOfANewRecordAndOverAnother) {
+    SetToday("2026-11-30");  // of which there is no backup yet
     const auto save = [](const char* tag, int program) {
         TakeFilledRecord(program, 3, tag);
         Calc.CaseInput[3][0] = 777;
         SaveTRCalc();
     };
-    EXPECT_GT(KillAtEveryWrite("new", [&] { save("P-3", 2); }), 10);
+    EXPECT_GT(KillAtEveryWrite(
+                  "new", [&] { save("P-3", 2); }, BackupsAreSound),
+              10);
     PutBack();
     EXPECT_GT(KillAtEveryWrite("over", [&] { save("P-2", 4); }), 10) << "over a record of another program";
 }
@@ -85,6 +94,11 @@ TEST_F(KillTest, SaveOfANewRecordAndOverAnother) {
 TEST_F(KillTest, Delete) {
     const auto remove = [] { DeleteRecord(Suite.DatabaseFile, "P-2"); };
     EXPECT_GT(KillAtEveryWrite("delete", remove), 10);
+}
+
+TEST_F(KillTest, Restore) {
+    const auto restore = [] { RestoreBackup(Suite.DatabaseFile, BackupsOf(Suite.DatabaseFile).back().File); };
+    EXPECT_GT(KillAtEveryWrite("restore", restore, BackupsAreSound), 10);
 }
 
 TEST_F(KillTest, CreateOverADatabase) {

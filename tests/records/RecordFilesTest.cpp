@@ -19,6 +19,7 @@
 
 #include "platform/NumberText.h"
 #include "platform/SafeFiles.h"
+#include "records/Backups.h"
 #include "records/RecordExport.h"
 #include "tests/records/RecordFixture.h"
 
@@ -83,6 +84,7 @@ protected:
         std::vector<std::string> names;
         for (const auto& entry : fs::directory_iterator(DataFolder())) {
             const std::string name = entry.path().filename().string();
+            if (name.starts_with("TRDB-") && name.ends_with(".BAK")) continue;  // kept of a day
             if (name.starts_with("TRDB") || name.starts_with("Temp")) names.push_back(name);
         }
         std::sort(names.begin(), names.end());
@@ -125,7 +127,7 @@ TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
 }
 
 TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
-    SaveNew("P-1");
+    for (const char* tag : {"P-1", "P-3"}) SaveNew(tag);
     fs::permissions(File(), fs::perms::owner_read);
     EXPECT_TRUE(Display("P-1"));
     EXPECT_FALSE(SaveTRCalc());
@@ -140,6 +142,10 @@ TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
     const std::string locked = "The database is locked by another program\n" + SuitePath(File());
     EXPECT_EQ(User.LastText(), locked);
     EXPECT_EQ(FailureOf([] { CreateDB(true); }), locked) << "nobody's database goes while he writes";
+    const std::vector<Backup> backups = BackupsOf(Suite.DatabaseFile);
+    ASSERT_EQ(backups.size(), 1U);
+    EXPECT_EQ(FailureOf([&] { RestoreBackup(Suite.DatabaseFile, backups[0].File); }), locked);
+    EXPECT_EQ(BackupsOf(Suite.DatabaseFile).size(), 1U) << "nothing was put aside";
     Database::BusyMilliseconds = 200;
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(FailureOf([] { OpenRecords(Suite.DatabaseFile); }), locked);
@@ -164,10 +170,14 @@ TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
 #ifdef HAS_USERS
 // Rights of the file are those of the people who work with it, whoever compacts, repairs or creates it anew.
 TEST_F(RecordFilesTest, RightsAreKeptAndAsked) {
-    SaveNew("P-1");
+    fs::permissions(File(), fs::perms(0660));
+    for (const char* tag : {"P-1", "P-2"}) SaveNew(tag);
+    const std::string backup = BackupsOf(Suite.DatabaseFile).front().File;
+    EXPECT_EQ(fs::status(MachinePath(backup)).permissions(), fs::perms(0660));
     const bool isRoot = geteuid() == 0;
     const auto damage = [&] { WriteData("TRDB.MDB", Bytes().replace(20, 8, "damaged!")); };
-    const std::function<void()> acts[] = {[] { CompactDB(Suite.DatabasePath); },
+    const std::function<void()> acts[] = {[&] { RestoreBackup(Suite.DatabaseFile, backup); },
+                                          [] { CompactDB(Suite.DatabasePath); },
                                           [&] {
                                               damage();
                                               RepairDB(Suite.DatabasePath);
@@ -259,7 +269,13 @@ TEST_F(RecordFilesTest, CompactKeepsRecordsAndOneBackup) {
     EXPECT_EQ(FilesBeside(), (std::vector<std::string>{"TRDB.BAK", "TRDB.MDB"}));
     EXPECT_EQ(AllValues("P-7"), kept);
     EXPECT_EQ(RecordView(Suite.DatabaseFile).Count(), 10);
+    // A backup of the day that cannot be made is told once and keeps nobody from saving.
+    SetToday("2026-11-25");
+    fs::create_directories(DataFolder() / "TRDB-2026-11-25.BAK.new" / "in the way");
     SaveNew("P-99");
+    EXPECT_EQ(BackupTrouble().find(". There is no backup of today: The database, or a file"), 0U);
+    SaveNew("P-100");
+    EXPECT_EQ(BackupTrouble(), "");
 }
 
 #ifdef HAS_USERS

@@ -470,4 +470,72 @@ expect txtPressure(2) ""
 expect cmdUnits(2) degC
 expect cmdUnits(3) kPag
 click mnuProgram
+
+# --- Backups: the first change of a day keeps the database as it was -------------------------------------------------
+write-file TRData/TRDB-2026-11-23.BAK "words"
+set-date 2026-11-25
+new 4
+type txtTagNum B-1
+click mnuSave
+expect-status Saved as B-1
+click mnuProgram
+click cmdDBOpen
+expect lblNumRecords 8
+click mnuBackups
+expect-count grdBackups 4
+expect-cell grdBackups 1 0 2026-11-25
+expect-cell grdBackups 1 2 "7 records"
+expect-cell grdBackups 2 2 "1 record"
+expect-state cmdRestore disabled
+row grdBackups 3
+answer Yes
+answer OK
+click cmdRestore
+expect-message Put the backup of 2026-11-23 (Open failed (Database invalid)) in the place of
+expect-message This backup is damaged; the database stays as it is
+expect lblNumRecords 8
+click mnuBackups
+row grdBackups 1
+answer No
+click cmdRestore
+expect-message The present database is kept beside it
+answer Yes
+doubleclick grdBackups
+expect-message The present database is kept beside it
+expect-status Restored from 2026-11-25; what was there is kept as TRDB-2026-11-25 put aside 1.BAK
+expect lblNumRecords 7
+click mnuBackups
+expect-cell grdBackups 1 1 "a restore"
+row grdBackups 1
+answer Yes
+click cmdRestore
+expect-message Continue?
+expect lblNumRecords 8
+# Also when there is no database any more.
+click cmdDBClose
+remove-file TRData/TRDB.MDB
+click mnuBackups
+row grdBackups 3
+answer Yes
+click cmdRestore
+expect-message Continue?
+expect-status Restored from 2026-11-25
+expect lblNumRecords 7
+# How many are kept; those of a restore stay.
+click mnuBackups
+type txtKept -1
+answer OK
+click cmdCancel
+expect-box "Backups" "Days must be a whole number from 0 to 99" OK Stop
+type txtKept 1
+close
+set-date 2026-11-26
+answer Yes
+click cmdDelete
+expect-message Are you sure?
+click mnuBackups
+expect-count grdBackups 4
+expect-cell grdBackups 1 0 2026-11-26
+expect-cell grdBackups 2 1 "a restore"
+click cmdCancel
 quit

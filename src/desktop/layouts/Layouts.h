@@ -7,6 +7,7 @@ namespace quillmetra::layout {
 
 Node FindDialog();
 Node WinSeek();
+Node frmBackups();
 Node frmCalcOptions();
 Node frmGasData();
 Node frmGasLineLoss();
