@@ -53,7 +53,13 @@ void frmBackups::Load() {
 }
 
 void frmBackups::ShowBackups() {
-    backups_ = BackupsOf(Suite.DatabaseFile);
+    SetStatus("");
+    try {
+        backups_ = BackupsOf(Suite.DatabaseFile);
+        if (backups_.empty()) SetStatus("There are none yet: the first change of a day makes one");
+    } catch (const RuntimeError& error) {
+        SetStatus(error.Description);  // of a folder that is gone
+    }
     std::vector<Grid::Cells> rows{{"Day", "Kept by", "Content", "Size"}};
     for (const Backup& each : backups_) {
         rows.push_back({each.Day, each.PutAside ? "a restore" : "the first change of the day", each.Content,
@@ -61,26 +67,26 @@ void frmBackups::ShowBackups() {
     }
     grdBackups.SetRows(std::move(rows), 4);
     grdBackups_Click();
-    if (backups_.empty()) SetStatus("There are none yet: the first change of a day makes one");
 }
 
 void frmBackups::grdBackups_Click() { cmdRestore.SetEnabled(grdBackups.Selected() >= grdBackups.FixedRows); }
 
-bool frmBackups::TakeKept() {
+// What is no number of days keeps nobody here.
+void frmBackups::TakeKept() {
     const double days = Val(txtKept.Text());
     if (!Trim(txtKept.Text()).empty() && ValReadsAll(txtKept.Text()) && days == std::floor(days) &&
         days >= 0 && days <= MostBackups) {
         BackupsKept = static_cast<int>(days);
-        return true;
+        return;
     }
-    Tell("Days must be a whole number from 0 to " + std::to_string(MostBackups), Caption(), Icon::Stop);
-    txtKept.SetFocus();
-    return false;
+    Tell("Days must be a whole number from 0 to " + std::to_string(MostBackups) + "; they stay " +
+             std::to_string(BackupsKept),
+         Caption(), Icon::Stop);
 }
 
 void frmBackups::cmdRestore_Click() {
     const int row = grdBackups.Selected() - grdBackups.FixedRows;
-    if (row < 0 || !TakeKept()) return;
+    if (row < 0) return;
     const Backup backup = backups_.at(static_cast<std::size_t>(row));
     if (AskYesNo("Put the backup of " + backup.Day + " (" + backup.Content + ") in the place of\n" +
                      Suite.DatabaseFile + "\n\nThe present database is kept beside it. Continue?",
@@ -94,6 +100,7 @@ void frmBackups::Restore(const Backup& backup) {
     const bool wasOpen = !Browser().OpenFile().empty();
     std::string aside;
     bool done = false;
+    TakeKept();
     Browser().cmdDBClose_Click();
     try {
         const BusyPointer busy;
@@ -111,7 +118,7 @@ void frmBackups::Restore(const Backup& backup) {
 }
 
 void frmBackups::cmdCancel_Click() {
-    if (!TakeKept()) return;
+    TakeKept();
     UnloadForm(Name());
     if (Browser().DatabasesChanged) Browser().DatabasesChanged();
 }

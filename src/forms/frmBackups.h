@@ -29,8 +29,7 @@ public:
 
 private:
     void ShowBackups();
-    // False, after a message, for what is no number of days.
-    bool TakeKept();
+    void TakeKept();
     void Restore(const Backup& backup);
 
     std::vector<Backup> backups_;  // a row of the table each

@@ -79,7 +79,7 @@ std::string ContentOf(const std::string& backup) {
         const auto records = Recordset(*database, HeadTable().Shape, Recordset::Unplaced()).RecordCount();
         return Counted(static_cast<std::size_t>(records), "record");
     } catch (const RuntimeError& error) {
-        return error.Description;
+        return error.Number == failure::DatabaseInvalid().Number ? "damaged" : error.Description;
     }
 }
 

@@ -491,7 +491,7 @@ row grdBackups 3
 answer Yes
 answer OK
 click cmdRestore
-expect-message Put the backup of 2026-11-23 (Open failed (Database invalid)) in the place of
+expect-message Put the backup of 2026-11-23 (damaged) in the place of
 expect-message This backup is damaged; the database stays as it is
 expect lblNumRecords 8
 click mnuBackups
@@ -526,7 +526,8 @@ click mnuBackups
 type txtKept -1
 answer OK
 click cmdCancel
-expect-box "Backups" "Days must be a whole number from 0 to 99" OK Stop
+expect-box "Backups" "Days must be a whole number from 0 to 99; they stay 10" OK Stop
+click mnuBackups
 type txtKept 1
 close
 set-date 2026-11-26

@@ -5,7 +5,7 @@ namespace quillmetra::layout {
 
 Node frmBackups() {
     return Column({Panel("", Column({Item("lblFile").Wrapped(), "lblBackups",
-                                     Item("grdBackups").Wide(64).Tall(12).Grow(),
+                                     Item("grdBackups").Wide(76).Tall(12).Grow(),
                                      Row({"lblKept", Item("txtKept").Wide(4), Stretch()})}))
                        .Grow(),
                    Buttons({"cmdRestore", "cmdCancel"})});
