@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <span>
 
 #include "core/PhysicalConstants.h"
 #include "core/Words.h"
@@ -80,17 +82,68 @@ constexpr VaporPressureRatio VaporPressures[] = {
     {"Mercury", 100, 0.71},
 };
 
-const VaporPressureRatio* FindRatio(const CalcRecord& record) {
-    const auto* found =
-        std::find_if(std::begin(VaporPressures), std::end(VaporPressures),
-                     [&record](const VaporPressureRatio& each) { return record.FluidName == each.Name; });
-    return found == std::end(VaporPressures) ? nullptr : found;
-}
-
 // The logarithm of the ratio goes straight with 1/T to 0 at the boiling point: within a few percent of what
 // Antoine's equations of butanol, ethylene glycol, acetic acid and dodecane give.
 double OneOverT(double degF, const CalcRecord& record) {
     return 1 / DegR(degF) - 1 / DegR(record.NormalBoilingPoint);
+}
+
+// By temperature, degF. Heat transfer fluids against the published tables of their kind, from where these
+// begin; the others against the sources of their rows.
+constexpr MeasuredError BiphenylCold[] = {{60, 90},  {90, 55}, {120, 35}, {150, 23},
+                                          {180, 16}, {240, 8}, {330, 4},  {510, 0}};
+constexpr MeasuredError BiphenylHot[] = {{60, -39},  {120, -41}, {210, -34}, {300, -22},
+                                         {390, -10}, {510, 1},   {600, 7},   {720, 14}};
+constexpr MeasuredError TerphenylCold[] = {{180, -99}, {240, -96}, {300, -90}, {360, -79}, {420, -64},
+                                           {480, -47}, {540, -30}, {600, -15}, {660, -3},  {720, 6}};
+constexpr MeasuredError TerphenylHot[] = {{180, -51}, {240, -30}, {270, -21}, {300, -13}, {330, -6},
+                                          {360, 0},   {390, 5},   {420, 8},   {480, 11},  {540, 10},
+                                          {600, 7},   {660, 2},   {720, -4}};
+constexpr MeasuredError Diphenylethane[] = {{250, 22}, {270, 6},  {300, -5}, {330, -10}, {360, -11},
+                                            {420, -8}, {510, -1}, {600, 6},  {720, 12}};
+constexpr MeasuredError Diethylbenzene[] = {{150, -5}, {180, -11}, {210, -12}, {250, -10}, {300, -5},
+                                            {360, 0},  {450, 5},   {540, 7},   {720, 8}};
+constexpr MeasuredError Isoparaffin[] = {{-20, 41}, {10, 12},  {40, -2},  {70, -8}, {100, -10}, {130, -11},
+                                         {190, -9}, {250, -6}, {310, -2}, {400, 1}, {550, 5}};
+constexpr MeasuredError Siloxane[] = {{100, 373}, {130, 204}, {160, 121}, {190, 75}, {220, 48}, {250, 30},
+                                      {280, 19},  {310, 11},  {340, 6},   {400, 0},  {490, -2}, {640, 3}};
+constexpr MeasuredError CyclicSiloxane[] = {{60, 11}, {180, 2}, {300, 1}};
+constexpr MeasuredError HydrogenFluoride[] = {{0, -13}, {60, -3}, {120, 4}};
+constexpr MeasuredError Lng[] = {{-262, 1}, {-241, -3}, {-220, -7}};
+constexpr MeasuredError Lpg50[] = {{-20, 0}, {55, -4}, {130, -7}};
+constexpr MeasuredError Lpg70[] = {{-30, 0}, {45, -3}, {120, -6}};
+constexpr MeasuredError Formate[] = {{-30, -5}, {35, 2}, {100, 5}};
+constexpr MeasuredError WateryMethanol[] = {{-40, -5}, {30, 3}, {100, 4}};
+
+struct VaporPressureErrors {
+    const char* Name;
+    double GoodFrom, GoodTo;  // degF
+    std::span<const MeasuredError> Measured;
+};
+constexpr double None = NoBound.Number;
+constexpr VaporPressureErrors MeasuredPressures[] = {
+    {"Biphenyl-Diphenyl Ether HTF", 360, None, BiphenylCold},
+    {"Biphenyl-Diphenyl Ether Hot", 460, 535, BiphenylHot},
+    {"Hydrogenated Terphenyl HTF", 660, 700, TerphenylCold},
+    {"Hydrogenated Terphenyl Hot", 345, 380, TerphenylHot},
+    {"Diphenylethane HTF", 480, 555, Diphenylethane},
+    {"Diethylbenzene HTF", 325, 400, Diethylbenzene},
+    {"Isoparaffin HTF", 300, 485, Isoparaffin},
+    {"Polydimethylsiloxane HTF", 365, 640, Siloxane},
+    {"Decamethylcyclopentasiloxane", 165, None, CyclicSiloxane},
+    {"Hydrogen Fluoride", 58, 110, HydrogenFluoride},
+    {"LNG Typical", None, -240, Lng},
+    {"LPG Propane-Butane 50-50", None, 60, Lpg50},
+    {"LPG Propane-Butane 70-30", None, 60, Lpg70},
+    {"Potassium Formate 40%", -10, 60, Formate},
+    {"Methanol 50% in Water", -25, None, WateryMethanol},
+};
+
+template <typename Rows>
+auto* FindRow(const Rows& rows, const CalcRecord& record) {
+    const auto found =
+        std::ranges::find_if(rows, [&record](const auto& each) { return record.FluidName == each.Name; });
+    return found == std::end(rows) ? nullptr : &*found;
 }
 
 struct NamedTemperature {
@@ -131,10 +184,8 @@ double PressedGravityError(const CalcRecord& record) {
 double WaterModulusError(const CalcRecord& record) { return ErrorAt(WaterModuli, record.FlowTemperature); }
 
 double ColdModulusTemperature(const CalcRecord& record) {
-    for (const NamedTemperature& each : ColdModuli) {
-        if (record.FluidName == each.Name) return each.Temperature;
-    }
-    return NoBound.Number;
+    const auto* const known = FindRow(ColdModuli, record);
+    return known == nullptr ? NoBound.Number : known->Temperature;
 }
 
 bool HasWarmModulus(const CalcRecord& record) { return ReducedBase(record) < 0.9; }
@@ -161,7 +212,10 @@ double ModulusGoodTo(const CalcRecord& record) {
 }
 
 double VaporPressureError(const CalcRecord& record) {
-    const VaporPressureRatio* const known = FindRatio(record);
+    if (const auto* const measured = FindRow(MeasuredPressures, record)) {
+        return ErrorAt(measured->Measured, record.FlowTemperature);
+    }
+    const auto* const known = FindRow(VaporPressures, record);
     if (known == nullptr) return 0;
     const double part = OneOverT(record.FlowTemperature, record) / OneOverT(known->Temperature, record);
     return 100 * (std::pow(known->Ratio, part) - 1);
@@ -169,7 +223,8 @@ double VaporPressureError(const CalcRecord& record) {
 
 double VaporPressureGoodFrom(const CalcRecord& record) {
     constexpr double good = 1.03;
-    const VaporPressureRatio* const known = FindRatio(record);
+    if (const auto* const measured = FindRow(MeasuredPressures, record)) return measured->GoodFrom;
+    const auto* const known = FindRow(VaporPressures, record);
     if (known == nullptr) return NoBound.Number;
     const double part = std::log(good) / std::fabs(std::log(known->Ratio));
     const double goodFrom =
@@ -177,11 +232,14 @@ double VaporPressureGoodFrom(const CalcRecord& record) {
     return std::round(goodFrom - ZeroFInDegR);
 }
 
+double VaporPressureGoodTo(const CalcRecord& record) {
+    const auto* const measured = FindRow(MeasuredPressures, record);
+    return measured == nullptr ? NoBound.Number : measured->GoodTo;
+}
+
 double SublimationPoint(const CalcRecord& record) {
-    for (const NamedTemperature& each : Sublimations) {
-        if (record.FluidName == each.Name) return each.Temperature;
-    }
-    return NoBound.Number;
+    const auto* const known = FindRow(Sublimations, record);
+    return known == nullptr ? NoBound.Number : known->Temperature;
 }
 
 double SteamLineError(const CalcRecord& record) {

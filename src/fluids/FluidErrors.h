@@ -31,11 +31,13 @@ double ColdModulusTemperature(const CalcRecord& record);
 // Liquids that have a modulus at 68 degF.
 bool HasWarmModulus(const CalcRecord& record);
 
-// Of the vapor pressure of the liquids for which Miller's equation is known to fail below their boiling
-// point: alcohols from C3 and glycols, amines, acids, paraffins from C11. 0 for all others.
+// Of the vapor pressure of the rows for which Miller's equation is known to fail: alcohols from C3 and
+// glycols, amines, acids, paraffins from C11 below their boiling point; heat transfer fluids and some
+// mixtures on both sides. 0 for all others.
 double VaporPressureError(const CalcRecord& record);
-// degF from which on theirs is good to 3 %; no number for all others.
+// degF between which theirs is good to 3 % or so; no number where it has no such bound, and for all others.
 double VaporPressureGoodFrom(const CalcRecord& record);
+double VaporPressureGoodTo(const CalcRecord& record);
 
 // degF, of a fluid whose boiling point in the table is not one, but fitted to its vapor pressure, as it has
 // none at one atmosphere; no number for all others.

@@ -122,7 +122,7 @@ constexpr CorrelationRange Ranges[] = {
     {"Pressure", Pressure, NoBound, 1000, BoundUnit::Pressure, "the gravity under pressure is about {}",
      IsLightOrganic, PressedGravityError},
     // By rows that were measured; its error is no matter of pressure or temperature alone.
-    {"Temperature", Temperature, VaporPressureGoodFrom, NoBound, BoundUnit::Temperature,
+    {"Temperature", Temperature, VaporPressureGoodFrom, VaporPressureGoodTo, BoundUnit::Temperature,
      "the vapor pressure is about {}", ShowsVaporPressure, VaporPressureError},
     // Two points in 1/T: good between them, a guess outside; twenty degrees do no harm.
     {"Temperature", Temperature,

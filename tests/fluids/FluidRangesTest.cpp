@@ -98,6 +98,10 @@ TEST_F(Ranges, AreLeftAtTheirBounds) {
          "Temperature below 105.6 degC: the vapor pressure is about 26 % low."},
         {[] { DataOf("Acetic Acid"), Calc.CurrentProgram = 1, Calc.NormalBoilingPoint = 244.2; }, 70, 100,
          ""},
+        {[] { DataOf("Hydrogen Fluoride"); }, 59, 100, ""},
+        {[] { DataOf("Hydrogen Fluoride"); }, 120, 100,
+         "Temperature above 25.56 degC: the bulk modulus is that at 68 degF, about 23 % high. Temperature "
+         "above 43.33 degC: the vapor pressure is about 4 % high."},
         {[] { DataOf("Carbon Dioxide"), Calc.NormalBoilingPoint = -126; }, 70, 100,
          "Boiling point below -78.44 degC: it is fitted to the vapor pressure, the solid sublimes at that "
          "bound."},
