@@ -5,6 +5,7 @@
 #include "core/Suite.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
+#include "platform/PathText.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
@@ -27,11 +28,9 @@ private:
     const int before_ = Database::BusyMilliseconds;
 };
 
-// "&1  C:\data\TRDB.MDB"; an "&" of the path is no access key.
+// "&1  C:\data\TRDB.MDB".
 std::string EntryOf(int number, const std::string& file) {
-    std::string entry = std::string(1, '&').append(std::to_string(number)).append("  ");
-    for (const char c : file) entry.append(c == '&' ? 2 : 1, c);
-    return entry;
+    return "&" + std::to_string(number) + "  " + CaptionOfFile(file);
 }
 
 }  // namespace

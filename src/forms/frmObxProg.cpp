@@ -13,7 +13,9 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Keys.h"
+#include "platform/PathText.h"
 #include "reports/FormRefresh.h"
+#include "tables/PipeSizes.h"
 
 namespace quillmetra {
 
@@ -40,6 +42,7 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
         entry.SetCaption("&" + std::to_string(index) + "  " + family.Name);
         entry.Click = [file = family.File] { EditTable(table::PipeFamily.KeyWord, {.FileName = file}); };
     });
+    mnuOwnPipe(1).SeparatorBefore = true;
     mnuShippedRows.SeparatorBefore = true;
     mnuShippedRows.Click = [] { ShowForm("frmShippedRows", Modal::Yes); };
     fraProgram.ColourGroup = 1;
@@ -58,6 +61,7 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
 
 void frmObxProg::Load() {
     ApplyColours(*this);
+    ShowOwnPipes();
     if (!IsYes(Calc.InCalculation)) {
         ResetRecord();
         LoadDefaults();
@@ -67,6 +71,18 @@ void frmObxProg::Load() {
     if (Calc.CurrentProgram == 0) Calc.CurrentProgram = program::LiquidLine;
     SetCaption(Suite.VersionText + "New Calculation");
     optProgram(Calc.CurrentProgram).SetChecked(true);
+}
+
+void frmObxProg::ShowOwnPipes() {
+    std::vector<PipeFile> files = PipeFiles();
+    std::erase_if(files, [](const PipeFile& each) { return each.Name != each.File; });
+    mnuOwnPipe.Each([&files](MenuItem& entry, int number) {
+        const auto place = static_cast<std::size_t>(number - 1);
+        const std::string file = place < files.size() ? files[place].File : "";
+        entry.SetVisible(!file.empty());
+        entry.SetCaption(CaptionOfFile(file));
+        entry.Click = [file] { EditTable(table::PipeFamily.KeyWord, {.FileName = file}); };
+    });
 }
 
 void frmObxProg::cmdOK_Click() {

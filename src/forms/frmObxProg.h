@@ -19,6 +19,7 @@ public:
     MenuItem mnuPipeSizes{mnuTables, "mnuPipeSizes", "&Pipe sizes"};
     MenuItem mnuPipeFamilies{mnuTables, "mnuPipeFamilies", "Pipe &families"};
     ControlArray<MenuItem> mnuPipeFamily{mnuPipeFamilies, "mnuPipeFamily", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
+    ControlArray<MenuItem> mnuOwnPipe{mnuPipeFamilies, "mnuOwnPipe", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
     MenuItem mnuCriteria{mnuTables, "mnuCriteria", "&Criteria of lines"};
     MenuItem mnuShippedRows{mnuTables, "mnuShippedRows", "&Shipped rows..."};
     MenuItem mnuExit{*this, "mnuExit", "E&xit"};
@@ -34,6 +35,8 @@ public:
     void mnuExit_Click();
 
 private:
+    // Entries for the user's own files of pipe, those that the lookup has too.
+    void ShowOwnPipes();
     // Loads and shows the form of the program in hand and hides the selector.
     void OpenProgram();
 };

@@ -27,4 +27,10 @@ std::string WithSystemPaths(std::string text) {
     return text;
 }
 
+std::string CaptionOfFile(const std::string& file) {
+    std::string caption;
+    for (const char c : file) caption.append(c == '&' ? 2 : 1, c);
+    return caption;
+}
+
 }  // namespace quillmetra

@@ -10,4 +10,7 @@ namespace quillmetra {
 // as in a tag, is no path.
 std::string WithSystemPaths(std::string text);
 
+// The name of a file in a caption: an "&" in it is no access key.
+std::string CaptionOfFile(const std::string& file);
+
 }  // namespace quillmetra

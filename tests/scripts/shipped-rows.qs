@@ -7,6 +7,7 @@ write-file TRData/Liquid.txt "Name,\nMine first                     ,1,10,1,500,
 write-file TRData/MaTLDAT.TXT "Name                           ,Below 340 degF,Above 340 degF,\nMine                           ,6,7,"
 write-file TRData/Gas.txt ""
 remove-file TRData/W-DUCTM.TXT
+write-file TRData/W-MY&OWN.TXT "Nominal Size,Schedule,Inside Diameter,Wall Thickness\n1,A,1.049,0.133,"
 click cmdOK
 click mnuShippedRows
 expect-form frmShippedRows
@@ -57,5 +58,10 @@ click cmdCancel
 click mnuPipeFamily(5)
 expect-title "Pipe Size Data File  W-DUCTM.TXT"
 expect-cell grdTable 1 1 3.2
+click cmdCancelGrid
+# So has a file of the user's own, as in the lookup.
+click mnuOwnPipe(1)
+expect-title "Pipe Size Data File  W-MY&OWN.TXT"
+expect-cell grdTable 1 3 1.049
 click cmdCancelGrid
 quit
