@@ -1,4 +1,6 @@
-// Tables of 10,000 rows: read and searched by a calculation, opened and saved in the editor.
+// Tables of 10,000 rows: read and searched by a calculation, opened and saved in the editor. The lookup of a
+// shipped pipe.
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -7,8 +9,10 @@
 #include "core/CalcRecord.h"
 #include "core/Words.h"
 #include "fluids/FluidTables.h"
+#include "platform/ProgramPlaces.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/TextFiles.h"
+#include "tables/PipeSizes.h"
 
 namespace {
 
@@ -120,6 +124,39 @@ void PlainSave(benchmark::State& state) {
     });
 }
 
+// The shipped table of steel pipe, the longest of the families, and its largest size.
+struct Pipes {
+    Pipes() {
+        Calc = CalcRecord();
+        Suite.DefaultPaths[path::DataFiles] = SuitePath(ShippedDataFolder());
+        Calc.UnitFactor[pipeunit::PipeSizeRound] = Calc.UnitFactor[pipeunit::PipeSizeFactor] = 1;
+    }
+    static constexpr const char* Size = "80";
+};
+
+void LookUp(benchmark::State& state) {
+    const Pipes pipes;
+    Measure(state, [] { return FindPipeSizes(Pipes::Size); });
+    if (FindPipeSizes(Pipes::Size).empty()) state.SkipWithError("not found");
+}
+
+void PlainLookUp(benchmark::State& state) {
+    const Pipes pipes;
+    Measure(state, [] {
+        std::vector<std::string> found;
+        double size = 0;
+        std::ifstream file(MachinePath(TablePath(table::Pipe)), std::ios::binary);
+        for (std::string line; std::getline(file, line);) {
+            const double of = std::strtod(line.c_str(), nullptr);
+            if (of <= 0 || of > 80 || of < size) continue;
+            if (of > size) found.clear();
+            size = of;
+            found.push_back(line);
+        }
+        return found;
+    });
+}
+
 BENCHMARK(Read)->Name("tables/10,000 fluids read");
 BENCHMARK(PlainRead)->Name("tables/10,000 fluids read/plain");
 BENCHMARK(FindLast)->Name("tables/last of 10,000 fluids found");
@@ -128,5 +165,7 @@ BENCHMARK(Load)->Name("tables/10,000 rows into the editor");
 BENCHMARK(PlainLoad)->Name("tables/10,000 rows into the editor/plain");
 BENCHMARK(Save)->Name("tables/10,000 rows saved")->UseRealTime();
 BENCHMARK(PlainSave)->Name("tables/10,000 rows saved/plain")->UseRealTime();
+BENCHMARK(LookUp)->Name("tables/size among 422 pipes looked up");
+BENCHMARK(PlainLookUp)->Name("tables/size among 422 pipes looked up/plain");
 
 }  // namespace
