@@ -1,5 +1,6 @@
 // The shipped tables row by row: each must read, make physical sense, and give true results by the suite's
 // own formulas. A slip of a digit in a table is a wrong pressure drop on somebody's drawing.
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -243,6 +244,34 @@ TEST_F(ShippedTables, PipesAreTheirOutsideLessTwoWalls) {
     EXPECT_EQ(walls.at({24, "XS"}), 0.5);
 }
 
+std::array<std::string, 7> FirstFields(const std::string& line, char separator) {
+    std::istringstream text(line);
+    std::array<std::string, 7> fields;
+    for (std::string& field : fields) std::getline(text, field, separator);
+    return fields;
+}
+
+// The families and the large steel pipe, whose outside diameters stand in the standards.
+TEST_F(ShippedTables, PipesOfEachFamilyHaveTheirOutsideDiameters) {
+    Suite.DefaultPaths[path::DataFiles] = SuitePath(SourceFolder() / "data");
+    std::map<std::string, double> outside;  // by file, size and schedule
+    for (const PipeFamily& family : PipeFamilies) {
+        for (const std::string& line : ReadTable(table::PipeFamily, {.FileName = family.File})) {
+            const NumberRow pipe(table::PipeFamily, line);
+            outside[family.File + ("," + pipe.Fields[0]) + "," + pipe.Fields[1]] = pipe[3] + 2 * pipe[4];
+        }
+    }
+    std::ifstream file(SourceFolder() / "tools/reference/more_pipes.csv");
+    std::string line;
+    std::getline(file, line);
+    int rows = 0;
+    for (; std::getline(file, line); ++rows) {
+        const auto fields = FirstFields(line, ',');
+        EXPECT_NEAR(outside[fields[6] + "," + fields[0] + "," + fields[1]], Val(fields[5]), 0.0011) << line;
+    }
+    EXPECT_EQ(rows, 874);
+}
+
 // What the suite finds for a row of that table: the property of the name that tests/reference gives it.
 double FoundBySuite(const std::string& property) {
     const bool isGas = Calc.CurrentProgram == 5;
@@ -267,9 +296,7 @@ TEST_F(ShippedTables, RowsMeetTheFiguresOfTheirSources) {
     for (std::string line; std::getline(file, line);) {
         if (line[0] == '#') continue;
         SCOPED_TRACE(line);
-        std::istringstream text(line);
-        std::array<std::string, 7> fields;
-        for (std::string& field : fields) std::getline(text, field, ';');
+        const auto fields = FirstFields(line, ';');
         const bool isGas = fields[0] == "Gas.txt";
         const std::vector<std::string>& table = isGas ? gases : liquids;
         Calc.FluidRow = table[static_cast<std::size_t>(FindTableRow(table, fields[1]))];
@@ -283,7 +310,7 @@ TEST_F(ShippedTables, RowsMeetTheFiguresOfTheirSources) {
         EXPECT_NEAR(100 * (FoundBySuite(fields[2]) / Val(fields[5]) - 1), 0, Val(fields[6]));
         rows.insert(fields[0] + fields[1]);
     }
-    EXPECT_EQ(rows.size(), 85U + 35U + 18U);
+    EXPECT_EQ(rows.size(), 85U + 35U + 26U);
 }
 
 TEST_F(ShippedTables, ModuliFallWithTemperature) {

@@ -43,6 +43,12 @@ FIGURES = [
     ("Gas.txt", "Methyl Acetylene", "latent", -10, 14.7, 237.7, 4.8),
     ("Liquid.txt", "Methyldiethanolamine", "vapor", 200, 14.7, 0.0327, 1.5),
     ("Liquid.txt", "Propane", "modulus", 68, 300, 43220, 2),
+    # Saturated liquids at 68 degF, density times speed of sound squared.
+    *[("Liquid.txt", row, "modulus", 68, p, k, 1.2)
+      for row, p, k in (("Propylene", 145.4, 40850), ("Refrigerant 12", 81.4, 54480), ("Refrigerant 22", 129.9, 56210),
+                        ("Refrigerant 32", 212.4, 48700), ("Refrigerant 134a", 81.9, 49870),
+                        ("Refrigerant 152a", 74, 59940), ("Hydrogen Sulphide", 253.6, 85440),
+                        ("Hydrogen Chloride", 610.7, 31730))],
     *viscosities("Chlorine", (100, 0.312), (100, 0.314)),
     *viscosities("Propylene Glycol", (74, 46.9), (172, 4.64)),
     *viscosities("Ethylene Glycol", (74, 18), (172, 3.25)),
