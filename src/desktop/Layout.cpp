@@ -45,6 +45,12 @@ Node Node::Tall(int rows) && {
     return std::move(*this);
 }
 
+Node Node::Least(int digits, int rows) && {
+    LeastDigits = digits;
+    LeastRows = rows;
+    return std::move(*this);
+}
+
 Node Node::Grow() && {
     Grows = true;
     return std::move(*this);

@@ -33,6 +33,8 @@ struct Node {
     // of its first column.
     Node Wide(int digits) &&;
     Node Tall(int rows) &&;
+    // A list that takes its size at first and may become as small as this, where the screen is small.
+    Node Least(int digits, int rows) &&;
     // Takes its share of the room that is left, in a row its width and in a column its height.
     Node Grow() &&;
     // In letters of one width, for rows whose columns are counted in characters.
@@ -56,6 +58,7 @@ struct Node {
     std::vector<Node> Parts;
     int Digits = 0;
     int Rows = 0;
+    int LeastDigits = 0, LeastRows = 0;
     bool Grows = false;
     bool IsTyped = false;
     bool Wraps = false;

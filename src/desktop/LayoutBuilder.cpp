@@ -220,6 +220,15 @@ QWidget* LayoutBuilder::MakeOver(const Node& node) {
     return both;
 }
 
+namespace {
+
+QSize ListSize(const QWidget& list, int digits, int rows) {
+    return {DigitsWide(list, digits) + 16 + list.style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+            rows * (QFontMetrics(list.font()).height() + 2) + 6};
+}
+
+}  // namespace
+
 void LayoutBuilder::Size(ControlView& view, const Node& node) {
     QWidget* const widget = view.Widget();
     const ControlKind kind = view.Model()->Kind();
@@ -246,11 +255,12 @@ void LayoutBuilder::Size(ControlView& view, const Node& node) {
         widget->setMinimumHeight(node.Rows * QFontMetrics(widget->font()).height());
     }
     if (IsListKind(kind)) {
-        const int rows = node.Rows > 0 ? node.Rows : 8;
-        widget->setMinimumHeight(rows * (QFontMetrics(widget->font()).height() + 2) + 6);
-        if (node.Digits > 0) {
-            widget->setMinimumWidth(DigitsWide(*widget, node.Digits) + 16 +
-                                    widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+        const QSize size = ListSize(*widget, node.Digits, node.Rows > 0 ? node.Rows : 8);
+        widget->setMinimumHeight(size.height());
+        if (node.Digits > 0) widget->setMinimumWidth(size.width());
+        if (node.LeastRows > 0) {
+            widget->setProperty(FirstSize, size);
+            widget->setMinimumSize(ListSize(*widget, node.LeastDigits, node.LeastRows));
         }
         if (!node.Grows && node.Rows > 0) widget->setMaximumHeight(widget->minimumHeight());
     }

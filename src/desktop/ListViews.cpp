@@ -66,6 +66,11 @@ public:
     Handler KeyDone;
     bool InKey() const { return inKey_; }
 
+    QSize sizeHint() const override {
+        const QSize first = property(FirstSize).toSize();
+        return first.isValid() ? first : QListView::sizeHint();
+    }
+
     void keyboardSearch(const QString& letters) override {
         if (!typedAt_.isValid() || typedAt_.elapsed() > QApplication::keyboardInputInterval()) typed_.clear();
         typedAt_.start();

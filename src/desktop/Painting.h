@@ -34,6 +34,8 @@ void MarkChanged(QWidget& widget, const Control& control);
 
 // The width of so many digits in the font of a widget, for fields sized by what they hold.
 int DigitsWide(const QWidget& widget, int digits);
+// The property of a list that is larger at first than it must be.
+inline constexpr const char* FirstSize = "firstSize";
 
 // A flat area with a thin border and, where it has one, a heading in bold at its top.
 class Panel : public QWidget {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -48,6 +49,14 @@ QColor LineOf(const QStyleOption& option) {
 }
 
 QPen RingOf(const QStyleOption& option) { return {option.palette.color(QPalette::Highlight), Ring}; }
+
+// A picked row of a list of several is the colour of the ring all over.
+QPen FocusOf(const QStyleOption& option, const QWidget* widget) {
+    const auto* const list = qobject_cast<const QAbstractItemView*>(widget);
+    const bool picked = list != nullptr && list->selectionMode() == QAbstractItemView::MultiSelection &&
+                        Has(option, QStyle::State_Selected);
+    return {option.palette.color(picked ? QPalette::HighlightedText : QPalette::Highlight), 1};
+}
 
 // An input is a box; a result is text on its ground until the keyboard comes to it.
 void DrawBox(const QStyleOptionFrame& option, QPainter& painter) {
@@ -222,8 +231,7 @@ void SuiteStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             break;
         case PE_FrameFocusRect:
             if (qobject_cast<const QPushButton*>(widget) != nullptr) return;  // has a ring
-            return Brushwork(*painter).Rounded(option->rect, Qt::NoBrush,
-                                               QPen(option->palette.color(QPalette::Highlight), 1));
+            return Brushwork(*painter).Rounded(option->rect, Qt::NoBrush, FocusOf(*option, widget));
         default: break;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -80,7 +80,7 @@ void frmObxProg::ShowOwnPipes() {
         const auto place = static_cast<std::size_t>(number - 1);
         const std::string file = place < files.size() ? files[place].File : "";
         entry.SetVisible(!file.empty());
-        entry.SetCaption(CaptionOfFile(file));
+        entry.SetCaption(std::string("&") + static_cast<char>('A' + place) + "  " + CaptionOfFile(file));
         entry.Click = [file] { EditTable(table::PipeFamily.KeyWord, {.FileName = file}); };
     });
 }

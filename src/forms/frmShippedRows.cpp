@@ -83,9 +83,7 @@ void frmShippedRows::ShowRows() {
     std::vector<std::string> lines(rows_.size());
     std::transform(rows_.begin(), rows_.end(), lines.begin(), ListLine);
     lstRows.SetRows(std::move(lines));
-    // From the last to the first, at which the list then stands.
-    for (int i = lstRows.RowCount() - 1; i >= 0; --i) lstRows.Pick(i, true);
-    lstRows_Click();
+    PickEach(true);
     if (rows_.empty()) SetStatus("Your tables hold all that is shipped");
 }
 
@@ -104,14 +102,15 @@ void frmShippedRows::lstRows_Click() {
     cmdOK.SetEnabled(picked > 0);
 }
 
-void frmShippedRows::cmdAll_Click() { lstRows.PickAll(); }
-
-void frmShippedRows::cmdNone_Click() {
-    for (int i = 0; i < lstRows.RowCount(); ++i) {
-        if (lstRows.IsPicked(i)) lstRows.Pick(i, false);
-    }
+// From the last to the first, at which the list then stands.
+void frmShippedRows::PickEach(bool picked) {
+    for (int i = lstRows.RowCount() - 1; i >= 0; --i) lstRows.Pick(i, picked);
     lstRows_Click();
 }
+
+void frmShippedRows::cmdAll_Click() { PickEach(true); }
+
+void frmShippedRows::cmdNone_Click() { PickEach(false); }
 
 // A table that cannot be written stops it; those before it are written, and the list shows what is left.
 void frmShippedRows::cmdOK_Click() {

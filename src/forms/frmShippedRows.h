@@ -36,6 +36,7 @@ public:
 
 private:
     void ShowRows();
+    void PickEach(bool picked);
     std::vector<ShippedRow> PickedRows() const;
 
     std::vector<ShippedRow> rows_;  // a row of the list each

@@ -64,6 +64,13 @@ std::string KeyOf(const TableDescription& table, const std::string& line) {
     return IsPipe(table) ? TrimmedStr(Val(fields[0])) + " " + fields[1] : fields[0];
 }
 
+// What a row is called in words.
+std::string RowInWords(const TableDescription& table, const std::string& line) {
+    if (!IsPipe(table)) return KeyOf(table, line);
+    const TableFields fields = FieldsOf(table, line);
+    return "size " + fields[0] + ", schedule " + fields[1];
+}
+
 using RowPlaces = std::map<std::string, std::size_t>;
 
 // The line of each key; the first one where a key stands twice.
@@ -125,14 +132,15 @@ void AddRowsOf(const ShippedTable& shipped, std::vector<ShippedRow>& rows) {
         if (place == places.end()) {
             // What was shipped before and is not there has been taken out by the user.
             if (!former.contains(key))
-                rows.push_back({&table, shipped.File, now[i], Newness::Row, "new: " + key});
+                rows.push_back(
+                    {&table, shipped.File, now[i], Newness::Row, "new: " + RowInWords(table, now[i])});
             continue;
         }
         const TableFields fields = FieldsOf(table, now[i]);
         const TableFields users = FieldsOf(table, lines[place->second]);
         if (users == fields || !WasShipped(former, key, users)) continue;
         const std::string change = ChangeInWords(table, users, fields);
-        rows.push_back({&table, shipped.File, now[i], Newness::Figures, key + change});
+        rows.push_back({&table, shipped.File, now[i], Newness::Figures, RowInWords(table, now[i]) + change});
     }
 }
 

@@ -250,6 +250,12 @@ TEST_F(WindowTest, RowsArePickedByMouseAndKeys) {
     EXPECT_TRUE(Sample->lstMany.IsPicked(0) && !Sample->lstMany.IsPicked(1) && Sample->lstMany.IsPicked(2));
     ClickRow(Sample->lstMany, 0);
     EXPECT_FALSE(Sample->lstMany.IsPicked(0));
+    // Among picked rows the one that the keys act on is seen: its upper edge is of the letters' colour.
+    ClickRow(Sample->lstMany, 0);
+    QListView& many = Rows(Sample->lstMany);
+    const QRect row = many.visualRect(many.currentIndex());
+    const QImage picture = many.viewport()->grab().toImage();
+    EXPECT_NE(picture.pixelColor(row.center().x(), row.top()), picture.pixelColor(row.center()));
 }
 
 // A list that gets the keyboard by Tab must not choose a row that nobody chose.

@@ -19,6 +19,7 @@ expect-row lstRows 95 "W-DUCTM.TXT   new table, 23 rows"
 
 # Nothing picked writes nothing; a row alone is written where the shipped table has it.
 click cmdNone
+expect lstRows "Liquid.txt    new: Acetic Acid 80%"
 expect-state cmdOK disabled
 pick lstRows 56
 pick lstRows "Liquid.txt    new: White Spirit"

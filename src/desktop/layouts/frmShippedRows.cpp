@@ -4,10 +4,11 @@
 namespace quillmetra::layout {
 
 Node frmShippedRows() {
-    return Column({Panel("", Column({"lblRows", Item("lstRows").Wide(80).Tall(22).Typed().Grow(),
-                                     Row({"cmdAll", "cmdNone", Stretch(), "lblPicked"})}))
-                       .Grow(),
-                   Buttons({"cmdOK", "cmdCancel"})});
+    return Column(
+        {Panel("", Column({"lblRows", Item("lstRows").Wide(126).Tall(22).Least(58, 11).Typed().Grow(),
+                           Row({"cmdAll", "cmdNone", Stretch(), "lblPicked"})}))
+             .Grow(),
+         Buttons({"cmdOK", "cmdCancel"})});
 }
 
 }  // namespace quillmetra::layout
