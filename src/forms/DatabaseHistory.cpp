@@ -30,7 +30,7 @@ private:
 
 // "&1  C:\data\TRDB.MDB".
 std::string EntryOf(int number, const std::string& file) {
-    return "&" + std::to_string(number) + "  " + CaptionOfFile(file);
+    return std::string(1, '&').append(std::to_string(number)).append("  ").append(CaptionOfFile(file));
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ frmObxProg::frmObxProg() : SuiteForm("frmObxProg") {
     static_assert(PipeFamilies.size() == 10, "an entry for each family but the first");
     mnuPipeFamily.Each([](MenuItem& entry, int index) {
         const PipeFamily& family = PipeFamilies[static_cast<std::size_t>(index)];
-        entry.SetCaption("&" + std::to_string(index) + "  " + family.Name);
+        entry.SetCaption(std::string{'&', static_cast<char>('0' + index), ' ', ' '} + family.Name);
         entry.Click = [file = family.File] { EditTable(table::PipeFamily.KeyWord, {.FileName = file}); };
     });
     mnuOwnPipe(1).SeparatorBefore = true;
@@ -80,7 +80,7 @@ void frmObxProg::ShowOwnPipes() {
         const auto place = static_cast<std::size_t>(number - 1);
         const std::string file = place < files.size() ? files[place].File : "";
         entry.SetVisible(!file.empty());
-        entry.SetCaption(std::string("&") + static_cast<char>('A' + place) + "  " + CaptionOfFile(file));
+        entry.SetCaption(std::string{'&', static_cast<char>('A' + place), ' ', ' '} + CaptionOfFile(file));
         entry.Click = [file] { EditTable(table::PipeFamily.KeyWord, {.FileName = file}); };
     });
 }
