@@ -30,6 +30,7 @@ constexpr Entry Layouts[] = {
     {"WinSeek", WinSeek},
     {"frmPrintControl", frmPrintControl},
     {"frmShippedRows", frmShippedRows},
+    {"frmRecalculate", frmRecalculate},
     {"frmSizes", frmSizes},
     {"frmLineFlow", frmLineFlow},
 };

@@ -158,6 +158,15 @@ void FluidForm::mnuCase_Click(int index) {
 
 void FluidForm::TellNeedsState(int) { Tell("Need Pressure and Temperature to continue", "Fluid Properties"); }
 
+void FluidForm::RenewFluids() {
+    if (Calc.FluidDataSource != words::Loaded) return;
+    for (int i = 0; i < CaseCount; ++i) {
+        if (CalculateButton(i) == nullptr || !HasData(i)) continue;
+        Calc.CaseIndex = i;
+        UpdateFluidProperties();
+    }
+}
+
 void FluidForm::CloseOverlays() {
     if (Fluids.IsOpen()) cmdCancel_Click();
 }

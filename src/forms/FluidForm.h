@@ -31,6 +31,9 @@ public:
     void cmdCalcPseudo_Click();
     void cmdClear_Click();
 
+    // Renews the properties of the fluid of each case that has them from the table.
+    void RenewFluids();
+
     void CloseOverlays() override;
     Handler KeepBeside() override;
 

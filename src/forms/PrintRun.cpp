@@ -21,18 +21,6 @@ namespace {
 
 constexpr const char* PrintoutForm = "frmObxPrintCalc";
 
-// The forms of a record, gone at once however its print ends: a run has room for one record's forms alone.
-class FormsOfRecord {
-public:
-    FormsOfRecord() = default;
-    ~FormsOfRecord() {
-        DiscardForm(PrintoutForm);
-        for (const Program& program : Programs) DiscardForm(program.Form);
-    }
-    FormsOfRecord(const FormsOfRecord&) = delete;
-    FormsOfRecord& operator=(const FormsOfRecord&) = delete;
-};
-
 std::string CountOfRecords(int count) {
     return std::to_string(count) + (count == 1 ? " record" : " records");
 }

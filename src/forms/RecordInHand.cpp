@@ -35,6 +35,11 @@ const char* FillCalculationForm() {
     return program->Form;
 }
 
+FormsOfRecord::~FormsOfRecord() {
+    DiscardForm("frmObxPrintCalc");
+    for (const Program& program : Programs) DiscardForm(program.Form);
+}
+
 void ShowLoadedRecord() {
     const char* const form = FillCalculationForm();
     if (form == nullptr) return;

@@ -13,6 +13,16 @@ bool TakeRecord(const RecordHead& head);
 // no program.
 const char* FillCalculationForm();
 
+// The forms of a record, gone at once however the work on it ends: a run has room for one record's forms
+// alone.
+class FormsOfRecord {
+public:
+    FormsOfRecord() = default;
+    ~FormsOfRecord();
+    FormsOfRecord(const FormsOfRecord&) = delete;
+    FormsOfRecord& operator=(const FormsOfRecord&) = delete;
+};
+
 // Opens the form of the record that was just loaded, in place of the browser.
 void ShowLoadedRecord();
 

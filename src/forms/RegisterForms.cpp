@@ -16,6 +16,7 @@
 #include "forms/frmObxProg.h"
 #include "forms/frmPipeSize.h"
 #include "forms/frmPrintControl.h"
+#include "forms/frmRecalculate.h"
 #include "forms/frmShippedRows.h"
 #include "forms/frmSizes.h"
 #include "forms/frmTables.h"
@@ -59,6 +60,7 @@ constexpr FormEntry FormTable[] = {
     {"frmTables", MakeForm<frmTables>, 415},
     {"frmShippedRows", MakeForm<frmShippedRows>, 416},
     {"frmSizes", MakeForm<frmSizes>, 406},
+    {"frmRecalculate", MakeForm<frmRecalculate>, 400},
     {"frmLineFlow", MakeForm<frmLineFlow>, 406},
     {"frmWaterHammer", MakeForm<frmWaterHammer>, 403},
     {"frmUnits", MakeForm<frmUnits>, 412},

@@ -9,6 +9,7 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
+#include "forms/GridText.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
@@ -259,13 +260,7 @@ void frmSizes::optCase_Click(int index) {
 }
 
 void frmSizes::cmdCopy_Click() {
-    std::string text;
-    for (int row = 0; row < grdSizes.RowCount(); ++row) {
-        for (int column = 0; column < grdSizes.ColumnCount(); ++column)
-            text += (column > 0 ? "\t" : "") + grdSizes.Cell(row, column);
-        text += "\n";
-    }
-    CopyText(text);
+    CopyText(TabSeparated(grdSizes));
     SetStatus("The table is on the clipboard");
 }
 

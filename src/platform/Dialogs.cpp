@@ -60,9 +60,9 @@ Answer DefaultAnswer(const MessageBox& box) {
 }
 
 Answer ShowMessage(const MessageBox& box) {
-    if (Holding != nullptr && box.Choice == Buttons::Ok) {
+    if (Holding != nullptr && (box.Choice == Buttons::Ok || Holding->answers_)) {
         Holding->texts_.push_back(box.Text);
-        return Answer::Ok;
+        return DefaultAnswer(box);
     }
     ++ShownBoxes;
     return RequiredHost().ShowMessageBox(box);
@@ -160,7 +160,11 @@ const char* Word(Answer answer) {
     }
 }
 
-HeldMessages::HeldMessages() : outer_(Holding) { Holding = this; }
+HeldMessages::HeldMessages(Questions questions)
+    : outer_(Holding),
+      answers_(questions == Questions::Answered || (Holding != nullptr && Holding->answers_)) {
+    Holding = this;
+}
 HeldMessages::~HeldMessages() { Holding = outer_; }
 
 BusyPointer::BusyPointer() {

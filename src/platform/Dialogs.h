@@ -98,10 +98,12 @@ const char* Word(Icon icon);
 const char* Word(Answer answer);
 
 // Keeps what the user would only be told (a box with OK alone) from the screen for its life: a run over many
-// records tells at its end. Questions are asked all the same. It nests.
+// records tells at its end. Questions are asked all the same, but for a run without anybody to ask: there
+// they get their default, and their text is kept with the rest. It nests.
+enum class Questions { Asked, Answered };
 class HeldMessages {
 public:
-    HeldMessages();
+    explicit HeldMessages(Questions questions = Questions::Asked);
     ~HeldMessages();
     HeldMessages(const HeldMessages&) = delete;
     HeldMessages& operator=(const HeldMessages&) = delete;
@@ -111,6 +113,7 @@ public:
 private:
     friend Answer ShowMessage(const MessageBox& box);
     HeldMessages* outer_;
+    bool answers_;
     std::vector<std::string> texts_;
 };
 

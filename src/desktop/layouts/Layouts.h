@@ -18,6 +18,7 @@ Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmPrintControl();
+Node frmRecalculate();
 Node frmShippedRows();
 Node frmSizes();
 Node frmTRProg();

@@ -1,0 +1,142 @@
+// See frmRecalculate.h.
+#include "forms/frmRecalculate.h"
+
+#include <utility>
+
+#include "core/CalcRecord.h"
+#include "core/Suite.h"
+#include "forms/ColourSchemes.h"
+#include "forms/GridText.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/NumberText.h"
+#include "records/RecordFiles.h"
+#include "records/RecordView.h"
+#include "units/Rounding.h"
+
+namespace quillmetra {
+
+namespace {
+
+constexpr const char* FormName = "frmRecalculate";
+bool HasSaved = false;  // of the form shown last
+
+std::string PercentText(const ResultChange& change) {
+    return change.Percent == 0 ? "" : TrimmedStr(RoundedThree(change.Percent));
+}
+
+}  // namespace
+
+frmRecalculate::frmRecalculate() : SuiteForm(FormName) {
+    SetCaption("Recalculate records");
+    DefaultButton = &cmdRun;
+    CancelButton = &cmdCancel;
+    grdChanges.IsList = true;
+    grdChanges.FixedColumns = 0;
+    grdChanges.Describe(&lblChanges);
+    grdChanges.ColourGroup = 4;
+    for (Label* label : {&lblRecords, &lblChanges, &lblSummary}) label->ColourGroup = 1;
+    chkFluids.ColourGroup = 1;
+    barProgress.SetVisible(false);
+    cmdRun.SetToolTip("Calculates each record as its form does; nothing is written");
+    cmdSave.SetToolTip("Writes the records that have changed, all or none");
+    cmdRun.Click = [this] { cmdRun_Click(); };
+    cmdCopy.Click = [this] { cmdCopy_Click(); };
+    cmdSave.Click = [this] { cmdSave_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+    for (CommandButton* button : {&cmdCopy, &cmdSave}) button->SetEnabled(false);
+}
+
+void frmRecalculate::Load() { ApplyColours(*this); }
+
+void frmRecalculate::TakeTags(std::vector<std::string> tags) {
+    tags_ = std::move(tags);
+    lblRecords.SetCaption(Counted(tags_.size(), "record"));
+}
+
+void frmRecalculate::ShowRunning(bool running) {
+    barProgress.SetVisible(running);
+    for (Control* control : std::initializer_list<Control*>{&chkFluids, &cmdRun})
+        control->SetEnabled(!running);
+    for (CommandButton* button : {&cmdCopy, &cmdSave}) button->SetEnabled(false);
+}
+
+// The record in hand is that of the browser again at the end.
+void frmRecalculate::cmdRun_Click() {
+    const CalcRecord before = Calc;
+    ShowRunning(true);
+    SetStatus("Calculating; Escape stops it");
+    bool isWhole = false;
+    try {
+        isWhole = Run();
+    } catch (const RuntimeError& error) {
+        Tell(error.Description, Caption(), Icon::Stop);
+    }
+    Calc = before;
+    ShowRunning(false);
+    if (!isWhole) run_.reset();
+    SetStatus(isWhole ? "" : "Stopped; nothing was changed");
+    ShowList();
+}
+
+bool frmRecalculate::Run() {
+    run_ = std::make_unique<Recalculation>(chkFluids.Checked());
+    RecordView view(Suite.DatabaseFile);
+    int done = 0;
+    for (const std::string& tag : tags_) {
+        barProgress.SetProgress(done++, static_cast<int>(tags_.size()));
+        if (UserWantsToStop()) return false;
+        if (view.Find(tag)) run_->Take(view.Head());
+    }
+    return true;
+}
+
+void frmRecalculate::ShowList() {
+    std::vector<Grid::Cells> rows = {{"Tag", "Result", "Before", "Now", "Change, %"}};
+    if (run_ != nullptr) {
+        for (const ResultChange& each : run_->Changes())
+            rows.push_back({each.Tag, each.Result, each.Before, each.After, PercentText(each)});
+        for (const RecordProblem& each : run_->Problems()) rows.push_back({each.Tag, each.Text, "", "", ""});
+        lblSummary.SetCaption(Counted(static_cast<std::size_t>(run_->Records()), "record") + ", " +
+                              std::to_string(run_->Changed()) + " changed, " +
+                              Counted(run_->Problems().size(), "message"));
+    } else {
+        lblSummary.SetCaption("");
+    }
+    const bool any = rows.size() > 1;
+    grdChanges.SetRows(std::move(rows), 5);
+    cmdCopy.SetEnabled(any);
+    cmdSave.SetEnabled(run_ != nullptr && run_->Changed() > 0);
+}
+
+void frmRecalculate::cmdCopy_Click() {
+    CopyText(TabSeparated(grdChanges));
+    SetStatus("The table is on the clipboard");
+}
+
+void frmRecalculate::cmdSave_Click() {
+    const int changed = run_ == nullptr ? 0 : run_->Changed();
+    if (changed == 0) return;
+    const std::string count = Counted(static_cast<std::size_t>(changed), "record");
+    if (!AskYesNo("Save the new results of " + count + "?", Caption(), Icon::Question)) return;
+    try {
+        run_->Save();
+    } catch (const RuntimeError& error) {
+        Tell(error.Description, Caption(), Icon::Stop);
+        return;
+    }
+    HasSaved = true;
+    cmdSave.SetEnabled(false);
+    SetStatus(count + " saved");
+}
+
+void frmRecalculate::cmdCancel_Click() { UnloadForm(Name()); }
+
+bool RecalculateRecords(std::vector<std::string> tags) {
+    HasSaved = false;
+    dynamic_cast<frmRecalculate&>(LoadForm(FormName)).TakeTags(std::move(tags));
+    ShowForm(FormName, Modal::Yes);
+    return HasSaved;
+}
+
+}  // namespace quillmetra
