@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "core/Suite.h"
+#include "forms/frmRecalculate.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
 #include "platform/Keys.h"
@@ -34,6 +35,8 @@ void frmTRProg::HookTable() {
     mnuCopyRecord.Click = [this] { mnuCopyRecord_Click(); };
     mnuPrintRecords.Click = [this] { mnuPrintRecords_Click(); };
     mnuExportRecords.Click = [this] { mnuExportRecords_Click(); };
+    mnuRecalculate.Click = [this] { mnuRecalculate_Click(); };
+    mnuRecalculateAll.Click = [this] { mnuRecalculateAll_Click(); };
     mnuDeleteRecords.Click = [this] { cmdDelete_Click(); };
     mnuFindRecord.Click = [this] { txtFilter.SetFocus(); };
 }
@@ -73,7 +76,7 @@ void frmTRProg::MarkRow() {
 void frmTRProg::EnableTable(bool any) {
     for (Control* control : std::initializer_list<Control*>{
              &txtFilter, &grdRecords, &mnuShowRecord, &mnuCopyRecord, &mnuPrintRecords, &mnuExportRecords,
-             &mnuDeleteRecords, &mnuFindRecord}) {
+             &mnuDeleteRecords, &mnuFindRecord, &mnuRecalculate, &mnuRecalculateAll}) {
         control->SetEnabled(any);
     }
 }
@@ -133,6 +136,15 @@ bool frmTRProg::AskDelete(const std::vector<std::string>& tags) {
         if (tags.size() > NamedTags) what += ", ...";
     }
     return AskYesNo(what + "\n\nAre you sure?", "Confirm Record Delete", Icon::None, Answer::No);
+}
+
+void frmTRProg::mnuRecalculate_Click() { RecalculateTags(PickedTags()); }
+void frmTRProg::mnuRecalculateAll_Click() { RecalculateTags(view_->Tags()); }
+
+void frmTRProg::RecalculateTags(const std::vector<std::string>& tags) {
+    if (tags.empty() || !RecalculateRecords(tags)) return;
+    RenewTable();
+    ShowRecord();
 }
 
 void frmTRProg::mnuCopyRecord_Click() {

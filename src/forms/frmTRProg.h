@@ -31,6 +31,7 @@ public:
     ControlArray<MenuItem> mnuRecentFile{mnuRecent, "mnuRecentFile", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
     MenuItem mnuBackups{mnuFile, "mnuBackups", "&Backups..."};
     MenuItem mnuExport{mnuFile, "mnuExport", "Exp&ort records..."};
+    MenuItem mnuRecalculateAll{mnuFile, "mnuRecalculateAll", "Recalcu&late all records..."};
     MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
     MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
     MenuItem mnuExit{mnuFile, "mnuExit", "E&xit"};
@@ -67,6 +68,7 @@ public:
     MenuItem mnuCopyRecord{mnuManage, "mnuCopyRecord", "&Copy as another tag..."};
     MenuItem mnuPrintRecords{mnuManage, "mnuPrintRecords", "&Print..."};
     MenuItem mnuExportRecords{mnuManage, "mnuExportRecords", "&Export..."};
+    MenuItem mnuRecalculate{mnuManage, "mnuRecalculate", "&Recalculate..."};
     MenuItem mnuDeleteRecords{mnuManage, "mnuDeleteRecords", "De&lete"};
     MenuItem mnuFindRecord{mnuManage, "mnuFindRecord", "&Find in the table"};
     MenuItem mnuHelpHead{*this, "mnuHelpHead", "&Help"};
@@ -144,6 +146,8 @@ public:
     void mnuCopyRecord_Click();
     void mnuPrintRecords_Click();
     void mnuExportRecords_Click();
+    void mnuRecalculate_Click();
+    void mnuRecalculateAll_Click();
 
     // The file as a whole, in DatabaseFileMenu.cpp
     void mnuCreateDB_Click();
@@ -188,6 +192,7 @@ private:
     // Of the rows that are selected; of the record in hand when it is not among the rows.
     std::vector<std::string> PickedTags() const;
     bool AskDelete(const std::vector<std::string>& tags);
+    void RecalculateTags(const std::vector<std::string>& tags);
     void ExportTags(const std::vector<std::string>& tags);
     void PrintTags(const std::vector<std::string>& tags);
     void TellBackupTrouble();
