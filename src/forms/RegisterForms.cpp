@@ -60,7 +60,7 @@ constexpr FormEntry FormTable[] = {
     {"frmTables", MakeForm<frmTables>, 415},
     {"frmShippedRows", MakeForm<frmShippedRows>, 416},
     {"frmSizes", MakeForm<frmSizes>, 406},
-    {"frmRecalculate", MakeForm<frmRecalculate>, 400},
+    {"frmRecalculate", MakeForm<frmRecalculate>, 407},
     {"frmLineFlow", MakeForm<frmLineFlow>, 406},
     {"frmWaterHammer", MakeForm<frmWaterHammer>, 403},
     {"frmUnits", MakeForm<frmUnits>, 412},

@@ -37,6 +37,7 @@ frmRecalculate::frmRecalculate() : SuiteForm(FormName) {
     grdChanges.ColourGroup = 4;
     for (Label* label : {&lblRecords, &lblChanges, &lblSummary}) label->ColourGroup = 1;
     chkFluids.ColourGroup = 1;
+    barProgress.Describe(&lblRecords);
     barProgress.SetVisible(false);
     cmdRun.SetToolTip("Calculates each record as its form does; nothing is written");
     cmdSave.SetToolTip("Writes the records that have changed, all or none");

@@ -21,7 +21,7 @@ public:
     // The records that are calculated; set before the form is shown.
     void TakeTags(std::vector<std::string> tags);
 
-    Label lblRecords{*this, "lblRecords"};
+    Label lblRecords{*this, "lblRecords", "Records"};
     CheckBox chkFluids{*this, "chkFluids", "Take &fluid properties anew from the tables"};
     CommandButton cmdRun{*this, "cmdRun", "&Recalculate"};
     Label lblChanges{*this, "lblChanges", "&Changes over 0.1 %, and what was told"};
@@ -30,7 +30,7 @@ public:
     Label lblSummary{*this, "lblSummary"};
     CommandButton cmdCopy{*this, "cmdCopy", "Cop&y"};
     CommandButton cmdSave{*this, "cmdSave", "&Save changes"};
-    CommandButton cmdCancel{*this, "cmdCancel", "Close"};
+    CommandButton cmdCancel{*this, "cmdCancel", "Cl&ose"};
 
     void cmdRun_Click();
     void cmdCopy_Click();
