@@ -23,6 +23,8 @@ constexpr ScriptCommand Table[] = {
 
     {"new", "N", script::NewCalculation, "a new calculation of program 1 to 5, from the browser"},
     {"open", "TAG", script::OpenCalculation, "a saved calculation, from the browser"},
+    {"recalculate", "DATABASE [REPORT] [WHAT]", script::Recalculate,
+     "all its records; WHAT is save, fluids or fluids+save"},
     {"form", "NAME", script::TakeForm, "takes a loaded form in hand"},
     {"close", "", script::CloseForm, "the close box of the form in hand"},
 

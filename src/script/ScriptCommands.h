@@ -54,6 +54,9 @@ void PrintToPdf(ScriptPlayer& player, const Arguments& arguments);
 void PrintToText(ScriptPlayer& player, const Arguments& arguments);
 void Quit(ScriptPlayer& player, const Arguments& arguments);
 
+// Recalculate.cpp
+void Recalculate(ScriptPlayer& player, const Arguments& arguments);
+
 // ActCommands.cpp: what a user does.
 void NewCalculation(ScriptPlayer& player, const Arguments& arguments);
 void OpenCalculation(ScriptPlayer& player, const Arguments& arguments);

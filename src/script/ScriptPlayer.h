@@ -32,6 +32,7 @@ public:
     std::ostream& Out;
     ScriptHost Host;
     ScriptSource Source;
+    bool Differs = false;  // a recalculation has found something
 
     Form& FormInHand() const;
     // A control of the form in hand: "txtFlow", or "txtFlow(0)" for an element of an array.

@@ -74,3 +74,7 @@ click cmdRun
 expect lblSummary "4 records, 1 changed, 1 message"
 expect-cell grdChanges 1 0 T-1
 click cmdCancel
+
+# The same as a command, which prints what it finds.
+recalculate @TRData "" save
+recalculate @TRData/TRDB.MDB

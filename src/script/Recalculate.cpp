@@ -1,0 +1,81 @@
+// The command that calculates the records of a database anew, for an office that does so every night.
+#include <filesystem>
+#include <ostream>
+#include <vector>
+
+#include "core/Suite.h"
+#include "forms/Recalculation.h"
+#include "platform/Form.h"
+#include "platform/NumberText.h"
+#include "platform/TextFiles.h"
+#include "records/RecordFiles.h"
+#include "script/ScriptCommands.h"
+#include "script/ScriptFailure.h"
+#include "script/ScriptPlayer.h"
+#include "units/Rounding.h"
+
+namespace quillmetra::script {
+
+namespace {
+
+// A database or the folder that it is in, as the suite names files; @ is the suite's own folder.
+std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path) {
+    const std::string named = path.starts_with('@') ? player.Folder() + "\\" + path.substr(1) : path;
+    const std::filesystem::path file = std::filesystem::absolute(MachinePath(named)).lexically_normal();
+    const std::string name = SuitePath(file);
+    return std::filesystem::is_directory(file) ? DatabaseFileOf(name) : name;
+}
+
+// "tag,result,before,now,change in percent", as the export writes its lines.
+std::vector<std::string> ReportOf(const Recalculation& run) {
+    std::vector<std::string> lines = {"Tag,Result,Before,Now,Change %"};
+    const auto item = [](const std::string& text) {
+        std::string quoted = "\"";
+        for (const char c : text) quoted.append(c == '"' ? 2 : 1, c == '\n' ? ' ' : c);
+        return quoted + "\"";
+    };
+    for (const ResultChange& each : run.Changes()) {
+        const std::string percent = each.Percent == 0 ? "" : TrimmedStr(RoundedThree(each.Percent));
+        lines.push_back(item(each.Tag) + "," + item(each.Result) + "," + each.Before + "," + each.After +
+                        "," + percent);
+    }
+    for (const RecordProblem& each : run.Problems())
+        lines.push_back(item(each.Tag) + "," + item(each.Text) + ",,,");
+    return lines;
+}
+
+void WriteReport(ScriptPlayer& player, const std::string& file, const std::vector<std::string>& lines) {
+    if (file.empty()) {
+        for (const std::string& line : lines) player.Out << line << '\n';
+        return;
+    }
+    TextWriter writer(SuitePath(std::filesystem::absolute(MachinePath(file))));
+    for (const std::string& line : lines) writer.Line(line);
+    writer.Commit();
+}
+
+}  // namespace
+
+void Recalculate(ScriptPlayer& player, const Arguments& arguments) {
+    const std::string report = arguments.size() > 1 ? arguments[1].Text : "";
+    const std::string what = arguments.size() > 2 ? arguments[2].Text : "";
+    const bool fluids = what == "fluids" || what == "fluids+save";
+    const bool saves = what == "save" || what == "fluids+save";
+    if (!what.empty() && !fluids && !saves)
+        throw ScriptFailure{what + " is none of save, fluids, fluids+save"};
+    if (player.FormInHand().Name() != "frmTRProg") throw ScriptFailure{"the browser is not in hand"};
+
+    Suite.DatabaseFile = DatabaseNamed(player, arguments[0].Text);
+    Recalculation run(fluids);
+    RecordView view(Suite.DatabaseFile);
+    for (const std::string& tag : view.Tags()) {
+        if (view.Find(tag)) run.Take(view.Head());
+    }
+    WriteReport(player, report, ReportOf(run));
+    player.Out << run.Records() << " records, " << run.Changed() << " changed, " << run.Problems().size()
+               << " messages\n";
+    player.Differs = run.Changed() > 0 || !run.Problems().empty();
+    if (saves) run.Save();
+}
+
+}  // namespace quillmetra::script
