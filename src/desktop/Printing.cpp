@@ -16,6 +16,7 @@
 #include "forms/FileGuard.h"
 #include "paper/PagePainter.h"
 #include "paper/PdfPaper.h"
+#include "platform/Dialogs.h"
 #include "platform/RuntimeError.h"
 
 namespace quillmetra {
@@ -26,6 +27,18 @@ namespace {
 int PageIn(const QPrintDialog& dialog, const char* box, int otherwise) {
     const auto* const spin = dialog.findChild<QSpinBox*>(QLatin1String(box));
     return spin == nullptr ? otherwise : spin->value();
+}
+
+constexpr const char* NoPrinter =
+    "There is no printer. A PDF can be saved without one; a printer that is set up now is known at the next "
+    "start.";
+
+// A dialog of the system, which has no widgets, shows printers alone: without any it ends unseen.
+bool LacksPrinter(const QDialog& dialog, const QPrinter& printer) {
+    const bool isOwn = dialog.findChild<QWidget*>() != nullptr;
+    if (isOwn || printer.outputFormat() == QPrinter::NativeFormat) return false;
+    Tell(NoPrinter, "Print", Icon::Exclamation);
+    return true;
 }
 }  // namespace
 
@@ -83,7 +96,7 @@ std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& pre
     printer.setCopyCount(preset.Copies);
     printer.setFromTo(preset.FromPage, preset.ToPage);
     QPrintDialog dialog(&printer, WindowInHand());
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    if (LacksPrinter(dialog, printer) || dialog.exec() != QDialog::Accepted) return std::nullopt;
     // The dialog may print into a file too.
     const std::string file = printer.outputFileName().toStdString();
     if (!file.empty() && !MayWrite(file, "a printout", "Print")) return std::nullopt;
@@ -97,7 +110,8 @@ std::optional<PrinterChoice> DesktopHost::PrinterDialog(const PrinterChoice& pre
 
 void DesktopHost::PageSetupDialog() {
     const ReadyForUser ready;
-    QPageSetupDialog(&ThePrinter(), WindowInHand()).exec();
+    QPageSetupDialog dialog(&ThePrinter(), WindowInHand());
+    if (!LacksPrinter(dialog, ThePrinter())) dialog.exec();
 }
 
 std::unique_ptr<Paper> DesktopHost::OpenPaper(const PrintJob& job) {

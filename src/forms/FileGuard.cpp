@@ -47,17 +47,9 @@ bool IsOwnName(const std::string& name) {
     return std::ranges::any_of(OwnFiles, same) || IsTableFile(name);
 }
 
-// Links and letters of another case lead to the same file.
-fs::path TrueName(const std::string& file) {
-    std::error_code error;
-    const fs::path path = MachinePath(file);
-    const fs::path name = fs::weakly_canonical(path, error);
-    return error ? path : name;
-}
-
 bool IsOwnFile(const fs::path& file) {
-    const auto holds = [&file](const std::string& folder) {
-        return !folder.empty() && TrueName(folder) == file.parent_path();
+    const auto holds = [place = SuitePath(file.parent_path())](const std::string& folder) {
+        return !folder.empty() && IsSameFolder(folder, place);
     };
     return IsOwnName(SuitePath(file.filename())) && std::ranges::any_of(Suite.DefaultPaths, holds);
 }
@@ -75,7 +67,7 @@ bool BeginsAsDatabase(const fs::path& file) {
 
 std::string WhyNotToWrite(const std::string& file, const std::string& by) {
     if (IsDevice(file)) return file + " is the name of a device: it cannot be written over by " + by;
-    const fs::path name = TrueName(file);
+    const fs::path name = TruePath(file);  // links and letters of another case lead to the same file
     if (IsDatabaseName(file) || BeginsAsDatabase(name)) return "A database cannot be written over by " + by;
     if (!IsOwnFile(name)) return "";
     return SuitePath(name.filename()) + " is a file of the suite: it cannot be written over by " + by;

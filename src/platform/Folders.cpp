@@ -42,6 +42,9 @@ RuntimeError FailureOf(const std::error_code& error) {
     return failure::PathAccess();
 }
 
+// Not every library takes the share, "\\server\share", for the root of such a path.
+bool IsOnShare(const fs::path& path) { return SuitePath(path).starts_with("\\\\"); }
+
 // Makes an empty file and never opens what is there already. The name goes to the system in its own letters.
 std::error_code MakeNewFile(const fs::path& path) {
 #ifdef _WIN32
@@ -112,6 +115,18 @@ std::string ShownPath(const fs::path& path) {
     std::string text = SuitePath(path);
     std::replace(text.begin(), text.end(), '/', '\\');
     return text;
+}
+
+fs::path AbsolutePath(std::string_view suitePath) {
+    const fs::path path = MachinePath(suitePath);
+    return IsOnShare(path) ? path : fs::absolute(path).lexically_normal();
+}
+
+fs::path TruePath(std::string_view suitePath) {
+    const fs::path path = MachinePath(suitePath);
+    std::error_code error;
+    const fs::path name = IsOnShare(path) ? path : fs::weakly_canonical(path, error);
+    return error ? path : name;
 }
 
 fs::path MachineFolder(std::string_view suitePath) {

@@ -13,6 +13,12 @@ namespace quillmetra {
 // A path of the machine with "\" alone between its parts.
 std::string ShownPath(const std::filesystem::path& path);
 
+// A path from the root on. MachinePath says what it makes of a name.
+std::filesystem::path AbsolutePath(std::string_view suitePath);
+
+// The same with links followed, as far as it exists; on a share as it stands.
+std::filesystem::path TruePath(std::string_view suitePath);
+
 // The folder of the machine by the suite's name of it. A drive alone ("C:") is its root and not the folder
 // that happens to be current there.
 std::filesystem::path MachineFolder(std::string_view suitePath);

@@ -2,6 +2,7 @@
 #include "platform/ProgramPlaces.h"
 
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -10,6 +11,8 @@
 #include <system_error>
 
 #ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 #elif defined(__APPLE__)
 #include <mach-o/dyld.h>
@@ -57,6 +60,16 @@ unsigned ShowCodePage([[maybe_unused]] unsigned page) {
     return former;
 #else
     return 0;
+#endif
+}
+
+// Letters reach a console whole: the library of the language takes them apart byte by byte, and by a code
+// page of its own, unless it holds them back and takes them for no text.
+void KeepLettersWhole([[maybe_unused]] std::FILE* stream) {
+#ifdef _WIN32
+    if (_isatty(_fileno(stream)) == 0) return;
+    _setmode(_fileno(stream), _O_BINARY);
+    std::setvbuf(stream, nullptr, _IOFBF, 4096);
 #endif
 }
 
@@ -120,7 +133,9 @@ double ProcessAge() {
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-Utf8Console::Utf8Console() : former_(ShowCodePage(Utf8CodePage)) {}
+Utf8Console::Utf8Console() : former_(ShowCodePage(Utf8CodePage)) {
+    for (std::FILE* stream : {stdout, stderr}) KeepLettersWhole(stream);
+}
 
 Utf8Console::~Utf8Console() { ShowCodePage(former_); }
 

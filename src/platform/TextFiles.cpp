@@ -132,8 +132,9 @@ fs::path MachinePath(std::string_view suitePath) {
     const fs::path path = PathOf(std::string_view(text).substr(share)).lexically_normal();
     fs::path found = share == 0 ? path.root_path() : PathOf(text.substr(0, share)).make_preferred();
     std::error_code error;
-    if (fs::path whole = found / path.relative_path(); fs::exists(whole, error)) return whole;
-    for (const fs::path& part : path.relative_path()) {
+    const fs::path rest = path.relative_path();
+    if (fs::path whole = rest.empty() ? found : found / rest; fs::exists(whole, error)) return whole;
+    for (const fs::path& part : rest) {
         found = part == ".." ? found / part : MatchInFolder(found, SuitePath(part));
     }
     return found;

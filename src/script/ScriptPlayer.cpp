@@ -10,6 +10,7 @@
 #include "core/StartUp.h"
 #include "core/Suite.h"
 #include "platform/Clock.h"
+#include "platform/Folders.h"
 #include "platform/Forms.h"
 #include "platform/TextFiles.h"
 #include "script/ScriptCommands.h"
@@ -79,6 +80,7 @@ void ScriptPlayer::PlayWhileShown(const Form& form) {
 }
 
 bool ScriptPlayer::PlayNext() try {
+    Out.flush();  // whoever looks on sees each act when it is done
     Host.CommandStarts();
     if (!steps_.empty()) {
         const std::function<void()> step = std::move(steps_.front());
@@ -139,9 +141,9 @@ Control& ScriptPlayer::Named(const std::string& name) const {
 }
 
 void ScriptPlayer::UseFolder(const std::string& path) {
-    const std::filesystem::path folder = std::filesystem::absolute(MachinePath(path));
+    const std::filesystem::path folder = AbsolutePath(path);
     if (!std::filesystem::is_directory(folder)) throw ScriptFailure{"there is no folder " + path};
-    folder_ = SuitePath(folder.lexically_normal());
+    folder_ = SuitePath(folder);
 }
 
 std::filesystem::path ScriptPlayer::FileOfOwnFolder(const std::string& name) const {

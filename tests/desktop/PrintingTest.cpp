@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "platform/RuntimeError.h"
+#include "tests/desktop/DesktopFixture.h"
 
 namespace quillmetra {
 namespace {
@@ -34,6 +35,22 @@ TEST(PrinterPaper, PrintsToAFileAndTellsWhenItCannot) {
     printer.setOutputFileName(folder.filePath("no/such/folder/page.pdf"));
     PrinterPaper paper(printer, "sample");
     EXPECT_THROW(paper.Print(SamplePage()), RuntimeError);
+}
+
+class PrintingDialogs : public DesktopTest {};
+
+// Without a printer too: the toolkit's own dialog, or words in place of the system's.
+TEST_F(PrintingDialogs, AreNeverPassedOverInSilence) {
+    int seen = 0;
+    const auto leave = [&seen](QWidget& dialog) {
+        ++seen;
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    };
+    WhenDialogOpens(leave);
+    EXPECT_FALSE(Screen.PrinterDialog({}).has_value());
+    WhenDialogOpens(leave);
+    Screen.PageSetupDialog();
+    EXPECT_EQ(seen, 2);
 }
 
 }  // namespace

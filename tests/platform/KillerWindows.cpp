@@ -130,7 +130,8 @@ DWORD ExitOfAnother(const std::filesystem::path& temporary) {
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};
-    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr, nullptr,
+    // Without a console: one of its own for each would take longer than all else.
+    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
                        &start, &process) == 0) {
         return 1;
     }

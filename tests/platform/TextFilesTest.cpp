@@ -263,6 +263,11 @@ TEST_F(TextFiles, PathsOfAllKinds) {
     EXPECT_EQ(MachinePath("Q:\\none\\x").is_absolute(), hasDrives);
     EXPECT_EQ(ShownPath(MachinePath(R"(\\server\share\a\..\b.txt)")),
               hasDrives ? R"(\\server\share\b.txt)" : R"(\server\share\b.txt)");
+    EXPECT_EQ(ShownPath(AbsolutePath(R"(\\server\share\a)")),
+              hasDrives ? R"(\\server\share\a)" : R"(\server\share\a)");
+    EXPECT_EQ(AbsolutePath("a\\..\\b"), fs::current_path() / "b");
+    EXPECT_EQ(ShownPath(MachinePath(R"(\\server\share)")),
+              hasDrives ? R"(\\server\share)" : R"(\server\share)");
     EXPECT_EQ(ShownPath(MachinePath(R"(\\server)")), hasDrives ? R"(\\server)" : R"(\server)");
     EXPECT_TRUE(UserDataFolder().has_root_directory());
     std::string deep = SuitePath(Folder);

