@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,6 +45,17 @@ RuntimeError FailureOf(const std::error_code& error) {
 
 // Not every library takes the share, "\\server\share", for the root of such a path.
 bool IsOnShare(const fs::path& path) { return SuitePath(path).starts_with("\\\\"); }
+
+// A way to another place, which could be one above it: a link or a junction.
+bool IsLink(const fs::directory_entry& entry) {
+#ifdef _WIN32
+    const DWORD marks = GetFileAttributesW(entry.path().c_str());
+    return marks != INVALID_FILE_ATTRIBUTES && (marks & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+#else
+    std::error_code unknown;
+    return entry.is_symlink(unknown);
+#endif
+}
 
 // Makes an empty file and never opens what is there already. The name goes to the system in its own letters.
 std::error_code MakeNewFile(const fs::path& path) {
@@ -168,8 +180,7 @@ FolderContents ListFolder(std::string_view suitePath) {
         std::string name = SuitePath(entry->path().filename());
         if (!CanBeWritten(name)) continue;
         std::error_code unknown;
-        const bool isLink = entry->is_symlink(unknown);
-        if (!isLink && entry->is_directory(unknown)) {
+        if (entry->is_directory(unknown) && !IsLink(*entry)) {
             contents.Folders.push_back(std::move(name));
         } else if (entry->is_regular_file(unknown)) {
             contents.Files.push_back(std::move(name));
