@@ -22,6 +22,7 @@ GapsOf() { echo "$Gaps" | awk -v Program="$1" '$1 == Program { printf "%s%s", Se
 
 PlayPrograms() {
     local Program Name
+    export QUILLMETRA_ACTS=300  # of a restless user: Wine is slow in folders, of which he searches many
     for Program in "$Build"/bin/test_*.exe; do
         Name=$(basename -- "$Program" .exe)
         if [[ $Name != test_desktop* && $(GapsOf "$Name") != "*" ]]; then
