@@ -57,6 +57,13 @@ bool IsLink(const fs::directory_entry& entry) {
 #endif
 }
 
+// Not every system tells it: to some it is a name that is not there.
+bool HasTooLongName(const fs::path& path) {
+    constexpr std::size_t longest = 255;
+    return std::any_of(path.begin(), path.end(),
+                       [](const fs::path& part) { return part.native().size() > longest; });
+}
+
 // Makes an empty file and never opens what is there already. The name goes to the system in its own letters.
 std::error_code MakeNewFile(const fs::path& path) {
 #ifdef _WIN32
@@ -205,6 +212,7 @@ bool MatchesPattern(std::string_view name, std::string_view patterns) {
 
 void RequireFolder(std::string_view suitePath) {
     const fs::path path = MachineFolder(suitePath);
+    if (HasTooLongName(path)) throw failure::BadFileName();
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found) {
