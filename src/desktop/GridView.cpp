@@ -29,7 +29,8 @@ public:
     int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : columns_; }
 
     QVariant data(const QModelIndex& index, int role) const override {
-        if (role != Qt::DisplayRole) return {};
+        // The view copies the cell in hand, of which there may be none.
+        if (role != Qt::DisplayRole || !index.isValid()) return {};
         return ToQt(grid_.Cell(index.row() + grid_.FixedRows, index.column() + grid_.FixedColumns));
     }
 

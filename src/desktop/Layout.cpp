@@ -22,6 +22,7 @@ constexpr Entry Layouts[] = {
     {"frmPipeSize", frmPipeSize},
     {"frmUnits", frmUnits},
     {"frmBackups", frmBackups},
+    {"frmCompare", frmCompare},
     {"frmCalcOptions", frmCalcOptions},
     {"FindDialog", FindDialog},
     {"frmWaterHammer", frmWaterHammer},

@@ -2,9 +2,11 @@
 #include <algorithm>
 
 #include "core/Suite.h"
+#include "forms/frmCompare.h"
 #include "forms/frmRecalculate.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
+#include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/NumberText.h"
 #include "records/RecordFiles.h"
@@ -33,6 +35,7 @@ void frmTRProg::HookTable() {
     grdRecords.KeyPress = [this](Key& key) { grdRecords_KeyPress(key); };
     mnuShowRecord.Click = [this] { cmdDisplayCalc_Click(); };
     mnuCopyRecord.Click = [this] { mnuCopyRecord_Click(); };
+    mnuCompareRecords.Click = [this] { mnuCompareRecords_Click(); };
     mnuPrintRecords.Click = [this] { mnuPrintRecords_Click(); };
     mnuExportRecords.Click = [this] { mnuExportRecords_Click(); };
     mnuRecalculate.Click = [this] { mnuRecalculate_Click(); };
@@ -75,8 +78,8 @@ void frmTRProg::MarkRow() {
 
 void frmTRProg::EnableTable(bool any) {
     for (Control* control : std::initializer_list<Control*>{
-             &txtFilter, &grdRecords, &mnuShowRecord, &mnuCopyRecord, &mnuPrintRecords, &mnuExportRecords,
-             &mnuDeleteRecords, &mnuFindRecord, &mnuRecalculate, &mnuRecalculateAll}) {
+             &txtFilter, &grdRecords, &mnuShowRecord, &mnuCopyRecord, &mnuCompareRecords, &mnuPrintRecords,
+             &mnuExportRecords, &mnuDeleteRecords, &mnuFindRecord, &mnuRecalculate, &mnuRecalculateAll}) {
         control->SetEnabled(any);
     }
 }
@@ -159,6 +162,18 @@ void frmTRProg::mnuCopyRecord_Click() {
     view_->Find(tag);
     ShowRecord();
     TellBackupTrouble();
+}
+
+void frmTRProg::mnuCompareRecords_Click() {
+    const std::vector<std::string> tags = PickedTags();
+    if (tags.size() != 2)
+        return Tell("Select two records in the table first: Ctrl with a click, or Shift with an arrow",
+                    "Compare");
+    UnloadForm("frmCompare");
+    if (static_cast<frmCompare&>(LoadForm("frmCompare")).Take(tags[0], tags[1]))
+        ShowForm("frmCompare", Modal::Yes);
+    else
+        UnloadForm("frmCompare");
 }
 
 void frmTRProg::mnuPrintRecords_Click() { PrintTags(PickedTags()); }

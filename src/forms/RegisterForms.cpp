@@ -7,6 +7,7 @@
 #include "forms/FindDialog.h"
 #include "forms/frmBackups.h"
 #include "forms/frmCalcOptions.h"
+#include "forms/frmCompare.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
 #include "forms/frmLineFlow.h"
@@ -55,6 +56,7 @@ constexpr FormEntry FormTable[] = {
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>, 417},
     {"FindDialog", MakeForm<FindDialog>, 400},
     {"frmBackups", MakeForm<frmBackups>, 400},
+    {"frmCompare", MakeForm<frmCompare>, 400},
     {"frmPipeSize", MakeForm<frmPipeSize>, 411},
     {"frmPrintControl", MakeForm<frmPrintControl>, 417},
     {"frmTables", MakeForm<frmTables>, 415},

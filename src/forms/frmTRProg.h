@@ -66,6 +66,7 @@ public:
     MenuItem mnuManage{*this, "mnuManage", "&Manage"};
     MenuItem mnuShowRecord{mnuManage, "mnuShowRecord", "&Display calculation"};
     MenuItem mnuCopyRecord{mnuManage, "mnuCopyRecord", "&Copy as another tag..."};
+    MenuItem mnuCompareRecords{mnuManage, "mnuCompareRecords", "Co&mpare two..."};
     MenuItem mnuPrintRecords{mnuManage, "mnuPrintRecords", "&Print..."};
     MenuItem mnuExportRecords{mnuManage, "mnuExportRecords", "&Export..."};
     MenuItem mnuRecalculate{mnuManage, "mnuRecalculate", "&Recalculate..."};
@@ -144,6 +145,7 @@ public:
     void grdRecords_Click();
     void grdRecords_KeyPress(Key& key);
     void mnuCopyRecord_Click();
+    void mnuCompareRecords_Click();
     void mnuPrintRecords_Click();
     void mnuExportRecords_Click();
     void mnuRecalculate_Click();

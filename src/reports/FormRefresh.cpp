@@ -145,12 +145,6 @@ std::pair<int, int> CasesToShow(int program) {
     return {Calc.CaseIndex, Calc.CaseIndex};
 }
 
-// A result of the line is one number for all cases.
-bool Stands(const FormRow& row, int caseIndex) {
-    if (row.From == Source::CaseResult && !row.PerCase) return LineResultStands();
-    return !row.IsResult() || ResultsStand(caseIndex);
-}
-
 void ShowRows(Form& form, int program) {
     const auto [first, last] = CasesToShow(program);
     const bool results = !IsYes(Calc.HideResults);
@@ -158,7 +152,7 @@ void ShowRows(Form& form, int program) {
     for (const FormRow& row : FormRows(program)) {
         if (row.IsResult() && !results) continue;
         for (int i = row.PerCase ? first : Calc.CaseIndex; i <= (row.PerCase ? last : Calc.CaseIndex); ++i) {
-            if (Stands(row, i)) ShowRow(form, row, i, converted);
+            if (RowStands(row, i)) ShowRow(form, row, i, converted);
         }
     }
     Calc.UnitsConverted.clear();

@@ -247,6 +247,16 @@ Control& RowControl(const Form& form, const FormRow& row, int caseIndex) {
     return *control;
 }
 
+bool RowStands(const FormRow& row, int caseIndex) {
+    if (row.From == Source::CaseResult && !row.PerCase) return LineResultStands();
+    return !row.IsResult() || ResultsStand(caseIndex);
+}
+
+std::string SaidBy(const Form& form, std::string_view name, int index) {
+    const Control* const control = form.Find(name, index);
+    return control == nullptr || !control->Visible() ? "" : SpokenCaption(control->Caption());
+}
+
 const FormRow* RowOf(int program, const Control& control) {
     for (const FormRow& row : FormRows(program)) {
         if (SameName(row.Control, control.Name())) return &row;

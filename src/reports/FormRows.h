@@ -5,6 +5,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "platform/Form.h"
 
@@ -53,6 +54,12 @@ double ShownValue(const FormRow& row, int caseIndex);
 
 // The control of a row on its form, that of the case when there is one for each.
 Control& RowControl(const Form& form, const FormRow& row, int caseIndex);
+
+// Whether the number of a row stands: a result of the line is one number for all cases.
+bool RowStands(const FormRow& row, int caseIndex);
+
+// What a label or a unit beside a row says, without the mark of its key; empty where it is hidden.
+std::string SaidBy(const Form& form, std::string_view name, int index = Control::NoIndex);
 
 // The row of a control; null for a control that holds no number of the record.
 const FormRow* RowOf(int program, const Control& control);

@@ -14,11 +14,6 @@ std::string TextOf(const Form& form, std::string_view name, int index = Control:
     return control == nullptr ? "" : SpokenCaption(control->Text());
 }
 
-std::string CaptionOf(const Form& form, std::string_view name, int index = Control::NoIndex) {
-    const Control* const control = form.Find(name, index);
-    return control == nullptr || !control->Visible() ? "" : SpokenCaption(control->Caption());
-}
-
 bool HasCases(int program) {
     for (const FormRow& row : FormRows(program)) {
         if (row.PerCase) return true;
@@ -36,7 +31,7 @@ std::string Line(const Form& form, const FormRow& row, int columns) {
         values += text + '\t';
     }
     if (!any) return "";
-    return CaptionOf(form, row.Label) + '\t' + values + CaptionOf(form, row.Unit, row.UnitIndex) + '\n';
+    return SaidBy(form, row.Label) + '\t' + values + SaidBy(form, row.Unit, row.UnitIndex) + '\n';
 }
 
 }  // namespace
@@ -47,7 +42,7 @@ std::string ResultsTable(const Form& form, int program) {
     table += "Fluid\t" + TextOf(form, "txtFluid") + '\n';
     const int columns = HasCases(program) ? CaseCount : 1;
     if (columns > 1) {
-        for (int i = 0; i < columns; ++i) table += '\t' + CaptionOf(form, "lblCase", i);
+        for (int i = 0; i < columns; ++i) table += '\t' + SaidBy(form, "lblCase", i);
         table += "\tUnit\n";
     }
     for (const FormRow& row : FormRows(program)) table += Line(form, row, columns);

@@ -471,6 +471,66 @@ expect cmdUnits(2) degC
 expect cmdUnits(3) kPag
 click mnuProgram
 
+# --- Two records side by side, the second in the units of the first ------------------------------------------------
+input SI-1
+click mnuCopyRecord
+click cmdDisplayCalc
+click cmdFormLayout
+click optMassEnglishUnits
+click optAbsolutePressure
+answer Yes
+click cmdOKOptions
+expect-message Round converted data?
+type txtInletPipeID 6.065
+answer No
+click cmdCalculate(1)
+expect-message Transition
+answer Yes
+click mnuSave
+expect-message Overwrite
+click mnuProgram
+type txtFilter si-
+row grdRecords 1
+answer OK
+click mnuCompareRecords
+expect-message Select two records in the table first
+rows grdRecords 1 2
+click mnuCompareRecords
+expect-form frmCompare
+expect lblRecords "SI-0 and SI-1, in the units of SI-0: 7 of 22 rows differ"
+expect-status ""
+expect-cell grdRows 6 1 Length
+expect-cell grdRows 6 0 ""
+expect-cell grdRows 6 4 304.8
+expect-cell grdRows 9 4 0
+click chkOnly
+expect-count grdRows 8
+expect-cell grdRows 2 0 ≠
+expect-cell grdRows 2 3 102.260605
+expect-cell grdRows 2 4 154.1
+expect-cell grdRows 2 5 mm
+expect-cell grdRows 2 6 +51.79
+expect-cell grdRows 2 7 +50.6
+key grdRows Ctrl+c
+expect-status Copied
+click cmdExchange
+expect lblRecords "SI-1 and SI-0, in the units of SI-1: 7 of 22 rows differ"
+expect-cell grdRows 2 4 4.026
+close
+# Of two kinds: what both have.
+type txtFilter ""
+rows grdRecords 3 4
+click mnuCompareRecords
+expect-status Calculations of two kinds: only the rows that both have are compared
+expect-count grdRows 13
+expect-cell grdRows 1 3 "Liquid properties at pressure and temperature"
+click cmdCancel
+type txtFilter si-1
+row grdRecords 1
+answer Yes
+key grdRecords Delete
+expect-message SI-1
+
 # --- Backups: the first change of a day keeps the database as it was -------------------------------------------------
 write-file TRData/TRDB-2026-11-23.BAK "words"
 set-date 2026-11-25

@@ -9,6 +9,7 @@ Node FindDialog();
 Node WinSeek();
 Node frmBackups();
 Node frmCalcOptions();
+Node frmCompare();
 Node frmGasData();
 Node frmGasLineLoss();
 Node frmLineFlow();

@@ -1,0 +1,14 @@
+// Where the controls of the comparison stand.
+#include "desktop/layouts/Layouts.h"
+
+namespace quillmetra::layout {
+
+Node frmCompare() {
+    return Column({Panel("", Column({Row({"lblRecords", Stretch(), "chkOnly"}),
+                                     Item("grdRows").Wide(104).Tall(24).Grow()}))
+                       .Grow(),
+                   Row({"cmdExchange", Stretch(),
+                        Buttons({"cmdCopy", "cmdPrint", "cmdPreview", "cmdPdf", "cmdCancel"})})});
+}
+
+}  // namespace quillmetra::layout

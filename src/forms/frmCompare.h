@@ -1,0 +1,48 @@
+// Two records side by side: what differs, to look at, to copy and to print.
+#pragma once
+
+#include <string>
+
+#include "forms/SuiteForm.h"
+#include "platform/Host.h"
+#include "reports/Comparison.h"
+
+namespace quillmetra {
+
+class frmCompare : public SuiteForm {
+public:
+    frmCompare();
+
+    void Load() override;
+    void CloseBox() override { cmdCancel_Click(); }
+
+    // Two records of Suite.DatabaseFile; no calculation may be open. False, after a message, when one of them
+    // cannot be read whole.
+    bool Take(const std::string& first, const std::string& second);
+    void Show(Comparison comparison);
+
+    Label lblRecords{*this, "lblRecords"};
+    Grid grdRows{*this, "grdRows"};  // where the keyboard begins
+    CheckBox chkOnly{*this, "chkOnly", "Only what &differs"};
+    CommandButton cmdExchange{*this, "cmdExchange", "E&xchange"};
+    CommandButton cmdCopy{*this, "cmdCopy", "&Copy"};
+    CommandButton cmdPrint{*this, "cmdPrint", "P&rint"};
+    CommandButton cmdPreview{*this, "cmdPreview", "Pre&view"};
+    CommandButton cmdPdf{*this, "cmdPdf", "&Save as PDF"};
+    CommandButton cmdCancel{*this, "cmdCancel", "C&lose"};
+
+    void chkOnly_Click();
+    void cmdExchange_Click();
+    void cmdCopy_Click();
+    void cmdPrint_Click();
+    void cmdPdf_Click();
+    void cmdCancel_Click();
+
+private:
+    bool Print(PrintJob job, int copies);
+    std::string Names() const { return comparison_.FirstTag + " and " + comparison_.SecondTag; }
+
+    Comparison comparison_;
+};
+
+}  // namespace quillmetra
