@@ -27,7 +27,7 @@ public:
     RecordsInTurn& operator=(const RecordsInTurn&) = delete;
 
 private:
-    const FormsOfRecord forms_;
+    FormsOfRecord forms_;
     const CalcRecord former_ = Calc;
 };
 
