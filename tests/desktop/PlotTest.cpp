@@ -130,6 +130,9 @@ TEST_F(PlotOnTheScreen, ItsMenuCopiesAndSaves) {
     const std::array<std::array<const char*, 3>, 3> files = {
         {{"savePng", "a.png", "\x89PNG"}, {"saveSvg", "b.svg", "<?xml"}, {"savePdf", "c.pdf", "%PDF"}}};
     for (const auto& [entry, name, start] : files) {
+#ifndef QUILLMETRA_SVG
+        if (std::string_view(entry) == "saveSvg") continue;  // its library is not in every build
+#endif
         const std::string file = (Folder / name).string();
         WhenDialogOpens([&file](QWidget& dialog) {
             auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");

@@ -161,7 +161,7 @@ TEST_P(Rules, F1OpensTheHelp) {
 TEST_P(Rules, TabReachesEveryInput) {
     std::set<std::string> reached;
     FormWindow& window = WindowOf(Shown);
-    window.resize(700, 250);
+    window.resize(800, 250);
     Settle();
     for (std::size_t i = 0; i <= Shown.Controls().size(); ++i) {
         QWidget* const focus = window.focusWidget();

@@ -18,6 +18,7 @@ test_desktop *Restless* the same
 test_performance * promises of speed are those of a program, not of Wine
 test_print_run_speed * the same
 test_desktop *Speed* the same
+test_desktop WindowTest.ASearchForFilesIsStoppedByMouseAndKey it stops, but some files later than on a system that keeps 1 ms
 "
 
 GapsOf() { echo "$Gaps" | awk -v Program="$1" '$1 == Program { printf "%s%s", Separator, $2; Separator = ":" }'; }
@@ -56,7 +57,8 @@ PlayWindows() {
 # A system that writes 1,5 for one and a half, and one with dark windows, which the system's own platform follows when it
 # is told to. There, as on the other one, no printer is set up.
 PlaySettings() {
-    export LC_ALL=de_DE.UTF-8 LOCPATH=$PWD/$Build/locale
+    export LOCPATH=$PWD/$Build/locale
+    { export LC_ALL=de_DE.UTF-8; } 2>/dev/null  # which this shell itself does not find
     Note=" with a comma" PlayTests "$Build/bin/test_forms.exe" '--gtest_filter=-*Restless*'
     QT_QPA_PLATFORM=offscreen Note=" with a comma" PlayTests "$Build/bin/test_desktop.exe" \
         '--gtest_filter=Keyboard*:Window*'
