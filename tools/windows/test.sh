@@ -168,6 +168,7 @@ SCRIPT
 # --- the setup
 
 Installed="AppData/Local/Programs/Quillmetra"
+Uninstall='Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillmetra'
 
 UserFolder() { echo "$WINEPREFIX/drive_c/users/$(id -un)"; }
 
@@ -186,7 +187,7 @@ Setup() {
     wine "$Build/Quillmetra-$Version-setup.exe" /S /CurrentUser
     [[ ! -e $Home/$Installed/bin/former.dll ]]
     diff -r "$Package" "$Home/$Installed" | grep -v -e "uninstall.exe" -e ": TRData" && return 1
-    wine reg query 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillmetra' | grep -q "DisplayVersion.*$Version"
+    wine reg query "HKCU\\$Uninstall" | grep -q "DisplayVersion.*$Version"
     Link=$(find "$Home" -name Quillmetra.lnk)
     [[ -f $Link ]]
     wine "$Home/$Installed/bin/quillmetra-script.exe" --version | grep -q "$Version"
@@ -195,7 +196,21 @@ Setup() {
     for _ in {1..60}; do [[ -e $Home/$Installed/uninstall.exe ]] && sleep 1; done
     [[ $(find "$Home/$Installed" -type f -printf '%P ') == "bin/TRData/TRDB.MDB " ]]
     [[ -f $Home/AppData/Roaming/quillmetra/TRDB.MDB && ! -e $Link ]]
-    ! wine reg query 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillmetra'
+    ! wine reg query "HKCU\\$Uninstall"
+}
+
+# For all users: where programs are, in the menu and in the registry of all, and gone again.
+SetupForAll() {
+    local Disk="$WINEPREFIX/drive_c"
+    local Folder="$Disk/Program Files/Quillmetra" Menu="$Disk/ProgramData/Microsoft/Windows/Start Menu/Programs"
+    wine "$Build/Quillmetra-$Version-setup.exe" /S /AllUsers
+    wine "$Folder/bin/quillmetra-script.exe" --version | grep -q "$Version"
+    [[ -f $Menu/Quillmetra.lnk ]]
+    wine reg query "HKLM\\$Uninstall" | grep -q "DisplayVersion.*$Version"
+    wine "$Folder/uninstall.exe" /S /AllUsers
+    for _ in {1..60}; do [[ -e $Folder ]] && sleep 1; done
+    [[ ! -e $Folder && ! -e $Menu/Quillmetra.lnk ]]
+    ! wine reg query "HKLM\\$Uninstall"
 }
 
 # The portable folder keeps everything beside the program.
@@ -220,6 +235,7 @@ Screen=$!
 export DISPLAY=:97
 Judge "the portable folder" "$WineHome/log" Portable
 Judge "setup, upgrade, uninstall" "$WineHome/log" Setup
+Judge "setup for all users" "$WineHome/log" SetupForAll
 Judge "starts, in less than a second" "$WineHome/log" Starts
 Judge "a second start" "$WineHome/log" StartsOnce
 Judge "texts in UTF-8" "$WineHome/log" SpeaksUtf8
