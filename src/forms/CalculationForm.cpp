@@ -439,6 +439,22 @@ void CalculationForm::OpenPipeSizes() {
     PreparePipeUnits();
 }
 
+void CalculationForm::HookPipe(TextBox& name, Control& diameter, std::initializer_list<TextBox*> sizes) {
+    name.Locked = true;
+    name.TabStop = false;
+    name.ColourGroup = 4;  // as the results
+    name.Describe(&diameter, nullptr, "pipe");
+    name.Change = [&name] { name.SetToolTip(name.Text()); };
+    for (TextBox* box : sizes) {
+        box->Change = [this, &name] {
+            if (IsYes(Calc.FormLoading)) return;
+            Calc.PipeName.clear();
+            name.SetText("");
+            ClearAllCases();
+        };
+    }
+}
+
 void CalculationForm::ReturnFromPanel() {
     SetEnabled(true);
     SetCalculateButtons(true);

@@ -133,6 +133,9 @@ protected:
     void TakeUnit(int row, int line);
     // Opens the pipe size dialog for this form.
     void OpenPipeSizes();
+    // The box that names the pipe which was picked, and those that make it another one when they are typed
+    // over.
+    void HookPipe(TextBox& name, Control& diameter, std::initializer_list<TextBox*> sizes);
     // The units routine of the form: applies the unit set in force to the record.
     void ApplyUnits();
     // The numbers and texts that a form has beside the common ones.

@@ -33,6 +33,7 @@ LineLossForm::LineLossForm(const Names& names, std::initializer_list<int> rows)
     cmdMatl.Describe(&lblMatl);
     optDestination.SetChecked(true);
     HookUnits(cmdUnits);
+    HookPipe(txtPipeName, lblInletPipeID, {&txtInletPipeID});
 }
 
 void LineLossForm::Assemble() {
@@ -214,7 +215,7 @@ bool LineLossForm::TakeCase(int caseIndex, Wanted wanted) {
 void LineLossForm::TakePipe(const std::string& listLine) {
     if (const Program* program = FindProgram(Calc.CurrentProgram)) Calc.MessageText = program->PipeWord;
     TakePipeRow(listLine);
-    ReturnPipeSize();
+    ReturnPipeSize(PipeNameOf(listLine));
 }
 
 void LineLossForm::cmdSizes_Click() {

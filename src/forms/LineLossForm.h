@@ -26,6 +26,7 @@ public:
     TextBox txtInletPipeID{Picture1, "txtInletPipeID"};
     CommandButton cmdPipeID{Picture1, "cmdPipeID", "&Pipe size"};
     CommandButton cmdSizes{Picture1, "cmdSizes", "Si&zes..."};
+    TextBox txtPipeName{Picture1, "txtPipeName"};  // of the table, as long as it is that one
     Label lblInletPipeElev{Picture1, "lblInletPipeElev", "Start elevation"};
     TextBox txtInletPipeElev{Picture1, "txtInletPipeElev"};
     Label unInletPipeElev{Picture1, "unInletPipeElev"};

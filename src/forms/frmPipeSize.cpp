@@ -112,8 +112,9 @@ void frmPipeSize::cmdOK_Click() {
         txtNomSize.SetFocus();
         return;
     }
-    TakePipeRow(lstPipeSize.Row(lstPipeSize.Selected()));
-    ReturnPipeSize();
+    const std::string& row = lstPipeSize.Row(lstPipeSize.Selected());
+    TakePipeRow(row);
+    ReturnPipeSize(PipeNameOf(row));
 }
 
 void frmPipeSize::cmdCancel_Click() { CancelPipeSize(); }

@@ -42,6 +42,7 @@ frmWaterHammer::frmWaterHammer()
     pltClosing.ColourGroup = 4;  // as the results
     Entries = {{&mnuPureLiquids, &mnuMixtures}};
     HookUnits(cmdUnits);
+    HookPipe(txtPipeName, lblPipeID, {&txtPipeID, &txtPipeWall});
     HookFluid();
     DescribeRows();
     for (TextBox* box : {&txtSelectedWave, &txtSelectedForce}) {

@@ -38,6 +38,7 @@ public:
     Label lblPipeID{Picture1, "lblPipeID", "Pipe inside diameter"};
     TextBox txtPipeID{Picture1, "txtPipeID"};
     CommandButton cmdPipeID{Picture1, "cmdPipeID", "&Pipe size"};
+    TextBox txtPipeName{Picture1, "txtPipeName"};  // of the table, as long as it is that one
     Label lblPipeWall{Picture1, "lblPipeWall", "Pipe wall thickness"};
     TextBox txtPipeWall{Picture1, "txtPipeWall"};
     Label UnpipeWall{Picture1, "UnpipeWall"};

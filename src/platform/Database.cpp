@@ -94,6 +94,13 @@ const char* EngineType(FieldType type) {
     }
 }
 
+std::string KeyOf(const TableShape& table) {
+    std::string key;
+    for (std::size_t i = 0; i < table.KeyFields; ++i)
+        key += (i > 0 ? ", " : "") + Quoted(table.Fields[i].Name);
+    return key;
+}
+
 // The key has an index of its own beside the rows, so that keys are listed and counted without reading rows.
 std::string DefinitionOf(const TableShape& table) {
     std::string sql = Quoted(table.Name) + "(";
@@ -101,9 +108,10 @@ std::string DefinitionOf(const TableShape& table) {
         const FieldShape& field = table.Fields[i];
         if (i > 0) sql += ", ";
         sql += Quoted(field.Name) + " " + EngineType(field.Type);
-        if (i == 0) sql += " COLLATE " + std::string(KeyCollation) + " NOT NULL PRIMARY KEY";
+        if (i == 0) sql += " COLLATE " + std::string(KeyCollation);
+        if (i < table.KeyFields) sql += table.KeyFields == 1 ? " NOT NULL PRIMARY KEY" : " NOT NULL";
     }
-    return sql + ")";
+    return sql + (table.KeyFields == 1 ? "" : ", PRIMARY KEY(" + KeyOf(table) + ")") + ")";
 }
 
 }  // namespace

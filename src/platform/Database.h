@@ -32,10 +32,11 @@ struct FieldShape {
     int Size = 0;  // of a text, in characters
 };
 
-// The first field is the key, a text.
+// The first field is the key, a text; in a table of several rows to a key the first fields together.
 struct TableShape {
     std::string Name;
     std::vector<FieldShape> Fields;
+    std::size_t KeyFields = 1;
 };
 
 // Empty, a number (integer, single), or a text (text, and date as "2026-11-24").
@@ -129,6 +130,7 @@ public:
     static inline int BusyMilliseconds = 5000;
 
 private:
+    friend class NamedValues;
     friend class Recordset;
     friend class Transaction;
 

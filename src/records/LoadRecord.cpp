@@ -13,6 +13,7 @@
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
 #include "records/OptionCodes.h"
+#include "records/RecordExtras.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
@@ -175,6 +176,7 @@ bool GetTRCalc() {
     TakeOptions(*database);
     if (!GetProgramRow(*database)) TakeRow(table, heads, true);
     if (!GetSettings(*database)) MarkBlankTemperatures();
+    GetExtras(*database);
     RememberRows(*database);
     FinishLoad();
     return true;

@@ -8,6 +8,7 @@
 #include "platform/NumberText.h"
 #include "platform/TextFiles.h"
 #include "records/OptionCodes.h"
+#include "records/RecordExtras.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 
@@ -102,12 +103,14 @@ int ExportRecords(const std::string& databaseFile, const std::string& csvFile,
     for (const RecordTable* table : {&PressureDropTable(), &WaterhammerTable(), &FluidDataTable()}) {
         others.emplace_back(*database, *table, ResultColumns(*table));
     }
+    NamedValues extras(*database, ExtrasTable());
     const std::set<std::string> wantedTags(tags.begin(), tags.end());
 
     TextWriter file(csvFile);
     std::string line;
     head.AppendHeading(line);
     for (const Part& part : others) part.AppendHeading(line);
+    for (const RecordExtra& extra : RecordExtras) line += Item(extra.Name) + ',';
     line.pop_back();
     file.Line(line);
 
@@ -120,9 +123,16 @@ int ExportRecords(const std::string& databaseFile, const std::string& csvFile,
         const RecordTable* const own = ProgramTable(ProgramOf(number));
         line.clear();
         head.AppendRow(line, true);
+        const Part* ofProgram = nullptr;
         for (Part& part : others) {
             const bool wanted = &part.Table == own || &part.Table == &UnitsTable();
-            part.AppendRow(line, wanted && part.Rows.Seek(tag));
+            const bool found = wanted && part.Rows.Seek(tag);
+            part.AppendRow(line, found);
+            if (found && &part.Table == own) ofProgram = &part;
+        }
+        for (const RecordExtra& extra : RecordExtras) {
+            if (ofProgram != nullptr) line += Item(ExtraText(extras, extra, *own, ofProgram->Rows));
+            line += ',';
         }
         line.pop_back();
         file.Line(line);

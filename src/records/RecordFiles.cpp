@@ -13,6 +13,7 @@
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/Backups.h"
+#include "records/RecordExtras.h"
 #include "records/RecordTables.h"
 #include "records/Salvage.h"
 
@@ -117,6 +118,7 @@ void DeleteRows(Database& database, const std::string& tag) {
         rows.Index(TagIndex);
         if (rows.Seek(tag)) rows.Delete();
     }
+    DeleteExtras(database, tag);
 }
 
 void CopyRow(Database& database, const RecordTable& table, const std::string& tag,
@@ -338,6 +340,7 @@ void CopyRecord(const std::string& file, const std::string& tag, const std::stri
     for (const RecordTable* table : RecordTables()) {
         if (database->HasTable(table->Shape.Name)) CopyRow(*database, *table, tag, newTag);
     }
+    CopyExtras(*database, tag, newTag);
     all.Commit();
 }
 

@@ -9,6 +9,7 @@
 #include "platform/DatabasePages.h"
 #include "platform/KeyOrder.h"
 #include "records/OptionCodes.h"
+#include "records/RecordExtras.h"
 #include "records/RecordTables.h"
 
 namespace quillmetra {
@@ -30,6 +31,7 @@ std::vector<TableShape> AllShapes() {
     std::vector<TableShape> shapes;
     for (const RecordTable* table : RecordTables()) shapes.push_back(table->Shape);
     shapes.push_back(SchemaShape());
+    shapes.push_back(ExtrasTable());
     return shapes;
 }
 
@@ -65,6 +67,7 @@ public:
 
     void TakeRow(const PageRow& row) {
         if (row.Table == rows_.size()) return TakeSchema(row.Values);
+        if (row.Table > rows_.size()) return extras_.push_back(row.Values);
         const RecordTable& table = *RecordTables()[row.Table];
         const std::string tag = TextOf(row.Values[0]);
         Trace& trace = traces_[tag];
@@ -75,12 +78,23 @@ public:
 
     void TakeKey(const std::string& tag) { traces_[tag]; }
 
+    // Once all heads are known: an extra without one is of no record.
+    void PutExtras(Database& target) const {
+        NamedValues extras(target, ExtrasTable());
+        for (const std::vector<FieldValue>& each : extras_) {
+            const auto trace = traces_.find(TextOf(each[0]));
+            if (trace == traces_.end() || !trace->second.Has(HeadTable())) continue;
+            extras.MakeTable();
+            extras.Set(trace->first, TextOf(each[1]), TextOf(each[2]));
+        }
+    }
+
     SalvageReport Report() const {
         SalvageReport report{.IsOurs = IsOurs()};
         for (const auto& [tag, trace] : traces_) {
             report.Records += trace.Has(HeadTable()) ? 1 : 0;
             report.Rows += trace.Found.size();
-            for (const std::string& name : Missing(trace)) report.Lost.push_back(name + ": " + tag);
+            for (std::string& row : Missing(trace)) report.Lost.push_back(row.append(": ").append(tag));
         }
         return report;
     }
@@ -117,12 +131,17 @@ private:
             if (found->second != Database::SchemaText(table->Shape)) return false;
             ++known;
         }
-        return known == schema_.size() && known + 1 >= RecordTables().size();
+        const auto extras = schema_.find(ExtrasTable().Name);
+        if (extras != schema_.end() && extras->second != Database::SchemaText(ExtrasTable())) return false;
+        return known == TableCount() && known + 1 >= RecordTables().size();
     }
+
+    // Without the extras, which not every database has.
+    std::size_t TableCount() const { return schema_.size() - schema_.count(ExtrasTable().Name); }
 
     // A database that was made elsewhere may have no table of settings: it knows all the others.
     bool HasSettings() const {
-        return schema_.size() + 1 != RecordTables().size() || schema_.contains(SettingsTable().Shape.Name);
+        return TableCount() + 1 != RecordTables().size() || schema_.contains(SettingsTable().Shape.Name);
     }
 
     std::vector<std::string> Missing(const Trace& trace) const {
@@ -142,6 +161,7 @@ private:
     std::vector<std::unique_ptr<Recordset>> rows_;
     std::map<std::string, Trace, InKeyOrder> traces_;
     std::map<std::string, std::string> schema_;
+    std::vector<std::vector<FieldValue>> extras_;
 };
 
 }  // namespace
@@ -153,6 +173,7 @@ SalvageReport Salvage(const std::filesystem::path& damaged, Database& target) {
     Transaction all(target);
     pages.Read([&](const PageRow& row) { salvager.TakeRow(row); },
                [&](const std::string& key) { salvager.TakeKey(key); });
+    salvager.PutExtras(target);
     all.Commit();
     SalvageReport report = salvager.Report();
     report.MissingPages = pages.MissingPages();

@@ -16,6 +16,7 @@
 #include "records/Backups.h"
 #include "records/ChangeDetection.h"
 #include "records/OptionCodes.h"
+#include "records/RecordExtras.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
@@ -163,6 +164,7 @@ std::vector<std::string> SaveRows(Database& database) {
     if (IsYes(Calc.MixtureSave)) TrySave(SaveMixture, database, refused);
     TrySave(SaveSettings, database, refused);
     TrySave(DeleteLeftovers, database, refused);
+    TrySave(SaveExtras, database, refused);
     return refused;
 }
 

@@ -1,5 +1,5 @@
-// Saves the record in hand under its tag: the head row, the units, the program's own row, the mixture and the
-// settings, in one transaction.
+// Saves the record in hand under its tag: the head row, the units, the program's own row, the mixture, the
+// settings and the extras, in one transaction.
 #pragma once
 
 #include <cstddef>

@@ -11,6 +11,8 @@ inline constexpr int Maker = 30;     // manufacturer and model
 inline constexpr int Name = 15;      // calculated by, approved by
 inline constexpr int Note = 60;
 inline constexpr int ProgramTitle = 60;
+inline constexpr int ExtraName = 20;
+inline constexpr int ExtraValue = 255;
 // Not of the database: a line of the print headings, in the file of the headings.
 inline constexpr int Heading = 60;
 

@@ -209,8 +209,16 @@ void ShowSignatures(Form& form) {
     SetText(Named(form, "txtComments", 1), Calc.HeadingText[heading::Note2]);
 }
 
+void ShowPipeName(Form& form) {
+    Control& box = Named(form, "txtPipeName");
+    SetText(box, Calc.PipeName);
+    constexpr int plainText = 4;
+    PaintValue(box, plainText);
+}
+
 // What both line-loss forms show alike.
 void ShowLine(Form& form, int program) {
+    ShowPipeName(form);
     ShowBasis(form);
     ShowUnits(form, LineUnits);
     Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[unit::Length]);
@@ -265,6 +273,7 @@ void ShowWaterHammer() {
     Control& material = Named(form, "txtPipeMatl");
     SetText(material, Calc.PipeMaterial);
     PaintValue(material, TextSlot(Calc.PipeMaterial, Calc.PipeMaterialSaved));
+    ShowPipeName(form);
     ShowRows(form, program::WaterHammer);
     ShowSignatures(form);
 }

@@ -148,6 +148,22 @@ void WriteBox(const char* form, const char* box, double value) {
     dynamic_cast<TextBox&>(ControlOf(form, box)).SetText(Str(value));
 }
 
+// After the boxes, whose change drops the name of the pipe before.
+void KeepPipeName(const char* form, const std::string& name) {
+    if (Calc.PipeName != name) Calc.ChangedFlag = words::No;
+    Calc.PipeName = name;
+    if (auto* const box = dynamic_cast<TextBox*>(LoadForm(form).Find("txtPipeName"))) box->SetText(name);
+}
+
+// A family of the user's own goes by its file.
+std::string FamilyWord() {
+    std::string file = PipeFamilyFile();
+    for (const PipeFamily& family : PipeFamilies) {
+        if (SameName(file, family.File)) return family.Word;
+    }
+    return file;
+}
+
 }  // namespace
 
 void SetPipeUnits() {
@@ -224,13 +240,23 @@ void TakePipeRow(std::string_view listLine) {
     Calc.PipeWallThickness = Val(fields[3]);
 }
 
-void ReturnPipeSize() {
+std::string PipeNameOf(std::string_view listLine) {
+    const TableFields fields = SplitTableLine(table::Pipe, listLine);
+    const std::string schedule(Trim(fields[1]));
+    std::string name = std::string(Trim(fields[0])) + " " + Calc.UnitName[pipeunit::PipeSizeRound];
+    if (!schedule.empty()) name += (IsDigit(schedule[0]) ? " sch " : " ") + schedule;
+    const std::string family = FamilyWord();
+    return family.empty() ? name : name + " " + family;
+}
+
+void ReturnPipeSize(const std::string& pipeName) {
     const double wall = RoundedFour(InFormUnit(Calc.PipeWallThickness));
     const double diameter = RoundedSix(InFormUnit(Calc.PipeInsideDiameter));
     for (const PipeCaller& caller : PipeCallers) {
         if (Calc.MessageText != caller.Word) continue;
         WriteBox(caller.Form, caller.DiameterBox, diameter);
         if (caller.WallBox != nullptr) WriteBox(caller.Form, caller.WallBox, wall);
+        KeepPipeName(caller.Form, pipeName);
         break;
     }
     CancelPipeSize();

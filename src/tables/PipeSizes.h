@@ -53,10 +53,15 @@ double PipeDiameterOf(std::string_view listLine);
 // Takes diameter and wall of a line of that list into the record, in the list's unit.
 void TakePipeRow(std::string_view listLine);
 
+// What the pipe of such a line is called: "6 in sch 40", "2 in K copper", with the word of its family where
+// that is not steel.
+std::string PipeNameOf(std::string_view listLine);
+
 // Returns the row taken to the form that MessageText names, in the form's unit of the diameter: the diameter
 // to six significant figures, the wall, where the form has a box for it, to four. Closes the dialog and
-// clears MessageText. Throws when the form's factor makes the diameter infinite.
-void ReturnPipeSize();
+// clears MessageText. The record keeps the name of the pipe. Throws when the form's factor makes the diameter
+// infinite.
+void ReturnPipeSize(const std::string& pipeName = {});
 
 // Closes the dialog and leaves the caller as it was.
 void CancelPipeSize();

@@ -61,8 +61,14 @@ void UnitChange::ChangeModes() const {
     Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
 }
 
+// The numbers mean something else from now on, and a diameter another pipe.
+void UnitChange::KeepNumbers() {
+    if (Calc.UnitFactor[unit::PipeSize] != Calc.UnitFactorPrevious[unit::PipeSize]) Calc.PipeName.clear();
+    RenewChosenUnitNames();
+}
+
 void UnitChange::ConvertValues(ZeroTemperature zero) const {
-    if (IsYes(Calc.NoConversion)) return RenewChosenUnitNames();
+    if (IsYes(Calc.NoConversion)) return KeepNumbers();
     if (HasNewUnits()) {
         ConvertProgramData(zero);
     } else if (Calc.RoundedFlag == words::No) {

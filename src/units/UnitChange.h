@@ -38,6 +38,7 @@ private:
     void ChangeModes() const;
     void Convert(ZeroTemperature zero) const;
     void ConvertValues(ZeroTemperature zero) const;
+    static void KeepNumbers();
 
     bool committed_ = false;
 };

@@ -58,6 +58,7 @@ const Change Changes[] = {
     {"fitting", 2, [] { Calc.FittingCount[7] += 1; }, "record PD "},
     {"fouling", 1, [] { Calc.PipeFouling += 1; }, "record PD "},
     {"material", 1, [] { Calc.PipeMaterial = "Brass"; }, "record PD "},
+    {"pipe of the same diameter", 2, [] { Calc.PipeName = "6 in sch 40"; }, "record "},
     {"direction", 2, [] { Calc.PressureDirection = 1; }, "record PD "},
     {"direction", 4, [] { Calc.PressureDirection = 1; }, ""},
     {"hammer result", 3, [] { Calc.HammerResult[18] += 1; }, "record WH "},

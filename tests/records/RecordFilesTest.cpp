@@ -327,13 +327,26 @@ TEST_F(RecordFilesTest, DeleteTakesAllRowsOfATag) {
     SaveNew("P-1", 3);
     SaveNew("P-2", 5);  // the words of the record in hand tell of another program
     EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "p-1"));
-    EXPECT_EQ(RowsWith("P-1"), "");
+    EXPECT_EQ(RowsWith("P-1") + PipeOnFile("P-1"), "");
     EXPECT_NE(RowsWith("P-2"), "");
     EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "NONE")) << "passed over silently";
     // Deleted under an open form, the record is written whole by its next save.
     EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "P-2"));
     EXPECT_TRUE(SaveTRCalc());
     EXPECT_TRUE(HasRow(FluidDataTable(), "P-2"));
+    // An extra whose head somebody else has deleted goes with the next save.
+    SaveNew("P-3");
+    {
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        Recordset heads(*database, HeadTable().Shape);
+        heads.Index("Tag_Number");
+        ASSERT_TRUE(heads.Seek("P-3"));
+        heads.Delete();
+    }
+    EXPECT_NE(PipeOnFile("P-3"), "");
+    SaveNew("P-4");
+    EXPECT_EQ(PipeOnFile("P-3"), "");
+    EXPECT_NE(PipeOnFile("P-4"), "");
 }
 
 TEST_F(RecordFilesTest, SaveToAnotherDatabase) {
@@ -347,6 +360,8 @@ TEST_F(RecordFilesTest, SaveToAnotherDatabase) {
     CreateDB(true);
     EXPECT_TRUE(SaveTRCalc());
     EXPECT_EQ(AllValues("P-1"), saved);
+    CopyRecord(Suite.DatabaseFile, "P-1", "P-2");
+    for (const char* tag : {"P-1", "P-2"}) EXPECT_TRUE(PipeOnFile(tag).ends_with("|" + Calc.PipeName));
     // A folder whose name differs in capitals alone is another one where the machine says so.
     fs::create_directory(Folder / "ONE");
     Suite.DatabasePath = SuitePath(Folder / "ONE");
@@ -474,6 +489,7 @@ TEST_F(RecordFilesTest, ExportForSpreadsheets) {
     EXPECT_EQ(itemOf(lines[2], "Case 1 Final Pressure"), pressure);
     EXPECT_EQ(itemOf(lines[2], "Critical Time"), "");
     EXPECT_EQ(itemOf(lines[2], "Pressure Units"), "psig");
+    EXPECT_TRUE(lines[2].ends_with("," + Calc.PipeName) && lines[0].ends_with(",Pipe"));
     EXPECT_NE(itemOf(lines[4], "Critical Time"), "");
     EXPECT_NE(itemOf(lines[5], "Case 3 Norm BP"), "");
     EXPECT_EQ(itemOf(lines[2], "Calc Date"), "2026-11-24");

@@ -8,6 +8,7 @@
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "records/LoadRecord.h"
+#include "records/RecordExtras.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
@@ -50,6 +51,7 @@ inline void TakeFilledRecord(int program, int set, const std::string& tag) {
     Calc.ProgramTitle = word("title ");
     Calc.FluidName = word("fluid ");
     Calc.PipeMaterial = word("pipe ");
+    Calc.PipeName = word("6 in sch ");
     Calc.PipeMaterialNumber = 3;
     Calc.PipeFouling = 33.3;
     Calc.PressureDirection = 2;
@@ -101,6 +103,23 @@ protected:
         Recordset rows(*database, table.Shape);
         rows.Index("Tag_Number");
         return rows.Seek(tag);
+    }
+
+    // The name of the pipe as it is stored, with its figures.
+    std::string PipeOnFile(const std::string& tag) {
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        return NamedValues(*database, ExtrasTable()).Value(tag, "Pipe");
+    }
+
+    // As a program writes it that knows of no extras.
+    void WriteField(const RecordTable& table, const std::string& tag, const char* field, double value) {
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        Recordset rows(*database, table.Shape);
+        rows.Index("Tag_Number");
+        ASSERT_TRUE(rows.Seek(tag));
+        rows.Edit();
+        rows.Set(field, value);
+        rows.Update();
     }
 
     std::string RowsWith(const std::string& tag) {

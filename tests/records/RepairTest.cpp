@@ -22,9 +22,10 @@ protected:
         whole_ = ReadBytes(Suite.DatabaseFile);
         std::vector<TableShape> shapes;
         for (const RecordTable* table : RecordTables()) shapes.push_back(table->Shape);
+        shapes.push_back(ExtrasTable());
         DatabasePages(File(), shapes)
             .Read([&](PageRow& row) { rows_.push_back(std::move(row)); }, [](const std::string&) {});
-        EXPECT_EQ(rows_.size(), 25U * 4 + 1) << "the pages give all rows of a whole file";
+        EXPECT_EQ(rows_.size(), 25U * 4 + 1 + 16) << "the pages give all rows of a whole file";
     }
 
     std::size_t PageCount() const { return whole_.size() / Page; }
@@ -40,8 +41,19 @@ protected:
         return std::ranges::any_of(row.Pages, [&](std::uint32_t page) { return pages.contains(page); });
     }
 
+    // Of a record without a head there is none.
+    static int FoundExtra(Database& database, const PageRow& row) {
+        const auto text = [&](std::size_t i) { return std::get<std::string>(row.Values[i]); };
+        Recordset heads(database, HeadTable().Shape, Recordset::Unplaced());
+        heads.Index("Tag_Number");
+        if (!heads.Seek(text(0))) return 2;
+        const std::string value = NamedValues(database, ExtrasTable()).Value(text(0), text(1));
+        return value == text(2) ? 2 : 1;
+    }
+
     // 0 for a row that is not there, 1 for one with other values.
     static int Found(Database& database, const PageRow& row) {
+        if (row.Table == RecordTables().size()) return FoundExtra(database, row);
         Recordset rows(database, RecordTables()[row.Table]->Shape, Recordset::Unplaced());
         rows.Index("Tag_Number");
         if (!rows.Seek(std::get<std::string>(row.Values[0]))) return 0;
@@ -67,9 +79,9 @@ protected:
         for (const PageRow& row : rows_) {
             const int found = Found(*database, row);
             missing += found == 0 ? 1 : 0;
-            const std::string name =
-                RecordTables()[row.Table]->Shape.Name + std::get<std::string>(row.Values[0]);
-            EXPECT_TRUE(found == 2 || Touches(touched, row)) << name << " of page " << row.Pages[0];
+            EXPECT_TRUE(found == 2 || Touches(touched, row))
+                << std::get<std::string>(row.Values[0]) << " of table " << row.Table << ", page "
+                << row.Pages[0];
         }
         if (!report.WasDamaged) return;
         ++repaired_;

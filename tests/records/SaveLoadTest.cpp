@@ -53,12 +53,31 @@ TEST_F(SaveLoadTest, EveryFieldOfEveryProgramComesBack) {
         EXPECT_EQ(Calc.PressureMode, words::Absolute);
         EXPECT_EQ(Calc.UnitSetName, saved.UnitSetName);
         EXPECT_EQ(Calc.NoteText[1], saved.HeadingText[8]);
+        EXPECT_EQ(Calc.PipeName, each.Program <= 3 ? saved.PipeName : "") << "a fluid has no pipe";
 
         // Nothing counts as changed, and a second save leaves the same bytes.
         Calc.ChangedFlag = words::Yes;
         const std::vector<FieldValue> before = AllValues(tag);
         ASSERT_TRUE(SaveTRCalc());
         EXPECT_EQ(AllValues(tag), before);
+    }
+}
+
+TEST_F(SaveLoadTest, APipeCountsWhileItsFiguresDo) {
+    const struct {
+        int Program;
+        const char* Field;
+        bool Stays;
+    } cases[] = {{1, "Pipe Length", true},   {1, "Pipe Size", false}, {2, "Pipe Size", false},
+                 {3, "Selected Time", true}, {3, "Pipe Size", false}, {3, "Pipe Wall", false}};
+    for (const auto& each : cases) {
+        SaveNew("P-1", each.Program);
+        const std::string pipe = Calc.PipeName;
+        WriteField(*ProgramTable(each.Program), "P-1", each.Field, 7.981);
+        ASSERT_TRUE(Display("P-1"));
+        EXPECT_EQ(Calc.PipeName, each.Stays ? pipe : "") << each.Program << each.Field;
+        ASSERT_TRUE(SaveTRCalc());
+        EXPECT_EQ(PipeOnFile("P-1").empty(), !each.Stays);
     }
 }
 

@@ -18,6 +18,29 @@ expect-message New database
 click mnuProgram
 open L-1
 expect pltLine "Normal case: Pressure 100 to 90.31 psig over 1000 ft"
+# The pipe of the table is remembered until its diameter is typed over.
+click cmdPipeID
+type txtNomSize 6
+click cmdSearch
+pick lstPipeSize "  6,40,"
+click cmdOK
+expect txtPipeName 6 in sch 40
+answer Yes
+click mnuSave
+expect-message Overwrite
+answer Yes
+pick cmdUnits(18) mm
+expect-message Round converted data?
+expect txtPipeName 6 in sch 40
+answer No
+click mnuProgram
+expect-message Save changes?
+open L-1
+expect txtPipeName 6 in sch 40
+type txtInletPipeID 6.065
+expect txtPipeName ""
+key txtFlow(1) Ctrl+z
+expect txtPipeName 6 in sch 40
 # The same options once more are no change to save.
 click cmdFormLayout
 click cmdOKOptions

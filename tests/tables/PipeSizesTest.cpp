@@ -250,11 +250,12 @@ TEST_F(PipeSizes, ReturnsSixFiguresOfTheDiameterAndFourOfTheWall) {
         const char* Line;
         const char* Diameter;
         const char* Wall;
+        const char* Name = nullptr;
     } cases[] = {
-        {1, "  1,40,   1.049, 0.133, ", " 1.049", " 0.133"},
+        {1, "  1,40,   1.049, 0.133, ", " 1.049", " 0.133", "1 in sch 40"},
         {12, "  1,40,   1.049, 0.133, ", " 0.0874167", " 0.01108"},
-        {12, " 48,XS,   47.00, 0.5,   ", " 3.91667", " 0.04167"},
-        {0.03937, " 25,40,   26.6,  3.38, ", " 26.6", " 3.38"},
+        {12, " 48,XS,   47.00, 0.5,   ", " 3.91667", " 0.04167", "48 in XS"},
+        {0.03937, " 25,40,   26.6,  3.38, ", " 26.6", " 3.38", "25 mm sch 40"},
         {0.3937, " 25,40,   26.6,  3.38, ", " 2.66", " 0.338"},
         {39.37, " 25,40,   26.6,  3.38, ", " 0.0266", " 0.00338"},
         {1, "  1,odd,  wide,  thick,", " 0", " 0"},
@@ -263,9 +264,23 @@ TEST_F(PipeSizes, ReturnsSixFiguresOfTheDiameterAndFourOfTheWall) {
         Open(each.Factor);
         Calc.MessageText = words::PipeWaterHammer;
         TakePipeRow(each.Line);
-        ReturnPipeSize();
+        const std::string name = PipeNameOf(each.Line);
+        if (each.Name != nullptr) EXPECT_EQ(name, each.Name);
+        ReturnPipeSize(name);
+        EXPECT_EQ(Calc.PipeName, name);
         EXPECT_EQ(Box(HammerForm, "txtPipeID"), each.Diameter) << each.Line << " by " << each.Factor;
         EXPECT_EQ(Box(HammerForm, "txtPipeWall"), each.Wall) << each.Line << " by " << each.Factor;
+    }
+}
+
+TEST_F(PipeSizes, APipeIsNamedWithItsFamilyWhereThatIsNotSteel) {
+    Open();
+    for (const auto& [family, name] : {std::pair{"", "2 in K"},
+                                       {"W-METRIC.TXT", "2 in K"},
+                                       {"w-copper.txt", "2 in K copper"},
+                                       {"W-OWN.TXT", "2 in K W-OWN.TXT"}}) {
+        Suite.PipeFamily = family;
+        EXPECT_EQ(PipeNameOf("  2,K,    1.959, 0.083, "), name);
     }
 }
 

@@ -5,14 +5,15 @@ namespace quillmetra::layout {
 
 namespace {
 
+// What the pipe is called stands under the button that picks it.
 Node Line() {
     const auto box = [](const char* name) { return Item(name).Wide(CaseDigits); };
-    return Panel("Line", Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "", Stretch(),
-                                 "lblInletPipeElev", box("txtInletPipeElev"), "unInletPipeElev"},
+    return Panel("Line", Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "cmdSizes",
+                                 Stretch(), "lblInletPipeElev", box("txtInletPipeElev"), "unInletPipeElev"},
                                 {"lblInletPipeID", box("txtInletPipeID"), "cmdUnits(18)", "cmdPipeID", "",
                                  "lblOutletPipeElev", box("txtOutletPipeElev"), "unOutletPipeElev"},
-                                {"lblPipeCond", box("txtPipeCond"), Words("%").Centred(), "cmdSizes", "",
-                                 "lblMatl", "cmdMatl"}})
+                                {"lblPipeCond", box("txtPipeCond"), Words("%").Centred(),
+                                 Item("txtPipeName").Wide(10).Across(2), "", "lblMatl", "cmdMatl"}})
                              .Wide(LabelDigits));
 }
 

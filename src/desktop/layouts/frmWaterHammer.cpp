@@ -34,7 +34,8 @@ Node Line() {
         "Line",
         Column(
             {Table({{"lblLineLength", Item("txtLineLength").Wide(CaseDigits), "cmdUnits(25)", "", Stretch()},
-                    {"lblPipeID", Item("txtPipeID").Wide(CaseDigits), "cmdUnits(18)", "cmdPipeID"},
+                    {"lblPipeID", Item("txtPipeID").Wide(CaseDigits), "cmdUnits(18)", "cmdPipeID",
+                     Item("txtPipeName").Wide(12).Grow()},
                     Value("lblPipeWall", "txtPipeWall", "UnpipeWall"),
                     {"lblPipeMatl", Item("txtPipeMatl").Wide(CaseDigits).Across(2), "", "cmdPipeMatl"},
                     Value("lblLineModulus", "txtLineModulus", "unLineModulus"),
