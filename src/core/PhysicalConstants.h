@@ -26,6 +26,9 @@ constexpr double PsiPerKPa = 0.14504;
 constexpr double WaterDensity = 62.366;
 constexpr double WaterPoundsPerGallon = 8.3378;
 
+// lb/lbmol of dry air.
+constexpr double AirWeight = 28.964;
+
 // Centistokes per cp of a gas, times its molecular weight: ft3 of a pound mole times lb/ft3 in a g/cm3,
 // nearly.
 constexpr double MolarViscosity = 23588;

@@ -1,6 +1,7 @@
 // Views of command buttons, options and check boxes. A press of the mouse does not take the keyboard: the
 // model moves the focus when the click comes, so that what is left sees the release and not the press.
 #include <QCheckBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -8,6 +9,7 @@
 #include "desktop/ControlView.h"
 #include "desktop/DropButtonView.h"
 #include "desktop/Painting.h"
+#include "desktop/SchemePalette.h"
 
 namespace quillmetra {
 
@@ -54,7 +56,48 @@ private:
     DropPushButton* button_;
 };
 
-QAbstractButton* MakeButton(ControlKind kind, QWidget* parent) {
+// An option that chooses what the form shows: its words over a line, strong under the one in hand. To a
+// screen reader it is an option as any other.
+class TabButton : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+    QSize sizeHint() const override {
+        const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
+        return words + QSize(2 * Beside, 2 * Over);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QColor accent = palette().color(QPalette::Highlight);
+        const QColor text = palette().color(QPalette::WindowText);
+        if (underMouse() && isEnabled())
+            painter.fillRect(rect(), Between(palette().color(QPalette::Window), text, 0.06));
+        const int line = isChecked() ? 3 : 1;
+        painter.fillRect(QRect(0, height() - line, width(), line),
+                         isChecked() ? accent : palette().color(role::HairLine));
+        painter.setPen(text);
+        painter.drawText(rect(), static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextShowMnemonic),
+                         this->text());
+        if (!hasFocus()) return;
+        painter.setPen(QPen(accent, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -4.5), 3, 3);
+    }
+
+private:
+    static constexpr int Beside = 14, Over = 6;
+};
+
+QAbstractButton* MakeButton(const Control& control, QWidget* parent) {
+    const ControlKind kind = control.Kind();
+    if (kind == ControlKind::OptionButton && static_cast<const OptionButton&>(control).IsTab)
+        return new TabButton(parent);
     if (kind == ControlKind::OptionButton) return new QRadioButton(parent);
     if (kind == ControlKind::CheckBox) return new QCheckBox(parent);
     return new QPushButton(parent);
@@ -66,7 +109,7 @@ ControlView* MakeButtonView(Control& control, QWidget* parent) {
     if (auto* const drops = dynamic_cast<DropButton*>(&control)) {
         return new DropView(*drops, new DropPushButton(parent));
     }
-    return new ButtonView(control, MakeButton(control.Kind(), parent));
+    return new ButtonView(control, MakeButton(control, parent));
 }
 
 }  // namespace quillmetra

@@ -30,13 +30,17 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override {
         // The view copies the cell in hand, of which there may be none.
-        if (role != Qt::DisplayRole || !index.isValid()) return {};
+        if (!index.isValid()) return {};
+        if (role == Qt::TextAlignmentRole) return SideOf(index.column());
+        if (role != Qt::DisplayRole) return {};
         return ToQt(grid_.Cell(index.row() + grid_.FixedRows, index.column() + grid_.FixedColumns));
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        const bool lies = orientation == Qt::Horizontal;
+        if (role == Qt::TextAlignmentRole && lies) return SideOf(section);
         if (role != Qt::DisplayRole) return {};
-        if (orientation == Qt::Horizontal) {
+        if (lies) {
             return grid_.FixedRows == 0 ? QVariant() : ToQt(grid_.Cell(0, section + grid_.FixedColumns));
         }
         return grid_.FixedColumns == 0 ? QVariant() : ToQt(grid_.Cell(section + grid_.FixedRows, 0));
@@ -63,6 +67,14 @@ public:
     void Empty() { SetSize(0, 0); }
 
 private:
+    // Numbers at the right, the rest where the view has it.
+    QVariant SideOf(int column) const {
+        const auto& numbers = grid_.NumberColumns;
+        if (std::find(numbers.begin(), numbers.end(), column + grid_.FixedColumns) == numbers.end())
+            return {};
+        return static_cast<int>(Qt::AlignRight) | static_cast<int>(Qt::AlignVCenter);
+    }
+
     void SetSize(int rows, int columns) {
         beginResetModel();
         rows_ = rows;
@@ -97,8 +109,8 @@ public:
           viewport_(table->viewport()) {
         table_->setModel(cells_);
         table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        table_->setSelectionMode(grid.IsList ? QAbstractItemView::ExtendedSelection
-                                             : QAbstractItemView::SingleSelection);
+        table_->setSelectionMode(grid.IsList && !grid.PicksOne ? QAbstractItemView::ExtendedSelection
+                                                               : QAbstractItemView::SingleSelection);
         table_->setTabKeyNavigation(false);
         table_->horizontalHeader()->setVisible(grid.FixedRows > 0);
         table_->verticalHeader()->setVisible(grid.FixedColumns > 0);

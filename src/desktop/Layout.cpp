@@ -17,6 +17,7 @@ constexpr Entry Layouts[] = {
     {"frmObxProg", frmObxProg},
     {"frmLiqLineLoss", frmLiqLineLoss},
     {"frmGasLineLoss", frmGasLineLoss},
+    {"frmFluid", frmFluid},
     {"frmLiqData", frmLiqData},
     {"frmGasData", frmGasData},
     {"frmPipeSize", frmPipeSize},

@@ -8,6 +8,7 @@
 #include "core/CalcRecord.h"
 #include "core/FileNames.h"
 #include "core/PhysicalConstants.h"
+#include "core/Programs.h"
 #include "core/Suite.h"
 #include "fluids/LiquidCorrelations.h"
 #include "platform/NumberText.h"
@@ -113,6 +114,24 @@ std::vector<std::string> ReadFluidRows(std::string_view fluidType) {
 }
 
 std::string_view FluidRowName(std::string_view row) { return Trim(row.substr(0, row.find(','))); }
+
+FluidConstants FluidConstantsOf(std::string_view row, bool isGas) {
+    const Fields fields = SplitRow(row, isGas ? GasColumns : LiquidColumns);
+    const auto number = [&fields](std::size_t column) { return Val(fields[column]); };
+    const double weight = number(isGas ? 5 : 3);
+    return {.Class = FluidClassOf(fields[2]),
+            .MolecularWeight = weight,
+            .Gravity = isGas ? weight / AirWeight : number(4),
+            .BoilingPoint = number(isGas ? 4 : 11),
+            .CritTemperature = number(isGas ? 6 : 5),
+            .CritPressure = number(isGas ? 11 : 10)};
+}
+
+int FluidClassOf(std::string_view text) {
+    const double number = Val(text);
+    return number == fluidclass::Organic || number == fluidclass::Water ? static_cast<int>(number)
+                                                                        : fluidclass::Inorganic;
+}
 
 int FindFluidName(const std::vector<std::string>& rows, std::string_view name) {
     const auto found = std::find_if(rows.begin(), rows.end(),

@@ -14,6 +14,21 @@ std::vector<std::string> ReadFluidRows(std::string_view fluidType);
 // The fluid name of a row: its text before the first comma, trimmed.
 std::string_view FluidRowName(std::string_view row);
 
+// The class that the text of a row stands for; what is neither organic nor water is inorganic.
+int FluidClassOf(std::string_view text);
+
+// What tells a fluid from others, as its row has it: degF and psia. The gravity is that of a liquid at 60
+// degF to water, of a gas to air.
+struct FluidConstants {
+    int Class = 0;  // see fluidclass
+    double MolecularWeight = 0;
+    double Gravity = 0;
+    double BoilingPoint = 0;
+    double CritTemperature = 0;
+    double CritPressure = 0;
+};
+FluidConstants FluidConstantsOf(std::string_view row, bool isGas);
+
 // The index of the first row with exactly this name; -1 when there is none.
 int FindFluidName(const std::vector<std::string>& rows, std::string_view name);
 

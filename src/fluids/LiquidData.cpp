@@ -8,9 +8,9 @@
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "fluids/FluidMessages.h"
+#include "fluids/FluidTables.h"
 #include "fluids/LiquidCorrelations.h"
 #include "platform/Dialogs.h"
-#include "platform/NumberText.h"
 
 namespace quillmetra {
 
@@ -21,11 +21,7 @@ constexpr double BaseRankine = 519.67;
 
 constexpr const char* Title = "Liquid Calculation";
 
-int FluidClassNumber() {
-    const double number = Val(Calc.FluidClass);
-    return number == fluidclass::Organic || number == fluidclass::Water ? static_cast<int>(number)
-                                                                        : fluidclass::Inorganic;
-}
+int FluidClassNumber() { return FluidClassOf(Calc.FluidClass); }
 
 bool IsMixture() { return Calc.FluidOk != words::FluidPicked; }
 

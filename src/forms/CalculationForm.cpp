@@ -58,7 +58,7 @@ CalculationForm::CalculationForm(const Names& names)
     : SuiteForm(names.Form),
       mnuFluiProp(*this, names.FluidMenu, "Fl&uid properties"),
       mnuCase(mnuFluiProp, "mnuCase", names.Cases, ""),
-      Fluids(*this, names.ListFrame, names.ListCaption),
+      Fluids(*this, names.ListFrame, names.ListCaption, program::IsOfGas(names.Program)),
       Mixture(*this),
       program_(names.Program) {
     EnterMovesOn = true;

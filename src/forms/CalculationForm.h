@@ -185,7 +185,6 @@ private:
     void StoreForPanel();
     void BlankResults(int caseIndex);
     void BlankLineResults();
-    static void PressCase(Control& button);
     void SetCalculateButtons(bool enabled);
 
     int program_;

@@ -44,6 +44,10 @@ void FluidForm::HookFluid() {
         entries.Saturated->Click = [this, caseIndex] { PickSteam(caseIndex, words::Saturated); };
         entries.Superheated->Click = [this, caseIndex] { PickSteam(caseIndex, words::Superheated); };
     }
+    cmdFluid.Describe(&lblFluid);
+    cmdFluid.SetToolTip("Picks a fluid of the table, a mixture or steam for all cases");
+    cmdFluid.TabStop = false;  // a click leaves the box in hand alone, as a menu does
+    cmdFluid.Click = [this] { cmdFluid_Click(); };
     Fluids.cmdSelect.Click = [this] { cmdSelect_Click(); };
     Fluids.cmdCancel.Click = [this] { cmdCancel_Click(); };
     Fluids.lstFluid.DoubleClick = [this] { cmdSelect_Click(); };
@@ -72,6 +76,7 @@ void FluidForm::HookState() {
 }
 
 void FluidForm::AppendFluidTabs() {
+    TabOrder.insert(std::ranges::find(TabOrder, &cmdFormLayout), &cmdFluid);
     for (Control* control :
          std::initializer_list<Control*>{&Fluids.lstFluid, &Fluids.cmdSelect, &Fluids.cmdCancel}) {
         TabOrder.push_back(control);

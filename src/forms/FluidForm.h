@@ -20,9 +20,37 @@ struct FluidEntries {
     MenuItem* Superheated = nullptr;
 };
 
+// A component of a mixture: its row of the table and its percentage.
+struct FluidPart {
+    std::string Row;
+    double Percent = 0;
+};
+
+// What is selected for a case, by an entry of its menu or in the dialog of the fluid.
+struct FluidPick {
+    enum class Kind { Pure, Mixture, Saturated, Superheated };
+    Kind What = Kind::Pure;
+    std::string Name = {};              // of a pure fluid
+    std::string Row = {};               // its row of the table
+    std::vector<FluidPart> Parts = {};  // of a mixture
+};
+
 class FluidForm : public CalculationForm {
 public:
     using CalculationForm::CalculationForm;
+
+    CommandButton cmdFluid{Picture1, "cmdFluid", "Pic&k..."};
+
+    void cmdFluid_Click();
+    // What the record has, a pure fluid without its row.
+    static FluidPick PickInForce();
+    // What a case lacks before it can have such a fluid, in words; empty for nothing.
+    std::string LackOf(int caseIndex, FluidPick::Kind kind) const;
+    // Selects a fluid for a case, as its menu does; false when it was refused.
+    bool Pick(int caseIndex, const FluidPick& pick);
+    int FluidCases() const { return static_cast<int>(Entries.size()); }
+    // As the menu has it, with its access key; of the one case without a menu, what it is about.
+    std::string CaptionOfCase(int caseIndex) const;
 
     void mnuFluiProp_Click();
     void mnuCase_Click(int index);
@@ -102,11 +130,17 @@ private:
     void Restore(const FluidChoice& choice);
 
     void HookState();
+    // A case begins to look for another fluid; false, after a message, when its state allows for none.
+    bool BeginPure(int caseIndex);
+    bool BeginMixture(int caseIndex);
     void OpenPure(int caseIndex);
     void OpenMixture(int caseIndex);
-    void PickPure();
+    // Take what was looked for; false when it is not to be had or was given up.
+    bool TakePure(const std::string& row);
+    bool TakeMixture();
     void PickComponent();
-    void PickSteam(int caseIndex, const char* kind);
+    bool PickSteam(int caseIndex, const char* kind);
+    bool PickMixture(int caseIndex, const std::vector<FluidPart>& parts);
     static void ParseFluid();  // FluidRow
     static bool CalcMixture();
     bool FillMixture();

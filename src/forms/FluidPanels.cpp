@@ -9,6 +9,7 @@
 #include "fluids/FluidTables.h"
 #include "fluids/Mixtures.h"
 #include "forms/CalculationForm.h"
+#include "forms/ListTables.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
 #include "platform/Utf8.h"
@@ -21,12 +22,14 @@ constexpr std::size_t NameLength = 20;  // of a component
 constexpr const char* NothingTaken = "100";
 }  // namespace
 
-FluidList::FluidList(CalculationForm& form, const char* frameName, const char* caption)
+FluidList::FluidList(CalculationForm& form, const char* frameName, const char* caption, bool isGas)
     : PickList(form, {.Frame = frameName,
                       .Caption = caption,
                       .List = "lstFluid",
                       .Select = "cmdSelect",
-                      .Cancel = "cmdCancel"}) {}
+                      .Cancel = "cmdCancel"}) {
+    ShowAsFluids(List, isGas);
+}
 
 void FluidList::Open(const std::string& fluidType) {
     std::vector<std::string> rows;

@@ -11,7 +11,7 @@ namespace quillmetra {
 // The list of a fluid table.
 class FluidList : public PickList {
 public:
-    FluidList(CalculationForm& form, const char* frameName, const char* caption);
+    FluidList(CalculationForm& form, const char* frameName, const char* caption, bool isGas);
 
     // Fills the list from the data files' table and opens it. The row of the fluid in hand is selected, the
     // first one when there is none. A table that cannot be read is told, and the list opens empty.

@@ -1,4 +1,5 @@
 // See FluidForm.h: how a pure fluid, a mixture or steam is picked for the case in hand.
+#include <algorithm>
 #include <utility>
 
 #include "core/Filling.h"
@@ -9,9 +10,12 @@
 #include "fluids/Mixtures.h"
 #include "fluids/SteamTables.h"
 #include "forms/FluidForm.h"
+#include "forms/frmFluid.h"
 #include "platform/Dialogs.h"
+#include "platform/Forms.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextCase.h"
 
 namespace quillmetra {
 
@@ -20,6 +24,19 @@ namespace {
 constexpr std::size_t ShortestFluidRow = 25;
 constexpr const char* MixtureName = "Mixture";
 constexpr const char* SteamName = "Steam";
+}  // namespace
+
+namespace {
+// In the place of those that the record has.
+void SetComponents(const std::vector<FluidPart>& parts) {
+    Calc.FluidData.fill("");
+    Calc.FluidPercent.fill(0);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        Calc.FluidData[i] = parts[i].Row;
+        Calc.FluidPercent[i] = parts[i].Percent;
+    }
+    Calc.MixtureCount = std::min(static_cast<int>(parts.size()), MostComponents - 1);
+}
 }  // namespace
 
 FluidForm::FluidChoice FluidForm::ChoiceInForce() {
@@ -54,7 +71,8 @@ void FluidForm::CloseFluids() {
 
 void FluidForm::cmdSelect_Click() {
     if (Fluids.lstFluid.Selected() < 0) return;
-    Mixture.fraComponent.Visible() ? PickComponent() : PickPure();
+    if (Mixture.fraComponent.Visible()) return PickComponent();
+    TakePure(Fluids.Picked());
 }
 
 void FluidForm::cmdCancel_Click() {
@@ -89,29 +107,35 @@ bool FluidForm::FillFluid() {
 
 // --- Pure fluids -------------------------------------------------------------------------------------------
 
-void FluidForm::OpenPure(int caseIndex) {
+bool FluidForm::BeginPure(int caseIndex) {
     Calc.CaseIndex = caseIndex;
-    if (!CheckForNewFluid()) return;
+    if (!CheckForNewFluid()) return false;
     before_ = ChoiceInForce();
     Calc.MixtureFlag = words::No;
     Calc.SteamKind.clear();
     Calc.FluidOk = words::FluidPicked;
+    return true;
+}
+
+void FluidForm::OpenPure(int caseIndex) {
+    if (!BeginPure(caseIndex)) return;
     Fluids.Open(Calc.FluidType);
     TickEntries();
 }
 
-void FluidForm::PickPure() {
+bool FluidForm::TakePure(const std::string& row) {
     const std::string oldName = Calc.FluidName;
-    Calc.FluidRow = Fluids.lstFluid.Row(Fluids.lstFluid.Selected());
+    Calc.FluidRow = row;
     ParseFluid();
     const bool taken = FillFluid();
     CloseFluids();
     if (!taken) {
         Restore(before_);  // the fluid in hand is still the former one, and may be renewed from its row
-        return;
+        return false;
     }
     InstallFluid(Calc.SelectedFluidName, Calc.SelectedFluidName != oldName);
     FluidTaken();
+    return true;
 }
 
 bool FluidForm::UpdateFluidProperties() {
@@ -157,17 +181,18 @@ void FluidForm::BlankFluid() {
 // --- Mixtures ----------------------------------------------------------------------------------------------
 
 // A mixture that is loaded is opened as it is, to be changed; another fluid gives way to an empty one.
-void FluidForm::OpenMixture(int caseIndex) {
+bool FluidForm::BeginMixture(int caseIndex) {
     Calc.CaseIndex = caseIndex;
-    if (!CheckForNewFluid()) return;
+    if (!CheckForNewFluid()) return false;
     before_ = ChoiceInForce();
-    Fluids.Open(Calc.FluidType);
     Calc.FluidOk.clear();
-    if (!IsYes(Calc.MixtureFlag)) {
-        Calc.FluidData.fill("");
-        Calc.FluidPercent.fill(0);
-        Calc.MixtureCount = 0;
-    }
+    if (!IsYes(Calc.MixtureFlag)) SetComponents({});
+    return true;
+}
+
+void FluidForm::OpenMixture(int caseIndex) {
+    if (!BeginMixture(caseIndex)) return;
+    Fluids.Open(Calc.FluidType);
     Mixture.Open();
     TickEntries();
 }
@@ -191,21 +216,26 @@ bool FluidForm::FillMixture() {
     return true;
 }
 
-void FluidForm::cmdCalcPseudo_Click() {
-    Mixture.StorePercents();
-    if (!Mixture.CheckPercents() || !FillMixture()) return;
+bool FluidForm::TakeMixture() {
+    if (!Mixture.CheckPercents() || !FillMixture()) return false;
     CloseFluids();
     InstallFluid(MixtureName, true);
     FluidTaken();
     Recalculate();
+    return true;
+}
+
+void FluidForm::cmdCalcPseudo_Click() {
+    Mixture.StorePercents();
+    TakeMixture();
 }
 
 // --- Steam -------------------------------------------------------------------------------------------------
 
-void FluidForm::PickSteam(int caseIndex, const char* kind) {
+bool FluidForm::PickSteam(int caseIndex, const char* kind) {
     Calc.CaseIndex = caseIndex;
     StoreForm();
-    if (!(kind == std::string_view(words::Saturated) ? CheckPressureAlone() : CheckState())) return;
+    if (!(kind == std::string_view(words::Saturated) ? CheckPressureAlone() : CheckState())) return false;
     before_ = ChoiceInForce();
     const std::string oldName = Calc.FluidName;
     const bool wasSteam = !Calc.SteamKind.empty();
@@ -214,11 +244,12 @@ void FluidForm::PickSteam(int caseIndex, const char* kind) {
     Calc.FluidOk = words::FluidPicked;
     if (!TakeSteam(wasSteam)) {
         Restore(before_);
-        return;
+        return false;
     }
     Calc.FluidRow.clear();  // steam has none
     InstallFluid(SteamName, oldName != SteamName);
     FluidTaken();
+    return true;
 }
 
 // Steam that is not to be had clears the properties of steam before it, but not those of another fluid.
@@ -241,6 +272,67 @@ bool FluidForm::TakeSteam(bool wasSteam) {
     if (outcome == SteamOutcome::Found) return true;
     ClearCase(Calc.CaseIndex);
     return false;
+}
+
+// --- The dialog of the fluid
+// ---------------------------------------------------------------------------------
+
+void FluidForm::cmdFluid_Click() {
+    for (int i = 0; i < FluidCases(); ++i) NoteEntered(i);
+    auto& dialog = static_cast<frmFluid&>(LoadForm("frmFluid"));
+    dialog.Open(*this);
+    ShowForm(dialog.Name(), Modal::Yes);
+}
+
+FluidPick FluidForm::PickInForce() {
+    if (!Calc.SteamKind.empty()) {
+        const bool saturated = Calc.SteamKind == words::Saturated;
+        return {.What = saturated ? FluidPick::Kind::Saturated : FluidPick::Kind::Superheated};
+    }
+    FluidPick pick{.Name = Calc.FluidName};
+    if (!IsYes(Calc.MixtureFlag)) return pick;
+    pick.What = FluidPick::Kind::Mixture;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(ComponentCount()); ++i) {
+        pick.Parts.push_back({Calc.FluidData[i], Calc.FluidPercent[i]});
+    }
+    return pick;
+}
+
+std::string FluidForm::LackOf(int caseIndex, FluidPick::Kind kind) const {
+    const auto i = static_cast<std::size_t>(caseIndex);
+    const bool temperature =
+        kind == FluidPick::Kind::Saturated || Calc.TemperatureEntered[i] == words::Entered;
+    const bool pressure = Calc.PressureEntered[i] == words::Entered;
+    if (temperature && pressure) return "";
+    if (!temperature && !pressure) return "needs temperature and pressure";
+    return temperature ? "needs the pressure" : "needs the temperature";
+}
+
+bool FluidForm::Pick(int caseIndex, const FluidPick& pick) {
+    switch (pick.What) {
+        case FluidPick::Kind::Pure: return BeginPure(caseIndex) && TakePure(pick.Row);
+        case FluidPick::Kind::Mixture: return PickMixture(caseIndex, pick.Parts);
+        case FluidPick::Kind::Saturated: return PickSteam(caseIndex, words::Saturated);
+        default: return PickSteam(caseIndex, words::Superheated);
+    }
+}
+
+// Where a mixture that is refused is given up, as by Cancel: its components are still in the dialog.
+bool FluidForm::PickMixture(int caseIndex, const std::vector<FluidPart>& parts) {
+    if (!BeginMixture(caseIndex)) return false;
+    SetComponents(parts);
+    if (TakeMixture()) return true;
+    Restore(before_);
+    return false;
+}
+
+// The number of a case is its key: the letters of the data forms' menus are taken in the dialog.
+std::string FluidForm::CaptionOfCase(int caseIndex) const {
+    if (!mnuCase.Has(caseIndex)) return "&Operating state";
+    std::string caption = mnuCase(caseIndex).Caption();
+    if (!IsDigit(caption.back())) return caption;
+    std::erase(caption, '&');
+    return caption.insert(caption.size() - 1, "&");
 }
 
 }  // namespace quillmetra

@@ -8,6 +8,7 @@
 #include "forms/frmBackups.h"
 #include "forms/frmCalcOptions.h"
 #include "forms/frmCompare.h"
+#include "forms/frmFluid.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
 #include "forms/frmLineFlow.h"
@@ -51,6 +52,7 @@ constexpr FormEntry FormTable[] = {
     {"frmObxProg", MakeForm<frmObxProg>, 410},
     {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>, 401},
     {"frmGasLineLoss", MakeForm<frmGasLineLoss>, 402},
+    {"frmFluid", MakeForm<frmFluid>, 407},
     {"frmLiqData", MakeForm<frmLiqData>, 404},
     {"frmGasData", MakeForm<frmGasData>, 405},
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>, 417},

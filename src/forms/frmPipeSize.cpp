@@ -3,8 +3,10 @@
 
 #include <algorithm>
 
+#include "core/CalcRecord.h"
 #include "core/Suite.h"
 #include "forms/ColourSchemes.h"
+#include "forms/ListTables.h"
 #include "platform/Dialogs.h"
 #include "platform/TextCase.h"
 
@@ -48,6 +50,8 @@ frmPipeSize::frmPipeSize() : SuiteForm("frmPipeSize") {
 
 void frmPipeSize::Load() {
     ApplyColours(*this);
+    const std::string& unit = Calc.UnitName[pipeunit::PipeSizeRound];  // of the list
+    ShowAsTable(lstPipeSize, table::Pipe, {}, unit.empty() ? "in" : unit);
     families_ = PipeFiles();
     std::vector<std::string> names;
     for (const PipeFile& each : families_) names.push_back(each.Name);

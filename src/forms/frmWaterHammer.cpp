@@ -4,6 +4,7 @@
 #include "core/Filling.h"
 #include "core/Words.h"
 #include "fluids/LiquidCorrelations.h"
+#include "forms/ListTables.h"
 #include "hammer/PipeModulus.h"
 #include "platform/Arithmetic.h"
 #include "platform/Dialogs.h"
@@ -40,6 +41,7 @@ frmWaterHammer::frmWaterHammer()
     txtPipeMatl.Describe(&lblPipeMatl);
     txtPipeMatl.Change = [this] { ClearAllCases(); };
     pltClosing.ColourGroup = 4;  // as the results
+    ShowAsTable(Moduli.List, table::Modulus);
     Entries = {{&mnuPureLiquids, &mnuMixtures}};
     HookUnits(cmdUnits);
     HookPipe(txtPipeName, lblPipeID, {&txtPipeID, &txtPipeWall});

@@ -197,6 +197,8 @@ public:
         TabStop = true;
     }
     void SetChecked(bool checked) override;
+
+    bool IsTab = false;  // chooses what the form shows: hosts draw it as a tab
 };
 
 class CheckBox : public Tickable {
@@ -216,6 +218,12 @@ public:
     std::string Shortcut;  // "Ctrl+S"
     bool SeparatorBefore = false;
     bool StandsLast = false;  // in its menu or bar, whatever is made after it
+};
+
+// A column of a list that hosts draw as a table: its head, with the unit of its numbers.
+struct ListColumn {
+    std::string Head;
+    bool IsNumber = false;  // stands at the right
 };
 
 // A list of rows with one of them selected, or several when Multiple is set.
@@ -244,6 +252,11 @@ public:
     void PickAll();
 
     bool Multiple = false;
+
+    // Hosts draw the rows as a table of these columns, if there are any; CellsOf says what of a row stands in
+    // each. The rows stay what they are.
+    std::vector<ListColumn> Columns;
+    std::function<std::vector<std::string>(const std::string& row)> CellsOf;
 
 protected:
     ListBox(const Parent& parent, ControlKind kind, std::string name, int index);
@@ -324,6 +337,8 @@ public:
     // A list with columns: whole rows are selected, several at once too, a move by the arrow keys selects,
     // and a click on a head is told as one on row 0.
     bool IsList = false;
+    bool PicksOne = false;           // a list of one row at a time
+    std::vector<int> NumberColumns;  // stand at the right
     // Its entries show at a click of the right button, on the row below it.
     MenuItem* PopUp = nullptr;
 

@@ -88,4 +88,22 @@ std::string SmallLetters(std::string_view text) {
     return small;
 }
 
+std::vector<std::string> SmallWords(std::string_view text) {
+    std::vector<std::string> words(1);
+    for (const char c : SmallLetters(text)) {
+        if (c != ' ') {
+            words.back() += c;
+        } else if (!words.back().empty()) {
+            words.emplace_back();
+        }
+    }
+    if (words.back().empty()) words.pop_back();
+    return words;
+}
+
+bool HasWords(std::string_view letters, const std::vector<std::string>& words) {
+    return std::ranges::all_of(
+        words, [letters](const std::string& word) { return letters.find(word) != std::string_view::npos; });
+}
+
 }  // namespace quillmetra

@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillmetra {
 
@@ -15,5 +16,10 @@ int CompareKeys(std::string_view a, std::string_view b);
 
 // The text in small letters, so that what CompareKeys holds for the same is the same.
 std::string SmallLetters(std::string_view text);
+
+// The words of a filter in small letters, and whether a text in small letters has them all, each in any
+// place.
+std::vector<std::string> SmallWords(std::string_view text);
+bool HasWords(std::string_view letters, const std::vector<std::string>& words);
 
 }  // namespace quillmetra

@@ -22,19 +22,6 @@ std::string SortedDate(const std::string& date) {
     return date.size() < year ? date : date.substr(year) + date.substr(0, year);
 }
 
-std::vector<std::string> WordsOf(std::string_view text) {
-    std::vector<std::string> words(1);
-    for (const char c : SmallLetters(text)) {
-        if (c != ' ') {
-            words.back() += c;
-        } else if (!words.back().empty()) {
-            words.emplace_back();
-        }
-    }
-    if (words.back().empty()) words.pop_back();
-    return words;
-}
-
 // The cells apart by a sign that nobody types.
 std::string LettersOf(const RecordLine& line) {
     std::string all;
@@ -89,15 +76,11 @@ void RecordList::Sort() {
 }
 
 void RecordList::Sift() {
-    const std::vector<std::string> words = WordsOf(filter_);
+    const std::vector<std::string> words = SmallWords(filter_);
     rows_.assign(sorted_.size(), -1);
     shown_.clear();
     for (const int place : sorted_) {
-        const std::string& letters = letters_[static_cast<std::size_t>(place)];
-        const auto has = [&letters](const std::string& word) {
-            return letters.find(word) != std::string::npos;
-        };
-        if (!std::all_of(words.begin(), words.end(), has)) continue;
+        if (!HasWords(letters_[static_cast<std::size_t>(place)], words)) continue;
         rows_[static_cast<std::size_t>(place)] = Rows();
         shown_.push_back(place);
     }

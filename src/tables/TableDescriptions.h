@@ -18,6 +18,7 @@ using NoteLines = std::array<std::string, 3>;
 struct TableColumn {
     std::string_view Name;
     std::array<std::string_view, 3> Notes{};  // what the editor shows while the column's box has the focus
+    std::string_view Head{};  // the name in full, with its unit; empty where the name says all
 };
 
 // Which rows the editor writes back.
@@ -70,6 +71,9 @@ bool IsTableFile(std::string_view fileName);
 
 std::string TableTitle(const TableDescription& table, const TableVariant& variant = {});
 std::string TableHeading(const TableDescription& table, const TableVariant& variant = {});
+
+// The head of a column in full, counted from 1, with the unit of its numbers.
+std::string_view TableHead(const TableDescription& table, int column);
 
 // The notes of a column, counted from 1; empty lines for a column that the table does not have.
 NoteLines TableNotes(const TableDescription& table, int column, const TableVariant& variant = {});

@@ -5,7 +5,7 @@ namespace quillmetra::layout {
 
 Node Identification() {
     return Panel("", Table({{"lblTagNum", Item("txtTagNum").Wide(22), "lblFluid",
-                             Item("txtFluid").Wide(30).Grow(), Item("cmdFormLayout").Wide(14)}})
+                             Item("txtFluid").Wide(30).Grow(), "cmdFluid", Item("cmdFormLayout").Wide(14)}})
                          .Wide(LabelDigits));
 }
 
@@ -34,8 +34,7 @@ Node Components() {
 }
 
 Node Fluids(const char* frame) {
-    return Frame(frame,
-                 Column({Item("lstFluid").Wide(40).Tall(18).Typed(), Buttons({"cmdSelect", "cmdCancel"})}))
+    return Frame(frame, Column({Item("lstFluid").Wide(72).Tall(19), Buttons({"cmdSelect", "cmdCancel"})}))
         .Grow();
 }
 

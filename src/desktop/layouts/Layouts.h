@@ -10,6 +10,7 @@ Node WinSeek();
 Node frmBackups();
 Node frmCalcOptions();
 Node frmCompare();
+Node frmFluid();
 Node frmGasData();
 Node frmGasLineLoss();
 Node frmLineFlow();

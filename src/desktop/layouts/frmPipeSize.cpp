@@ -8,7 +8,7 @@ Node frmPipeSize() {
         {Row({Panel("", Column({"lblFamily", Item("lstFamily").Wide(34).Tall(12).Grow(), "lblFamilyNote"})),
               Panel("", Column({Row({"lblNomSize", Item("txtNomSize").Wide(10), "lblPipeUnits", Stretch(),
                                      "cmdSearch"}),
-                                "lblPipeSize", Item("lstPipeSize").Wide(40).Tall(14).Typed().Grow(),
+                                "lblPipeSize", Item("lstPipeSize").Wide(60).Tall(14).Grow(),
                                 Item("lblConvertUnits").Collapsing()}))
                   .Grow()}),
          Buttons({"cmdOK", "cmdCancel"})});

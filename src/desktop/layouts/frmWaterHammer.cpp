@@ -60,7 +60,7 @@ Node Results() {
 }
 
 Node Moduli() {
-    return Frame("fraModulus", Column({Item("lstModulus").Wide(88).Tall(18).Typed(),
+    return Frame("fraModulus", Column({Item("lstModulus").Wide(88).Tall(19),
                                        Buttons({"cmdSelectModulus", "cmdCancelModulus"})}));
 }
 
