@@ -13,10 +13,13 @@ namespace quillmetra {
 
 namespace {
 
-// A line of a box that begins with a capital is a sentence of its own, but for one of a list of advices.
+// A line of a box that begins with a capital is a sentence of its own, but where the one before goes on.
 const char* Joint(std::string_view before, std::string_view after) {
+    constexpr std::string_view goingOn[] = {",", ", or", " and", " -", "Particularly"};
     const bool begins = !after.empty() && after.front() >= 'A' && after.front() <= 'Z';
-    return before.empty() || !begins || before.ends_with(",") || before.ends_with(", or") ? " " : ". ";
+    const bool goesOn =
+        std::ranges::any_of(goingOn, [before](std::string_view end) { return before.ends_with(end); });
+    return before.empty() || !begins || goesOn ? " " : ". ";
 }
 
 // What a box said, in one line.

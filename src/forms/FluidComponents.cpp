@@ -34,11 +34,10 @@ FluidComponents::FluidComponents(Form& form)
       cmdRemove(fraComponent, "cmdRemove", Places, "Remove"),
       lblRemainingCaption(fraComponent, "lblRemainingCaption", "Remaining percent"),
       lblRemaining(fraComponent, "lblRemaining"),
-      lblSum(fraComponent, "lblSum"),
-      cmdClear(fraComponent, "cmdClear", "Clea&r"),
-      form_(form) {
+      lblNote(fraComponent, "lblNote"),
+      cmdClear(fraComponent, "cmdClear", "Clea&r") {
     for (const int place : Places) HookRow(place);
-    for (Label* label : {&lblNone, &lblRemainingCaption, &lblRemaining, &lblSum}) label->ColourGroup = 1;
+    for (Label* label : {&lblNone, &lblRemainingCaption, &lblRemaining, &lblNote}) label->ColourGroup = 1;
     cmdClear.SetToolTip("Takes all components away");
     cmdClear.Click = [this] { Take({}); };
 }
@@ -104,39 +103,41 @@ double FluidComponents::Remaining() const {
     return RemainingPercent(percents);
 }
 
-// What cannot be is seen as it is typed.
 void FluidComponents::ShowRemaining() {
-    const double remaining = Remaining();
+    lblRemaining.SetCaption(TrimmedStr(Remaining()));
+    ShowNote("");
+    if (Changed) Changed();
+}
+
+// What cannot be is seen as it is typed, and what was refused until something else is done.
+void FluidComponents::ShowNote(const std::string& refused) {
     const std::vector<FluidPart> parts = Parts();
     const bool negative = std::ranges::any_of(parts, [](const FluidPart& part) { return part.Percent < 0; });
-    lblRemaining.SetCaption(TrimmedStr(remaining));
-    lblSum.SetCaption(negative        ? "A percentage is less than zero"
-                      : remaining < 0 ? "The sum is over 100"
-                                      : "");
-    const bool wrong = negative || remaining < 0;
-    const Colour back = fraComponent.BackColour();
-    for (Label* label : {&lblRemaining, &lblSum}) {
-        label->SetColours(back, SlotColour(wrong ? slot::Changed : slot::AreaText));
-    }
-    if (Changed) Changed();
+    const bool over = Remaining() < 0;
+    lblNote.SetCaption(!refused.empty() ? refused
+                       : negative       ? "A percentage is less than zero"
+                       : over           ? "The sum is over 100"
+                                        : "");
+    const Colour usual = SlotColour(slot::AreaText), marked = SlotColour(slot::Changed);
+    lblNote.SetColours(fraComponent.BackColour(), marked);
+    lblRemaining.SetColours(fraComponent.BackColour(), negative || over ? marked : usual);
 }
 
 void FluidComponents::Add(const std::string& row) {
     const std::string_view name = FluidRowName(row);
     const auto same =
         std::ranges::find_if(rows_, [name](const std::string& each) { return FluidRowName(each) == name; });
-    int place = static_cast<int>(same - rows_.begin());
-    if (same != rows_.end()) {
-        form_.SetStatus(std::string(name) + " is in the mixture already");
-    } else if (Count() == MostComponents) {
-        place = MostComponents - 1;
-        form_.SetStatus("Maximum number is " + std::to_string(MostComponents));
-    } else {
-        form_.SetStatus("");
+    const auto last = static_cast<std::size_t>(MostComponents);
+    std::string refused;
+    if (same != rows_.end()) refused = std::string(name) + " is a component already";
+    if (same == rows_.end() && rows_.size() == last) refused = "Maximum number is " + std::to_string(last);
+    const auto place = std::min(static_cast<std::size_t>(same - rows_.begin()), last - 1);
+    if (refused.empty()) {
         rows_.push_back(row);
         Show();
     }
-    txtPercent(place).SetFocus();
+    ShowNote(refused);
+    txtPercent(static_cast<int>(place)).SetFocus();
 }
 
 // The percentages below move up with their components.
@@ -146,7 +147,6 @@ void FluidComponents::Remove(int place) {
     parts.erase(parts.begin() + place);
     Take(parts);
     before_ = before;
-    form_.SetStatus("");
     if (Count() > 0) return cmdRemove(std::min(place, Count() - 1)).SetFocus();
     if (Ended) Ended();
 }

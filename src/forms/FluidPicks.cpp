@@ -332,7 +332,8 @@ std::string FluidForm::CaptionOfCase(int caseIndex) const {
     std::string caption = mnuCase(caseIndex).Caption();
     if (!IsDigit(caption.back())) return caption;
     std::erase(caption, '&');
-    return caption.insert(caption.size() - 1, "&");
+    caption.insert(caption.end() - 1, '&');
+    return caption;
 }
 
 }  // namespace quillmetra

@@ -58,10 +58,10 @@ void FluidRows::ShowHeads() {
     const std::string& temperature = Calc.UnitName[unit::Temperature];
     heads_ = {"Name",
               "Kind",
-              "Molecular weight",
-              isGas_ ? "Gravity, air = 1" : "Gravity at 60 degF",
+              "Mol. weight",
+              isGas_ ? "Gravity, air = 1" : "Gravity, 60 degF",
               "Boiling point, " + temperature,
-              "Critical temperature, " + temperature,
+              "Critical temp., " + temperature,
               "Critical pressure, " + Calc.UnitName[unit::CritPressure]};
     if (column_ < Columns) heads_[static_cast<std::size_t>(column_)] += falling_ ? " \u25BC" : " \u25B2";
 }
@@ -117,11 +117,12 @@ int FluidRows::PlaceOf(std::string_view name) const {
 
 int FluidRows::BestPlace() const {
     const std::string typed = SmallLetters(Trim(filter_));
-    const auto found = std::ranges::find_if(shown_, [&](int place) {
-        return lines_[static_cast<std::size_t>(place)].Letters.starts_with(typed);
-    });
-    if (found != shown_.end()) return static_cast<int>(found - shown_.begin());
-    return shown_.empty() ? -1 : 0;
+    const auto rankOf = [&](int place) {
+        const std::string& letters = lines_[static_cast<std::size_t>(place)].Letters;
+        return letters == typed ? 0 : letters.starts_with(typed) ? 1 : 2;
+    };
+    const auto best = std::ranges::min_element(shown_, {}, rankOf);
+    return best == shown_.end() ? -1 : static_cast<int>(best - shown_.begin());
 }
 
 }  // namespace quillmetra

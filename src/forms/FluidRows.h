@@ -30,7 +30,8 @@ public:
     const std::string& Row(int place) const;
     // The first fluid of that name; -1 where none is shown.
     int PlaceOf(std::string_view name) const;
-    // The first one whose name begins with what was typed, else the first of all; -1 where none is shown.
+    // The one whose name is what was typed, else the first that begins with it, else the first of all; -1
+    // where none is shown.
     int BestPlace() const;
 
 private:

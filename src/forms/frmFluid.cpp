@@ -60,6 +60,8 @@ void frmFluid::HookTable() {
     txtFilter.SetToolTip("Shows the fluids that have these words in their names");
     txtFilter.Change = [this] {
         rows_.Filter(txtFilter.Text());
+        const int best = txtFilter.Text().empty() ? -1 : rows_.BestPlace();
+        if (best >= 0) marked_ = rows_.Cell(best, FluidRows::Name);
         ShowTable();
     };
     txtFilter.KeyPress = [this](Key& key) { txtFilter_KeyPress(key); };
@@ -68,17 +70,23 @@ void frmFluid::HookTable() {
 }
 
 void frmFluid::HookKinds() {
-    for (OptionButton* tab : {&optPure, &optMixture, &optSteam}) tab->Click = [this] { ShowKind(); };
+    for (OptionButton* tab : {&optPure, &optMixture, &optSteam}) {
+        tab->Click = [this] { ShowKind(); };
+        tab->KeyPress = [this](Key& key) { key.Handled = LookFor(key.Name); };
+    }
     for (OptionButton* kind : {&optSaturated, &optSuperheated}) kind->Click = [this] { ShowCases(); };
     chkCase.Each([this](CheckBox& tick, int i) {
         tick.Click = [this, i] {
             wanted_[static_cast<std::size_t>(i)] = chkCase(i).Checked();
             EnableButtons();
         };
+        tick.Describe(nullptr, &lblLack(i));
         tick.SetCaption(words::Cases[static_cast<std::size_t>(i)]);
     });
     Components.Changed = [this] { EnableButtons(); };
-    Components.Ended = [this] { txtFilter.SetFocus(); };
+    Components.Ended = [this] {
+        (Components.IsWhole() && cmdOK.Enabled() ? static_cast<Control&>(cmdOK) : txtFilter).SetFocus();
+    };
     wanted_.assign(CaseCount, true);
 }
 
@@ -119,6 +127,9 @@ void frmFluid::Open(FluidForm& calculation) {
     optPure.SetChecked(pick.What == FluidPick::Kind::Pure);
     ShowTable();
     ShowKind();
+    const bool isSteam = optSteam.Checked();
+    (isSteam ? static_cast<Control&>(optSuperheated.Checked() ? optSuperheated : optSaturated) : txtFilter)
+        .SetFocus();
 }
 
 void frmFluid::ReadTable() {
@@ -146,8 +157,6 @@ void frmFluid::ShowKind() {
     fraSteam.SetVisible(steam);
     SetStatus("");
     ShowCases();
-    if (steam) return (optSuperheated.Checked() ? optSuperheated : optSaturated).SetFocus();
-    txtFilter.SetFocus();
 }
 
 void frmFluid::ShowCases() {
@@ -166,7 +175,6 @@ void frmFluid::ShowCases() {
     EnableButtons();
 }
 
-// The row in hand stays so while it is shown; else the best of the others takes its place.
 void frmFluid::ShowTable() {
     grdFluids.SetSource(rows_.Count() + 1, FluidRows::Columns,
                         [this](int row, int column) -> const std::string& {
@@ -175,8 +183,7 @@ void frmFluid::ShowTable() {
     const std::string total = std::to_string(rows_.Total());
     lblShown.SetCaption(rows_.Count() == rows_.Total() ? total
                                                        : std::to_string(rows_.Count()) + " of " + total);
-    const int kept = rows_.PlaceOf(marked_);
-    Mark(kept < 0 && !txtFilter.Text().empty() ? rows_.BestPlace() : kept);
+    Mark(rows_.PlaceOf(marked_));
 }
 
 void frmFluid::Mark(int place) {
@@ -204,8 +211,7 @@ void frmFluid::EnableButtons() {
 void frmFluid::grdFluids_Click() {
     const int place = Place();
     if (place >= 0) return Mark(place);
-    rows_.SortBy(grdFluids.SelectedColumn());
-    ShowTable();
+    SortBy(grdFluids.SelectedColumn());
 }
 
 // Down goes on to the fluids that were found.
@@ -220,14 +226,26 @@ void frmFluid::txtFilter_KeyPress(Key& key) {
     grdFluids.SetFocus();
 }
 
-// What is typed in the table is looked for.
-void frmFluid::grdFluids_KeyPress(Key& key) {
-    const bool typed = CharacterCount(key.Name) == 1 && key.Name != " ";
-    key.Handled = typed || key.Name == keys::Enter;
-    if (key.Name == keys::Enter) return TakeRow();
-    if (!typed) return;
-    txtFilter.SetText(txtFilter.Text() + key.Name);
+// What is typed outside of the search is looked for too.
+bool frmFluid::LookFor(const std::string& key) {
+    if (!fraTable.Visible() || CharacterCount(key) != 1 || key == " ") return false;
+    txtFilter.SetText(txtFilter.Text() + key);
     txtFilter.SetFocus();
+    return true;
+}
+
+// Ctrl and the number of a column sorts, as a click on its head.
+void frmFluid::grdFluids_KeyPress(Key& key) {
+    const bool sorts = key.Name.starts_with(keys::Ctrl) && key.Name.size() == 6 && key.Name.back() >= '1' &&
+                       key.Name.back() < '1' + FluidRows::Columns;
+    key.Handled = sorts || key.Name == keys::Enter || LookFor(key.Name);
+    if (sorts) SortBy(key.Name.back() - '1');
+    if (key.Name == keys::Enter) TakeRow();
+}
+
+void frmFluid::SortBy(int column) {
+    rows_.SortBy(column);
+    ShowTable();
 }
 
 void frmFluid::TakeRow() {
@@ -268,7 +286,7 @@ void frmFluid::cmdOK_Click() {
         const auto take = [&] { taken = calculation_->Pick(i, pick) || taken; };
         const std::string name = SpokenCaption(chkCase(i).Caption());
         if (cases.size() > 1) {
-            SetStatus(name);
+            SetStatus("For " + name);
             messages.Run(name, take);
         } else {
             take();

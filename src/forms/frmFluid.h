@@ -58,9 +58,8 @@ private:
     FluidPick::Kind KindInHand() const;
     FluidPick PickInHand() const;
     std::vector<int> TickedCases() const;
-    // Shows what belongs to the tab in hand, and leads to where the user goes on.
+    // Shows what belongs to the tab in hand.
     void ShowKind();
-    void GoToKind();
     void ShowCases();
     void ShowTable();
     void EnableButtons();
@@ -71,10 +70,12 @@ private:
     void grdFluids_Click();
     // The row in hand: the fluid, or one more component.
     void TakeRow();
+    bool LookFor(const std::string& key);
+    void SortBy(int column);
 
     FluidForm* calculation_ = nullptr;
     FluidRows rows_;
-    std::string marked_;        // the name of the row in hand, which stays in hand while it is shown
+    std::string marked_;        // the name of the row in hand
     std::vector<bool> wanted_;  // by case: not unticked by the user
 };
 

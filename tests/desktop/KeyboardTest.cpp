@@ -143,7 +143,9 @@ const ByKeys Ways[] = {
      "@txtLineLength 2500 {Return} 6.065 @txtPipeWall 0.28 @cmdPipeMatl {Space} {Return} "
      "@txtMaxAllowPressure 300 @cmdCalculateliq {Space}",
      "frmWaterHammer", "txtPressureWave", Control::NoIndex, 623},
-    {"liquid data", "{Down} {Down} {Down} {Return} P-4 @txtTemp(0) 80 {Return} 100 {Alt+U} C P Tolu {Return}",
+    {"liquid data",
+     "{Down} {Down} {Down} {Return} P-4 @txtTemp(0) 80 {Return} 100 {Alt+K} #frmFluid tolu {Return} "
+     "#frmLiqData",
      "frmLiqData", "txtSGFTP", 0, 0.8615},
     {"gas data",
      "{Down} {Down} {Down} {Down} {Return} P-5 @txtTemp(0) 80 {Return} 250 {Alt+U} C P Meth {Return}",

@@ -6,6 +6,7 @@
 #include "platform/DropButton.h"
 #include "platform/NumberText.h"
 #include "reports/FormRows.h"
+#include "tables/TableFiles.h"
 #include "tests/forms/LiquidFormFixture.h"
 
 namespace quillmetra {
@@ -176,6 +177,145 @@ TEST_F(UnitsInPlace, GiveTheRecordOfTheUnitWindow) {
         }
     }
 }
+
+// The dialog of the fluid beside the menus of the cases: the same acts twice, from the start on.
+struct FluidWay {
+    const char* Name;
+    int Program;
+    const char* Kind;  // the tab, and its kind of steam
+    // The entries of the menus that select the fluid, case by case.
+    std::vector<const char*> Entries;
+    std::vector<const char*> Fluids;  // with a percentage each where there are several
+};
+
+const FluidWay FluidWays[] = {
+    {"liquid", 1, "optPure", {"mnuPureLiquid1", "mnuPureLiquid2", "mnuPureLiquid3"}, {"Water"}},
+    {"liquid mixture",
+     1,
+     "optMixture",
+     {"mnuMixture1", "mnuMixture2", "mnuMixture3"},
+     {"Toluene", "Benzene"}},
+    {"gas", 2, "optPure", {"mnuPureGases1", "mnuPureGases2", "mnuPureGases3"}, {"Methane"}},
+    {"gas mixture", 2, "optMixture", {"mnuMixtures1", "mnuMixtures2", "mnuMixtures3"}, {"Methane", "Ethane"}},
+    {"saturated", 2, "optSaturated", {"mnuSatSteam1", "mnuSatSteam2", "mnuSatSteam3"}, {}},
+    {"superheated", 5, "optSuperheated", {"mnuSupersteam1", "mnuSupersteam2", "mnuSupersteam3"}, {}},
+    {"hammer", 3, "optPure", {"mnuPureLiquids"}, {"Toluene"}},
+    {"hammer mixture", 3, "optMixture", {"mnuMixtures"}, {"Toluene", "Benzene"}},
+    {"liquid data", 4, "optPure", {"mnuLiquid1", "mnuLiquid2", "mnuLiquid3"}, {"Toluene"}},
+    {"gas data mixture",
+     5,
+     "optMixture",
+     {"mnuMixtures1", "mnuMixtures2", "mnuMixtures3"},
+     {"Methane", "Ethane"}}};
+
+class FluidDialog : public SuiteTest, public testing::WithParamInterface<FluidWay> {
+protected:
+    static Control& On(const char* control, int index = Control::NoIndex) {
+        return ControlOf(FindProgram(GetParam().Program)->Form, control, index);
+    }
+
+    // A calculation whose cases have 500 to 520 degF and 100 to 102 psig, a liquid 60 to 80.
+    void Begin() {
+        ForgetForms();
+        Calc = CalcRecord();
+        Suite = SuiteState();
+        RegisterForms();
+        StartUp(SuitePath(Folder));
+        Suite.HideFluidReminder = words::Yes;
+        ClickControl(ControlOf("frmTRProg", "cmdOK"));
+        ClickControl(ControlOf("frmObxProg", "optProgram", GetParam().Program));
+        ClickControl(ControlOf("frmObxProg", "cmdOK"));
+        const bool hammer = GetParam().Program == program::WaterHammer;
+        const int low = program::IsOfGas(GetParam().Program) ? 500 : 60;
+        for (int i = 0; i < static_cast<int>(GetParam().Entries.size()); ++i) {
+            Type(hammer ? On("txtFlowTemp") : On("txtTemp", i), std::to_string(low + 10 * i));
+            Type(hammer ? On("txtOperPressure") : On("txtPressure", i), std::to_string(100 + i));
+        }
+        LeaveFocus(On("txtTagNum").Owner());
+    }
+
+    static void Type(Control& box, const std::string& text) {
+        ASSERT_TRUE(MoveFocus(box)) << box.FullName();
+        ASSERT_TRUE(TypeText(box, text)) << box.FullName();
+    }
+
+    static void PickInList(const std::string& name) {
+        auto& list = static_cast<ListBox&>(On("lstFluid"));
+        int row = 0;
+        while (RowName(list.Row(row)) != name) ASSERT_LT(++row, list.RowCount()) << name;
+        ASSERT_TRUE(PickRow(list, row));
+        ASSERT_TRUE(ClickControl(On("cmdSelect")));
+    }
+
+    static void ByMenus() {
+        for (const char* entry : GetParam().Entries) {
+            ASSERT_TRUE(ClickControl(On(entry))) << entry;
+            const auto& fluids = GetParam().Fluids;
+            const bool isEmpty = !IsYes(Calc.MixtureFlag);
+            if (fluids.size() == 1) PickInList(fluids[0]);
+            if (fluids.size() < 2) continue;
+            for (int i = 0; isEmpty && i < static_cast<int>(fluids.size()); ++i) {
+                PickInList(fluids[At(i)]);
+                Type(On("txtPercent", i), i == 0 ? "60" : "40");
+            }
+            ASSERT_TRUE(ClickControl(On("cmdCalcPseudo")));
+        }
+    }
+
+    static Control& InDialog(const char* control, int index = Control::NoIndex) {
+        return ControlOf("frmFluid", control, index);
+    }
+
+    static void ByDialog() {
+        ASSERT_TRUE(ClickControl(On("cmdFluid")));
+        const std::string kind = GetParam().Kind;
+        if (kind.starts_with("optS")) ClickControl(InDialog("optSteam"));
+        ClickControl(InDialog(GetParam().Kind));
+        const auto& fluids = GetParam().Fluids;
+        for (int i = 0; i < static_cast<int>(fluids.size()); ++i) {
+            Type(InDialog("txtFilter"), fluids[At(i)]);
+            if (fluids.size() < 2) continue;
+            PressKey(InDialog("txtFilter"), "Enter");
+            Type(InDialog("txtPercent", i), i == 0 ? "60" : "40");
+        }
+        ASSERT_TRUE(ClickControl(InDialog("cmdOK")));
+        EXPECT_FALSE(IsFormLoaded("frmFluid"));
+    }
+
+    static std::string Texts() {
+        std::string all;
+        for (const Control* control : On("txtTagNum").Owner().Controls()) {
+            if (control->Seen()) all += control->Text() + "\n";
+        }
+        return all;
+    }
+};
+
+TEST_P(FluidDialog, GivesTheRecordOfTheMenus) {
+    Begin();
+    ByMenus();
+    const CalcRecord menus = Calc;
+    const std::string texts = Texts();
+    EXPECT_EQ(menus.FluidDataSource, words::Loaded);
+    User.Boxes.clear();
+    Begin();
+    ByDialog();
+    EXPECT_TRUE(Calc == menus);
+    EXPECT_EQ(Texts(), texts);
+    EXPECT_LE(User.Boxes.size(), 1U) << "what is only told is told once";
+    // Opened again it has the fluid selected, and Cancel changes nothing.
+    const CalcRecord taken = Calc;
+    ClickControl(On("cmdFluid"));
+    EXPECT_TRUE(static_cast<OptionButton&>(InDialog(GetParam().Kind)).Checked());
+    ClickControl(InDialog("cmdCancel"));
+    EXPECT_TRUE(Calc == taken);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllWays, FluidDialog, testing::ValuesIn(FluidWays), [](const auto& way) {
+    std::string name = way.param.Name;
+    std::ranges::replace(name, ' ', '_');
+    return name;
+});
 
 }  // namespace
 }  // namespace quillmetra

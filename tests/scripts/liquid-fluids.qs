@@ -135,3 +135,73 @@ expect-state txtFlow(0) enabled
 click cmdMatl
 click mnuNew
 expect-state lstMatl hidden
+
+# --- One dialog for all cases: what a case lacks is said, and it opens before any has its state.
+start
+new 1
+click cmdFluid
+expect-form frmFluid
+expect-focus txtFilter
+expect-state chkCase(0) disabled
+expect lblLack(0) needs temperature and pressure
+expect-state optSteam hidden
+expect-state cmdOK disabled
+key txtFilter Escape
+expect-form frmLiqLineLoss
+type txtTemp(0) 100
+answer Yes
+type txtPressure(0) 50
+type txtTemp(1) 200
+expect-message Stop showing this message?
+type txtPressure(1) 60
+type txtTemp(2) 100
+# The box in hand is not left, as by a menu.
+click cmdFluid
+expect lblLack(2) needs the pressure
+expect-state chkCase(1) checked
+expect-count grdFluids 252
+expect-cell grdFluids 0 4 "Boiling point, degF"
+row grdFluids 0 2
+expect-cell grdFluids 1 2 16.04
+row grdFluids 0 2
+expect-cell grdFluids 0 2 "Mol. weight ▼"
+key grdFluids Ctrl+1
+expect-cell grdFluids 1 0 1-1-1-Trichloroethane
+# Parts of a name; the one that begins with them comes first.
+type txtFilter uene t
+expect-state cmdOK enabled
+type txtFilter nobody
+expect-count grdFluids 1
+expect-state cmdOK disabled
+type txtFilter tolu
+expect-cell grdFluids 1 0 Toluene
+expect-cell grdFluids 1 1 Organic
+key txtFilter Enter
+expect-form frmLiqLineLoss
+expect-no-message
+expect txtFluid Toluene
+expect txtSGFlow(0) 0.8506
+expect txtSGFlow(1) 0.7975
+expect-state mnuPureLiquid1 checked
+click mnuUndo
+expect txtFluid ""
+expect txtSGFlow(1) ""
+click mnuRedo
+expect txtSGFlow(1) 0.7975
+# A fluid that no case takes leaves the dialog as it is, and the former fluid. A tick taken away is a case less.
+click cmdFluid
+expect-state cmdOK enabled
+type txtFilter propane
+answer No
+answer No
+click cmdOK
+expect-message This indicates that the fluid is a gas!
+expect-message This indicates that the fluid is a gas!
+expect-form frmFluid
+expect txtFilter propane
+click chkCase(1)
+answer Yes
+key grdFluids Enter
+expect-message This indicates that the fluid is a gas!
+expect txtFluid Propane
+expect txtSGFlow(1) 0.7975

@@ -246,4 +246,92 @@ answer OK
 click cmdSelect
 expect-box "Mixture components" "Maximum number is 17" OK
 click cmdCancel
+
+# --- The dialog of all cases: a search, Enter, a percentage, Enter --------------------------------------------------
+answer No
+click mnuProgram
+expect-message Save changes?
+new 5
+type txtTemp(0) 80
+type txtPressure(0) 250
+type txtTemp(1) 120
+type txtPressure(1) 300
+click cmdFluid
+click optMixture
+expect-focus optMixture
+expect-state lblNone visible
+expect-state cmdOK disabled
+key optMixture m
+expect-focus txtFilter
+type txtFilter meth
+key txtFilter Down
+type txtFilter methane
+key txtFilter Enter
+expect lblComponent(0) Methane
+expect-focus txtPercent(0)
+type txtPercent(0) 80
+expect lblRemaining 20
+key txtPercent(0) Enter
+expect-focus txtFilter
+# A component is not taken twice.
+type txtFilter methane
+click cmdAdd
+expect lblNote Methane is a component already
+expect-focus txtPercent(0)
+expect-state txtPercent(1) hidden
+type txtFilter propane
+key grdFluids Enter
+type txtPercent(1) 30
+expect lblRemaining -10
+expect lblNote The sum is over 100
+expect-colour lblRemaining 10 1
+answer OK
+click cmdOK
+expect-box "Mixture Calculation" "Sum of percentages must equal 100" OK
+type txtPercent(1) -1
+expect lblNote A percentage is less than zero
+answer OK
+click cmdOK
+expect-message A percentage must not be less than zero
+type txtFilter ethane
+key txtFilter Enter
+expect lblComponent(2) Ethane
+# What is removed makes way for those below.
+key txtPercent(2) R
+click cmdRemove(1)
+expect lblComponent(1) Ethane
+expect txtPercent(1) 21
+expect-state txtPercent(2) hidden
+key txtPercent(1) r
+expect txtPercent(1) 20
+expect lblNote ""
+focus txtPercent(0)
+key txtPercent(0) Enter
+expect-focus txtPercent(1)
+key txtPercent(1) Enter
+expect-focus cmdOK
+answer OK
+key cmdOK Enter
+expect-box "Fluid Properties" "Case 1, Case 2: Use mixture calculated values with caution - Particularly Latent heat of vaporization and Vapor Pressure. Actual values may differ considerably" OK Information
+expect-form frmGasData
+expect txtFluid Mixture
+expect txtMW(1) 18.85
+# Opened again it shows what it is made of; what no case takes changes nothing.
+click cmdFluid
+expect-state optMixture checked
+expect txtPercent(1) 20
+expect-state chkCase(2) disabled
+click cmdClear
+expect-state cmdOK disabled
+click optSteam
+expect lblLack(2) needs the pressure
+click optSuperheated
+expect lblLack(2) needs temperature and pressure
+answer OK
+click cmdOK
+expect-box "Fluid Properties" "Case 1, Case 2: Table is limited to a range of 200 degF to 1500 degF" OK Information
+expect-form frmFluid
+close
+expect txtFluid Mixture
+expect txtMW(1) 18.85
 quit

@@ -171,6 +171,16 @@ void PickPipe(const char* size, const char* row, const char* picture) {
     Click(Calculation, "cmdPipeID");
 }
 
+// The dialog of the fluid, left as it came. What is looked for may be empty.
+void ShootFluid(const char* picture, const char* typed) {
+    Within([=] {
+        TypeText(ControlOf("frmFluid", "txtFilter"), typed);
+        Shoot(picture);
+        Click("frmFluid", "cmdCancel");
+    });
+    Click(Calculation, "cmdFluid");
+}
+
 // examples/liquid-line.qs
 void FillLine(const char* pipePicture = nullptr) {
     TypeAll({{"txtTagNum", "CW-101"},
@@ -221,6 +231,7 @@ void ShootLiquidLine() {
     Click(Calculation, "mnuPureLiquid1");
     Shoot("line-liquids");
     Click(Calculation, "cmdCancel");
+    ShootFluid("fluid", "wat");
     for (int i = 0; i < 3; ++i) Click(Calculation, "cmdCalculate", i);
     Type("txtInletPipeLen", Control::NoIndex, "1300");
     MoveFocus(ControlOf(Calculation, "txtInletPipeID"));
@@ -274,6 +285,7 @@ void ShootGasLine() {
         Type("txtFlow", i, flows[i]);
     }
     Shoot("gas-empty");
+    ShootFluid("fluid-steam", "");
     for (int i = 2; i >= 0; --i) Click(form, "cmdCalculate", i);
     Shoot("gas-results");
     ShootTrials(0, 3, "gas-sizes", "gas-flow");
@@ -337,6 +349,7 @@ void ShootGasData() {
     }
     Click(form, "cmdCalcPseudo");
     Click(form, "cmdOK", 1);
+    ShootFluid("fluid-mixture", "");
     Shoot(form);
 }
 

@@ -20,8 +20,8 @@ Node Components() {
                         Item("txtPercent", i).Wide(8).Collapsing(), Item("cmdRemove", i)});
     }
     return Frame("fraComponent", Column({"lblNone", layout::Table(std::move(rows)), Stretch(),
-                                         Row({"lblRemainingCaption", "lblRemaining", Stretch(), "lblSum"}),
-                                         Buttons({"cmdClear"})}));
+                                         Row({"lblRemainingCaption", "lblRemaining", Stretch()}),
+                                         Item("lblNote").Wrapped(), Buttons({"cmdClear"})}));
 }
 
 Node Steam() {
@@ -32,7 +32,7 @@ Node Steam() {
 
 Node Cases() {
     std::vector<std::vector<Node>> rows;
-    for (int i = 0; i < 3; ++i) rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(34), Stretch()});
+    for (int i = 0; i < 3; ++i) rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(104), Stretch()});
     return Frame("fraCases", layout::Table(std::move(rows)));
 }
 
