@@ -73,25 +73,27 @@ protected:
 
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QColor accent = palette().color(QPalette::Highlight);
-        const QColor text = palette().color(QPalette::WindowText);
-        if (underMouse() && isEnabled())
-            painter.fillRect(rect(), Between(palette().color(QPalette::Window), text, 0.06));
-        const int line = isChecked() ? 3 : 1;
-        painter.fillRect(QRect(0, height() - line, width(), line),
-                         isChecked() ? accent : palette().color(role::HairLine));
-        painter.setPen(text);
+        const QColor ground = palette().color(QPalette::Window),
+                     words = palette().color(QPalette::WindowText);
+        if (underMouse() && isEnabled()) painter.fillRect(rect(), Between(ground, words, 0.06));
+        const int line = isChecked() ? Strong : 1;
+        const auto colour = isChecked() ? QPalette::Highlight : role::HairLine;
+        painter.fillRect(QRect(0, height() - line, width(), line), palette().color(colour));
+        painter.setPen(words);
         painter.drawText(rect(), static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextShowMnemonic),
-                         this->text());
-        if (!hasFocus()) return;
-        painter.setPen(QPen(accent, 1));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -4.5), 3, 3);
+                         text());
+        if (hasFocus()) DrawRing(painter);
     }
 
 private:
-    static constexpr int Beside = 14, Over = 6;
+    static constexpr int Beside = 14, Over = 6, Strong = 3;
+
+    void DrawRing(QPainter& painter) const {
+        constexpr double corner = 3;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -Strong - 1.5), corner, corner);
+    }
 };
 
 QAbstractButton* MakeButton(const Control& control, QWidget* parent) {

@@ -110,6 +110,7 @@ const std::string& FluidRows::Cell(int place, int column) const {
 const std::string& FluidRows::Row(int place) const { return At(place).Row; }
 
 int FluidRows::PlaceOf(std::string_view name) const {
+    if (name.empty()) return -1;
     const auto found = std::ranges::find_if(
         shown_, [&](int place) { return lines_[static_cast<std::size_t>(place)].Cells[Name] == name; });
     return found == shown_.end() ? -1 : static_cast<int>(found - shown_.begin());
