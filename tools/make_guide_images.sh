@@ -7,11 +7,8 @@ cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 # What quillmetra-screens calls a picture, and what the documents call it.
 Pictures="
 browser-record:browser browser-tags:browser-tags selector:selector help:help
-<<<<<<< HEAD
-line-results:liquid-line line-changed:liquid-line-changed line-liquids:liquids pipe-size:pipe-size sizes:sizes message:message
-=======
-line-results:liquid-line line-changed:liquid-line-changed line-liquids:liquids fluid:fluid fluid-mixture:fluid-mixture pipe-size:pipe-size message:message
->>>>>>> de04844 (The fluid dialog: help, guide, keys, search by the best name; its record is held beside that of the menus)
+line-results:liquid-line line-changed:liquid-line-changed line-liquids:liquids fluid:fluid fluid-mixture:fluid-mixture
+pipe-size:pipe-size sizes:sizes message:message
 gas-results:steam-line gas-base-conditions:base-conditions hammer-selected:water-hammer hammer-moduli:pipe-moduli
 frmLiqData:liquid-properties frmGasData:gas-properties gas-mixture:gas-mixture
 units:units units-in-place:units-in-place units-choose:units-choose options:options Gas:table-editor

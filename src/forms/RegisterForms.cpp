@@ -52,7 +52,7 @@ constexpr FormEntry FormTable[] = {
     {"frmObxProg", MakeForm<frmObxProg>, 410},
     {"frmLiqLineLoss", MakeForm<frmLiqLineLoss>, 401},
     {"frmGasLineLoss", MakeForm<frmGasLineLoss>, 402},
-    {"frmFluid", MakeForm<frmFluid>, 407},
+    {"frmFluid", MakeForm<frmFluid>, 408},
     {"frmLiqData", MakeForm<frmLiqData>, 404},
     {"frmGasData", MakeForm<frmGasData>, 405},
     {"frmObxPrintCalc", MakeForm<frmObxPrintCalc>, 417},
