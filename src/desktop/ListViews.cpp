@@ -12,6 +12,7 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -155,6 +156,15 @@ PlainRows* MakePlainRows(QWidget* parent) {
     return view;
 }
 
+// With some room around the words.
+class RoomyRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(8, 4);
+    }
+};
+
 // Rows in columns under their heads.
 class TableRows : public RowList<QTreeView> {
 public:
@@ -162,6 +172,7 @@ public:
         setRootIsDecorated(false);
         setItemsExpandable(false);
         setUniformRowHeights(true);
+        setItemDelegate(new RoomyRows(this));
         setAllColumnsShowFocus(true);
         header()->setSectionsMovable(false);
         header()->setStretchLastSection(false);

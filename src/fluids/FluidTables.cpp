@@ -127,6 +127,11 @@ FluidConstants FluidConstantsOf(std::string_view row, bool isGas) {
             .CritPressure = number(isGas ? 11 : 10)};
 }
 
+const char* FluidKindOf(int fluidClass) {
+    if (fluidClass == fluidclass::Organic) return "Organic";
+    return fluidClass == fluidclass::Water ? "Water" : "Other";
+}
+
 int FluidClassOf(std::string_view text) {
     const double number = Val(text);
     return number == fluidclass::Organic || number == fluidclass::Water ? static_cast<int>(number)

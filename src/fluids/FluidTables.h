@@ -16,6 +16,8 @@ std::string_view FluidRowName(std::string_view row);
 
 // The class that the text of a row stands for; what is neither organic nor water is inorganic.
 int FluidClassOf(std::string_view text);
+// In a word.
+const char* FluidKindOf(int fluidClass);
 
 // What tells a fluid from others, as its row has it: degF and psia. The gravity is that of a liquid at 60
 // degF to water, of a gas to air.

@@ -6,7 +6,6 @@
 #include <numeric>
 
 #include "core/CalcRecord.h"
-#include "core/Programs.h"
 #include "fluids/FluidTables.h"
 #include "platform/KeyOrder.h"
 #include "platform/NumberText.h"
@@ -16,11 +15,6 @@
 namespace quillmetra {
 
 namespace {
-
-const char* KindOf(int fluidClass) {
-    if (fluidClass == fluidclass::Organic) return "Organic";
-    return fluidClass == fluidclass::Water ? "Water" : "Other";
-}
 
 std::string Shown(double value) { return std::isfinite(value) ? TrimmedStr(RoundedFour(value)) : ""; }
 
@@ -50,7 +44,7 @@ void FluidRows::TakeLine(const std::string& row) {
     for (std::size_t i = FirstNumber; i < Columns; ++i) line.Cells[i] = Shown(line.Numbers[i]);
     line.Cells[Weight] = TrimmedStr(RoundedSix(fluid.MolecularWeight));
     line.Cells[Name] = FluidRowName(row);
-    line.Cells[Kind] = KindOf(fluid.Class);
+    line.Cells[Kind] = FluidKindOf(fluid.Class);
     line.Letters = SmallLetters(line.Cells[Name]);
 }
 
@@ -62,7 +56,7 @@ void FluidRows::ShowHeads() {
               isGas_ ? "Gravity, air = 1" : "Gravity, 60 degF",
               "Boiling point, " + temperature,
               "Critical temp., " + temperature,
-              "Critical pressure, " + Calc.UnitName[unit::CritPressure]};
+              "Critical press., " + Calc.UnitName[unit::CritPressure]};
     if (column_ < Columns) heads_[static_cast<std::size_t>(column_)] += falling_ ? " \u25BC" : " \u25B2";
 }
 

@@ -2,8 +2,10 @@
 #include "forms/ListTables.h"
 
 #include <numeric>
+#include <utility>
 #include <vector>
 
+#include "fluids/FluidTables.h"
 #include "platform/NumberText.h"
 #include "tables/TableFiles.h"
 
@@ -14,10 +16,12 @@ namespace {
 constexpr int LiquidColumns[] = {1, 2, 3, 4, 11, 5, 10, 6, 7, 8, 9, 14, 15, 16, 12, 13, 17};
 constexpr int GasColumns[] = {1, 2, 5, 4, 6, 11, 3, 7, 8, 9, 10, 12, 13, 14, 15};
 
-// A name and a schedule are words, all else is numbers.
+constexpr int KindColumn = 2;
+
+// Names, kinds and schedules are words, all else is numbers.
 bool IsNumber(const TableDescription& table, int column) {
-    return column > 1 ? table.Columns[static_cast<std::size_t>(column - 1)].Name != "Schedule"
-                      : &table == &table::Pipe;
+    if (&table == &table::Pipe) return column != 2;
+    return column > (&table == &table::Modulus ? 1 : KindColumn);
 }
 
 std::string HeadOf(const TableDescription& table, int column, const std::string& lengthUnit) {
@@ -51,6 +55,12 @@ void ShowAsTable(ListBox& list, const TableDescription& table, std::span<const i
 
 void ShowAsFluids(ListBox& list, bool isGas) {
     isGas ? ShowAsTable(list, table::Gas, GasColumns) : ShowAsTable(list, table::Liquid, LiquidColumns);
+    list.CellsOf = [cellsOf = std::move(list.CellsOf)](const std::string& row) {
+        std::vector<std::string> cells = cellsOf(row);
+        std::string& kind = cells[KindColumn - 1];
+        if (!kind.empty()) kind = FluidKindOf(FluidClassOf(kind));
+        return cells;
+    };
 }
 
 }  // namespace quillmetra

@@ -19,14 +19,14 @@ Node Components() {
         rows.push_back({Item("lblComponent", i).Wide(24).Collapsing(),
                         Item("txtPercent", i).Wide(8).Collapsing(), Item("cmdRemove", i)});
     }
-    return Frame("fraComponent", Column({"lblNone", layout::Table(std::move(rows)), Stretch(),
-                                         Row({"lblRemainingCaption", "lblRemaining", Stretch()}),
+    return Frame("fraComponent", Column({Item("lblNone").Collapsing(), layout::Table(std::move(rows)),
+                                         Stretch(), Row({"lblRemainingCaption", "lblRemaining", Stretch()}),
                                          Item("lblNote").Wrapped(), Buttons({"cmdClear"})}));
 }
 
 Node Steam() {
     return Frame("fraSteam",
-                 Column({"optSaturated", "optSuperheated", Item("lblSteam").Wrapped().Wide(60), Stretch()}))
+                 Column({"optSaturated", "optSuperheated", Item("lblSteam").Wrapped(), Stretch()}))
         .Grow();
 }
 
