@@ -99,6 +99,15 @@ private:
     int columns_ = 0;
 };
 
+class GridTable : public QTableView {
+public:
+    using QTableView::QTableView;
+    QSize sizeHint() const override {
+        const QSize first = property(FirstSize).toSize();
+        return first.isValid() ? first : QTableView::sizeHint();
+    }
+};
+
 class GridView : public ControlView {
 public:
     GridView(Grid& grid, QTableView* table)
@@ -276,6 +285,6 @@ private:
 
 }  // namespace
 
-ControlView* MakeGridView(Grid& grid, QWidget* parent) { return new GridView(grid, new QTableView(parent)); }
+ControlView* MakeGridView(Grid& grid, QWidget* parent) { return new GridView(grid, new GridTable(parent)); }
 
 }  // namespace quillmetra

@@ -111,8 +111,8 @@ public:
     RowKeys Keys;
 
     QSize sizeHint() const override {
-        const QSize first = property(FirstSize).toSize();
-        return first.isValid() ? first : QListView::sizeHint();
+        const QSize first = this->property(FirstSize).toSize();
+        return first.isValid() ? first : View::sizeHint();
     }
 
     void keyboardSearch(const QString& letters) override {

@@ -7,7 +7,8 @@ namespace {
 
 Node Table() {
     return Frame("fraTable", Column({Row({"lblFilter", Item("txtFilter").Wide(30), Stretch(), "lblShown"}),
-                                     Item("grdFluids").Wide(62).Tall(18).Grow(), Row({Stretch(), "cmdAdd"})}))
+                                     Item("grdFluids").Wide(116).Tall(19).Least(46, 6).Grow(),
+                                     Row({Stretch(), "cmdAdd"})}))
         .Grow();
 }
 
@@ -32,7 +33,7 @@ Node Steam() {
 
 Node Cases() {
     std::vector<std::vector<Node>> rows;
-    for (int i = 0; i < 3; ++i) rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(104), Stretch()});
+    for (int i = 0; i < 3; ++i) rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(30), Stretch()});
     return Frame("fraCases", layout::Table(std::move(rows)));
 }
 
