@@ -23,6 +23,7 @@ constexpr std::size_t LongestFilter = 60;
 
 frmFluid::frmFluid() : SuiteForm("frmFluid") {
     SetCaption("Fluid");
+    FitsFrames = true;
     DefaultButton = &cmdOK;
     CancelButton = &cmdCancel;
     for (OptionButton* tab : {&optPure, &optMixture, &optSteam}) tab->IsTab = true;
