@@ -94,8 +94,10 @@ click cmdSearch
 pick lstPipeSize "  8,40,"
 click cmdOK
 expect txtInletPipeID 7.981
+expect txtPipeName 8 in sch 40
 click mnuUndo
 expect txtInletPipeID 6.065
+expect txtPipeName ""
 
 # --- Units -----------------------------------------------------------------------------------------------------
 click cmdUnits(25)
@@ -115,6 +117,10 @@ expect txtInletPipeLen 650
 click mnuRedo
 expect cmdUnits(25) m
 expect txtInletPipeLen 198.11
+click mnuUndo
+answer Yes
+pick cmdUnits(25) m
+expect-message Round converted data?
 click mnuUndo
 click cmdCalculate(0)
 expect txtInletPipeLen 650
