@@ -71,7 +71,8 @@ void CaseMessages::TellOnce() const {
 void CaseMessages::TellLines(const std::vector<Message>& messages) const {
     std::string lines;
     for (const auto& [name, text] : messages) {
-        lines += (lines.empty() ? "" : "\n") + name + ": " + text;
+        if (!lines.empty()) lines += '\n';
+        lines.append(name).append(": ").append(text);
     }
     if (!lines.empty()) Tell(lines, title_, Icon::Information);
 }

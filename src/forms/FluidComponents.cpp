@@ -76,6 +76,7 @@ void FluidComponents::Take(const std::vector<FluidPart>& parts) {
 
 std::vector<FluidPart> FluidComponents::Parts() const {
     std::vector<FluidPart> parts;
+    parts.reserve(rows_.size());
     for (int i = 0; i < Count(); ++i) {
         parts.push_back({rows_[static_cast<std::size_t>(i)], Val(txtPercent(i).Text())});
     }

@@ -32,8 +32,11 @@ Node Steam() {
 }
 
 Node Cases() {
+    constexpr int most = 3;
     std::vector<std::vector<Node>> rows;
-    for (int i = 0; i < 3; ++i) rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(30), Stretch()});
+    rows.reserve(most);
+    for (int i = 0; i < most; ++i)
+        rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(30), Stretch()});
     return Frame("fraCases", layout::Table(std::move(rows)));
 }
 
