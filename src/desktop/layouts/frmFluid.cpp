@@ -36,7 +36,7 @@ Node Cases() {
     std::vector<std::vector<Node>> rows;
     rows.reserve(most);
     for (int i = 0; i < most; ++i)
-        rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(30), Stretch()});
+        rows.push_back({Item("chkCase", i), Item("lblLack", i).Wide(30).Collapsing(), Stretch()});
     return Frame("fraCases", layout::Table(std::move(rows)));
 }
 
