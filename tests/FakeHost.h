@@ -84,6 +84,7 @@ public:
     }
     void ShowHelp(int topic) override { HelpTopics.push_back(topic); }
     void CopyText(const std::string& text) override { Copied = text; }
+    std::string CopiedText() override { return Copied; }
     void SetBusyPointer(bool) override {}
     bool Yield() override { return EscapePressed; }
     void ServeUser() override {

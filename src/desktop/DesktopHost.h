@@ -37,6 +37,7 @@ public:
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
     void CopyText(const std::string& text) override;
+    std::string CopiedText() override;
     void SetBusyPointer(bool busy) override;
     bool Yield() override;
     void ServeUser() override;

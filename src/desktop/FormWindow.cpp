@@ -275,7 +275,9 @@ void FormWindow::FollowFocus() {
     if (view != nullptr && view->Widget() != nullptr && view->Widget()->isEnabled() && current->Seen()) {
         target = view->KeyTarget();
     }
-    if (focusWidget() != target) {
+    // The editor of a cell is a part of its grid.
+    const bool isWithin = focusWidget() != nullptr && target != pane_ && target->isAncestorOf(focusWidget());
+    if (focusWidget() != target && !isWithin) {
         // The toolkit does this in the active window only.
         if (auto* const left = qobject_cast<QLineEdit*>(focusWidget())) left->deselect();
         target->setFocus(Qt::OtherFocusReason);

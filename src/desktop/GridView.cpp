@@ -10,9 +10,11 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QTableView>
 
+#include "desktop/CellEditing.h"
 #include "desktop/ControlView.h"
 #include "desktop/Painting.h"
 
@@ -28,17 +30,30 @@ public:
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
     int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : columns_; }
 
+    Qt::ItemFlags flags(const QModelIndex& index) const override {
+        const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+        return grid_.CellTyped ? flags | Qt::ItemIsEditable : flags;
+    }
+
     QVariant data(const QModelIndex& index, int role) const override {
         // The view copies the cell in hand, of which there may be none.
         if (!index.isValid()) return {};
         if (role == Qt::TextAlignmentRole) return SideOf(index.column());
-        if (role != Qt::DisplayRole) return {};
+        if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+        const QString text = TextOf(index);
+        return role == Qt::EditRole ? text.trimmed() : text;
+    }
+
+    QString TextOf(const QModelIndex& index) const {
         return ToQt(grid_.Cell(index.row() + grid_.FixedRows, index.column() + grid_.FixedColumns));
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         const bool lies = orientation == Qt::Horizontal;
         if (role == Qt::TextAlignmentRole && lies) return SideOf(section);
+        const std::size_t head =
+            static_cast<std::size_t>(section) + static_cast<std::size_t>(grid_.FixedColumns);
+        if (lies && head < grid_.Heads().size()) return HeadOf(grid_.Heads()[head], role);
         if (role != Qt::DisplayRole) return {};
         if (lies) {
             return grid_.FixedRows == 0 ? QVariant() : ToQt(grid_.Cell(0, section + grid_.FixedColumns));
@@ -73,6 +88,23 @@ private:
         if (std::find(numbers.begin(), numbers.end(), column + grid_.FixedColumns) == numbers.end())
             return {};
         return static_cast<int>(Qt::AlignRight) | static_cast<int>(Qt::AlignVCenter);
+    }
+
+    // In lines of a few words, so that the column is no wider than its numbers need.
+    static QVariant HeadOf(const Grid::Head& head, int role) {
+        constexpr qsizetype wide = 12;
+        if (role == Qt::ToolTipRole) return ToQt(head.Tip);
+        if (role != Qt::DisplayRole) return {};
+        QString lines, line;
+        for (const QString& word : ToQt(head.Text).split(QLatin1Char(' '))) {
+            if (!line.isEmpty() && line.size() + 1 + word.size() > wide) {
+                lines += line + QLatin1Char('\n');
+                line.clear();
+            }
+            line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + word;
+        }
+        lines += line;
+        return head.Unit.empty() ? lines : lines + QLatin1Char('\n') + ToQt(head.Unit);
     }
 
     void SetSize(int rows, int columns) {
@@ -126,10 +158,12 @@ public:
         // All rows of one height, so that none has to be measured.
         table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
         table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+        table_->viewport()->installEventFilter(this);
         if (grid.IsList) {
             BeAList();
             return;
         }
+        if (grid.CellTyped) EditCells();
         // Later, as the grid first takes the focus of the mouse, which its click may pass on.
         connect(table_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
             Later([this, place = QPersistentModelIndex(cell)] { Chosen(place); });
@@ -142,13 +176,16 @@ public:
 
     void Forget() override {
         renewing_ = true;
+        if (editing_ != nullptr) editing_->Forget();
         cells_->Empty();
         ControlView::Forget();
     }
 
     // While the mouse is down the user is still choosing rows.
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == viewport_ && event->type() == QEvent::MouseButtonRelease) PassPicksLater();
+        if (event->type() == QEvent::MouseButtonRelease) {
+            grid_.IsList ? PassPicksLater() : PassRangeLater(watched != viewport_ || IsRight(*event));
+        }
         if (watched == viewport_ && event->type() == QEvent::ContextMenu && Model() != nullptr) {
             ShowPopUp(static_cast<QContextMenuEvent*>(event)->globalPos());
             return true;
@@ -164,6 +201,10 @@ protected:
     void RenewRows() override {
         renewing_ = true;
         if (cells_->Renew()) FitColumns();
+        for (int row = grid_.CellTyped ? cells_->rowCount({}) - 1 : -1; row >= 0; --row) {
+            const bool hidden = grid_.IsHidden(row + grid_.FixedRows);
+            if (hidden != table_->isRowHidden(row)) table_->setRowHidden(row, hidden);
+        }
         renewing_ = false;
         RenewSelection();
     }
@@ -171,12 +212,17 @@ protected:
     void RenewSelection() override {
         const QModelIndex cell =
             cells_->index(grid_.Selected() - grid_.FixedRows, grid_.SelectedColumn() - grid_.FixedColumns);
-        if (cell == table_->currentIndex() && (!grid_.IsList || PickedRows() == grid_.Picked())) return;
+        if (cell == table_->currentIndex() && (!grid_.IsList || PickedRows() == grid_.Picked()) &&
+            (!grid_.CellTyped || SelectedCells() == RangeOfModel())) {
+            return;
+        }
         renewing_ = true;
         if (grid_.IsList) {
             table_->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
             table_->selectionModel()->select(PickedByModel(), QItemSelectionModel::ClearAndSelect);
             if (cell.isValid()) table_->scrollTo(cell);
+        } else if (grid_.CellTyped && cell.isValid()) {
+            ShowRange(cell);
         } else {
             table_->setCurrentIndex(cell);
         }
@@ -184,6 +230,71 @@ protected:
     }
 
 private:
+    static bool IsRight(const QEvent& event) {
+        return static_cast<const QMouseEvent&>(event).button() == Qt::RightButton;
+    }
+
+    // Cells are edited in place and selected in ranges, rows by their numbers.
+    void EditCells() {
+        editing_ = new CellDelegate(
+            grid_, [this](const Handler& act) { Later(act); }, table_);
+        table_->setItemDelegate(editing_);
+        table_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+        table_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+        table_->verticalHeader()->viewport()->installEventFilter(this);
+        editing_->Open = [this] { OpenEditor(table_->currentIndex()); };
+        connect(table_, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) {
+            Later([this, place = QPersistentModelIndex(cell)] { OpenEditor(place); });
+        });
+        connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            if (!renewing_ && QApplication::mouseButtons() == Qt::NoButton) PassRangeLater(true);
+        });
+    }
+
+    void OpenEditor(const QModelIndex& cell) {
+        if (Model() == nullptr || !cell.isValid()) return;
+        MoveFocus(grid_);
+        table_->setFocus();
+        table_->setCurrentIndex(cell);
+        table_->edit(cell);
+    }
+
+    // The next range of the keys with Shift begins where this one does.
+    void ShowRange(const QModelIndex& cell) {
+        const CellRange range = grid_.Range();
+        const int row = range.Top == grid_.Selected() ? range.Bottom : range.Top;
+        const int column = range.Left == grid_.SelectedColumn() ? range.Right : range.Left;
+        table_->setCurrentIndex(cells_->index(row - grid_.FixedRows, column - grid_.FixedColumns));
+        table_->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+        table_->selectionModel()->select(RangeOfModel(), QItemSelectionModel::ClearAndSelect);
+        table_->scrollTo(cell);
+    }
+
+    QItemSelection SelectedCells() const { return table_->selectionModel()->selection(); }
+
+    QItemSelection RangeOfModel() const {
+        const CellRange range = grid_.Range();
+        return {cells_->index(range.Top - grid_.FixedRows, range.Left - grid_.FixedColumns),
+                cells_->index(range.Bottom - grid_.FixedRows, range.Right - grid_.FixedColumns)};
+    }
+
+    // A single cell that was clicked is told by its click.
+    void PassRangeLater(bool alsoOne) {
+        if (!grid_.CellTyped) return;
+        Later([this, alsoOne] {
+            const QModelIndex cell = table_->currentIndex();
+            const QItemSelection cells = SelectedCells();
+            if (Model() == nullptr || renewing_ || !cell.isValid() || cells.isEmpty()) return;
+            const QItemSelectionRange& range = cells.first();
+            const bool isOne = range.width() == 1 && range.height() == 1;
+            if ((isOne && !alsoOne) || cells == RangeOfModel() || editing_->IsOpen()) return;
+            const int row = cell.row() == range.top() ? range.bottom() : range.top();
+            const int column = cell.column() == range.left() ? range.right() : range.left();
+            PickRange(grid_, row + grid_.FixedRows, column + grid_.FixedColumns, cell.row() + grid_.FixedRows,
+                      cell.column() + grid_.FixedColumns);
+        });
+    }
+
     void BeAList() {
         table_->setSelectionBehavior(QAbstractItemView::SelectRows);
         table_->setShowGrid(false);
@@ -192,7 +303,6 @@ private:
         table_->horizontalHeader()->setSectionsClickable(true);
         table_->horizontalHeader()->setHighlightSections(false);
         table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        table_->viewport()->installEventFilter(this);
         connect(table_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
             Later([this, section] {
                 if (Model() != nullptr) PickCell(grid_, 0, section + grid_.FixedColumns);
@@ -264,20 +374,21 @@ private:
 
     // By the arrow keys; a press of the mouse is told when it is a click.
     void Reached(const QModelIndex& cell) {
-        if (Model() == nullptr || renewing_ || !cell.isValid() ||
+        if (Model() == nullptr || renewing_ || !cell.isValid() || grid_.CellTyped ||
             QApplication::mouseButtons() != Qt::NoButton)
             return;
         MoveToCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
     }
 
     void Chosen(const QModelIndex& cell) {
-        if (Model() == nullptr) return;
+        if (Model() == nullptr || (editing_ != nullptr && editing_->IsOpen())) return;
         PickCell(grid_, cell.row() + grid_.FixedRows, cell.column() + grid_.FixedColumns);
     }
 
     Grid& grid_;
     QTableView* table_;
     CellsModel* cells_;
+    CellDelegate* editing_ = nullptr;
     const QObject* viewport_;  // also asked for while the view is being destroyed
     bool passing_ = false;
     bool renewing_ = false;  // the view follows the model, not the user

@@ -168,6 +168,8 @@ std::optional<unsigned> DesktopHost::ColourDialog(unsigned preset, const std::st
 
 void DesktopHost::CopyText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
 
+std::string DesktopHost::CopiedText() { return QGuiApplication::clipboard()->text().toStdString(); }
+
 // The topics as shipped; without them, a help file that an office put into the program's folder.
 void DesktopHost::ShowHelp(int topic) {
     if (help_ == nullptr) {

@@ -87,21 +87,25 @@ frmTables::frmTables() : SuiteForm("frmTables") {
         box.ColourGroup = 2;
         box.Describe(&lblColumn(index));
         box.Change = [this] { txtHole_Change(); };
-        box.KeyPress = [this, index](Key& key) { txtHole_KeyPress(index, key); };
+        box.KeyPress = [this, index](Key& key) {
+            txtHole_KeyPress(index, key);
+            TakeStep();
+        };
         box.GotFocus = [this, index] { txtHole_GotFocus(index); };
         box.LostFocus = [this] { txtHole_LostFocus(); };
     });
     cmdRecall.SetToolTip("From the table into the boxes: the row of that number");
     cmdLoadRow.SetToolTip("From the boxes into the table: over the row of that number");
-    cmdRecall.Click = [this] { cmdRecall_Click(); };
-    cmdLoadRow.Click = [this] { cmdLoadRow_Click(); };
-    cmdClear.Click = [this] { cmdClear_Click(); };
-    cmdInsertRow.Click = [this] { cmdInsertRow_Click(); };
-    cmdDeleteRow.Click = [this] { cmdDeleteRow_Click(); };
-    cmdSaveGrid.Click = [this] { cmdSaveGrid_Click(); };
+    cmdRecall.Click = Step(&frmTables::cmdRecall_Click);
+    cmdLoadRow.Click = Step(&frmTables::cmdLoadRow_Click);
+    cmdClear.Click = Step(&frmTables::cmdClear_Click);
+    cmdInsertRow.Click = Step(&frmTables::cmdInsertRow_Click);
+    cmdDeleteRow.Click = Step(&frmTables::cmdDeleteRow_Click);
+    cmdSaveGrid.Click = Step(&frmTables::cmdSaveGrid_Click);
     cmdReloadGrid.Click = [this] { cmdReloadGrid_Click(); };
     cmdCancelGrid.Click = [this] { cmdCancelGrid_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
+    HookCells();
 }
 
 void frmTables::Load() {
@@ -130,6 +134,7 @@ void frmTables::ShowHeadings() {
         lblColumn(index).SetVisible(exists);
         if (exists) lblColumn(index).SetCaption(std::string(columns[column].Name));
     });
+    grdTable.SetHeads(Heads());
 }
 
 // Without a table there is nothing to do but to try again or to leave.
@@ -138,6 +143,7 @@ void frmTables::EnableWork(bool works) {
          {&cmdRecall, &cmdLoadRow, &cmdClear, &cmdInsertRow, &cmdDeleteRow, &cmdSaveGrid}) {
         button->SetEnabled(works);
     }
+    mnuEdit.SetEnabled(works);
 }
 
 // Reads the file into the grid; false, with a message and the grid as it was, when it cannot be read.
@@ -168,6 +174,9 @@ void frmTables::ShowTable(const TableSheet& sheet) {
     RowEdited.clear();
     FileEdited.clear();
     GridChanged.clear();
+    history_.Forget();
+    ApplyFilter();
+    TakeStep();
 }
 
 int frmTables::TypedRow() const {
@@ -265,6 +274,7 @@ void frmTables::txtHole_Change() {
     if (copying_) return;
     RowEdited = words::Yes;
     FileEdited = words::Yes;
+    mnuUndo.SetEnabled(true);
     SetStatus(WarningOfRow(FieldsOf(CellsOfBoxes())));
 }
 
@@ -410,6 +420,8 @@ bool frmTables::Save(Answer preset) {
     lost_.clear();
     FileEdited.clear();
     GridChanged.clear();
+    TakeStep();
+    history_.MarkSaved();
     SetStatus("Saved as " + TableFile + RowsLeftOut());
     return true;
 }

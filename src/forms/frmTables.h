@@ -4,6 +4,8 @@
 //
 // The row in hand is the one that a pending edit goes to. Before a row is clicked or recalled it is the next
 // free one, so that what is typed into the empty boxes becomes a new row.
+//
+// The cells are edited in the grid too, one by one or in ranges: TableCells.cpp.
 #pragma once
 
 #include <optional>
@@ -11,6 +13,7 @@
 #include <vector>
 
 #include "forms/SuiteForm.h"
+#include "forms/TableHistory.h"
 #include "tables/TableSheet.h"
 
 namespace quillmetra {
@@ -26,7 +29,22 @@ public:
     void Load() override;
     void CloseBox() override { cmdCancelGrid_Click(); }
 
+    MenuItem mnuEdit{*this, "mnuEdit", "Edi&t"};
+    MenuItem mnuUndo{mnuEdit, "mnuUndo", "&Undo"};
+    MenuItem mnuRedo{mnuEdit, "mnuRedo", "&Redo"};
+    MenuItem mnuCut{mnuEdit, "mnuCut", "Cu&t"};
+    MenuItem mnuCopy{mnuEdit, "mnuCopy", "&Copy"};
+    MenuItem mnuPaste{mnuEdit, "mnuPaste", "&Paste"};
+    MenuItem mnuEmpty{mnuEdit, "mnuEmpty", "&Empty cells"};
+    MenuItem mnuPasteRows{mnuEdit, "mnuPasteRows", "Paste as &new rows"};
+    MenuItem mnuInsertRows{mnuEdit, "mnuInsertRows", "&Insert empty rows"};
+    MenuItem mnuDeleteRows{mnuEdit, "mnuDeleteRows", "&Delete rows"};
+    MenuItem mnuFilter{mnuEdit, "mnuFilter", "&Filter"};
+
     Label lblHeading{*this, "lblHeading"};
+    Label lblFilter{*this, "lblFilter", "&Quick filter"};
+    TextBox txtFilter{*this, "txtFilter"};
+    Label lblShown{*this, "lblShown"};
     Grid grdTable{*this, "grdTable"};
 
     // One box a column of the table; those that it does not have are hidden.
@@ -68,6 +86,16 @@ public:
     void cmdReloadGrid_Click();
     void cmdCancelGrid_Click();
     void cmdCancel_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
+    void mnuCopy_Click() const;
+    void mnuPaste_Click();
+    void mnuEmpty_Click();
+    void mnuPasteRows_Click();
+    void mnuInsertRows_Click();
+    void mnuDeleteRows_Click();
+    void txtFilter_KeyPress(Key& key);
+    void grdTable_KeyPress(Key& key);
 
     // False before a table has been read.
     bool HasTable() const { return !TableFile.empty(); }
@@ -86,6 +114,28 @@ private:
     void ShowTable(const TableSheet& sheet);
     void ShowHeadings();
     void EnableWork(bool works);
+    void HookCells();
+    std::vector<Grid::Head> Heads() const;
+    // An act that may change the grid, as a step that can be undone.
+    Handler Step(void (frmTables::*act)());
+    void TakeStep();
+    void ShowStep(const CellRange& rows, const char* what);
+    void TakeBackBoxes();
+
+    // The range of the grid, without its heading; nothing selected is the first row that shows.
+    CellRange CellsInHand() const;
+    std::vector<int> ShownRows(int first, int last) const;
+    void TypeCell(int row, int column, const std::string& text);
+    // Where as many rows may be put in: before a row, in the table of materials after all, on Yes.
+    std::optional<int> PlaceForRows(int row);
+    void PutIn(int row, std::vector<Grid::Cells> rows);
+    void PasteOver(const std::vector<Grid::Cells>& copied);
+    bool AddPasted(const std::vector<Grid::Cells>& copied, const CellRange& range);
+    // What the grid has there now goes to the boxes too, unless they hold an edit of their own.
+    void RenewBoxes(int row);
+    // The state of the table, after a change of these rows.
+    void TellRows(int first, int count, const std::string& done);
+    void ApplyFilter();
 
     int RowCount() const { return grdTable.RowCount(); }
     // The typed row number: text and negative numbers are 0, a fraction goes to the even neighbour.
@@ -114,6 +164,7 @@ private:
     const TableDescription* table_ = nullptr;
     std::vector<LostLine> lost_;
     bool copying_ = false;  // boxes are filled by the form and not by the user
+    TableHistory history_{grdTable};
 };
 
 }  // namespace quillmetra

@@ -2,6 +2,7 @@
 #include "platform/Controls.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "platform/Form.h"
 #include "platform/Forms.h"
@@ -236,6 +237,8 @@ void Grid::SetRows(std::vector<Cells> rows, int columns) {
     source_ = nullptr;
     columns_ = std::max(columns, 0);
     cells_ = std::move(rows);
+    hidden_.clear();
+    Draft.reset();
     MendRows(0);
     selected_ = -1;
     selectedColumn_ = 0;
@@ -251,19 +254,49 @@ void Grid::SetRow(int row, Cells cells) {
 
 void Grid::InsertRow(int row, Cells cells) {
     if (row < 0 || row > RowCount()) throw failure::SubscriptOutOfRange();
-    cells_.insert(cells_.begin() + row, std::move(cells));
-    MendRows(row);
     if (selected_ >= row) ++selected_;
-    Notify(Aspect::Rows);
+    std::vector<Cells> rows;
+    rows.push_back(std::move(cells));
+    ReplaceRows(row, 0, std::move(rows));
 }
 
 void Grid::RemoveRow(int row) {
     if (row < 0 || row >= RowCount()) throw failure::SubscriptOutOfRange();
-    cells_.erase(cells_.begin() + row);
-    MendRows(row);
     if (selected_ > row) --selected_;
+    ReplaceRows(row, 1, {});
+}
+
+void Grid::ReplaceRows(int first, int count, std::vector<Cells> rows) {
+    if (first < 0 || count < 0 || first + count > RowCount()) throw failure::SubscriptOutOfRange();
+    hidden_.resize(cells_.size());
+    const auto place = cells_.erase(cells_.begin() + first, cells_.begin() + first + count);
+    const auto flags = hidden_.erase(hidden_.begin() + first, hidden_.begin() + first + count);
+    hidden_.insert(flags, rows.size(), false);
+    cells_.insert(place, std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+    MendRows(first);
     KeepSelectionInside();
     Notify(Aspect::Rows);
+}
+
+void Grid::SetHeads(std::vector<Head> heads) {
+    heads_ = std::move(heads);
+    Notify(Aspect::Rows);
+}
+
+void Grid::Hide(std::vector<bool> rows) {
+    hidden_ = std::move(rows);
+    Notify(Aspect::Rows);
+}
+
+bool Grid::IsHidden(int row) const {
+    const auto place = static_cast<std::size_t>(row);
+    return row >= 0 && place < hidden_.size() && hidden_[place];
+}
+
+void Grid::TakeDraft() {
+    if (!Draft) return;
+    const CellText typed = *std::exchange(Draft, std::nullopt);
+    if (CellTyped && typed.Row < RowCount()) CellTyped(typed.Row, typed.Column, typed.Text);
 }
 
 void Grid::MendRows(int from) {
@@ -295,11 +328,28 @@ void Grid::Select(int row, int column) {
 
 void Grid::Preselect(int row, int column) {
     text_ = Cell(row, column);
-    selected_ = row;
-    selectedColumn_ = column;
+    selected_ = rangeRow_ = row;
+    selectedColumn_ = rangeColumn_ = column;
     picked_.clear();
     if (IsList && row >= FixedRows) picked_.push_back(row);
     Notify(Aspect::Selection);
+}
+
+void Grid::PickRange(int fromRow, int fromColumn, int row, int column) {
+    text_ = Cell(row, column);
+    selected_ = row;
+    selectedColumn_ = column;
+    rangeRow_ = std::clamp(fromRow, 0, RowCount() - 1);
+    rangeColumn_ = std::clamp(fromColumn, 0, columns_ - 1);
+    Notify(Aspect::Selection);
+}
+
+CellRange Grid::Range() const {
+    if (selected_ < 0) return {};
+    const int row = rangeRow_ < 0 ? selected_ : std::min(rangeRow_, RowCount() - 1);
+    const auto [top, bottom] = std::minmax({row, selected_});
+    const auto [left, right] = std::minmax({rangeColumn_, selectedColumn_});
+    return {.Top = top, .Left = left, .Bottom = bottom, .Right = right};
 }
 
 void Grid::Deselect() {

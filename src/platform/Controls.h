@@ -298,6 +298,11 @@ private:
     int total_ = 0;
 };
 
+// Cells from corner to corner, both included.
+struct CellRange {
+    int Top = -1, Left = 0, Bottom = -1, Right = 0;
+};
+
 // Rows and columns of text with a row in hand.
 class Grid : public Control {
 public:
@@ -322,6 +327,30 @@ public:
     void SetRow(int row, Cells cells);
     void InsertRow(int row, Cells cells);
     void RemoveRow(int row);
+    // Puts rows in the place of some, which may be more or fewer or none.
+    void ReplaceRows(int first, int count, std::vector<Cells> rows);
+    const std::vector<Cells>& Rows() const { return cells_; }
+
+    // Heads that say more than row 0 does, from column 0 on; none: row 0 is the heads.
+    struct Head {
+        std::string Text, Unit, Tip;
+    };
+    void SetHeads(std::vector<Head> heads);
+    const std::vector<Head>& Heads() const { return heads_; }
+
+    // Rows that do not show; they keep their numbers. Rows that are put in show.
+    void Hide(std::vector<bool> rows);
+    bool IsHidden(int row) const;
+
+    // Takes what the user has typed into a cell; null for cells that are not edited. Until it is taken the
+    // text is the Draft.
+    std::function<void(int row, int column, const std::string& text)> CellTyped;
+    struct CellText {
+        int Row, Column;
+        std::string Text;
+    };
+    std::optional<CellText> Draft;
+    void TakeDraft();
 
     int Selected() const { return selected_; }
     int SelectedColumn() const { return selectedColumn_; }
@@ -329,6 +358,10 @@ public:
     // As Select, without the event.
     void Preselect(int row, int column);
     void Deselect();
+
+    // From a cell to that in hand, which it becomes.
+    void PickRange(int fromRow, int fromColumn, int row, int column);
+    CellRange Range() const;
 
     // The rows selected together, in their order, and the one of them in hand; with Click.
     void PickRows(std::vector<int> rows, int row);
@@ -359,7 +392,11 @@ private:
     int columns_ = 0;
     int selected_ = -1;
     int selectedColumn_ = 0;
+    int rangeRow_ = -1;  // where the range begins that ends at the selected cell
+    int rangeColumn_ = 0;
     std::vector<int> picked_;
+    std::vector<bool> hidden_;  // may be shorter than the grid
+    std::vector<Head> heads_;
 };
 
 // Controls of one name told apart by their index. It holds the indices it was made with and no others: a

@@ -112,6 +112,8 @@ void ShowHelpTopic(int topic) { RequiredHost().ShowHelp(topic); }
 
 void CopyText(const std::string& text) { RequiredHost().CopyText(text); }
 
+std::string CopiedText() { return RequiredHost().CopiedText(); }
+
 bool UserWantsToStop() { return InstalledHost != nullptr && InstalledHost->Yield(); }
 
 std::optional<unsigned> AskColour(unsigned preset, const std::string& title) {

@@ -73,6 +73,8 @@ void ShowHelpTopic(int topic);
 
 // Puts a text where other programs paste from.
 void CopyText(const std::string& text);
+// What was copied last, here or by another program.
+std::string CopiedText();
 
 // Lets the host breathe within a long act; true when the user pressed Escape, or the cancel button of the
 // form, to end it.

@@ -47,6 +47,7 @@ public:
     virtual std::unique_ptr<Paper> OpenPaper(const PrintJob& job) = 0;
     virtual void ShowHelp(int topic) = 0;
     virtual void CopyText(const std::string& text) = 0;
+    virtual std::string CopiedText() = 0;
     virtual void SetBusyPointer(bool busy) = 0;
     // Lets the host breathe within a long act; true when the user pressed Escape or a cancel button.
     virtual bool Yield() = 0;

@@ -20,6 +20,9 @@ inline constexpr const char* PageUp = "PageUp";
 inline constexpr const char* PageDown = "PageDown";
 inline constexpr const char* Help = "F1";
 inline constexpr const char* CalculateAll = "F5";
+inline constexpr const char* Copy = "Ctrl+C";
+inline constexpr const char* Cut = "Ctrl+X";
+inline constexpr const char* Paste = "Ctrl+V";
 inline constexpr const char* Undo = "Ctrl+Z";
 inline constexpr const char* Redo = "Ctrl+Y";
 

@@ -69,6 +69,13 @@ bool EnterBeside(Form& form, const Control& label) {
     return false;
 }
 
+// Copying and pasting in a box is the box's own, whatever entry has the same keys.
+bool IsOwnOfBox(const Control& control, const std::string& key) {
+    static constexpr const char* own[] = {keys::Copy, keys::Cut, keys::Paste};
+    const auto isKey = [&](const char* each) { return SameName(key, each); };
+    return control.Kind() == ControlKind::TextBox && std::any_of(std::begin(own), std::end(own), isKey);
+}
+
 bool PressShortcut(Form& form, const std::string& key) {
     const bool access = key.size() == 5 && key.starts_with(keys::Alt);
     for (Control* control : form.Controls()) {
@@ -284,6 +291,40 @@ bool PickRows(Grid& grid, const std::vector<int>& rows, int row) {
     return true;
 }
 
+namespace {
+bool IsCell(const Grid& grid, int row, int column) {
+    return row >= grid.FixedRows && row < grid.RowCount() && !grid.IsHidden(row) &&
+           column >= grid.FixedColumns && column < grid.ColumnCount();
+}
+}  // namespace
+
+bool PickRange(Grid& grid, int fromRow, int fromColumn, int row, int column) {
+    if (!CanAct(grid) || !IsCell(grid, fromRow, fromColumn) || !IsCell(grid, row, column)) return false;
+    grid.Owner().Dispatch([&] {
+        grid.Owner().Focus.UserMoves(grid);
+        if (CanAct(grid) && IsCell(grid, row, column)) grid.PickRange(fromRow, fromColumn, row, column);
+    });
+    return true;
+}
+
+bool TypeInCell(Grid& grid, int row, int column, const std::string& text) {
+    if (!grid.CellTyped || !CanAct(grid) || !IsCell(grid, row, column)) return false;
+    grid.Owner().Dispatch([&] {
+        grid.Owner().Focus.UserMoves(grid);
+        if (!CanAct(grid) || !IsCell(grid, row, column)) return;
+        if (grid.Draft && (grid.Draft->Row != row || grid.Draft->Column != column)) grid.TakeDraft();
+        if (row != grid.Selected() || column != grid.SelectedColumn()) grid.Preselect(row, column);
+        grid.Draft = {row, column, text};
+    });
+    return true;
+}
+
+bool EndCell(Grid& grid, bool take) {
+    if (!grid.Draft || !CanAct(grid)) return false;
+    grid.Owner().Dispatch([&] { take ? grid.TakeDraft() : grid.Draft.reset(); });
+    return true;
+}
+
 bool DropFile(Form& form, const std::string& file) {
     if (!form.FileDropped || !TakesInput(form)) return false;
     form.Dispatch([&] { form.FileDropped(file); });
@@ -302,6 +343,7 @@ bool PressKey(Control& control, const std::string& key) {
     const FormHold hold(control.Owner());
     if (OfferKey(control, key)) return true;
     if (!CanAct(control)) return false;
+    if (IsOwnOfBox(control, key)) return false;
     if (SameName(key, keys::Undo) && UndoTyping(control)) return true;
     return PressShortcut(control.Owner(), key) || PressPlainKey(control, key);
 }

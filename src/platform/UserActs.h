@@ -34,6 +34,12 @@ bool PickRows(Grid& grid, const std::vector<int>& rows, int row);
 // The cell in hand goes elsewhere by the arrow keys; Enter then picks it. In a list with columns the row is
 // picked.
 bool MoveToCell(Grid& grid, int row, int column);
+// Cells from one to another, which is then in hand.
+bool PickRange(Grid& grid, int fromRow, int fromColumn, int row, int column);
+// The text of a cell as it stands after one keystroke, or after all of them; and the end of the typing, which
+// takes it or leaves the cell as it was.
+bool TypeInCell(Grid& grid, int row, int column, const std::string& text);
+bool EndCell(Grid& grid, bool take);
 
 // The control's own KeyPress alone, for a host whose widgets edit by themselves. True when used up.
 bool OfferKey(Control& control, const std::string& key);

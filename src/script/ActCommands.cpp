@@ -172,11 +172,17 @@ void Unpick(ScriptPlayer& player, const Arguments& arguments) {
     UnpickRow(list, FindRow(list.FullName(), list.Rows(), arguments[1]));
 }
 
-void ClickRow(ScriptPlayer& player, const Arguments& arguments) {
-    Control& control = player.Named(arguments[0].Text);
+namespace {
+Grid& NamedGrid(ScriptPlayer& player, const std::string& name) {
+    Control& control = player.Named(name);
     if (control.Kind() != ControlKind::Grid) throw ScriptFailure{control.FullName() + " is no grid"};
     RequireAct(control);
-    auto& grid = static_cast<Grid&>(control);
+    return static_cast<Grid&>(control);
+}
+}  // namespace
+
+void ClickRow(ScriptPlayer& player, const Arguments& arguments) {
+    Grid& grid = NamedGrid(player, arguments[0].Text);
     const int row = WholeNumber(arguments[1]);
     const int column = arguments.size() > 2 ? WholeNumber(arguments[2])
                                             : std::min(grid.FixedColumns, grid.ColumnCount() - 1);
@@ -198,6 +204,22 @@ void ClickRows(ScriptPlayer& player, const Arguments& arguments) {
     if (!PickRows(static_cast<Grid&>(control), rows, last))
         throw ScriptFailure{control.FullName() + " has no such rows"};
 }
+
+void TypeCell(ScriptPlayer& player, const Arguments& arguments) {
+    Grid& grid = NamedGrid(player, arguments[0].Text);
+    if (!TypeInCell(grid, WholeNumber(arguments[1]), WholeNumber(arguments[2]), arguments[3].Text))
+        throw ScriptFailure{grid.FullName() + " has no such cell to type in"};
+    EndCell(grid, true);
+}
+
+void PickCells(ScriptPlayer& player, const Arguments& arguments) {
+    Grid& grid = NamedGrid(player, arguments[0].Text);
+    if (!PickRange(grid, WholeNumber(arguments[1]), WholeNumber(arguments[2]), WholeNumber(arguments[3]),
+                   WholeNumber(arguments[4])))
+        throw ScriptFailure{grid.FullName() + " has no such cells"};
+}
+
+void Copied(ScriptPlayer& player, const Arguments& arguments) { player.Host.Copied = arguments[0].Text; }
 
 void CloseForm(ScriptPlayer& player, const Arguments&) {
     Form& form = player.FormInHand();

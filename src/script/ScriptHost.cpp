@@ -152,6 +152,7 @@ std::unique_ptr<Paper> ScriptHost::OpenPaper(const PrintJob& job) {
 }
 
 void ScriptHost::CopyText(const std::string& text) {
+    Copied = text;
     if (closed_) return;
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) out_ << "copy | " << line << '\n';

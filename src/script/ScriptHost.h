@@ -68,6 +68,8 @@ public:
     std::unique_ptr<Paper> OpenPaper(const PrintJob& job) override;
     void ShowHelp(int topic) override;
     void CopyText(const std::string& text) override;
+    std::string CopiedText() override { return Copied; }
+    std::string Copied;
     void SetBusyPointer(bool) override {}
     bool Yield() override { return false; }
     void FormShown(Form& form) override;

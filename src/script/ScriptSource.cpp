@@ -49,10 +49,10 @@ std::string TakeQuoted(std::string_view& line) {
             continue;
         }
         const char escaped = ++i < line.size() ? line[i] : '\0';
-        if (escaped != '"' && escaped != '\\' && escaped != 'n') {
-            throw ScriptFailure{"after \\ in quotes comes one of \" \\ n"};
+        if (escaped != '"' && escaped != '\\' && escaped != 'n' && escaped != 't') {
+            throw ScriptFailure{"after \\ in quotes comes one of \" \\ n t"};
         }
-        text += escaped == 'n' ? '\n' : escaped;
+        text += escaped == 'n' ? '\n' : escaped == 't' ? '\t' : escaped;
     }
     throw ScriptFailure{"the closing quote is missing"};
 }

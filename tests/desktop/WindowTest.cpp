@@ -14,6 +14,7 @@
 #include "desktop/SchemePalette.h"
 #include "forms/ColourSchemes.h"
 #include "forms/ColourShades.h"
+#include "forms/frmTables.h"
 #include "forms/frmTRProg.h"
 #include "forms/WinSeek.h"
 #include "tests/desktop/DesktopFixture.h"
@@ -323,6 +324,38 @@ TEST_F(WindowTest, CombosAndGrids) {
     EXPECT_EQ(table.currentIndex().row(), 1);
     Sample->grdCells.SetSize(1, 1);
     EXPECT_EQ(table.model()->rowCount(), 0);
+}
+
+// By a double click, by Tab from the one before and by typing; Shift and the arrows select a range.
+TEST_F(WindowTest, ACellIsEditedInItsPlace) {
+    auto& form = static_cast<frmTables&>(Show("frmTables"));
+    const Grid& grid = form.grdTable;
+    auto& table = static_cast<QTableView&>(WidgetOf(grid));
+    const QPoint place = table.visualRect(table.model()->index(1, 2)).center();
+    const std::string former = grid.Cell(3, 4);
+    const auto type = [&](const char* text, Qt::Key key) {
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), key);
+        Settle();
+    };
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
+    Settle();
+    EXPECT_EQ(form.Focus.Current(), &form.txtHole(3)) << "a click goes on to the box";
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(table.viewport(), Qt::LeftButton, {}, place);
+    Settle();
+    type("18.5", Qt::Key_Tab);
+    type("0.9", Qt::Key_Return);
+    EXPECT_EQ(grid.Cell(2, 3) + " " + grid.Cell(2, 4), "18.5 0.9");
+    type("7", Qt::Key_Escape);
+    EXPECT_EQ(grid.Cell(3, 4), former);
+    QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
+    Settle();
+    EXPECT_EQ(grid.Range().Top * 10 + grid.Range().Bottom, 34);
+    for (const char* expected : {"18.5 0.9", "18.5 0.6281", "54.09 0.6281"}) {
+        EXPECT_EQ(grid.Cell(2, 3) + " " + grid.Cell(2, 4), expected);
+        ClickControl(form.mnuUndo);
+    }
 }
 
 // A list with columns: rows whole and several, a head told as row 0, the arrows choose, a menu at the right

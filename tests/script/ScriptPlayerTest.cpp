@@ -104,7 +104,7 @@ TEST_F(ProvingForms, EndsAtTheFirstFailure) {
         {"start\nclick cmdAsk now", "s:2: click: too much on the line: now"},
         {"start\ntype txtA \"open", "s:2: type: the closing quote is missing"},
         {"start\ntype txtA \"a\"b", "s:2: type: a blank is missing after the closing quote"},
-        {"start\ntype txtA \"\\t\"", "s:2: type: after \\ in quotes comes one of \" \\ n"},
+        {"start\ntype txtA \"\\x\"", "s:2: type: after \\ in quotes comes one of \" \\ n t"},
         {"start\nclick cmdOff", "s:2: click: cmdOff is disabled"},
         {"start\ntype txtHidden 1", "s:2: type: txtHidden is hidden"},
         {"start\ntype txtLocked 1", "s:2: type: txtLocked is locked"},

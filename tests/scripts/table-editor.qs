@@ -284,4 +284,118 @@ answer No
 click cmdCancelGrid
 expect-message "Save the new file?"
 expect-form frmObxProg
+
+# --- In the cells ----------------------------------------------------------------------------------------------
+click mnuGasTable
+expect lblShown "136 rows"
+expect-tip txtHole(3) "Critical volume, ft3/lb"
+cell grdTable 2 5 57
+expect-cell grdTable 2 5 57
+expect lblRowNum 2
+expect txtHole(5) 57
+expect-status ""
+cell grdTable 2 1 "A gas, no doubt"
+expect-status "Row 2: A comma ends a field: what follows it is the next column when the file is read again"
+click mnuUndo
+expect-status "Undone: row 2"
+key grdTable Ctrl+Z
+expect-cell grdTable 2 5 70.133
+expect-state mnuUndo disabled
+key grdTable Ctrl+Y
+expect-cell grdTable 2 5 57
+# An edit of the boxes is its own, and goes first.
+type txtHole(7) 61
+cell grdTable 3 5 58
+expect txtHole(7) 61
+expect lblRowNum 2
+click mnuUndo
+expect-status "Undone: what was typed into the boxes"
+expect txtHole(7) 60
+click mnuUndo
+click mnuUndo
+# Back at the file, leaving asks nothing.
+click cmdCancelGrid
+expect-form frmObxProg
+
+# --- Ranges and many rows --------------------------------------------------------------------------------------
+click mnuPipeSizes
+cells grdTable 2 1 3 2
+key grdTable Ctrl+C
+cells grdTable 5 1 5 1
+key grdTable Ctrl+V
+expect-status "2 rows pasted"
+expect-cell grdTable 5 2 42S
+expect-cell grdTable 6 2 80S
+expect-cell grdTable 5 3 0.291
+click mnuUndo
+expect-cell grdTable 5 2 30
+cells grdTable 422 1 422 1
+clipboard "7\t40\t7.023\t0.301\n7\t80\t6.625\t0.5\t0\n\"7\"\t\"120\"\n"
+click mnuPaste
+expect-status "3 rows pasted; what went beyond the last column is left out"
+expect-count grdTable 425
+expect-cell grdTable 423 3 6.625
+expect-cell grdTable 424 2 120
+click mnuUndo
+expect-count grdTable 423
+cells grdTable 3 1 5 1
+click mnuInsertRows
+expect-count grdTable 426
+expect-cell grdTable 3 1 ""
+expect-cell grdTable 6 2 80S
+click mnuPasteRows
+expect-count grdTable 429
+expect-cell grdTable 3 2 40
+# One cell fills a range; a range is emptied.
+clipboard STD
+cells grdTable 3 2 5 2
+key grdTable Ctrl+V
+expect-cell grdTable 5 2 STD
+key grdTable Delete
+expect-cell grdTable 5 2 ""
+expect-cell grdTable 5 3 ""
+cells grdTable 3 1 8 1
+answer No
+click mnuDeleteRows
+expect-box "Delete Row" "Delete rows 3 to 8 OK?" YesNo
+answer Yes
+click mnuDeleteRows
+expect-message "Delete rows"
+expect-count grdTable 423
+expect-cell grdTable 3 2 80S
+# The filter hides rows, which keep their numbers and are left alone.
+type txtFilter "xxs 0.8"
+expect lblShown "3 of 422 rows"
+key txtFilter Down
+expect-focus grdTable
+clipboard "1\n2\n3\n4\n5"
+click mnuPaste
+expect-status "There are more rows to paste than the filter shows: nothing was pasted"
+clipboard "x\ny"
+click mnuPaste
+expect-status "2 rows pasted"
+key txtFilter Escape
+expect lblShown "422 rows"
+click mnuUndo
+answer No
+click cmdCancelGrid
+expect-message "Save the new file?"
+
+# Materials keep their rows here too.
+click mnuMaterialTable
+cells grdTable 3 1 4 3
+answer OK
+click mnuDeleteRows
+expect-box "Data is filed under Row Number" "Rows cannot be deleted" OK
+answer No
+click mnuPasteRows
+expect-box "Data is filed under Row Number" "Rows can only be added at end.  OK?" YesNo
+answer Yes
+click mnuInsertRows
+expect-message "Rows can only be added at end.  OK?"
+expect-count grdTable 47
+click mnuUndo
+expect-count grdTable 45
+click cmdCancelGrid
+expect-form frmObxProg
 quit

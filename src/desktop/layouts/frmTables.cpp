@@ -25,8 +25,9 @@ Node Notes() {
 
 Node frmTables() {
     return Column(
-        {Panel("",
-               Column({"lblHeading", Row({Item("grdTable").Wide(110).Tall(14).Grow(), Reserve(29)}).Grow()}))
+        {Panel("", Column({Row({"lblHeading", Stretch(), "lblFilter", Item("txtFilter").Wide(24),
+                                Item("lblShown").Wide(14)}),
+                           Row({Item("grdTable").Wide(110).Tall(14).Grow(), Reserve(29)}).Grow()}))
              .Grow(),
          Panel("", Column({Strip(1, 8), Strip(9, 17)})), Notes(),
          Panel("", Row({"lblRecall", Item("txtRecall").Wide(8), "cmdRecall", "cmdLoadRow", "cmdInsertRow",
