@@ -47,10 +47,10 @@ void LineLossForm::Assemble() {
 // Tab follows the reading order of the data: what names the calculation, the line, then case by case
 // downwards, each with its calculate button, and the signatures; unit buttons come last.
 void LineLossForm::OrderTabs() {
-    TabOrder = {&txtTagNum,      &txtFluid,         &txtInletPipeLen,   &txtInletPipeID, &cmdPipeID,
-                &cmdSizes,       &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,    &cmdMatl,
-                &lstMatl,        &txtInletGate,     &txtInletGlobe,     &txtInletCheck,  &txtInlet90Deg,
-                &txtInlet45Deg,  &txtInletThru,     &txtInletBranch,    &chkEntrance,    &chkExit,
+    TabOrder = {&txtTagNum,      &txtFluid,         &txtInletPipeLen,   &cmdSizes,      &txtInletPipeID,
+                &cmdPipeID,      &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,   &cmdMatl,
+                &lstMatl,        &txtInletGate,     &txtInletGlobe,     &txtInletCheck, &txtInlet90Deg,
+                &txtInlet45Deg,  &txtInletThru,     &txtInletBranch,    &chkEntrance,   &chkExit,
                 &optDestination, &optSource};
     for (int i = 0; i < CaseCount; ++i) {
         for (const CaseBoxes boxes : BoxesOfACase()) {

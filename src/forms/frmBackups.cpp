@@ -35,7 +35,7 @@ frmBackups::frmBackups() : SuiteForm("frmBackups") {
     grdBackups.Describe(&lblBackups);
     txtKept.Describe(&lblKept);
     txtKept.ColourGroup = 2;
-    txtKept.MaxLength = 2;
+    txtKept.MaxLength = 3;
     for (Label* label : {&lblFile, &lblBackups, &lblKept}) label->ColourGroup = 1;
     txtKept.SetToolTip("The first change of a day keeps a copy; older ones than these go at the next copy");
     cmdRestore.SetToolTip("Puts the selected copy in the place of the database, which is kept beside it");
