@@ -88,7 +88,9 @@ protected:
             for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i) {
                 const Control& box = RowControl(OpenForm(), row, i);
                 const double value = LiveValue(row, i);
-                if (value > 0 && !row.IsResult()) EXPECT_EQ(box.Text(), Str(value)) << box.FullName();
+                if (value > 0 && !row.IsResult()) {
+                    EXPECT_EQ(box.Text(), Str(value)) << box.FullName();
+                }
             }
         }
         for (DropButton* button : Buttons())

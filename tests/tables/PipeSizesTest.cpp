@@ -265,7 +265,9 @@ TEST_F(PipeSizes, ReturnsSixFiguresOfTheDiameterAndFourOfTheWall) {
         Calc.MessageText = words::PipeWaterHammer;
         TakePipeRow(each.Line);
         const std::string name = PipeNameOf(each.Line);
-        if (each.Name != nullptr) EXPECT_EQ(name, each.Name);
+        if (each.Name != nullptr) {
+            EXPECT_EQ(name, each.Name);
+        }
         ReturnPipeSize(name);
         EXPECT_EQ(Calc.PipeName, name);
         EXPECT_EQ(Box(HammerForm, "txtPipeID"), each.Diameter) << each.Line << " by " << each.Factor;
