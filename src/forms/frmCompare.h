@@ -21,7 +21,7 @@ public:
     bool Take(const std::string& first, const std::string& second);
     void Show(Comparison comparison);
 
-    Label lblRecords{*this, "lblRecords"};
+    Label lblRecords{*this, "lblRecords", "Two records"};
     Grid grdRows{*this, "grdRows"};  // where the keyboard begins
     CheckBox chkOnly{*this, "chkOnly", "Only what &differs"};
     CommandButton cmdExchange{*this, "cmdExchange", "E&xchange"};

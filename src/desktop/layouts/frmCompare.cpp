@@ -4,10 +4,8 @@
 namespace quillmetra::layout {
 
 Node frmCompare() {
-    return Column({Panel("", Column({Row({"lblRecords", Stretch(), "chkOnly"}),
-                                     Item("grdRows").Wide(104).Tall(24).Grow()}))
-                       .Grow(),
-                   Row({"cmdExchange", Stretch(),
+    return Column({Panel("", Column({"lblRecords", Item("grdRows").Wide(104).Tall(24).Grow()})).Grow(),
+                   Row({"chkOnly", "cmdExchange", Stretch(),
                         Buttons({"cmdCopy", "cmdPrint", "cmdPreview", "cmdPdf", "cmdCancel"})})});
 }
 
