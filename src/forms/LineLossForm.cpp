@@ -47,11 +47,11 @@ void LineLossForm::Assemble() {
 // Tab follows the reading order of the data: what names the calculation, the line, then case by case
 // downwards, each with its calculate button, and the signatures; unit buttons come last.
 void LineLossForm::OrderTabs() {
-    TabOrder = {&txtTagNum,      &txtFluid,         &txtInletPipeLen,   &txtInletPipeID, &cmdPipeID,
-                &cmdSizes,       &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,    &cmdMatl,
-                &lstMatl,        &txtInletGate,     &txtInletGlobe,     &txtInletCheck,  &txtInlet90Deg,
-                &txtInlet45Deg,  &txtInletThru,     &txtInletBranch,    &chkEntrance,    &chkExit,
-                &optDestination, &optSource};
+    TabOrder = {&txtTagNum,        &txtFluid,          &txtInletPipeLen, &txtInletPipeID, &cmdPipeID,
+                &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,     &cmdMatl,        &lstMatl,
+                &txtInletGate,     &txtInletGlobe,     &txtInletCheck,   &txtInlet90Deg,  &txtInlet45Deg,
+                &txtInletThru,     &txtInletBranch,    &chkEntrance,     &chkExit,        &optDestination,
+                &optSource,        &cmdSizes,          &cmdFlowFor};
     for (int i = 0; i < CaseCount; ++i) {
         for (const CaseBoxes boxes : BoxesOfACase()) {
             TabOrder.push_back(&(*boxes)(i));
@@ -59,7 +59,6 @@ void LineLossForm::OrderTabs() {
         TabOrder.push_back(&cmdCalculate(i));
     }
     TabOrder.push_back(&cmdCalculateAll);
-    TabOrder.push_back(&cmdFlowFor);
     for (Control* control : std::initializer_list<Control*>{&txtBy, &txtApprov, &cmdDate, &txtComments(0),
                                                             &txtComments(1), &cmdFormLayout}) {
         TabOrder.push_back(control);
@@ -75,7 +74,6 @@ void LineLossForm::HookLine() {
     cmdCalculateAll.SetToolTip(CalculateAllTip);
     cmdCalculateAll.Click = [this] { CalculateAll(); };
     cmdPipeID.Click = [this] { OpenPipeSizes(); };
-    cmdSizes.TabStop = false;  // Enter goes on from the length to the diameter
     cmdSizes.SetToolTip("What the case in hand comes to in each pipe of a table");
     cmdSizes.Click = [this] { cmdSizes_Click(); };
     cmdFlowFor.SetToolTip("The flow that the line carries between two pressures");

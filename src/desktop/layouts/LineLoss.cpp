@@ -8,8 +8,8 @@ namespace {
 // What the pipe is called stands under the button that picks it.
 Node Line() {
     const auto box = [](const char* name) { return Item(name).Wide(CaseDigits); };
-    return Panel("Line", Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "cmdSizes",
-                                 Stretch(), "lblInletPipeElev", box("txtInletPipeElev"), "unInletPipeElev"},
+    return Panel("Line", Table({{"lblInletPipeLen", box("txtInletPipeLen"), "cmdUnits(25)", "", Stretch(),
+                                 "lblInletPipeElev", box("txtInletPipeElev"), "unInletPipeElev"},
                                 {"lblInletPipeID", box("txtInletPipeID"), "cmdUnits(18)", "cmdPipeID", "",
                                  "lblOutletPipeElev", box("txtOutletPipeElev"), "unOutletPipeElev"},
                                 {"lblPipeCond", box("txtPipeCond"), Words("%").Centred(),
@@ -28,8 +28,8 @@ Node Fittings() {
 }
 
 Node Direction() {
-    return Panel("Direction",
-                 Column({"optDestination", "optSource", Row({"cmdFlowFor", Stretch()}), Stretch()}));
+    return Panel("Direction", Column({"optDestination", "optSource",
+                                      Row({"cmdSizes", "cmdFlowFor", Stretch()}), Stretch()}));
 }
 
 Node CasesAndResults(std::vector<std::vector<Node>> rows, std::vector<std::vector<Node>> following) {
