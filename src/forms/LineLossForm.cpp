@@ -217,6 +217,11 @@ void LineLossForm::TakePipe(const std::string& listLine) {
     ReturnPipeSize(PipeNameOf(listLine));
 }
 
+LineLossForm* OpenLine() {
+    const Program* const program = FindProgram(Calc.CurrentProgram);
+    return program == nullptr ? nullptr : dynamic_cast<LineLossForm*>(LoadedForm(program->Form));
+}
+
 void LineLossForm::cmdSizes_Click() {
     if (TakeCase(CaseToTry())) ShowForm("frmSizes", Modal::Yes);
 }

@@ -154,4 +154,7 @@ private:
     Row<PlotDrawing, CaseCount> drawn_;  // of each case, empty without results
 };
 
+// The form of the line in hand; null when none is open.
+LineLossForm* OpenLine();
+
 }  // namespace quillmetra

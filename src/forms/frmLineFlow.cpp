@@ -47,23 +47,18 @@ frmLineFlow::frmLineFlow() : SuiteForm("frmLineFlow") {
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-LineLossForm* frmLineFlow::Line() {
-    const Program* const program = FindProgram(Calc.CurrentProgram);
-    return program == nullptr ? nullptr : dynamic_cast<LineLossForm*>(LoadedForm(program->Form));
-}
-
 void frmLineFlow::Load() {
     ApplyColours(*this);
     optCase(Calc.CaseIndex).SetChecked(true);
     optCase.Each([](OptionButton& option, int i) {
-        option.SetEnabled(i == Calc.CaseIndex || (Line() != nullptr && Line()->HasState(i)));
+        option.SetEnabled(i == Calc.CaseIndex || (OpenLine() != nullptr && OpenLine()->HasState(i)));
     });
     ShowCase();
 }
 
 // The pressures of the case as the form shows them.
 void frmLineFlow::ShowCase() {
-    LineLossForm* const line = Line();
+    LineLossForm* const line = OpenLine();
     if (line == nullptr) return;
     lblGiven.SetCaption(line->lblPressure.Caption());
     txtGiven.SetText(line->txtPressure(Calc.CaseIndex).Text());
@@ -85,9 +80,9 @@ void frmLineFlow::txtEnd_Change() { BlankAnswer(); }
 
 // A case that is refused leaves the one before.
 void frmLineFlow::optCase_Click(int index) {
-    if (index == Calc.CaseIndex || Line() == nullptr) return;
+    if (index == Calc.CaseIndex || OpenLine() == nullptr) return;
     const int before = Calc.CaseIndex;
-    if (Line()->TakeCase(index, LineLossForm::Wanted::NoFlow)) return ShowCase();
+    if (OpenLine()->TakeCase(index, LineLossForm::Wanted::NoFlow)) return ShowCase();
     Calc.CaseIndex = before;
     optCase(before).SetChecked(true);
 }
@@ -109,7 +104,7 @@ void frmLineFlow::cmdFind_Click() {
 }
 
 void frmLineFlow::cmdOK_Click() {
-    LineLossForm* const line = Line();
+    LineLossForm* const line = OpenLine();
     const std::string flow = txtFlow.Text();
     if (line == nullptr || flow.empty()) return;
     const int caseIndex = Calc.CaseIndex;

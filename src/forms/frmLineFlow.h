@@ -37,7 +37,6 @@ public:
     void cmdCancel_Click();
 
 private:
-    static LineLossForm* Line();
     void ShowCase();
     void BlankAnswer();
 };

@@ -7,8 +7,8 @@
 #include "core/Suite.h"
 #include "forms/ColourSchemes.h"
 #include "forms/ListTables.h"
+#include "forms/PipeFamilyList.h"
 #include "platform/Dialogs.h"
-#include "platform/TextCase.h"
 
 namespace quillmetra {
 
@@ -52,14 +52,7 @@ void frmPipeSize::Load() {
     ApplyColours(*this);
     const std::string& unit = Calc.UnitName[pipeunit::PipeSizeRound];  // of the list
     ShowAsTable(lstPipeSize, table::Pipe, {}, unit.empty() ? "in" : unit);
-    families_ = PipeFiles();
-    std::vector<std::string> names;
-    for (const PipeFile& each : families_) names.push_back(each.Name);
-    lstFamily.SetRows(std::move(names));
-    const std::string file = PipeFamilyFile();
-    const auto inHand =
-        std::ranges::find_if(families_, [&](const PipeFile& each) { return SameName(each.File, file); });
-    lstFamily.Select(inHand == families_.end() ? 0 : static_cast<int>(inHand - families_.begin()));
+    ListFamilies(lstFamily, families_);
 }
 
 // Enter searches while the size is being typed or a family chosen, and takes the selected row afterwards.

@@ -10,10 +10,10 @@
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
 #include "forms/GridText.h"
+#include "forms/PipeFamilyList.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
-#include "platform/TextCase.h"
 #include "tables/Criteria.h"
 #include "tables/TableFiles.h"
 #include "units/Rounding.h"
@@ -82,27 +82,15 @@ frmSizes::frmSizes() : SuiteForm("frmSizes") {
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-LineLossForm* frmSizes::Line() {
-    const Program* const program = FindProgram(Calc.CurrentProgram);
-    return program == nullptr ? nullptr : dynamic_cast<LineLossForm*>(LoadedForm(program->Form));
-}
-
 void frmSizes::Load() {
     ApplyColours(*this);
     SetPipeUnits();
     optCase(Calc.CaseIndex).SetChecked(true);
     optCase.Each([](OptionButton& option, int i) {
-        option.SetEnabled(i == Calc.CaseIndex || (Line() != nullptr && Line()->HasData(i)));
+        option.SetEnabled(i == Calc.CaseIndex || (OpenLine() != nullptr && OpenLine()->HasData(i)));
     });
     ListServices();
-    families_ = PipeFiles();
-    std::vector<std::string> names;
-    for (const PipeFile& each : families_) names.push_back(each.Name);
-    lstFamily.SetRows(std::move(names));
-    const std::string file = PipeFamilyFile();
-    const auto inHand =
-        std::ranges::find_if(families_, [&](const PipeFile& each) { return SameName(each.File, file); });
-    lstFamily.Select(inHand == families_.end() ? 0 : static_cast<int>(inHand - families_.begin()));
+    ListFamilies(lstFamily, families_);
 }
 
 void frmSizes::ListServices() {
@@ -182,16 +170,17 @@ bool frmSizes::Meets(const Size& size) const {
 }
 
 Grid::Cells frmSizes::Heads() const {
-    Grid::Cells heads = {"Size",
-                         "Schedule",
-                         WithUnit("Inside diameter", unit::PipeSize),
-                         "Criterion",
-                         WithUnit("Velocity", unit::Velocity),
-                         WithUnit("Loss per 100 " + Calc.UnitName[unit::Length], unit::PressureDrop),
-                         WithUnit(Line() == nullptr ? "" : Line()->lblDestPress.Caption(), unit::Pressure),
-                         WithUnit("Total loss", unit::PressureDrop),
-                         "Reynolds number",
-                         "Flow zone"};
+    Grid::Cells heads = {
+        "Size",
+        "Schedule",
+        WithUnit("Inside diameter", unit::PipeSize),
+        "Criterion",
+        WithUnit("Velocity", unit::Velocity),
+        WithUnit("Loss per 100 " + Calc.UnitName[unit::Length], unit::PressureDrop),
+        WithUnit(OpenLine() == nullptr ? "" : OpenLine()->lblDestPress.Caption(), unit::Pressure),
+        WithUnit("Total loss", unit::PressureDrop),
+        "Reynolds number",
+        "Flow zone"};
     if (IsGas()) heads.push_back("Mach at outlet");
     return heads;
 }
@@ -249,9 +238,9 @@ void frmSizes::grdSizes_Click() { cmdOK.SetEnabled(grdSizes.Selected() >= grdSiz
 
 // A case that is refused leaves the table of the one before.
 void frmSizes::optCase_Click(int index) {
-    if (index == Calc.CaseIndex || Line() == nullptr) return;
+    if (index == Calc.CaseIndex || OpenLine() == nullptr) return;
     const int before = Calc.CaseIndex;
-    if (Line()->TakeCase(index)) {
+    if (OpenLine()->TakeCase(index)) {
         TryPipes();
         return lstService_Click();
     }
@@ -266,9 +255,9 @@ void frmSizes::cmdCopy_Click() {
 
 void frmSizes::cmdOK_Click() {
     const int row = grdSizes.Selected() - grdSizes.FixedRows;
-    if (row < 0 || row >= static_cast<int>(sizes_.size()) || Line() == nullptr) return;
+    if (row < 0 || row >= static_cast<int>(sizes_.size()) || OpenLine() == nullptr) return;
     const std::string line = sizes_[At(row)].ListLine;
-    LineLossForm& form = *Line();
+    LineLossForm& form = *OpenLine();
     UnloadForm(Name());
     form.TakePipe(line);
 }

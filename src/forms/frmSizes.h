@@ -55,7 +55,6 @@ private:
         std::string Excess;  // over the criterion
     };
 
-    static LineLossForm* Line();
     const LineCriterion& Criterion() const;
     bool Meets(const Size& size) const;
     void ListServices();
