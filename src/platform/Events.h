@@ -18,6 +18,9 @@ public:
     ~ModalLevel();
     ModalLevel(const ModalLevel&) = delete;
     ModalLevel& operator=(const ModalLevel&) = delete;
+
+private:
+    int run_;
 };
 
 // A handler runs for the life of this.
@@ -27,6 +30,9 @@ public:
     ~HandlerScope();
     HandlerScope(const HandlerScope&) = delete;
     HandlerScope& operator=(const HandlerScope&) = delete;
+
+private:
+    int run_;
 };
 
 // The focus move that waits for the handler in hand to end, when that is the outermost of its level; null

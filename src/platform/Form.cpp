@@ -19,6 +19,8 @@ struct Level {
     Control* WantsFocus = nullptr;
 };
 std::vector<Level> Levels(1);
+// A handler that resets the suite ends in another run than it began, which knows nothing of it.
+int Run = 0;
 
 struct {
     const Control* Box = nullptr;
@@ -26,13 +28,15 @@ struct {
 } Typing;
 }  // namespace
 
-ModalLevel::ModalLevel() { Levels.emplace_back(); }
+ModalLevel::ModalLevel() : run_(Run) { Levels.emplace_back(); }
 ModalLevel::~ModalLevel() {
-    if (Levels.size() > 1) Levels.pop_back();
+    if (run_ == Run) Levels.pop_back();
 }
 
-HandlerScope::HandlerScope() { ++Levels.back().Handlers; }
-HandlerScope::~HandlerScope() { --Levels.back().Handlers; }
+HandlerScope::HandlerScope() : run_(Run) { ++Levels.back().Handlers; }
+HandlerScope::~HandlerScope() {
+    if (run_ == Run) --Levels.back().Handlers;
+}
 
 Control* DueFocusMove() {
     return Levels.back().Handlers == 1 ? std::exchange(Levels.back().WantsFocus, nullptr) : nullptr;
@@ -72,6 +76,7 @@ void EndTyping() { Typing = {}; }
 
 void Reset() {
     Levels.assign(1, {});
+    ++Run;
     EndTyping();
 }
 
