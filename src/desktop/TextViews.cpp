@@ -30,6 +30,8 @@ public:
     // What was typed since the box was entered is the box's own to undo; what it has no use for is the
     // form's.
     bool eventFilter(QObject* watched, QEvent* event) override {
+        // It loses the focus once more while it is destroyed, when it is no line edit any more.
+        if (qobject_cast<QLineEdit*>(watched) == nullptr) return false;
         if (event->type() == QEvent::FocusOut) ForgetTyping(*static_cast<QFocusEvent*>(event));
         const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
         if (!isKey) return ControlView::eventFilter(watched, event);
