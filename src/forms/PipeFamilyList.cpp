@@ -10,6 +10,7 @@ namespace quillmetra {
 void ListFamilies(ListBox& list, std::vector<PipeFile>& families) {
     families = PipeFiles();
     std::vector<std::string> names;
+    names.reserve(families.size());
     for (const PipeFile& each : families) names.push_back(each.Name);
     list.SetRows(std::move(names));
     const std::string file = PipeFamilyFile();
