@@ -24,5 +24,5 @@ export -f Fuzz
 
 InstallMissing "${BuildPackages[@]}" "${CheckPackages[@]}"
 Configure fuzz
-Build fuzz fuzz_database fuzz_table fuzz_version5
-printf '%s\n' database table version5 | xargs -I{} -P "$(nproc)" bash -c 'Fuzz {}'
+Build fuzz fuzz_database fuzz_sheet fuzz_table fuzz_version5
+printf '%s\n' database sheet table version5 | xargs -I{} -P "$(nproc)" bash -c 'Fuzz {}'

@@ -15,6 +15,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/SafeFiles.h"
 #include "platform/TextCase.h"
+#include "platform/Utf8.h"
 
 namespace quillmetra {
 
@@ -27,19 +28,6 @@ constexpr std::array<char32_t, 32> HighControls = {
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-
-void AppendUtf8(std::string& text, char32_t c) {
-    if (c < 0x80) {
-        text += static_cast<char>(c);
-    } else if (c < 0x800) {
-        text += static_cast<char>(0xC0U | (c >> 6U));
-        text += static_cast<char>(0x80U | (c & 0x3FU));
-    } else {
-        text += static_cast<char>(0xE0U | (c >> 12U));
-        text += static_cast<char>(0x80U | ((c >> 6U) & 0x3FU));
-        text += static_cast<char>(0x80U | (c & 0x3FU));
-    }
-}
 
 // The byte of a character of up to three UTF-8 bytes; -1 when the code page does not have it.
 int ByteOf(char32_t c) {

@@ -1,0 +1,301 @@
+// Sheets of workbooks (XLSX), see SheetReader.h: an archive of XML parts that name one another.
+#include <charconv>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "platform/NumberText.h"
+#include "platform/SerialDates.h"
+#include "platform/SheetFormats.h"
+#include "platform/TextCase.h"
+#include "platform/Utf8.h"
+#include "platform/XmlPart.h"
+
+namespace quillmetra {
+
+bool ReadsWorkbooks() { return true; }
+
+namespace sheets {
+
+namespace {
+
+RuntimeError Damaged(const std::string& what) { return Refused("The workbook is damaged: " + what); }
+
+// The targets of a part's relations by their id, as full names of parts.
+class Relations : public XmlTaker {
+public:
+    explicit Relations(std::string folder) : folder_(std::move(folder)) {}
+
+    void Start(std::string_view name, const Attributes& attributes) override {
+        if (name != "Relationship") return;
+        std::string target = attributes.Text("Target");
+        target = target.starts_with('/') ? target.substr(1) : folder_ + target;
+        const std::string type = attributes.Text("Type");
+        ById[attributes.Text("Id")] = target;
+        ByType.emplace(type.substr(type.rfind('/') + 1), target);
+    }
+
+    std::map<std::string, std::string> ById, ByType;
+
+private:
+    std::string folder_;
+};
+
+std::string FolderOfPart(const std::string& part) { return part.substr(0, part.rfind('/') + 1); }
+
+Relations RelationsOf(ZipArchive& archive, const std::string& part) {
+    const std::string folder = FolderOfPart(part);
+    Relations relations(folder);
+    const std::string file = folder + "_rels/" + part.substr(folder.size()) + ".rels";
+    if (archive.Has(file)) ReadXml(archive, file, relations);
+    return relations;
+}
+
+class SheetNames : public XmlTaker {
+public:
+    void Start(std::string_view name, const Attributes& attributes) override {
+        if (name == "workbookPr") {
+            const std::string later = attributes.Text("date1904");
+            From1904 = later == "1" || later == "true";
+        }
+        if (name == "sheet") Sheets.emplace_back(attributes.Text("name"), attributes.Text("id"));
+    }
+
+    bool From1904 = false;
+    std::vector<std::pair<std::string, std::string>> Sheets;  // name and relation
+};
+
+// Which of the cell formats show a number as a date.
+class DateFormats : public XmlTaker {
+public:
+    void Start(std::string_view name, const Attributes& attributes) override {
+        if (name == "numFmt")
+            own_[attributes.Whole("numFmtId")] = IsDateFormat(attributes.Text("formatCode"));
+        if (name == "cellXfs") inCells_ = true;
+        if (name == "xf" && inCells_) IsDate.push_back(Shows(attributes.Whole("numFmtId")));
+    }
+    void End(std::string_view name) override {
+        if (name == "cellXfs") inCells_ = false;
+    }
+
+    std::vector<bool> IsDate;
+
+private:
+    bool Shows(int format) const {
+        const auto own = own_.find(format);
+        return own == own_.end() ? IsBuiltInDateFormat(format) : own->second;
+    }
+
+    std::map<int, bool> own_;
+    bool inCells_ = false;
+};
+
+// Control characters stand as _x000D_ in a workbook's texts.
+std::string Unescaped(std::string text) {
+    constexpr std::size_t length = 7;
+    std::string plain;
+    std::size_t next = 0;
+    for (std::size_t at = 0; (at = text.find("_x", at)) != std::string::npos;) {
+        unsigned code = 0;
+        const char* const first = text.data() + at + 2;
+        if (at + length > text.size() || first[4] != '_' ||
+            std::from_chars(first, first + 4, code, 16).ptr != first + 4) {
+            at += 2;
+            continue;
+        }
+        plain.append(text, next, at - next);
+        AppendUtf8(plain, code >= 0xD800 && code < 0xE000 ? 0xFFFD : code);
+        next = at += length;
+    }
+    return next == 0 ? text : plain.append(text, next);
+}
+
+// A text with runs of formats, and without what is written above it for its pronunciation.
+class RichText {
+public:
+    void Start(std::string_view name) {
+        if (name == "rPh") spoken_ = true;
+        inText_ = name == "t" && !spoken_;
+    }
+    void End(std::string_view name) {
+        if (name == "rPh") spoken_ = false;
+        inText_ = false;
+    }
+    void Text(std::string_view text) {
+        if (inText_) text_ += text;
+    }
+    std::string Take() { return Unescaped(std::exchange(text_, {})); }
+
+private:
+    bool inText_ = false, spoken_ = false;
+    std::string text_;
+};
+
+class SharedTexts : public XmlTaker {
+public:
+    void Start(std::string_view name, const Attributes&) override { rich_.Start(name); }
+    void End(std::string_view name) override {
+        rich_.End(name);
+        if (name == "si") Texts.push_back(rich_.Take());
+    }
+    void Text(std::string_view text) override { rich_.Text(text); }
+
+    std::vector<std::string> Texts;
+
+private:
+    RichText rich_;
+};
+
+struct Book {
+    bool From1904 = false;
+    std::vector<bool> IsDate;
+    std::vector<std::string> Texts;
+};
+
+class SheetRows : public XmlTaker {
+public:
+    SheetRows(const Book& book, SheetTaker& taker) : book_(book), taker_(taker) {}
+
+    bool IsStopped() const { return stopped_; }
+
+    void Start(std::string_view name, const Attributes& attributes) override {
+        if (name == "row") return StartRow(attributes);
+        if (name == "c") return StartCell(attributes);
+        if (name == "mergeCell") taker_.TakeMerged(attributes.Text("ref"));
+        if (name == "f") hasFormula_ = true;
+        inValue_ = name == "v";
+        rich_.Start(name);
+    }
+    void End(std::string_view name) override {
+        inValue_ = false;
+        rich_.End(name);
+        if (name == "c") EndCell();
+        if (name == "row" && !row_.Cells.empty() && !taker_.TakeRow(row_)) Enough = stopped_ = true;
+    }
+    void Text(std::string_view text) override {
+        if (inValue_) value_ += text;
+        rich_.Text(text);
+    }
+
+private:
+    // Rows and cells may say their place, or just follow one another.
+    void StartRow(const Attributes& attributes) {
+        const int said = attributes.Whole("r");
+        row_.Number = said > 0 ? said : row_.Number + 1;
+        if (row_.Number > MostRows) throw Damaged("row " + std::to_string(row_.Number));
+        row_.Cells.clear();
+        column_ = -1;
+    }
+    void StartCell(const Attributes& attributes) {
+        const std::string place = attributes.Text("r");
+        int column = 0;
+        for (std::size_t i = 0; i < place.size() && IsLetter(place[i]) && column <= MostColumns; ++i)
+            column = 26 * column + (LowerCase(place[i]) - 'a' + 1);
+        column_ = column > 0 ? column - 1 : column_ + 1;
+        if (column_ >= MostColumns)
+            throw Damaged("row " + std::to_string(row_.Number) + " has too many columns");
+        type_ = attributes.Text("t");
+        style_ = attributes.Whole("s");
+        hasFormula_ = false;
+        value_.clear();
+        rich_.Take();
+    }
+
+    void EndCell() {
+        SheetCell cell{column_};
+        if (type_ == "inlineStr") {
+            cell.Text = rich_.Take();
+        } else if (value_.empty()) {
+            if (!hasFormula_ || type_ == "str") return;
+            cell.Of = SheetCell::Kind::Error;
+            cell.Text = "a formula without its value";
+        } else {
+            TakeValue(cell);
+        }
+        if (cell.Of == SheetCell::Kind::Text) cell.Number = NumberIn(cell.Text, '.');
+        if (!Trim(cell.Text).empty()) row_.Cells.push_back(std::move(cell));
+    }
+    void TakeValue(SheetCell& cell) {
+        if (type_ == "s") {
+            cell.Text = SharedText();
+        } else if (type_ == "str") {
+            cell.Text = Unescaped(value_);
+        } else if (type_ == "b") {
+            cell.Of = SheetCell::Kind::Truth;
+            cell.Text = value_ == "0" ? "FALSE" : "TRUE";
+        } else if (type_ == "e") {
+            cell.Of = SheetCell::Kind::Error;
+            cell.Text = value_;
+        } else if (type_ == "d") {
+            cell.Of = SheetCell::Kind::Date;
+            cell.Text = value_.substr(0, value_.find('T'));
+        } else {
+            TakeNumber(cell);
+        }
+    }
+    void TakeNumber(SheetCell& cell) {
+        const std::optional<double> number = NumberIn(value_, '.');
+        if (!number) throw Damaged("a number in row " + std::to_string(row_.Number));
+        const bool isDate = style_ >= 0 && static_cast<std::size_t>(style_) < book_.IsDate.size() &&
+                            book_.IsDate[static_cast<std::size_t>(style_)];
+        cell.Of = isDate ? SheetCell::Kind::Date : SheetCell::Kind::Number;
+        cell.Text = isDate ? DateOfSerial(*number, book_.From1904) : TrimmedStr(*number);
+        if (!isDate) cell.Number = number;
+    }
+    std::string SharedText() const {
+        std::size_t index = 0;
+        const auto [end, error] = std::from_chars(value_.data(), value_.data() + value_.size(), index);
+        if (error != std::errc{} || index >= book_.Texts.size())
+            throw Damaged("a text in row " + std::to_string(row_.Number));
+        return book_.Texts[index];
+    }
+
+    const Book& book_;
+    SheetTaker& taker_;
+    SheetRow row_;
+    RichText rich_;
+    std::string type_, value_;
+    int column_ = -1, style_ = -1;
+    bool inValue_ = false, hasFormula_ = false, stopped_ = false;
+};
+
+std::string PartOfType(const Relations& relations, const char* type) {
+    const auto found = relations.ByType.find(type);
+    return found == relations.ByType.end() ? "" : found->second;
+}
+
+template <typename Taker>
+Taker ReadIfThere(ZipArchive& archive, const std::string& part) {
+    Taker taker;
+    if (archive.Has(part)) ReadXml(archive, part, taker);
+    return taker;
+}
+
+}  // namespace
+
+void ReadWorkbook(const std::string& bytes, SheetTaker& taker) {
+    ZipArchive archive(bytes);
+    Relations package("");
+    if (archive.Has("_rels/.rels")) ReadXml(archive, "_rels/.rels", package);
+    const std::string main = PartOfType(package, "officeDocument");
+    if (!archive.Has(main)) throw Refused("This is an archive, but no workbook (.xlsx)");
+
+    SheetNames names;
+    ReadXml(archive, main, names);
+    const Relations parts = RelationsOf(archive, main);
+    const Book book{names.From1904, ReadIfThere<DateFormats>(archive, PartOfType(parts, "styles")).IsDate,
+                    ReadIfThere<SharedTexts>(archive, PartOfType(parts, "sharedStrings")).Texts};
+    for (const auto& [name, id] : names.Sheets) {
+        const auto part = parts.ById.find(id);
+        if (part == parts.ById.end()) throw Damaged("its sheet " + name + " is missing");
+        if (LowerCase(part->second).find("worksheets/") == std::string::npos) continue;  // a chart
+        if (!taker.TakeSheet(name, false)) continue;
+        SheetRows rows(book, taker);
+        ReadXml(archive, part->second, rows);
+        if (rows.IsStopped()) return;
+    }
+}
+
+}  // namespace sheets
+
+}  // namespace quillmetra
