@@ -304,7 +304,7 @@ void PlainExport(benchmark::State& state) {
         PlainRecords plain(file);
         std::ofstream out(folder.Path() / "plain.csv", std::ios::binary);
         for (const std::string& tag : plain.Tags()) {
-            for (const RecordTable* table : {&HeadTable(), &UnitsTable(), &PressureDropTable()}) {
+            for (const RecordTable* table : RowsOfALine) {
                 for (const FieldValue& value : plain.Seek(*table, tag)) write(out, value);
             }
             out << "\r\n";

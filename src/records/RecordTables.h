@@ -48,12 +48,16 @@ struct Cell {
     Group Of = Group::CaseInput;
     int Row = 0;
     int Case = 0;
+
+    bool operator==(const Cell&) const = default;
 };
 
 using TextMember = std::string CalcRecord::*;
 using NumberMember = double CalcRecord::*;
 using WholeMember = int CalcRecord::*;
-struct Spare {};  // kept for the future, never written
+struct Spare {  // kept for the future, never written
+    bool operator==(const Spare&) const = default;
+};
 
 using Place = std::variant<Spare, Cell, Made, TextMember, NumberMember, WholeMember>;
 
@@ -64,6 +68,7 @@ struct FieldRules {
     int GasRow = -1;     // row of the cell when the fluid is a gas, where it differs
     int LiquidRow = -1;  // likewise for a liquid
     Loads Load = Loads::Always;
+    const char* Unit = "";  // its field of the units, or the unit itself where that is always the same
 };
 
 struct RecordField {

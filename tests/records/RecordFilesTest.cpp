@@ -1,5 +1,4 @@
-// The database file as a whole: foreign files, create, compact, repair, delete, copy, the browser's view and
-// the export.
+// The database file as a whole: foreign files, create, compact, repair, delete, copy, the browser's view.
 #include "records/RecordFiles.h"
 
 #include <chrono>
@@ -20,7 +19,6 @@
 #include "platform/NumberText.h"
 #include "platform/SafeFiles.h"
 #include "records/Backups.h"
-#include "records/RecordExport.h"
 #include "tests/records/RecordFixture.h"
 
 namespace quillmetra {
@@ -454,46 +452,6 @@ TEST_F(RecordFilesTest, OutdatedRecords) {
     for (bool start = true; view.NextOutdated(start); start = false) found += view.Head().Tag;
     EXPECT_EQ(found, "147") << "29 stands for 2029, 30 for 1930";
     EXPECT_EQ(view.Head().Tag, "7");
-}
-
-TEST_F(RecordFilesTest, ExportForSpreadsheets) {
-    for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
-    TakeFilledRecord(1, 1, "odd, \"tag\"");
-    Calc.ResultsClearable.fill(words::No);
-    ASSERT_TRUE(SaveTRCalc());
-    const std::string file = SuitePath(Folder / "records.csv");
-    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, file), 6);
-
-    LineReader reader(file);
-    std::string line;
-    std::vector<std::string> lines;
-    while (reader.Next(line)) lines.push_back(line);
-    ASSERT_EQ(lines.size(), 7U);
-    const auto columns = std::count(lines[0].begin(), lines[0].end(), ',');
-    EXPECT_TRUE(lines[0].starts_with("Tag,Fluid Type,Program Number,"));
-    EXPECT_TRUE(lines[1].starts_with("\"odd, \"\"tag\"\"\",Liquid,101,"));
-    for (std::size_t i = 2; i < lines.size(); ++i) {
-        EXPECT_EQ(std::count(lines[i].begin(), lines[i].end(), ','), columns) << lines[i];
-    }
-    TakeFilledRecord(1, 1, "P1");
-    const std::string pressure = TrimmedStr(Calc.CaseResult[1][0]);
-    const auto itemOf = [&](const std::string& row, const char* name) {
-        std::size_t column = 0;
-        const std::string head = "," + lines[0];
-        column = static_cast<std::size_t>(
-            std::count(head.begin(), head.begin() + static_cast<std::ptrdiff_t>(head.find(name)), ','));
-        std::size_t start = 0;
-        for (std::size_t i = 1; i < column; ++i) start = row.find(',', start) + 1;
-        return row.substr(start, row.find(',', start) - start);
-    };
-    EXPECT_EQ(itemOf(lines[2], "Case 1 Final Pressure"), pressure);
-    EXPECT_EQ(itemOf(lines[2], "Critical Time"), "");
-    EXPECT_EQ(itemOf(lines[2], "Pressure Units"), "psig");
-    EXPECT_TRUE(lines[2].ends_with("," + Calc.PipeName) && lines[0].ends_with(",Pipe"));
-    EXPECT_NE(itemOf(lines[4], "Critical Time"), "");
-    EXPECT_NE(itemOf(lines[5], "Case 3 Norm BP"), "");
-    EXPECT_EQ(itemOf(lines[2], "Calc Date"), "2026-11-24");
-    EXPECT_THROW(ExportRecords(SuitePath(Folder / "none.mdb"), file), RuntimeError);
 }
 
 }  // namespace

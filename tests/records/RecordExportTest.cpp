@@ -1,0 +1,117 @@
+// Records as one table for spreadsheets: its columns, and the files that the export writes.
+#include "records/RecordExport.h"
+
+#include <map>
+#include <set>
+
+#include "platform/NumberText.h"
+#include "platform/TextCase.h"
+#include "records/RecordColumns.h"
+#include "tests/records/RecordFixture.h"
+
+namespace quillmetra {
+namespace {
+
+class RecordExportTest : public RecordTest {
+protected:
+    // The lines of an export of all records.
+    std::vector<std::string> Exported() const {
+        const std::string file = SuitePath(Folder / "records.csv");
+        ExportRecords(Suite.DatabaseFile, file);
+        LineReader reader(file);
+        std::vector<std::string> lines;
+        for (std::string line; reader.Next(line);) lines.push_back(line);
+        return lines;
+    }
+};
+
+// Head to cell of a line without quotes.
+std::map<std::string, std::string> Cells(const std::string& line) {
+    std::map<std::string, std::string> cells;
+    std::size_t start = 0;
+    for (const RecordColumn& column : RecordColumns()) {
+        const std::size_t end = std::min(line.find(',', start), line.size());
+        cells[column.Name] = line.substr(start, end - start);
+        start = end + 1;
+    }
+    return cells;
+}
+
+TEST_F(RecordExportTest, EachFieldHasOneColumn) {
+    std::set<std::string> names;
+    std::set<std::pair<const RecordTable*, std::size_t>> fields;
+    for (const RecordColumn& column : RecordColumns()) {
+        EXPECT_TRUE(names.insert(LowerCase(column.Name)).second) << column.Name;
+        EXPECT_TRUE(column.IsExtra() || fields.emplace(column.At.Table, column.At.Field).second);
+        for (const FieldPlace& copy : column.Copies)
+            EXPECT_TRUE(fields.emplace(copy.Table, copy.Field).second) << column.Name;
+        EXPECT_EQ(FindColumn(LowerCase(column.Name)), &column);
+    }
+    for (const RecordTable* table : RecordTables()) {
+        for (std::size_t i = 0; i < table->Fields.size(); ++i) {
+            const bool isSpare = std::holds_alternative<Spare>(table->Fields[i].From);
+            EXPECT_NE(fields.contains({table, i}), isSpare) << table->Fields[i].Shape.Name;
+        }
+    }
+    EXPECT_EQ(FindColumn("Case 1 Viscosity")->At.Table, &FluidDataTable());
+    EXPECT_EQ(FindColumn("Case 1 Viscosity", 2)->Name, "Pressure Drop Case 1 Viscosity");
+    EXPECT_EQ(FindColumn("Pipe Length", 3), nullptr);
+}
+
+TEST_F(RecordExportTest, TextsThatLookLikeFormulasComeBack) {
+    for (const auto& [text, cell] : {std::pair{"=1+1", "'=1+1"},
+                                     {"@x", "'@x"},
+                                     {"-5", "-5"},
+                                     {"+1.5E3", "+1.5E3"},
+                                     {"-5 psig", "'-5 psig"},
+                                     {"'=x", "''=x"},
+                                     {"''+x", "'''+x"},
+                                     {"'-5", "'-5"},
+                                     {"'tis", "'tis"},
+                                     {"", ""},
+                                     {"'", "'"}}) {
+        EXPECT_EQ(CellOfText(text), cell);
+        EXPECT_EQ(TextOfCell(cell), text);
+    }
+}
+
+TEST_F(RecordExportTest, EachProgramFillsItsOwnColumns) {
+    for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
+    TakeFilledRecord(1, 1, "odd, \"tag\"");
+    Calc.HeadingText[8] = "=heading";
+    Calc.ResultsClearable.fill(words::No);
+    ASSERT_TRUE(SaveTRCalc());
+    const std::vector<std::string> lines = Exported();
+    ASSERT_EQ(lines.size(), 7U);
+    EXPECT_TRUE(lines[0].starts_with("Tag,Fluid Type,Program Number,"));
+    EXPECT_NE(lines[0].find(",Case 3 Bulk Modulus,Pipe,Flow Factor,"), std::string::npos)
+        << "the former first";
+    EXPECT_TRUE(lines[1].starts_with("\"odd, \"\"tag\"\"\",Liquid,101,"));
+    EXPECT_NE(lines[1].find(",'=heading,"), std::string::npos);
+    const auto columns = std::count(lines[0].begin(), lines[0].end(), ',');
+    for (std::size_t i = 2; i < lines.size(); ++i)
+        EXPECT_EQ(std::count(lines[i].begin(), lines[i].end(), ','), columns) << lines[i];
+
+    TakeFilledRecord(1, 1, "P1");
+    auto line = Cells(lines[2]), hammer = Cells(lines[4]), fluid = Cells(lines[5]);
+    EXPECT_EQ(line["Case 1 Final Pressure"], TrimmedStr(Calc.CaseResult[1][0]));
+    EXPECT_EQ(line["Pressure Drop Normal Viscosity"], TrimmedStr(Calc.CaseInput[7][1]));
+    EXPECT_EQ(line["Pipe"], Calc.PipeName);
+    EXPECT_EQ(line["Critical Time"] + line["Waterhammer Pipe Size"], "");
+    EXPECT_EQ(line["Pressure Units"], "psig");
+    EXPECT_EQ(line["Calc Date"], "2026-11-24");
+    EXPECT_EQ(hammer["Waterhammer Pipe Size"], TrimmedStr(Calc.CaseInput[18][0]));
+    EXPECT_NE(hammer["Critical Time"], "");
+    EXPECT_NE(fluid["Case 3 Norm BP"], "");
+    EXPECT_THROW(ExportRecords(SuitePath(Folder / "none.mdb"), SuitePath(Folder / "x.csv")), RuntimeError);
+
+    // A letter that the code page of the file does not have.
+    SaveNew("\u03a9-1");
+    Exported();
+    const std::string bytes = ReadBytes(SuitePath(Folder / "records.csv"));
+    EXPECT_TRUE(bytes.starts_with("\xEF\xBB\xBFTag,"));
+    EXPECT_NE(bytes.find("\n\u03a9-1,"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quillmetra
