@@ -17,6 +17,8 @@ namespace {
 
 constexpr double Corner = 3;
 constexpr double Ring = 1.6;  // the border of what has the focus
+// Numbers keep apart from the words beside them; a head has three of its own.
+constexpr int CellMargin = 6, HeadMargin = CellMargin - 3;
 constexpr int ScrollBarWidth = 12;
 constexpr int ShortestSlider = 28;
 
@@ -204,7 +206,14 @@ int SuiteStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
 
 int SuiteStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     if (metric == PM_ScrollBarExtent) return ScrollBarWidth;
+    if (metric == PM_FocusFrameHMargin) return CellMargin;
     return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QSize SuiteStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const {
+    const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+    return type == CT_HeaderSection ? whole + QSize(2 * HeadMargin, 0) : whole;
 }
 
 QRect SuiteStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -240,6 +249,11 @@ void SuiteStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 void SuiteStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
     if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) return DrawHead(*option, *painter);
+    if (element == CE_HeaderLabel) {
+        QStyleOptionHeader label = *qstyleoption_cast<const QStyleOptionHeader*>(option);
+        label.rect.adjust(HeadMargin, 0, -HeadMargin, 0);
+        return QProxyStyle::drawControl(element, &label, painter, widget);
+    }
     if (element == CE_PushButtonLabel && IsDefault(*option)) {
         QStyleOptionButton label = *qstyleoption_cast<const QStyleOptionButton*>(option);
         label.palette.setColor(QPalette::ButtonText, label.palette.color(QPalette::HighlightedText));

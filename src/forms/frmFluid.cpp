@@ -8,6 +8,7 @@
 #include "fluids/FluidTables.h"
 #include "forms/CaseMessages.h"
 #include "forms/ColourSchemes.h"
+#include "forms/GridText.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Keys.h"
@@ -141,6 +142,7 @@ void frmFluid::ReadTable() {
         Tell("File " + Calc.FluidType + ".txt", Calc.ProgramTitle, Icon::Stop);
     }
     rows_.Take(rows, Calc.FluidType == words::Gas);
+    ShowHeads();
 }
 
 FluidPick::Kind frmFluid::KindInHand() const {
@@ -174,6 +176,12 @@ void frmFluid::ShowCases() {
         lblLack(i).SetCaption(lack);
     }
     EnableButtons();
+}
+
+void frmFluid::ShowHeads() {
+    Grid::Cells heads;
+    for (int column = 0; column < FluidRows::Columns; ++column) heads.push_back(rows_.Head(column));
+    grdFluids.SetHeads(WithUnitsBelow(heads));
 }
 
 void frmFluid::ShowTable() {
@@ -246,6 +254,7 @@ void frmFluid::grdFluids_KeyPress(Key& key) {
 
 void frmFluid::SortBy(int column) {
     rows_.SortBy(column);
+    ShowHeads();
     ShowTable();
 }
 

@@ -61,6 +61,7 @@ private:
     // Shows what belongs to the tab in hand.
     void ShowKind();
     void ShowCases();
+    void ShowHeads();
     void ShowTable();
     void EnableButtons();
     void Mark(int place);

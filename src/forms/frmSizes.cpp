@@ -62,6 +62,7 @@ frmSizes::frmSizes() : SuiteForm("frmSizes") {
     grdSizes.Describe(&lblSizes);
     grdSizes.IsList = true;
     grdSizes.FixedColumns = 0;
+    grdSizes.NumberColumns = {2, 4, 5, 6, 7, 8, 10};
     for (Control* list : std::initializer_list<Control*>{&lstFamily, &lstSchedule, &lstService, &grdSizes})
         list->ColourGroup = 4;
     for (Label* label : {&lblCase, &lblFamily, &lblSchedule, &lblService, &lblSource, &lblSizes, &lblMet})
@@ -209,6 +210,7 @@ void frmSizes::ShowTable() {
     std::vector<Grid::Cells> rows = {Heads()};
     const int columns = static_cast<int>(rows.front().size());
     for (const Size& size : sizes_) rows.push_back(CellsOf(size));
+    grdSizes.SetHeads(WithUnitsBelow(rows.front()));
     grdSizes.SetRows(std::move(rows), columns);
     const auto met = std::ranges::count_if(sizes_, [this](const Size& size) { return Meets(size); });
     const std::string total = std::to_string(sizes_.size()) + (sizes_.size() == 1 ? " pipe" : " pipes");

@@ -415,10 +415,33 @@ void ShootSchemes() {
     Suite.Colours = former;
 }
 
+// What is done with saved records: two compared, all calculated anew, the copies of their file.
+void ShootRecords() {
+    auto& table = static_cast<Grid&>(ControlOf("frmTRProg", "grdRecords"));
+    table.PickRows({1, 4}, 4);
+    Within([] {
+        Shoot("compare");
+        Click("frmCompare", "cmdCancel");
+    });
+    Click("frmTRProg", "mnuCompareRecords");
+    Within([] {
+        Click("frmRecalculate", "cmdRun");
+        Shoot("recalculate");
+        Click("frmRecalculate", "cmdCancel");
+    });
+    Click("frmTRProg", "mnuRecalculateAll");
+    Within([] {
+        Shoot("backups");
+        Click("frmBackups", "cmdCancel");
+    });
+    Click("frmTRProg", "mnuBackups");
+}
+
 // The browser with the records that the pictures before have saved.
 void ShootBrowser() {
     Click("frmTRProg", "cmdDBOpen");
     Shoot("browser-record");
+    ShootRecords();
     Click("frmTRProg", "cmdBrowse");
     Shoot("browser-tags");
     Click("frmTRProg", "cmdCancel");

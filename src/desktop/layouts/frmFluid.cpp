@@ -7,7 +7,7 @@ namespace {
 
 Node Table() {
     return Frame("fraTable", Column({Row({"lblFilter", Item("txtFilter").Wide(30), Stretch(), "lblShown"}),
-                                     Item("grdFluids").Wide(116).Tall(19).Least(46, 6).Grow(),
+                                     Item("grdFluids").Wide(96).Tall(19).Least(46, 6).Grow(),
                                      Row({Stretch(), "cmdAdd"})}))
         .Grow();
 }
