@@ -1,16 +1,15 @@
-// Tables with a text key on one SQLite file, in the operations that the suite works with: seek a key, walk in
-// key order, add, edit, delete, in transactions.
+// Tables with a text key in one database, in the operations that the suite works with: seek a key, walk in
+// key order, add, edit, delete, in transactions. Engine.h is what stands behind them.
 //
 // Keys compare as KeyOrder.h tells. A single field keeps 32 bits and reads back as the shortest decimal text
 // of its value, so 0.1 comes back as 0.1. The engine's failures are RuntimeErrors with a number from 3000 on,
 // in words for the user where he can do something about it, else in its own.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,10 +18,11 @@
 
 #include "platform/RuntimeError.h"
 
-struct sqlite3;
-struct sqlite3_stmt;
-
 namespace quillmetra {
+
+class Engine;
+class EngineNames;
+class EngineRows;
 
 enum class FieldType { Text, Integer, Single, Date };
 
@@ -134,19 +134,8 @@ private:
     friend class Recordset;
     friend class Transaction;
 
-    Database() = default;
-    void Open(const std::filesystem::path& file, int flags);
-    void Execute(const std::string& sql);
-    // A statement stays prepared for the life of the database.
-    sqlite3_stmt* Prepared(const std::string& sql);
-    bool IsCutShort();
-    [[noreturn]] void Fail() const;
-    [[noreturn]] void GiveUp();  // of a file that is not open yet
-
-    sqlite3* handle_ = nullptr;
-    std::filesystem::path file_;
-    std::map<std::string, sqlite3_stmt*> statements_;
-    int depth_ = 0;
+    const std::unique_ptr<Engine> engine_;
+    int depth_ = 0;  // of transactions
 };
 
 // Changes between its start and Commit come about together or, without Commit, not at all. One inside another
@@ -177,6 +166,10 @@ public:
     // On no row, nothing read: for one that only seeks, and for a damaged file.
     struct Unplaced {};
     Recordset(Database& database, const TableShape& table, Unplaced);
+    ~Recordset();
+    Recordset(Recordset&& other) noexcept;
+    Recordset(const Recordset&) = delete;
+    Recordset& operator=(const Recordset&) = delete;
 
     void Index(std::string_view name);  // TagIndex, no other
     bool Seek(std::string_view key);    // false, NoMatch and no current row when there is none
@@ -221,19 +214,12 @@ public:
 
 private:
     enum class Place { Empty, Start, Row, Deleted, End, Nowhere };
-    enum class Act { Seek, First, Last, Next, Following, Previous, Count, Insert, Update, Delete };
 
-    sqlite3_stmt* Statement(Act act);
-    std::string SqlOf(Act act) const;
-    bool Fetch(Act act, std::string_view key = {});
-    void ReadRow(sqlite3_stmt* statement);
-    void Step(Act act, Place past);
+    std::string LeaveRow();  // its key
     std::size_t FieldNumber(std::string_view name) const;
-    std::string Key() const;
 
-    Database& database_;
     const TableShape& table_;
-    std::array<sqlite3_stmt*, 10> statements_{};
+    std::unique_ptr<EngineRows> rows_;
     std::vector<FieldValue> row_, buffer_;
     Place place_ = Place::Empty;
     bool indexed_ = false, noMatch_ = false;

@@ -2,7 +2,7 @@
 // key has a value, and nothing but MakeTable makes it.
 #pragma once
 
-#include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -14,6 +14,9 @@ class NamedValues {
 public:
     // The fields of the table: the key, the name, the value; the first two are its key.
     NamedValues(Database& database, const TableShape& table);
+    ~NamedValues();
+    NamedValues(const NamedValues&) = delete;
+    NamedValues& operator=(const NamedValues&) = delete;
 
     bool Exists() const { return exists_; }
     void MakeTable();
@@ -28,12 +31,9 @@ public:
     void DeleteWithout(const TableShape& keys);
 
 private:
-    std::string SqlOf(std::string_view pattern) const;
-    // The first column of what the statement gives, if anything.
-    std::string Run(std::string_view pattern, std::initializer_list<std::string_view> texts);
-
     Database& database_;
     const TableShape& table_;
+    const std::unique_ptr<EngineNames> names_;
     bool exists_;
 };
 

@@ -24,15 +24,6 @@ RuntimeError OutOfRange(const FieldShape& field) {
                 : "The field '" + field.Name + "' holds no number above 3.402823E+38"};
 }
 
-FieldValue ValueAt(sqlite3_stmt* statement, int column, FieldType type) {
-    if (sqlite3_column_type(statement, column) == SQLITE_NULL) return {};
-    switch (type) {
-        case FieldType::Text:
-        case FieldType::Date: return TextAt(statement, column);
-        default: return NumberRead(type, sqlite3_column_double(statement, column));
-    }
-}
-
 }  // namespace
 
 double NumberRead(FieldType type, double stored) {
@@ -66,63 +57,15 @@ FieldValue FittedValue(const FieldShape& field, FieldValue value) {
     return std::fpclassify(single) == FP_SUBNORMAL ? 0.0 : static_cast<double>(single);
 }
 
-Recordset::Recordset(Database& database, const TableShape& table) : database_(database), table_(table) {
-    place_ = Fetch(Act::First) ? Place::Row : Place::Empty;
+Recordset::Recordset(Database& database, const TableShape& table) : Recordset(database, table, Unplaced()) {
+    place_ = rows_->Fetch(RowAt::First, {}, row_) ? Place::Row : Place::Empty;
 }
 
 Recordset::Recordset(Database& database, const TableShape& table, Unplaced)
-    : database_(database), table_(table), place_(Place::Nowhere) {}
+    : table_(table), rows_(database.engine_->Rows(table)), place_(Place::Nowhere) {}
 
-std::string Recordset::SqlOf(Act act) const {
-    const std::string table = Quoted(table_.Name);
-    const std::string key = Quoted(table_.Fields[0].Name);
-    std::string fields, marks, sets;
-    for (std::size_t i = 0; i < table_.Fields.size(); ++i) {
-        for (std::string* list : {&fields, &marks, &sets}) *list += i == 0 ? "" : ", ";
-        const std::string name = Quoted(table_.Fields[i].Name);
-        fields += name;
-        marks += '?';
-        sets += name + " = ?";
-    }
-    const std::string select = "SELECT " + fields + " FROM " + table;
-    switch (act) {
-        case Act::Seek: return select + " WHERE " + key + " = ?1";
-        case Act::First: return select + " ORDER BY " + key + " LIMIT 1";
-        case Act::Last: return select + " ORDER BY " + key + " DESC LIMIT 1";
-        case Act::Next: return select + " WHERE " + key + " > ?1 ORDER BY " + key + " LIMIT 1";
-        case Act::Following: return select + " WHERE " + key + " > ?1 ORDER BY " + key;
-        case Act::Previous: return select + " WHERE " + key + " < ?1 ORDER BY " + key + " DESC LIMIT 1";
-        case Act::Count: return "SELECT count(*) FROM " + table;
-        case Act::Insert: return "INSERT INTO " + table + "(" + fields + ") VALUES(" + marks + ")";
-        case Act::Update: return "UPDATE " + table + " SET " + sets + " WHERE " + key + " = ?";
-        case Act::Delete: return "DELETE FROM " + table + " WHERE " + key + " = ?1";
-    }
-    return {};
-}
-
-sqlite3_stmt* Recordset::Statement(Act act) {
-    sqlite3_stmt*& statement = statements_[static_cast<std::size_t>(act)];
-    if (statement == nullptr) statement = database_.Prepared(SqlOf(act));
-    return statement;
-}
-
-void Recordset::ReadRow(sqlite3_stmt* statement) {
-    row_.resize(table_.Fields.size());
-    for (std::size_t i = 0; i < row_.size(); ++i) {
-        row_[i] = ValueAt(statement, static_cast<int>(i), table_.Fields[i].Type);
-    }
-}
-
-bool Recordset::Fetch(Act act, std::string_view key) {
-    sqlite3_stmt* const statement = Statement(act);
-    const Run run(statement);
-    sqlite3_bind_text(statement, 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
-    const int result = sqlite3_step(statement);
-    if (result == SQLITE_DONE) return false;
-    if (result != SQLITE_ROW) database_.Fail();
-    ReadRow(statement);
-    return true;
-}
+Recordset::~Recordset() = default;
+Recordset::Recordset(Recordset&& other) noexcept = default;
 
 void Recordset::Index(std::string_view name) {
     if (name != TagIndex) throw failure::NoSuchField(name);
@@ -132,88 +75,55 @@ void Recordset::Index(std::string_view name) {
 bool Recordset::Seek(std::string_view key) {
     if (!indexed_) throw failure::NoIndex();
     buffered_ = Buffer::None;
-    noMatch_ = !Fetch(Act::Seek, key);
+    noMatch_ = !rows_->Fetch(RowAt::Key, key, row_);
     place_ = noMatch_ ? Place::Nowhere : Place::Row;
     return !noMatch_;
 }
 
 void Recordset::MoveFirst() {
     buffered_ = Buffer::None;
-    place_ = Fetch(Act::First) ? Place::Row : Place::Empty;
+    place_ = rows_->Fetch(RowAt::First, {}, row_) ? Place::Row : Place::Empty;
     if (place_ == Place::Empty) throw failure::NoCurrentRecord();
 }
 
 void Recordset::MoveLast() {
     buffered_ = Buffer::None;
-    place_ = Fetch(Act::Last) ? Place::Row : Place::Empty;
+    place_ = rows_->Fetch(RowAt::Last, {}, row_) ? Place::Row : Place::Empty;
     if (place_ == Place::Empty) throw failure::NoCurrentRecord();
 }
 
 void Recordset::MoveNext() {
     if (place_ == Place::Start) return MoveFirst();
-    Step(Act::Next, Place::End);
+    place_ = rows_->Fetch(RowAt::Next, LeaveRow(), row_) ? Place::Row : Place::End;
 }
 
 void Recordset::MovePrevious() {
     if (place_ == Place::End) return MoveLast();
-    Step(Act::Previous, Place::Start);
+    place_ = rows_->Fetch(RowAt::Previous, LeaveRow(), row_) ? Place::Row : Place::Start;
 }
 
 void Recordset::MoveToNext(const std::function<bool(const Recordset&)>& wanted) {
-    buffered_ = Buffer::None;
-    if (place_ != Place::Row && place_ != Place::Deleted) throw failure::NoCurrentRecord();
-    const std::string key = Key();
-    sqlite3_stmt* const statement = Statement(Act::Following);
-    const Run run(statement);
-    sqlite3_bind_text(statement, 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
-        ReadRow(statement);
+    const std::string key = LeaveRow();
+    const auto isWanted = [&] {
         place_ = Place::Row;
-        if (wanted(*this)) return;
-    }
-    if (result != SQLITE_DONE) database_.Fail();
-    place_ = Place::End;
+        return wanted(*this);
+    };
+    if (!rows_->FetchNextOf(key, row_, isWanted)) place_ = Place::End;
 }
 
-void Recordset::Step(Act act, Place past) {
+std::string Recordset::LeaveRow() {
     buffered_ = Buffer::None;
     if (place_ != Place::Row && place_ != Place::Deleted) throw failure::NoCurrentRecord();
-    place_ = Fetch(act, Key()) ? Place::Row : past;
+    const auto* key = std::get_if<std::string>(row_.data());
+    return key == nullptr ? "" : *key;
 }
 
-std::int64_t Recordset::RecordCount() {
-    sqlite3_stmt* const statement = Statement(Act::Count);
-    const Run run(statement);
-    if (sqlite3_step(statement) != SQLITE_ROW) database_.Fail();
-    return sqlite3_column_int64(statement, 0);
-}
+std::int64_t Recordset::RecordCount() { return rows_->Count(); }
 
-std::vector<std::string> Recordset::Keys() {
-    const std::string key = Quoted(table_.Fields[0].Name);
-    sqlite3_stmt* const statement =
-        database_.Prepared("SELECT " + key + " FROM " + Quoted(table_.Name) + " ORDER BY " + key);
-    const Run run(statement);
-    std::vector<std::string> keys;
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement)) == SQLITE_ROW) keys.push_back(TextAt(statement, 0));
-    if (result != SQLITE_DONE) database_.Fail();
-    return keys;
-}
+std::vector<std::string> Recordset::Keys() { return rows_->Keys(); }
 
 void Recordset::EachRow(std::span<const std::string_view> fields, const std::function<void(TextRow)>& act) {
-    std::string sql;
-    for (const std::string_view field : fields) sql += (sql.empty() ? "SELECT " : ", ") + Quoted(field);
-    sql += " FROM " + Quoted(table_.Name);
-    sqlite3_stmt* const statement = database_.Prepared(sql);
-    const Run run(statement);
-    std::vector<std::string_view> texts(fields.size());
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
-        for (std::size_t i = 0; i < texts.size(); ++i) texts[i] = ViewAt(statement, static_cast<int>(i));
-        act(texts);
-    }
-    if (result != SQLITE_DONE) database_.Fail();
+    rows_->EachRow(fields, act);
 }
 
 std::size_t Recordset::FieldNumber(std::string_view name) const {
@@ -221,11 +131,6 @@ std::size_t Recordset::FieldNumber(std::string_view name) const {
         if (table_.Fields[i].Name == name) return i;
     }
     throw failure::NoSuchField(name);
-}
-
-std::string Recordset::Key() const {
-    const auto* key = std::get_if<std::string>(&row_[0]);
-    return key == nullptr ? "" : *key;
 }
 
 const FieldValue& Recordset::Value(std::size_t field) const {
@@ -270,28 +175,21 @@ void Recordset::SetAll(const std::vector<FieldValue>& values) {
 void Recordset::Update() {
     if (buffered_ == Buffer::None) throw failure::NothingToUpdate();
     const bool isNew = buffered_ == Buffer::New;
-    sqlite3_stmt* const statement = Statement(isNew ? Act::Insert : Act::Update);
-    const Run run(statement);
     for (std::size_t i = 0; i < buffer_.size(); ++i) {
         // A single that was read is a short decimal: it goes back to its 32 bits.
         const auto* number = std::get_if<double>(&buffer_[i]);
         if (number != nullptr && table_.Fields[i].Type == FieldType::Single) {
             buffer_[i] = static_cast<double>(static_cast<float>(*number));
         }
-        Bind(statement, static_cast<int>(i) + 1, buffer_[i]);
     }
-    if (!isNew) Bind(statement, static_cast<int>(buffer_.size()) + 1, row_[0]);
-    if (sqlite3_step(statement) != SQLITE_DONE) database_.Fail();
+    isNew ? rows_->Insert(buffer_) : rows_->Update(row_[0], buffer_);
     buffered_ = Buffer::None;
-    if (!isNew) Fetch(Act::Seek, std::get<std::string>(buffer_[0]));
+    if (!isNew) rows_->Fetch(RowAt::Key, std::get<std::string>(buffer_[0]), row_);
 }
 
 void Recordset::Delete() {
     if (place_ != Place::Row) throw failure::NoCurrentRecord();
-    sqlite3_stmt* const statement = Statement(Act::Delete);
-    const Run run(statement);
-    Bind(statement, 1, row_[0]);
-    if (sqlite3_step(statement) != SQLITE_DONE) database_.Fail();
+    rows_->Delete(row_[0]);
     place_ = Place::Deleted;
 }
 
