@@ -29,9 +29,7 @@ public:
     RowsModel(const ListBox& list, QWidget* view) : QAbstractTableModel(view), list_(list), view_(view) {}
 
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
-    int columnCount(const QModelIndex& parent) const override {
-        return parent.isValid() ? 0 : std::max(1, static_cast<int>(list_.Columns.size()));
-    }
+    int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : columns_; }
 
     QVariant data(const QModelIndex& index, int role) const override {
         if (role == Qt::DisplayRole) return TextOf(index);
@@ -40,7 +38,7 @@ public:
     }
 
     QVariant headerData(int section, Qt::Orientation, int role) const override {
-        if (list_.Columns.empty()) return {};
+        if (section >= columns_ || list_.Columns.empty()) return {};
         if (role == Qt::TextAlignmentRole) return SideOf(section);
         if (role != Qt::DisplayRole) return {};
         return ToQt(list_.Columns[static_cast<std::size_t>(section)].Head);
@@ -49,14 +47,17 @@ public:
     void Renew() {
         beginResetModel();
         rows_ = list_.RowCount();
+        columns_ = std::max(1, static_cast<int>(list_.Columns.size()));
         split_ = -1;
         if (list_.Columns.empty()) size_ = SizeOfRows();
         endResetModel();
     }
 
+    // The list is going: nothing of it is asked for any more, though its view lives until the events that
+    // it has in hand are done.
     void Empty() {
         beginResetModel();
-        rows_ = 0;
+        rows_ = columns_ = 0;
         endResetModel();
     }
 
@@ -88,6 +89,7 @@ private:
     const ListBox& list_;
     QWidget* view_;
     int rows_ = 0;
+    int columns_ = 1;
     QSize size_;
     mutable int split_ = -1;
     mutable std::vector<std::string> cells_;  // of the row that was split last
