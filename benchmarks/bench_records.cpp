@@ -8,6 +8,7 @@
 #include "benchmarks/Measure.h"
 #include "benchmarks/PlainRecords.h"
 #include "platform/KeyOrder.h"
+#include "platform/WorkbookWriter.h"
 #include "records/LoadRecord.h"
 #include "records/RecordExport.h"
 #include "records/RecordList.h"
@@ -312,11 +313,51 @@ void PlainExport(benchmark::State& state) {
     }
 }
 
+// 10,000 of them as a workbook.
+std::vector<std::string> SomeTags() {
+    std::vector<std::string> tags;
+    for (int i = 0; i < 10000; ++i) tags.push_back(TagOf(i));
+    return tags;
+}
+
+void ExportWorkbook(benchmark::State& state) {
+    const TemporaryFolder folder;
+    const std::string& file = ManyRecordsFile();
+    const std::vector<std::string> tags = SomeTags();
+    for ([[maybe_unused]] auto each : state)
+        ExportRecords(file, SuitePath(folder.Path() / "some.xlsx"), tags);
+}
+
+// The rows read tag by tag and handed on to the library as they are.
+void PlainWorkbook(benchmark::State& state) {
+    const TemporaryFolder folder;
+    const std::string& file = ManyRecordsFile();
+    const auto cellOf = [](const FieldValue& value) -> WorkbookCell {
+        if (const auto* text = std::get_if<std::string>(&value)) return *text;
+        if (const auto* number = std::get_if<double>(&value)) return *number;
+        return {};
+    };
+    for ([[maybe_unused]] auto each : state) {
+        PlainRecords plain(file);
+        WorkbookWriter book(SuitePath(folder.Path() / "plain.xlsx"));
+        book.Sheet("Plain", 0);
+        for (const std::string& tag : SomeTags()) {
+            std::vector<WorkbookCell> row;
+            for (const RecordTable* table : RowsOfALine)
+                std::ranges::transform(plain.Seek(*table, tag), std::back_inserter(row), cellOf);
+            book.Row(row);
+        }
+        book.Commit();
+    }
+}
+
 BENCHMARK(Insert)->Name("database/10,000 rows added");
 BENCHMARK(PlainInsert)->Name("database/10,000 rows added/plain");
 BENCHMARK(LookUp)->Name("database/row sought");
 BENCHMARK(PlainSeek)->Name("database/row sought/plain");
 BENCHMARK(Export)->Name("database/export of 100,000 records")->Iterations(1)->Repetitions(3);
 BENCHMARK(PlainExport)->Name("database/export of 100,000 records/plain")->Iterations(1)->Repetitions(3);
+BENCHMARK(ExportWorkbook)->Name("database/workbook of 10,000 records")->Iterations(1)->Repetitions(3);
+BENCHMARK(PlainWorkbook)->Name("database/workbook of 10,000 records/plain")->Iterations(1)->Repetitions(3);
 
 }  // namespace

@@ -63,6 +63,8 @@ PROMISES = [
     Promise("browser/search by date", ratio=2.5, remark="reads whole heads"),
     Promise("database/10,000 rows added", ratio=1.5),
     Promise("database/row sought", ratio=1.5),
+    Promise("database/export of 100,000 records", ratio=1.5),
+    Promise("database/workbook of 10,000 records", ratio=2, remark="looks for the units that all share first"),
     Promise("tables/10,000 rows saved", time=200 * MS),
     Promise("tables/size among 422 pipes looked up", time=1 * MS),
     Promise("batch/1,000 records to one PDF", time=5),

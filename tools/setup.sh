@@ -6,7 +6,7 @@ cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." || exit 1
 
 # Debian packages by purpose; the scripts use those that the caller names.
 BuildPackages=(build-essential cmake ninja-build ccache qt6-base-dev qt6-svg-dev libqcustomplot-dev
-               libsqlite3-dev libminizip-dev libexpat1-dev fontconfig fonts-dejavu-core)
+               libsqlite3-dev libminizip-dev libexpat1-dev libxlsxwriter-dev fontconfig fonts-dejavu-core)
 TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils unzip locales file desktop-file-utils
               appstream python3)
 BenchPackages=(libbenchmark-dev)

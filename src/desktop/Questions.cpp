@@ -7,6 +7,7 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -99,6 +100,25 @@ QString FilterOf(const std::string& filter) {
     return filters.join(QStringLiteral(";;"));
 }
 
+// "Workbook (*.xlsx)" gives "xlsx".
+QString EndingOf(const QString& filter) {
+    return filter.section(QStringLiteral("*."), 1).section(QLatin1Char(')'), 0, 0);
+}
+
+// Where there are files of several kinds, the kind that is chosen gives its ending to a name without one; a
+// dialog with an ending to give changes that of the name by itself.
+QString AskNameToSave(QWidget* over, const QString& title, const QString& file, const QString& filter) {
+    if (!filter.contains(QStringLiteral(";;")))
+        return QFileDialog::getSaveFileName(over, title, file, filter);
+    QFileDialog dialog(over, title, QFileInfo(file).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(QFileInfo(file).fileName());
+    dialog.setDefaultSuffix(EndingOf(dialog.selectedNameFilter()));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString& chosen) { dialog.setDefaultSuffix(EndingOf(chosen)); });
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 }  // namespace
 
 Answer DesktopHost::ShowMessageBox(const MessageBox& box) {
@@ -137,7 +157,7 @@ std::optional<std::string> DesktopHost::FileDialog(const FileQuestion& question)
     QWidget* const over = WindowInHand();
     const QString title = ToQt(question.Title);
     const QString filter = FilterOf(question.Filter);
-    const QString name = question.ForSaving ? QFileDialog::getSaveFileName(over, title, folder, filter)
+    const QString name = question.ForSaving ? AskNameToSave(over, title, folder, filter)
                                             : QFileDialog::getOpenFileName(over, title, folder, filter);
     if (name.isEmpty()) return std::nullopt;
     return SuitePath(name.toStdU16String());

@@ -9,6 +9,7 @@
 #include "platform/Folders.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
+#include "platform/WorkbookWriter.h"
 #include "records/Backups.h"
 #include "records/RecordExport.h"
 #include "records/RecordFiles.h"
@@ -98,8 +99,9 @@ void frmTRProg::mnuExport_Click() {
 
 // All records when no tag is given.
 void frmTRProg::ExportTags(const std::vector<std::string>& tags) {
+    const std::string values = "Comma separated values(*.csv)|*.csv", workbook = "Workbook(*.xlsx)|*.xlsx";
     const auto file = AskFile({.Title = ExportTitle,
-                               .Filter = "Comma separated values(*.csv)|*.csv",
+                               .Filter = WritesWorkbooks() ? values + '|' + workbook : values,
                                .Folder = ProposedFile(Suite.DatabasePath, "TRDB.csv"),
                                .ForSaving = true});
     if (!file || file->empty() || !MayWrite(*file, "an export", ExportTitle)) return;

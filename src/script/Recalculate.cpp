@@ -1,5 +1,4 @@
 // The command that calculates the records of a database anew, for an office that does so every night.
-#include <filesystem>
 #include <ostream>
 #include <vector>
 
@@ -8,7 +7,6 @@
 #include "platform/Form.h"
 #include "platform/NumberText.h"
 #include "platform/TextFiles.h"
-#include "records/RecordFiles.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptFailure.h"
 #include "script/ScriptPlayer.h"
@@ -17,14 +15,6 @@
 namespace quillmetra::script {
 
 namespace {
-
-// A database or the folder that it is in, as the suite names files; @ is the suite's own folder.
-std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path) {
-    const std::string named = path.starts_with('@') ? player.Folder() + "\\" + path.substr(1) : path;
-    const std::filesystem::path file = std::filesystem::absolute(MachinePath(named)).lexically_normal();
-    const std::string name = SuitePath(file);
-    return std::filesystem::is_directory(file) ? DatabaseFileOf(name) : name;
-}
 
 // "tag,result,before,now,change in percent", as the export writes its lines.
 std::vector<std::string> ReportOf(const Recalculation& run) {
@@ -49,7 +39,7 @@ void WriteReport(ScriptPlayer& player, const std::string& file, const std::vecto
         for (const std::string& line : lines) player.Out << line << '\n';
         return;
     }
-    TextWriter writer(SuitePath(std::filesystem::absolute(MachinePath(file))));
+    TextWriter writer(FileToWrite(player, file, "a report"));
     for (const std::string& line : lines) writer.Line(line);
     writer.Commit();
 }

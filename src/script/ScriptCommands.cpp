@@ -25,6 +25,7 @@ constexpr ScriptCommand Table[] = {
     {"open", "TAG", script::OpenCalculation, "a saved calculation, from the browser"},
     {"recalculate", "DATABASE [REPORT] [WHAT]", script::Recalculate,
      "all its records; WHAT is save, fluids or fluids+save"},
+    {"export", "DATABASE FILE", script::Export, "all its records as CSV, or as a workbook (.xlsx)"},
     {"form", "NAME", script::TakeForm, "takes a loaded form in hand"},
     {"close", "", script::CloseForm, "the close box of the form in hand"},
 

@@ -1,6 +1,9 @@
 // quillmetra-script: plays a script against the suite, without a display.
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -15,7 +18,6 @@
 namespace {
 
 constexpr int Failed = 2;
-constexpr std::string_view Recalculation = "--recalculate";
 
 void PrintHelp() {
     std::puts(
@@ -26,6 +28,10 @@ void PrintHelp() {
         "PATH]\n"
         "Calculates all records of a database anew. Ends with 0 when no result has changed, with 1 when one\n"
         "has or a calculation told something, with 2 when it could not be done.\n\n"
+        "   or: quillmetra-script --export DATABASE FILE\n"
+        "Writes all records of a database as CSV, or as a workbook where FILE ends with .xlsx. Ends with 0, "
+        "or\n"
+        "with 2 when it could not be done.\n\n"
         "Commands:");
     for (const quillmetra::ScriptCommand& command : quillmetra::ScriptCommands()) {
         const std::string usage = std::string(command.Name) + " " + command.Usage;
@@ -40,38 +46,67 @@ std::string Quoted(const std::string& text) {
     return quoted + "\"";
 }
 
+// What stands on the command line behind a short form.
 struct Order {
-    std::string Database, Report, Folder;
+    std::vector<std::string> Files;
+    std::string Report, Folder;
     bool Fluids = false, Saves = false;
 };
 
-// False, after a word, for an option that there is not.
-bool Take(Order& order, const std::vector<std::string>& options) {
-    for (std::size_t i = 0; i < options.size(); ++i) {
-        const std::string& option = options[i];
-        const bool hasValue = i + 1 < options.size();
-        if (option == "--fluids") {
-            order.Fluids = true;
-        } else if (option == "--save") {
-            order.Saves = true;
-        } else if (hasValue && (option == "--report" || option == "--folder")) {
-            (option == "--report" ? order.Report : order.Folder) = options[++i];
-        } else {
-            std::fprintf(stderr, "What is %s? --help tells\n", option.c_str());
-            return false;
-        }
-    }
-    return true;
-}
-
-// As a script of two or three lines.
-int Recalculate(quillmetra::ScriptPlayer& player, const Order& order) {
+std::string RecalculateLine(const Order& order) {
     const char* what = order.Saves ? "save" : "";
     if (order.Fluids) what = order.Saves ? "fluids+save" : "fluids";
-    std::string lines = order.Folder.empty() ? "" : "folder " + Quoted(order.Folder) + "\n";
-    lines += "start\nrecalculate " + Quoted(order.Database) + " " + Quoted(order.Report) + " " + Quoted(what);
-    std::istringstream script(lines);
-    if (player.Play(std::string(Recalculation), script) != 0) return Failed;
+    return "recalculate " + Quoted(order.Files[0]) + " " + Quoted(order.Report) + " " + Quoted(what);
+}
+
+std::string ExportLine(const Order& order) {
+    return "export " + Quoted(order.Files[0]) + " " + Quoted(order.Files[1]);
+}
+
+// A command as an option, with as many files behind it; it is played as a script of two or three lines.
+struct ShortForm {
+    std::string_view Option;
+    std::size_t Files;
+    std::string (*Line)(const Order& order);
+    std::array<std::string_view, 4> Options;  // that it takes
+};
+constexpr ShortForm ShortForms[] = {
+    {"--recalculate", 1, RecalculateLine, {"--report", "--fluids", "--save", "--folder"}},
+    {"--export", 2, ExportLine, {"--folder"}},
+};
+
+const ShortForm* FindShortForm(std::string_view option) {
+    const auto* const found = std::ranges::find(ShortForms, option, &ShortForm::Option);
+    return found == std::end(ShortForms) ? nullptr : found;
+}
+
+// False, after a word, for an option that there is not, and where files are missing or too many.
+bool Take(Order& order, const ShortForm& form, const std::vector<std::string>& words) {
+    const auto refuse = [](const std::string& what) {
+        std::fprintf(stderr, "%s? --help tells\n", what.c_str());
+        return false;
+    };
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string& word = words[i];
+        if (!word.starts_with("--")) {
+            order.Files.push_back(word);
+            continue;
+        }
+        if (std::ranges::find(form.Options, word) == form.Options.end()) return refuse("What is " + word);
+        if (word == "--fluids" || word == "--save") {
+            (word == "--fluids" ? order.Fluids : order.Saves) = true;
+            continue;
+        }
+        if (i + 1 == words.size()) return refuse("Which is the one of " + word);
+        (word == "--report" ? order.Report : order.Folder) = words[++i];
+    }
+    return order.Files.size() == form.Files || refuse("Which files");
+}
+
+int Play(quillmetra::ScriptPlayer& player, const ShortForm& form, const Order& order) {
+    const std::string folder = order.Folder.empty() ? "" : "folder " + Quoted(order.Folder) + "\n";
+    std::istringstream script(folder + "start\n" + form.Line(order));
+    if (player.Play(std::string(form.Option), script) != 0) return Failed;
     return player.Differs ? 1 : 0;
 }
 
@@ -87,15 +122,15 @@ int main(int count, char** arguments) {
         std::printf("quillmetra-script %s\n", quillmetra::version::Text);
         return 0;
     }
-    const bool recalculates = what == Recalculation && count > 2;
-    if (what.empty() || (!recalculates && (count > 2 || (what.size() > 1 && what.starts_with('-'))))) {
+    const ShortForm* const form = FindShortForm(what);
+    if (what.empty() || (form == nullptr && (count > 2 || (what.size() > 1 && what.starts_with('-'))))) {
         std::fputs("Usage: quillmetra-script FILE, or --help\n", stderr);
         return 1;
     }
+    Order order;
+    if (form != nullptr && !Take(order, *form, {arguments + 2, arguments + count})) return Failed;
     const quillmetra::Utf8Console console;
     quillmetra::RegisterForms();
     quillmetra::ScriptPlayer player(std::cout, std::cerr);
-    if (!recalculates) return player.Play(what);
-    Order order{.Database = arguments[2], .Report = {}, .Folder = {}};
-    return Take(order, {arguments + 3, arguments + count}) ? Recalculate(player, order) : Failed;
+    return form == nullptr ? player.Play(what) : Play(player, *form, order);
 }

@@ -1,4 +1,6 @@
 // Message boxes: what they say, which buttons they have, and that a question wants an answer.
+#include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -147,6 +149,27 @@ TEST_F(QuestionsTest, HelpIsSearchedAndGoneThroughByKeys) {
     EXPECT_TRUE(search->text().isEmpty() && help.isVisible());
     press(search, Qt::Key_Escape);
     EXPECT_FALSE(help.isVisible());
+}
+
+TEST_F(QuestionsTest, AnotherKindOfFileGivesTheNameItsEnding) {
+    const auto save = [this](int kind, const QString& name) {
+        WhenDialogOpens([kind, name](QWidget& widget) {
+            auto& dialog = static_cast<QFileDialog&>(widget);
+            auto* const kinds = dialog.findChild<QComboBox*>("fileTypeCombo");
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+            kinds->setCurrentIndex(kind);
+            emit kinds->activated(kind);
+            emit kinds->textActivated(kinds->currentText());
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        return Screen.FileDialog({.Title = "Export",
+                                  .Filter = "Values(*.csv)|*.csv|Workbook(*.xlsx)|*.xlsx",
+                                  .Folder = SuitePath(std::filesystem::temp_directory_path() / "TRDB.csv"),
+                                  .ForSaving = true});
+    };
+    EXPECT_TRUE(save(0, "A.csv").value_or("").ends_with("A.csv"));
+    EXPECT_TRUE(save(1, "A.csv").value_or("").ends_with("A.xlsx"));
+    EXPECT_TRUE(save(1, "A").value_or("").ends_with("A.xlsx"));
 }
 
 TEST_F(QuestionsTest, HelpOpensBesideItsForm) {

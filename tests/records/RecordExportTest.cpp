@@ -5,7 +5,9 @@
 #include <set>
 
 #include "platform/NumberText.h"
+#include "platform/SheetReader.h"
 #include "platform/TextCase.h"
+#include "platform/WorkbookWriter.h"
 #include "records/RecordColumns.h"
 #include "tests/records/RecordFixture.h"
 
@@ -36,6 +38,33 @@ std::map<std::string, std::string> Cells(const std::string& line) {
     }
     return cells;
 }
+
+// The cells of a file's sheets by the tag of their row, for the units the name of the sheet, and by their
+// head.
+struct SheetsByTag : SheetTaker {
+    explicit SheetsByTag(const std::string& file) { ReadSheets(file, *this); }
+    bool TakeSheet(const std::string& name, bool) override {
+        Names.push_back(name);
+        heads_.clear();
+        return true;
+    }
+    bool TakeRow(const SheetRow& row) override {
+        if (heads_.empty()) {
+            for (const SheetCell& cell : row.Cells) heads_[cell.Column] = cell.Text;
+            return true;
+        }
+        const bool isUnits = row.Cells.front().Text == "Units";
+        const std::string tag = isUnits ? Names.back() : row.Cells.front().Text;
+        for (const SheetCell& cell : row.Cells) Rows[tag][heads_.at(cell.Column)] = cell;
+        return true;
+    }
+
+    std::vector<std::string> Names;
+    std::map<std::string, std::map<std::string, SheetCell>> Rows;
+
+private:
+    std::map<int, std::string> heads_;
+};
 
 TEST_F(RecordExportTest, EachFieldHasOneColumn) {
     std::set<std::string> names;
@@ -111,6 +140,37 @@ TEST_F(RecordExportTest, EachProgramFillsItsOwnColumns) {
     const std::string bytes = ReadBytes(SuitePath(Folder / "records.csv"));
     EXPECT_TRUE(bytes.starts_with("\xEF\xBB\xBFTag,"));
     EXPECT_NE(bytes.find("\n\u03a9-1,"), std::string::npos);
+}
+
+TEST_F(RecordExportTest, AWorkbookSaysWhatTheValuesSay) {
+    if (!WritesWorkbooks() || !ReadsWorkbooks()) GTEST_SKIP();
+    for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
+    TakeFilledRecord(1, 4, "=SI");
+    ASSERT_TRUE(SaveTRCalc());
+    TakeMixture("MIX");
+    ASSERT_TRUE(SaveTRCalc());
+    const std::string values = SuitePath(Folder / "all.csv"),
+                      workbook = SuitePath(Folder / "new" / "all.XLSX");
+    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, values), 7);
+    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, workbook), 7);
+    SheetsByTag csv(values), book(workbook);
+    EXPECT_EQ(book.Names.size(), 5U);
+    ASSERT_TRUE(csv.Rows.contains("'=SI"));
+    for (auto& [tag, cells] : csv.Rows) {
+        EXPECT_EQ(book.Rows[tag].size(), cells.size()) << tag;
+        for (const auto& [head, cell] : cells) {
+            const SheetCell& same = book.Rows[tag][head];
+            EXPECT_EQ(same.Number, cell.Number) << tag << head;
+            EXPECT_TRUE(cell.Number || same.Text == cell.Text) << tag << head << same.Text << cell.Text;
+        }
+    }
+    EXPECT_EQ(book.Rows["P1"]["Calc Date"].Of, SheetCell::Kind::Date);
+    EXPECT_EQ(book.Rows["P1"]["Pipe Fouling"].Of, SheetCell::Kind::Number);
+    EXPECT_EQ(book.Rows["Water hammer"]["Operating Pressure"].Text, "psig");
+    EXPECT_FALSE(book.Rows["Liquid line loss"].contains("Case 1 Final Pressure")) << "two units";
+    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, workbook, {"P3"}), 1);
+    EXPECT_EQ(SheetsByTag(workbook).Names, std::vector<std::string>{"Water hammer"});
+    EXPECT_THROW(ExportRecords(Suite.DatabaseFile, SuitePath(Folder / "all.csv" / "x.xlsx")), RuntimeError);
 }
 
 }  // namespace

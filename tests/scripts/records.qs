@@ -404,6 +404,7 @@ open L-1
 expect txtFluid Toluene
 click mnuProgram
 expect lblNumRecords 5
+export @TRData @all.csv
 # An export does not go over a database.
 save-as no-such-folder/trdb.mdb
 answer OK

@@ -1,0 +1,45 @@
+// The command that exports a database, and what the commands that work without a form name their files by.
+#include <filesystem>
+#include <ostream>
+
+#include "forms/FileGuard.h"
+#include "platform/Form.h"
+#include "platform/TextFiles.h"
+#include "records/RecordExport.h"
+#include "records/RecordFiles.h"
+#include "script/ScriptCommands.h"
+#include "script/ScriptFailure.h"
+#include "script/ScriptPlayer.h"
+
+namespace quillmetra::script {
+
+namespace {
+
+std::filesystem::path FileNamed(const ScriptPlayer& player, const std::string& path) {
+    const std::string named = path.starts_with('@') ? player.Folder() + "\\" + path.substr(1) : path;
+    return std::filesystem::absolute(MachinePath(named)).lexically_normal();
+}
+
+}  // namespace
+
+std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path) {
+    const std::filesystem::path file = FileNamed(player, path);
+    const std::string name = SuitePath(file);
+    return std::filesystem::is_directory(file) ? DatabaseFileOf(name) : name;
+}
+
+std::string FileToWrite(const ScriptPlayer& player, const std::string& path, const std::string& by) {
+    std::string file = SuitePath(FileNamed(player, path));
+    const std::string reason = WhyNotToWrite(file, by);
+    if (!reason.empty()) throw ScriptFailure{reason};
+    return file;
+}
+
+void Export(ScriptPlayer& player, const Arguments& arguments) {
+    if (player.FormInHand().Name() != "frmTRProg") throw ScriptFailure{"the browser is not in hand"};
+    const std::string file = FileToWrite(player, arguments[1].Text, "an export");
+    const int count = ExportRecords(DatabaseNamed(player, arguments[0].Text), file);
+    player.Out << Counted(static_cast<std::size_t>(count), "record") << '\n';
+}
+
+}  // namespace quillmetra::script
