@@ -16,7 +16,6 @@
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
 #include "script/ScriptHost.h"
-#include "tests/OnServer.h"
 #include "units/NamedUnitSets.h"
 
 namespace quillmetra {
@@ -59,9 +58,7 @@ inline const std::string& ManyRecordsFile() {
         InstallHost(&host);
         Suite = SuiteState();
         Suite.DatabasePath = SuitePath(folder.Path());
-        Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
-        OnServer() ? MakeServerDatabase(Suite.DatabaseFile, NewServerLink())
-                   : MakeEmptyDatabase(Suite.DatabaseFile);
+        CreateDB(true);
         const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
         Transaction all(*database);
         for (const RecordTable* table :

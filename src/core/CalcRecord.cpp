@@ -108,6 +108,7 @@ void RestoreShown() {
     Calc.UnitName = Calc.UnitNameShown;
     Calc.PipeData = Calc.PipeDataSaved;
     Calc.PipeName = Calc.PipeNameSaved;
+    Calc.Service = Calc.ServiceSaved;
     Calc.FittingCount = Calc.FittingCountShown;
     Calc.HammerResult = Calc.HammerResultSaved;
     Calc.CaseUnitsText = Calc.CaseUnitsTextSaved;
@@ -151,6 +152,7 @@ void TakeSaved() {
     Calc.PressureDirectionSaved = Calc.PressureDirection;
     Calc.PipeMaterialSaved = Calc.PipeMaterial;
     Calc.PipeNameSaved = Calc.PipeName;
+    Calc.ServiceSaved = Calc.Service;
     Calc.PipeMaterialNumberSaved = Calc.PipeMaterialNumber;
     Calc.TagSaved = Calc.Tag;
     Calc.ProgramTitleSaved = Calc.ProgramTitle;

@@ -202,13 +202,14 @@ struct CalcRecord {
     std::string FluidName, FluidNameSaved;
     std::string CalcMode, DataMode;
     std::string CalcOption, OtherCalcs;  // option codes as stored
-    int PressureDirection = 1;           // 1 source given, 2 destination given
-    int PressureDirectionSaved = 1;
+    int PressureDirection = direction::Forwards;
+    int PressureDirectionSaved = direction::Forwards;
     int PipeMaterialNumber = 1;  // 1 to 7
     std::string PipeMaterial = "Steel", PipeMaterialSaved = "Steel";
     Row<std::string, 8> PipeMaterialName{};
     // "6 in sch 40" of a pipe that was picked from a table; empty once its diameter was typed over.
     std::string PipeName, PipeNameSaved;
+    std::string Service, ServiceSaved;      // of a line: its row of the criteria, empty for none
     std::string MixtureFlag;                // "Yes", "No" or empty
     std::string SteamKind;                  // "Saturated", "Superheated" or empty
     std::string FluidOk = "Ok";             // "Ok", "OK" or empty; the spellings differ on purpose

@@ -171,6 +171,12 @@ inline constexpr int DataFiles = 4;
 inline constexpr int Program = 5;  // the program's own folder
 }  // namespace path
 
+// PressureDirection: which end of the line is given, and so which way it is calculated.
+namespace direction {
+inline constexpr int Forwards = 1;   // from the source
+inline constexpr int Backwards = 2;  // from the destination
+}  // namespace direction
+
 // A calculation has one line; the arrays of its working layer are by pipe, and this is their element.
 inline constexpr int TheLine = 1;
 // Elements of Elevation.

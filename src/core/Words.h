@@ -63,6 +63,9 @@ inline constexpr const char* Select = "Select";
 // The cases of a line, by CaseIndex.
 inline constexpr const char* Cases[] = {"Maximum", "Normal", "Minimum"};
 
+// A line without a service.
+inline constexpr const char* NoService = "(none)";
+
 // The initial text of the option codes of a record.
 inline constexpr const char* NoCodes = "XXXXXXXX";
 // Prompts of the two name boxes: a box that still shows its prompt prints nothing.

@@ -46,6 +46,7 @@ class DropView : public ButtonView {
 public:
     DropView(DropButton& control, DropPushButton* button) : ButtonView(control, button), button_(button) {
         button->SetModel(&control);
+        connect(button, &QAbstractButton::clicked, button, &DropPushButton::DropAtPress);
     }
     void Forget() override {
         button_->SetModel(nullptr);

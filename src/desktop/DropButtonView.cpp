@@ -32,7 +32,8 @@ void DropPushButton::initStyleOption(QStyleOptionButton* option) const {
 
 void DropPushButton::mousePressEvent(QMouseEvent* event) {
     constexpr int margin = 6;
-    const bool onArrow = Drops() && event->position().x() >= width() - ArrowWidth() - margin;
+    const bool onArrow =
+        Drops() && (model_->DropsAtPress() || event->position().x() >= width() - ArrowWidth() - margin);
     if (!onArrow || event->button() != Qt::LeftButton) return QPushButton::mousePressEvent(event);
     // The press that closed the menu comes by here too.
     constexpr qint64 samePress = 200;  // ms

@@ -15,6 +15,11 @@ public:
     // The control, null once its form is gone or for one that drops nothing.
     void SetModel(DropButton* model) { model_ = model; }
 
+    // For a press by a key, or of a screen reader's.
+    void DropAtPress() {
+        if (model_ != nullptr && model_->DropsAtPress()) DropSoon();
+    }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -12,19 +12,6 @@ namespace {
 
 constexpr const char* Title = "Calculate all";
 
-// The hints of the cases, once where they are the same.
-std::string Joined(const std::vector<std::pair<std::string, std::string>>& hints) {
-    std::string all;
-    bool same = true;
-    for (const auto& [name, hint] : hints) {
-        same = same && hint == hints.front().second;
-        if (hint.empty()) continue;
-        if (!all.empty()) all += ' ';
-        all.append(name).append(": ").append(hint);
-    }
-    return same ? hints.front().second : all;
-}
-
 }  // namespace
 
 std::string CalculationForm::CaseName(int caseIndex) const {
@@ -34,7 +21,7 @@ std::string CalculationForm::CaseName(int caseIndex) const {
 
 void CalculationForm::CalculateAll() {
     CaseMessages messages(Title);
-    std::vector<std::pair<std::string, std::string>> hints;
+    std::vector<TextOfCase> hints;
     for (int i = 0; i < CaseCount && !UserWantsToStop(); ++i) {
         Control* const button = CalculateButton(i);
         if (button == nullptr || !button->Works() || !HasData(i)) continue;
@@ -43,11 +30,13 @@ void CalculationForm::CalculateAll() {
         hints.emplace_back(CaseName(i), hint_);
     }
     if (hints.empty()) return SetStatus("No case has its data yet");
-    if (hints.size() > 1) {
-        ShowHint(Joined(hints));
-        hintedCase_ = EveryCase;
-    }
+    if (hints.size() > 1) ShowHints(hints);
     messages.TellByCase();
+}
+
+void CalculationForm::ShowHints(const std::vector<TextOfCase>& hints) {
+    ShowHint(JoinedHints(hints));
+    hintedCase_ = EveryCase;
 }
 
 }  // namespace quillmetra

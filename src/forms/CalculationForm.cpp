@@ -362,7 +362,7 @@ void CalculationForm::mnuNew_Click() {
 
 void CalculationForm::BeginNew() {
     Calc.PipeData[pipe::Entrance] = Calc.PipeData[pipe::Exit] = 1;
-    Calc.PressureDirection = 1;
+    Calc.PressureDirection = direction::Forwards;
     BeginRecord();
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/CalcRecord.h"
+#include "forms/CaseMessages.h"
 #include "forms/FluidPanels.h"
 #include "forms/SuiteForm.h"
 #include "forms/UndoHistory.h"
@@ -157,6 +158,8 @@ protected:
     virtual HintList Hints() const { return {}; }
     // Shows a hint in the status line until it no longer holds; an empty one takes the former away.
     void ShowHint(const std::string& hint);
+    // The same for hints of several cases.
+    void ShowHints(const std::vector<TextOfCase>& hints);
     // The fluid's name was typed over.
     virtual void FluidTyped() {}
     // The results of a case no longer stand: what the form has drawn of them goes.

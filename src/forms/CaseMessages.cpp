@@ -41,6 +41,18 @@ std::string WithoutCase(const std::string& name, const std::string& text) {
 
 }  // namespace
 
+std::string JoinedHints(const std::vector<TextOfCase>& hints) {
+    std::string all;
+    bool same = true;
+    for (const auto& [name, hint] : hints) {
+        same = same && hint == hints.front().second;
+        if (hint.empty()) continue;
+        if (!all.empty()) all += ' ';
+        all.append(name).append(": ").append(hint);
+    }
+    return same && !hints.empty() ? hints.front().second : all;
+}
+
 void CaseMessages::Run(const std::string& caseName, const Handler& part) {
     const FlowStatusAlone zone;
     const HeldMessages held;
@@ -56,9 +68,9 @@ void CaseMessages::Run(const std::string& caseName, const Handler& part) {
 void CaseMessages::TellByCase() const { TellLines(messages_); }
 
 void CaseMessages::TellOnce() const {
-    std::vector<Message> once;
+    std::vector<TextOfCase> once;
     for (const auto& [name, text] : messages_) {
-        const auto same = std::ranges::find(once, text, &Message::second);
+        const auto same = std::ranges::find(once, text, &TextOfCase::second);
         if (same == once.end()) {
             once.emplace_back(name, text);
         } else if (!same->first.ends_with(name)) {
@@ -68,7 +80,7 @@ void CaseMessages::TellOnce() const {
     TellLines(once);
 }
 
-void CaseMessages::TellLines(const std::vector<Message>& messages) const {
+void CaseMessages::TellLines(const std::vector<TextOfCase>& messages) const {
     std::string lines;
     for (const auto& [name, text] : messages) {
         if (!lines.empty()) lines += '\n';

@@ -10,6 +10,12 @@
 
 namespace quillmetra {
 
+// Of a case, by its name.
+using TextOfCase = std::pair<std::string, std::string>;
+
+// The hints of the cases, once where they are the same.
+std::string JoinedHints(const std::vector<TextOfCase>& hints);
+
 class CaseMessages {
 public:
     explicit CaseMessages(const char* title) : title_(title) {}
@@ -22,11 +28,10 @@ public:
     void TellOnce() const;
 
 private:
-    using Message = std::pair<std::string, std::string>;  // case or cases, text
-    void TellLines(const std::vector<Message>& messages) const;
+    void TellLines(const std::vector<TextOfCase>& messages) const;
 
     const char* title_;
-    std::vector<Message> messages_;
+    std::vector<TextOfCase> messages_;  // of a case or several
 };
 
 }  // namespace quillmetra

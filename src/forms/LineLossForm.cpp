@@ -6,6 +6,7 @@
 #include "core/Programs.h"
 #include "core/Words.h"
 #include "forms/DataCheck.h"
+#include "forms/LineServices.h"
 #include "lineloss/Friction.h"
 #include "lineloss/LineRanges.h"
 #include "platform/Forms.h"
@@ -39,6 +40,7 @@ LineLossForm::LineLossForm(const Names& names, std::initializer_list<int> rows)
 void LineLossForm::Assemble() {
     pltLine.ColourGroup = 4;  // as the results
     HookLine();
+    HookService();
     HookFluid();
     DescribeRows();
     OrderTabs();
@@ -50,8 +52,8 @@ void LineLossForm::OrderTabs() {
     TabOrder = {&txtTagNum,        &txtFluid,          &txtInletPipeLen, &txtInletPipeID, &cmdPipeID,
                 &txtInletPipeElev, &txtOutletPipeElev, &txtPipeCond,     &cmdMatl,        &lstMatl,
                 &txtInletGate,     &txtInletGlobe,     &txtInletCheck,   &txtInlet90Deg,  &txtInlet45Deg,
-                &txtInletThru,     &txtInletBranch,    &chkEntrance,     &chkExit,        &optDestination,
-                &optSource,        &cmdSizes,          &cmdFlowFor};
+                &txtInletThru,     &txtInletBranch,    &chkEntrance,     &chkExit,        &cmdService,
+                &optDestination,   &optSource,         &cmdSizes,        &cmdFlowFor};
     for (int i = 0; i < CaseCount; ++i) {
         for (const CaseBoxes boxes : BoxesOfACase()) {
             TabOrder.push_back(&(*boxes)(i));
@@ -102,11 +104,11 @@ void LineLossForm::ShowChoices() {
     }
     lstMatl.SetVisible(false);
     ShowFluidEntries();
-    if (Calc.PressureDirection == 2) {
+    if (Calc.PressureDirection == direction::Backwards) {
         optSource.SetChecked(true);
         lblDestPress.SetCaption("Source pressure");
     } else {
-        Calc.PressureDirection = 1;
+        Calc.PressureDirection = direction::Forwards;
         optDestination.SetChecked(true);
         lblDestPress.SetCaption("Destination pressure");
     }
@@ -194,7 +196,6 @@ bool LineLossForm::HasData(int caseIndex) {
 
 // --- The dialogs that try the line -------------------------------------------------------------------------
 
-// The case in hand, or the first one that has its data.
 int LineLossForm::CaseToTry() {
     if (HasData(Calc.CaseIndex)) return Calc.CaseIndex;
     for (int i = 0; i < CaseCount; ++i) {
@@ -251,7 +252,9 @@ void LineLossForm::FluidTaken() {
     cmdCalculate(Calc.CaseIndex).SetFocus();
 }
 
-HintList LineLossForm::Hints() const { return Together(FluidForm::Hints(), LineHints()); }
+HintList LineLossForm::Hints() const {
+    return Together(Together(FluidForm::Hints(), LineHints()), ServiceHints(Calc.CaseIndex));
+}
 
 // A case that has been calculated has a velocity.
 void LineLossForm::Recalculate() {
@@ -317,15 +320,40 @@ void LineLossForm::lstMatl_DoubleClick() {
     ClearAllCases();
 }
 
+void LineLossForm::HookService() {
+    cmdService.Describe(&lblService);
+    cmdService.SetToolTip("What the velocity and the loss of the line should keep to; a list drops");
+    cmdService.Lines = [this] {
+        DropLines lines;
+        for (const LineCriterion& each : ServicesOffered(*this))
+            lines.push_back({.Text = each.Service, .InForce = each.Service == cmdService.Caption()});
+        return lines;
+    };
+    cmdService.Take = [this](int line) { TakeService(cmdService.Lines().at(At(line)).Text); };
+}
+
+void LineLossForm::TakeService(const std::string& service) {
+    if (service == cmdService.Caption()) return;
+    Calc.Service = service == words::NoService ? "" : service;
+    Calc.ChangedFlag = words::No;
+    cmdService.SetCaption(service);
+    std::vector<TextOfCase> hints;
+    for (int i = 0; i < CaseCount; ++i) {
+        if (StandingResult(result::Velocity, i) > 0)
+            hints.emplace_back(CaseName(i), Sentences(ServiceHints(i)));
+    }
+    ShowHints(hints);
+}
+
 void LineLossForm::optDestination_Click() {
-    Calc.PressureDirection = 1;
+    Calc.PressureDirection = direction::Forwards;
     lblPressure.SetCaption("Source pressure");
     lblDestPress.SetCaption("Destination pressure");
     ClearAllCases();
 }
 
 void LineLossForm::optSource_Click() {
-    Calc.PressureDirection = 2;
+    Calc.PressureDirection = direction::Backwards;
     lblPressure.SetCaption("Destination pressure");
     lblDestPress.SetCaption("Source pressure");
     ClearAllCases();

@@ -56,6 +56,8 @@ public:
     TextBox txtInletBranch{Picture1, "txtInletBranch"};
     CheckBox chkEntrance{Picture1, "chkEntrance", "Entrance"};
     CheckBox chkExit{Picture1, "chkExit", "Exit"};
+    Label lblService{Picture1, "lblService", "Service"};
+    DropButton cmdService{Picture1, "cmdService", ""};
     OptionButton optDestination{Picture1, "optDestination", "Calculate destination pressure"};
     OptionButton optSource{Picture1, "optSource", "Calculate source pressure"};
 
@@ -105,10 +107,14 @@ public:
     // For the dialogs that try the line of a case. Makes the case that in hand and checks its data as its
     // button does, telling what is wrong; NoFlow when its flow is what is sought.
     enum class Wanted { Flow, NoFlow };
+    int CaseToTry();  // that in hand, or the first one that has its data
     bool TakeCase(int caseIndex, Wanted wanted = Wanted::Flow);
     using FluidForm::HasState;
     // The row of the pipe size lookup, as if it had been taken there.
     void TakePipe(const std::string& listLine);
+    // A row of the criteria by its name, or words::NoService. The results stand, and what of them is beyond
+    // it is told.
+    void TakeService(const std::string& service);
 
 protected:
     using CaseBoxes = const ControlArray<TextBox>*;
@@ -144,10 +150,10 @@ protected:
     void Assemble();
 
 private:
-    int CaseToTry();
     void OrderTabs();
     void DrawCases();
     void HookLine();
+    void HookService();
     bool CheckData(Wanted wanted = Wanted::Flow);
     bool CheckLine();
 

@@ -5,9 +5,11 @@
 
 #include "core/CalcRecord.h"
 #include "core/Filling.h"
+#include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/FluidForm.h"
+#include "forms/LineServices.h"
 #include "forms/PanelReturn.h"
 #include "forms/RecordInHand.h"
 #include "platform/Clock.h"
@@ -17,6 +19,7 @@
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "reports/FormRows.h"
+#include "units/Rounding.h"
 
 namespace quillmetra {
 
@@ -50,9 +53,21 @@ std::vector<Result> ResultsOf(const Form& form) {
     return results;
 }
 
+bool HasResults(int caseIndex) { return StandingResult(result::Velocity, caseIndex) > 0; }
+
+std::vector<bool> ChokedCases() {
+    std::vector<bool> choked;
+    for (int i = 0; i < CaseCount; ++i) choked.push_back(HasResults(i) && IsChoked(i));
+    return choked;
+}
+
 std::string Figure(double value) { return value == 0 ? "" : TrimmedStr(value); }
 
 }  // namespace
+
+std::string PercentText(const ResultChange& change) {
+    return change.Percent == 0 ? "" : TrimmedStr(RoundedThree(change.Percent));
+}
 
 Recalculation::Recalculation(bool renewFluids)
     : renewFluids_(renewFluids), database_(OpenRecords(Suite.DatabaseFile)), version_(database_->Version()) {}
@@ -78,6 +93,7 @@ void Recalculation::Calculate(const RecordHead& head) {
     auto* const form = dynamic_cast<FluidForm*>(OpenCalculation());
     if (form == nullptr) return;
     const std::vector<Result> before = ResultsOf(*form);
+    const std::vector<bool> choked = ChokedCases();
     if (renewFluids_) form->RenewFluids();
     form->CalculateAll();
 
@@ -93,6 +109,7 @@ void Recalculation::Calculate(const RecordHead& head) {
         const double percent = was == 0 ? 0 : 100 * (is - was) / was;
         changes.push_back({head.Tag, after[i].Name, Figure(was), Figure(is), percent});
     }
+    Remark(head, choked);
     if (changes.empty()) return;
     changes_.insert(changes_.end(), changes.begin(), changes.end());
     Calc.CaseText[text::CalcDate] = Today();
@@ -100,6 +117,24 @@ void Recalculation::Calculate(const RecordHead& head) {
     for (const RecordTable* table : TablesOf(Calc.CurrentProgram))
         changed.Rows.push_back(RowOfRecord(*table));
     changed_.push_back(std::move(changed));
+}
+
+void Recalculation::Remark(const RecordHead& head, const std::vector<bool>& choked) {
+    if (!program::IsLine(Calc.CurrentProgram)) return;
+    const std::vector<bool> chokes = ChokedCases();
+    for (int i = 0; i < CaseCount; ++i) {
+        if (!HasResults(i)) continue;
+        const std::string name = words::Cases[At(i)];
+        if (chokes[At(i)] && !choked[At(i)]) remarks_.push_back({head.Tag, name + ": the line chokes now."});
+        for (const Hint& hint : ServiceHints(i)) remarks_.push_back({head.Tag, name + ": " + hint.Text});
+    }
+}
+
+std::string Recalculation::Summary() const {
+    const std::string summary = Counted(static_cast<std::size_t>(records_), "record") + ", " +
+                                std::to_string(Changed()) + " changed, " +
+                                Counted(problems_.size(), "message");
+    return remarks_.empty() ? summary : summary + ", " + Counted(remarks_.size(), "remark");
 }
 
 void Recalculation::Save() {

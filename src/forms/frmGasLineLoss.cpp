@@ -28,7 +28,7 @@ void GasLinePicture::Take(const GasStation& station) {
 // A line calculated from its end was walked from there.
 void GasLinePicture::Complete() {
     if (!stations_.empty() && last_.Part > stations_.back().Part) stations_.push_back(last_);
-    if (Calc.PressureDirection != 2) return;
+    if (Calc.PressureDirection != direction::Backwards) return;
     std::reverse(stations_.begin(), stations_.end());
     for (GasStation& station : stations_) station.Part = 1 - station.Part;
 }

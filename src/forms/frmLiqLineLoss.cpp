@@ -95,7 +95,7 @@ PlotDrawing frmLiqLineLoss::DrawingOf(int caseIndex) const {
     const auto i = static_cast<std::size_t>(caseIndex);
     std::vector<double> pressures = {Calc.CaseInput[input::Pressure][i],
                                      Calc.CaseResult[result::FinalPressure][i]};
-    if (Calc.PressureDirection == 2) std::swap(pressures[0], pressures[1]);
+    if (Calc.PressureDirection == direction::Backwards) std::swap(pressures[0], pressures[1]);
     return {.Title = {},
             .Bottom = {"Length", Calc.UnitName[unit::Length]},
             .Left = {"Pressure", Calc.UnitName[unit::Pressure]},

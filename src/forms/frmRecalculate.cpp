@@ -12,18 +12,12 @@
 #include "platform/NumberText.h"
 #include "records/RecordFiles.h"
 #include "records/RecordView.h"
-#include "units/Rounding.h"
 
 namespace quillmetra {
 
 namespace {
 
 constexpr const char* FormName = "frmRecalculate";
-bool HasSaved = false;  // of the form shown last
-
-std::string PercentText(const ResultChange& change) {
-    return change.Percent == 0 ? "" : TrimmedStr(RoundedThree(change.Percent));
-}
 
 }  // namespace
 
@@ -97,10 +91,10 @@ void frmRecalculate::ShowList() {
     if (run_ != nullptr) {
         for (const ResultChange& each : run_->Changes())
             rows.push_back({each.Tag, each.Result, each.Before, each.After, PercentText(each)});
-        for (const RecordProblem& each : run_->Problems()) rows.push_back({each.Tag, each.Text, "", "", ""});
-        lblSummary.SetCaption(Counted(static_cast<std::size_t>(run_->Records()), "record") + ", " +
-                              std::to_string(run_->Changed()) + " changed, " +
-                              Counted(run_->Problems().size(), "message"));
+        for (const auto* told : {&run_->Problems(), &run_->Remarks()}) {
+            for (const RecordProblem& each : *told) rows.push_back({each.Tag, each.Text, "", "", ""});
+        }
+        lblSummary.SetCaption(run_->Summary());
     } else {
         lblSummary.SetCaption("");
     }
@@ -126,7 +120,7 @@ void frmRecalculate::cmdSave_Click() {
         Tell(error.Description, Caption(), Icon::Stop);
         return;
     }
-    HasSaved = true;
+    if (Saved) Saved();
     cmdSave.SetEnabled(false);
     SetStatus(count + " saved");
 }
@@ -134,10 +128,12 @@ void frmRecalculate::cmdSave_Click() {
 void frmRecalculate::cmdCancel_Click() { UnloadForm(Name()); }
 
 bool RecalculateRecords(std::vector<std::string> tags) {
-    HasSaved = false;
-    dynamic_cast<frmRecalculate&>(LoadForm(FormName)).TakeTags(std::move(tags));
+    bool saved = false;
+    auto& form = dynamic_cast<frmRecalculate&>(LoadForm(FormName));
+    form.TakeTags(std::move(tags));
+    form.Saved = [&saved] { saved = true; };
     ShowForm(FormName, Modal::Yes);
-    return HasSaved;
+    return saved;
 }
 
 }  // namespace quillmetra

@@ -20,6 +20,7 @@ public:
 
     // The records that are calculated; set before the form is shown.
     void TakeTags(std::vector<std::string> tags);
+    Handler Saved;  // some were written; null when nobody asks
 
     Label lblRecords{*this, "lblRecords", "Records"};
     CheckBox chkFluids{*this, "chkFluids", "Take &fluid properties anew from the tables"};

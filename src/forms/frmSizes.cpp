@@ -10,11 +10,11 @@
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
 #include "forms/GridText.h"
+#include "forms/LineServices.h"
 #include "forms/PipeFamilyList.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
-#include "tables/Criteria.h"
 #include "tables/TableFiles.h"
 #include "units/Rounding.h"
 
@@ -23,7 +23,6 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* AllSchedules = "All";
-constexpr const char* NoService = "(none)";
 
 bool IsGas() { return Calc.CurrentProgram == program::GasLine; }
 
@@ -94,17 +93,20 @@ void frmSizes::Load() {
     ListFamilies(lstFamily, families_);
 }
 
+// The service of the line is selected, as long as the table has it.
 void frmSizes::ListServices() {
-    criteria_ = {{.Service = NoService, .Source = ""}};
-    try {
-        for (LineCriterion& each : CriteriaOf(Calc.FluidType)) criteria_.push_back(std::move(each));
-    } catch (const RuntimeError& error) {
-        SetStatus("Criteria.txt: " + error.Description);
-    }
+    criteria_ = ServicesOffered(*this);
     std::vector<std::string> names;
     for (const LineCriterion& each : criteria_) names.push_back(each.Service);
     lstService.SetRows(std::move(names));
-    lstService.Preselect(0);
+    const auto own = std::ranges::find(criteria_, Calc.Service, &LineCriterion::Service);
+    serviceAtFirst_ = own == criteria_.end() ? 0 : static_cast<int>(own - criteria_.begin());
+    lstService.Preselect(serviceAtFirst_);
+}
+
+// One that was not picked here stays what it is.
+void frmSizes::TakeService(LineLossForm& line) const {
+    if (lstService.Selected() != serviceAtFirst_) line.TakeService(Criterion().Service);
 }
 
 const LineCriterion& frmSizes::Criterion() const {
@@ -236,6 +238,17 @@ int frmSizes::BestRow() const {
     return best;
 }
 
+bool frmSizes::HasAnswer() const {
+    const int best = BestRow();
+    return best >= 0 && sizes_[At(best)].Trial.End == Outcome::Reached;
+}
+
+std::string frmSizes::Answer() const {
+    const std::string service = lstService.Selected() > 0 ? Criterion().Service + ": " : "";
+    const std::string pipe = HasAnswer() ? PipeNameOf(sizes_[At(BestRow())].ListLine) : "no pipe";
+    return service + pipe + ", " + lblMet.Caption();
+}
+
 void frmSizes::grdSizes_Click() { cmdOK.SetEnabled(grdSizes.Selected() >= grdSizes.FixedRows); }
 
 // A case that is refused leaves the table of the one before.
@@ -260,6 +273,7 @@ void frmSizes::cmdOK_Click() {
     if (row < 0 || row >= static_cast<int>(sizes_.size()) || OpenLine() == nullptr) return;
     const std::string line = sizes_[At(row)].ListLine;
     LineLossForm& form = *OpenLine();
+    TakeService(form);
     UnloadForm(Name());
     form.TakePipe(line);
 }

@@ -37,6 +37,11 @@ public:
     CommandButton cmdOK{*this, "cmdOK", "OK"};
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
+    // For who takes no pipe: the smallest that meets the criterion, or that gets the fluid through where
+    // there is none, and how many do.
+    bool HasAnswer() const;
+    std::string Answer() const;
+
     void optCase_Click(int index);
     void lstFamily_Click();
     void lstSchedule_Click();
@@ -58,6 +63,7 @@ private:
     const LineCriterion& Criterion() const;
     bool Meets(const Size& size) const;
     void ListServices();
+    void TakeService(LineLossForm& line) const;
     void ReadFamily();
     void TryPipes();
     void ShowTable();
@@ -67,8 +73,9 @@ private:
 
     std::vector<PipeFile> families_;       // a row of lstFamily each
     std::vector<LineCriterion> criteria_;  // a row of lstService each, the first asks nothing
-    std::vector<std::string> lines_;       // of the family in hand
-    std::vector<Size> sizes_;              // a row of the table each
+    int serviceAtFirst_ = 0;
+    std::vector<std::string> lines_;  // of the family in hand
+    std::vector<Size> sizes_;         // a row of the table each
 };
 
 }  // namespace quillmetra

@@ -15,7 +15,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr int Backwards = 2;        // the pressure direction of a march from the destination
 constexpr double FirstSigns = 0.3;  // of sonic velocity
 constexpr double First = 1000;  // before any error: the status line may be cut, and relief lines hang on it
 
@@ -23,12 +22,11 @@ struct GasState {
     double Density, Sonic;  // lb/ft3, ft/s
 };
 
-GasState StateAt(double pressure, const CalcRecord& record) {
+GasState StateAt(double pressure, const ChokingLine& line) {
     const double z =
-        SolveRedlichKwong(record.CritTemperature, record.CritPressure, record.FlowTemperature, pressure)
-            .Value;
-    const double density = GasDensityOf(pressure, record.FlowTemperature, record.MolecularWeight, z);
-    return {density, SonicVelocityOf(record.RatioSpecificHeats, pressure, density)};
+        SolveRedlichKwong(line.CritTemperature, line.CritPressure, line.Temperature, pressure).Value;
+    const double density = GasDensityOf(pressure, line.Temperature, line.MolecularWeight, z);
+    return {density, SonicVelocityOf(line.RatioSpecificHeats, pressure, density)};
 }
 
 bool HasStopped(const CalcRecord& record) {
@@ -36,12 +34,23 @@ bool HasStopped(const CalcRecord& record) {
 }
 
 double SourcePressureOf(const CalcRecord& record) {
-    if (record.PressureDirection != Backwards) return record.SourcePressure[TheLine];
+    if (record.PressureDirection != direction::Backwards) return record.SourcePressure[TheLine];
     return HasStopped(record) ? std::numeric_limits<double>::quiet_NaN() : record.FlowPressure;
 }
 
 double FrictionLengthOf(const CalcRecord& record) {
     return record.FrictionFactor * record.FittingsEquivLength * 12 / record.PipeId[TheLine];
+}
+
+ChokingLine LineOf(const CalcRecord& record) {
+    return {SourcePressureOf(record) - record.EquipLoss[TheLine],
+            record.FlowTemperature,
+            record.MolecularWeight,
+            record.RatioSpecificHeats,
+            record.CritTemperature,
+            record.CritPressure,
+            record.PipeId[TheLine],
+            FrictionLengthOf(record)};
 }
 
 // By the logarithm of f L / D: air in 4 in pipe of 5 to 10,000 ft, marched at its choked flow.
@@ -67,19 +76,19 @@ double ChokedInletMach(double frictionLength, double k) {
 }
 
 double OutletMach(const CalcRecord& record) {
-    if (record.PressureDirection != Backwards) return record.Velocity / record.SonicVelocity;
-    const GasState outlet = StateAt(record.SourcePressure[TheLine], record);
+    if (record.PressureDirection != direction::Backwards) return record.Velocity / record.SonicVelocity;
+    const GasState outlet = StateAt(record.SourcePressure[TheLine], LineOf(record));
     return LineVelocity(record.MassFlow, outlet.Density, record.PipeId[TheLine]) / outlet.Sonic;
 }
 
-double ChokedFlowOf(const CalcRecord& record) {
-    const double pressure = SourcePressureOf(record) - record.EquipLoss[TheLine];
-    if (!(pressure > 0)) return std::numeric_limits<double>::quiet_NaN();
-    const GasState source = StateAt(pressure, record);
-    const double diameter = record.PipeId[TheLine];
-    const double mach = ChokedInletMach(FrictionLengthOf(record), record.RatioSpecificHeats);
-    return source.Sonic * mach / LineVelocity(1, source.Density, diameter);
+double ChokedFlowOf(const ChokingLine& line) {
+    if (!(line.Pressure > 0)) return std::numeric_limits<double>::quiet_NaN();
+    const GasState source = StateAt(line.Pressure, line);
+    const double mach = ChokedInletMach(line.FrictionLength, line.RatioSpecificHeats);
+    return source.Sonic * mach / LineVelocity(1, source.Density, line.Diameter);
 }
+
+double ChokedFlowOf(const CalcRecord& record) { return ChokedFlowOf(LineOf(record)); }
 
 double ShownMachOfChoking(double frictionLength) { return ErrorAt(ShownMachs, std::log(frictionLength)); }
 

@@ -20,9 +20,18 @@ double ChokedInletMach(double frictionLength, double k);
 // them. With the destination pressure given that is where the march began.
 double OutletMach(const CalcRecord& record);
 
-// The choked flow (lb/h) of that line from the static state at its source, with its friction factor, fittings
-// and k; the equipment takes its loss off the source pressure. No number where the source is not known,
-// because a march towards it stopped.
+// A line from the static state at its source, behind its equipment.
+struct ChokingLine {
+    double Pressure, Temperature;  // psia, degF; no number where the source is not known
+    double MolecularWeight, RatioSpecificHeats, CritTemperature, CritPressure;  // degR, psia
+    double Diameter, FrictionLength;                                            // in; f L / D
+};
+
+// Its choked flow (lb/h); no number where the source is not known.
+double ChokedFlowOf(const ChokingLine& line);
+
+// The same of the gas line that has just been calculated, with its friction factor, fittings and k. The
+// source is not known when a march towards it stopped.
 double ChokedFlowOf(const CalcRecord& record);
 
 // The velocity over sonic velocity that the march shows at the outlet of a line when it passes its choked

@@ -115,8 +115,9 @@ private:
         const double equipment = Calc.EquipLoss[TheLine] / Calc.LossPer100 * 100;
         const double fall = (Calc.Density * (Calc.Elevation[LineStart] - Calc.Elevation[LineEnd]) / 144) /
                             Calc.LossPer100 * 100;
-        return Calc.PressureDirection == 2 ? -Calc.FittingsEquivLength - equipment - exit_ - entrance_ - fall
-                                           : Calc.FittingsEquivLength + equipment + exit_ + entrance_ + fall;
+        return Calc.PressureDirection == direction::Backwards
+                   ? -Calc.FittingsEquivLength - equipment - exit_ - entrance_ - fall
+                   : Calc.FittingsEquivLength + equipment + exit_ + entrance_ + fall;
     }
 
     const GasLineObserver& observer_;

@@ -4,7 +4,9 @@
 #include <limits>
 
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "fluids/GasCorrelations.h"
+#include "lineloss/ChokedFlow.h"
 #include "lineloss/FlowStatus.h"
 #include "lineloss/Friction.h"
 #include "lineloss/GasLineLoss.h"
@@ -71,7 +73,7 @@ double FittingsLength(const LineCase& line, const Flow& flow) {
     return resistance / flow.Factor * line.Diameter / 12;
 }
 
-bool IsBackwards() { return Calc.PressureDirection == 2; }
+bool IsBackwards() { return Calc.PressureDirection == direction::Backwards; }
 double GivenPressure(int caseIndex) { return PressureIn(Input(input::Pressure, caseIndex)); }
 double FoundPressure(int caseIndex) {
     return PressureIn(Calc.CaseResult[result::FinalPressure][At(caseIndex)]);
@@ -82,16 +84,21 @@ double LossByResults(int caseIndex) {
     return IsBackwards() ? -fall : fall;
 }
 
-double DestinationPressure(int caseIndex, double loss) {
-    return IsBackwards() ? GivenPressure(caseIndex) : GivenPressure(caseIndex) - loss;
-}
-
 // A march that stopped at sonic velocity has no pressure at its end, one that ran dry none above zero.
 bool HasEnd(int caseIndex) {
     const auto& results = Calc.CaseResult;
     const std::size_t i = At(caseIndex);
     const bool isSonic = results[result::Velocity][i] == results[result::SonicVelocity][i];
     return !(isSonic && results[result::FinalPressure][i] == 0) && FoundPressure(caseIndex) > 0;
+}
+
+double SourcePressure(int caseIndex) {
+    if (!IsBackwards()) return GivenPressure(caseIndex);
+    return HasEnd(caseIndex) ? FoundPressure(caseIndex) : Unknown;
+}
+
+double DestinationPressure(int caseIndex, double loss) {
+    return IsBackwards() ? GivenPressure(caseIndex) : GivenPressure(caseIndex) - loss;
 }
 
 double DensityAt(int caseIndex, double pressure) {
@@ -102,6 +109,12 @@ double DensityAt(int caseIndex, double pressure) {
                           temperature, pressure)
             .Value;
     return GasDensityOf(pressure, temperature, Input(input::MolecularWeight, caseIndex), factor);
+}
+
+LineCase GasLineOf(int caseIndex) {
+    const double weight = Input(input::MolecularWeight, caseIndex);
+    return LineOf(GasFlowIn(Input(input::GasFlow, caseIndex), weight),
+                  GasViscosityIn(Input(input::Viscosity, caseIndex), weight));
 }
 
 // Velocity and sonic velocity of the results are those at the end that was found; ft/s.
@@ -156,9 +169,7 @@ LiquidFigures LiquidFiguresOf(int caseIndex) {
 }
 
 GasFigures GasFiguresOf(int caseIndex) {
-    const double weight = Input(input::MolecularWeight, caseIndex);
-    const LineCase line = LineOf(GasFlowIn(Input(input::GasFlow, caseIndex), weight),
-                                 GasViscosityIn(Input(input::Viscosity, caseIndex), weight));
+    const LineCase line = GasLineOf(caseIndex);
     const Flow flow = FlowOf(line, GasReynolds);
     const bool hasEnd = HasEnd(caseIndex);
     const double outlet = IsBackwards() ? GivenPressure(caseIndex) : FoundPressure(caseIndex);
@@ -172,6 +183,21 @@ GasFigures GasFiguresOf(int caseIndex) {
     figures.OutletVelocity = velocities.Fluid;
     figures.OutletMach = velocities.Fluid / velocities.Sonic;
     return figures;
+}
+
+bool IsChoked(int caseIndex) {
+    if (Calc.CurrentProgram != program::GasLine) return false;
+    const LineCase line = GasLineOf(caseIndex);
+    const Flow flow = FlowOf(line, GasReynolds);
+    const double equipment = Input(input::EquipLoss, caseIndex) * Calc.UnitFactor[unit::PressureDrop];
+    const double length = line.Length + FittingsLength(line, flow);
+    return line.MassFlow >
+           ChokedFlowOf(
+               {SourcePressure(caseIndex) - equipment, TemperatureIn(Input(input::Temperature, caseIndex)),
+                Input(input::MolecularWeight, caseIndex), Input(input::RatioSpecificHeats, caseIndex),
+                CritTemperatureIn(Input(input::CritTemperature, caseIndex)),
+                Input(input::CritPressure, caseIndex) * Calc.UnitFactor[unit::CritPressure], line.Diameter,
+                flow.Factor * length * 12 / line.Diameter});
 }
 
 }  // namespace quillmetra

@@ -28,6 +28,10 @@ struct GasFigures : LineFigures {
 LiquidFigures LiquidFiguresOf(int caseIndex);
 GasFigures GasFiguresOf(int caseIndex);
 
+// Whether such a case is to pass more gas than its line can; never of a liquid, nor where the source is not
+// known.
+bool IsChoked(int caseIndex);
+
 // ft of a liquid: 0.4331 psi is a foot of water.
 double NpshOf(double margin, double gravity);
 

@@ -19,8 +19,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr int Backwards = 2;
-
 bool IsGas() { return Calc.CurrentProgram == program::GasLine; }
 std::size_t ThisCase() { return At(Calc.CaseIndex); }
 
@@ -33,8 +31,8 @@ void CalculateLiquid(LineTrial& trial) {
     trial.Results = static_cast<const LineResults&>(results);
     trial.Reynolds = results.Reynolds;
     trial.Figures.Regime = FlowRegimeOf(Calc.ReynoldsNumber, Calc.ReynoldsNumber, Calc.PipeId[TheLine]);
-    trial.Figures.TotalLoss =
-        (Calc.PressureDirection == Backwards ? -1 : 1) * (Calc.SourcePressure[TheLine] - Calc.FlowPressure);
+    trial.Figures.TotalLoss = (Calc.PressureDirection == direction::Backwards ? -1 : 1) *
+                              (Calc.SourcePressure[TheLine] - Calc.FlowPressure);
     trial.Figures.PipeAndFittings = LengthWithFittings();
     trial.Figures.OutletVelocity = Calc.Velocity;
     trial.Figures.OutletDensity = Calc.Density;
@@ -136,7 +134,7 @@ private:
             return false;
         }
         const double end = trial.EndPressure;
-        const bool isBelow = Calc.PressureDirection == Backwards ? end < target_ : end > target_;
+        const bool isBelow = Calc.PressureDirection == direction::Backwards ? end < target_ : end > target_;
         if (isBelow) {
             below_ = end;
         } else {

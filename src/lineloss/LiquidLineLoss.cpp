@@ -22,7 +22,7 @@ double PercentReached(double difference) {
 }  // namespace
 
 void CalcFinalPressure() {
-    if (Calc.PressureDirection == 2) Calc.EquivLength = -Calc.EquivLength;
+    if (Calc.PressureDirection == direction::Backwards) Calc.EquivLength = -Calc.EquivLength;
     const double difference = Calc.LossPer100 * Calc.EquivLength / 100;
     Calc.FlowPressure = Calc.SourcePressure[TheLine] - difference;
     if (!(Calc.FlowPressure <= 0)) return;

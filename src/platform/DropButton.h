@@ -21,6 +21,9 @@ class DropButton : public CommandButton {
 public:
     using CommandButton::CommandButton;
 
+    // Without a Click of its own a press drops the list too.
+    bool DropsAtPress() const { return Lines != nullptr && Click == nullptr; }
+
     std::function<DropLines()> Lines;  // as they are now; null for a button that drops no list
     std::function<void(int line)> Take;
 };

@@ -11,7 +11,6 @@
 #include "platform/Database.h"
 #include "platform/Folders.h"
 #include "platform/SafeFiles.h"
-#include "platform/ServerLink.h"
 #include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
@@ -88,7 +87,7 @@ std::string ContentOf(const std::string& backup) {
 
 void KeepBackupOfToday(const std::string& file) {
     Trouble.clear();
-    if (BackupsKept <= 0 || !IsDatabaseName(file) || IsServerLink(MachinePath(file))) return;
+    if (BackupsKept <= 0 || !IsDatabaseName(file)) return;
     const std::string backup = NameBeside(file);
     if (FileExists(backup)) return;
     try {

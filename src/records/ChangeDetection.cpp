@@ -124,7 +124,7 @@ void DetectChanges() {
 
     const int program = Calc.CurrentProgram;
     MarkIf(Calc.RecordChanged, !SameText(Calc.Tag, Calc.TagSaved));  // the case of its letters alone
-    MarkIf(Calc.RecordChanged, Calc.PipeName != Calc.PipeNameSaved);
+    MarkIf(Calc.RecordChanged, Calc.PipeName != Calc.PipeNameSaved || Calc.Service != Calc.ServiceSaved);
     MarkIf(Calc.RecordChanged, !SameText(Calc.FluidName, Calc.FluidNameSaved) || IsYes(Calc.RecordUpdated) ||
                                    BasisDiffers() || BarometerDiffers() ||
                                    TextsDiffer(Calc.HeadingText, Calc.HeadingTextSaved, 2, 10));

@@ -124,7 +124,7 @@ void MarkBlankTemperatures() {
 // What stands in a file need not be what the suite wrote.
 void MendRecord() {
     if (Calc.PipeMaterialNumber < 1 || Calc.PipeMaterialNumber > 7) Calc.PipeMaterialNumber = 1;
-    if (Calc.PressureDirection != 2) Calc.PressureDirection = 1;
+    if (Calc.PressureDirection != direction::Backwards) Calc.PressureDirection = direction::Forwards;
     for (int* set : {&Calc.LiquidUnitSet, &Calc.GasUnitSet}) {
         if (*set < 0 || *set > UserUnitSet) *set = 0;
     }

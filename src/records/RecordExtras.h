@@ -22,7 +22,8 @@ struct RecordExtra {
 
 // A new one is a line here.
 inline constexpr std::array RecordExtras = {
-    RecordExtra{"Pipe", &CalcRecord::PipeName, {"Pipe Size", "Pipe Wall"}}};
+    RecordExtra{"Pipe", &CalcRecord::PipeName, {"Pipe Size", "Pipe Wall"}},
+    RecordExtra{"Service", &CalcRecord::Service, {}}};
 
 const TableShape& ExtrasTable();
 

@@ -198,7 +198,7 @@ std::string Components(const CalcRecord& record) {
 
 std::string GivenEnd(const CalcRecord& record) {
     if (!program::IsLine(record.CurrentProgram)) return "";
-    return record.PressureDirection == 2 ? "Destination" : "Source";
+    return record.PressureDirection == direction::Backwards ? "Destination" : "Source";
 }
 
 template <int Flag>
@@ -233,6 +233,7 @@ constexpr TextRow WhatItIs[] = {
     {"Pressure given", GivenEnd},
     {"Pipe material", Material},
     {"Pipe", [](const CalcRecord& record) { return record.PipeName; }},
+    {"Service", [](const CalcRecord& record) { return record.Service; }},
     {"Entrance loss", Ticked<pipe::Entrance>},
     {"Exit loss", Ticked<pipe::Exit>},
 };

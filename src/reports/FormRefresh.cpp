@@ -168,7 +168,7 @@ void ShowUnits(Form& form, std::span<const UnitControl> units) {
 // The given pressure and the one calculated. When the destination is given, the liquid form leaves its
 // result label as the click of optSource wrote it.
 void ShowDirection(Form& form, bool swapsResult) {
-    const bool source = Calc.PressureDirection == 2;
+    const bool source = Calc.PressureDirection == direction::Backwards;
     Named(form, "lblPressure").SetCaption(source ? "Destination pressure" : "Source pressure");
     if (source && !swapsResult) return;
     Named(form, "lblDestPress").SetCaption(source ? "Source pressure" : "Destination pressure");
@@ -223,6 +223,7 @@ void ShowLine(Form& form, int program) {
     ShowUnits(form, LineUnits);
     Named(form, "lblDropP100").SetCaption("Loss per 100 " + Calc.UnitName[unit::Length]);
     Named(form, "cmdMatl").SetCaption(Calc.PipeMaterial);
+    Named(form, "cmdService").SetCaption(Calc.Service.empty() ? words::NoService : Calc.Service);
     ShowTick(form, "chkEntrance", pipe::Entrance);
     ShowTick(form, "chkExit", pipe::Exit);
     ShowRows(form, program);

@@ -41,6 +41,7 @@ std::string ResultsTable(const Form& form, int program) {
     table += "Tag number\t" + TextOf(form, "txtTagNum") + '\n';
     table += "Fluid\t" + TextOf(form, "txtFluid") + '\n';
     if (!Calc.PipeName.empty()) table += "Pipe\t" + Calc.PipeName + '\n';
+    if (!Calc.Service.empty()) table += "Service\t" + Calc.Service + '\n';
     const int columns = HasCases(program) ? CaseCount : 1;
     if (columns > 1) {
         for (int i = 0; i < columns; ++i) table += '\t' + SaidBy(form, "lblCase", i);

@@ -97,11 +97,12 @@ protected:
             EXPECT_EQ(button->Caption(), Calc.UnitName[At(button->Index())]) << button->FullName();
     }
 
+    // Those of the units.
     static std::vector<DropButton*> Buttons() {
         std::vector<DropButton*> buttons;
         for (Control* control : OpenForm().Controls()) {
             auto* const button = dynamic_cast<DropButton*>(control);
-            if (button != nullptr && button->Seen()) buttons.push_back(button);
+            if (button != nullptr && button->Seen() && button->Index() >= 0) buttons.push_back(button);
         }
         return buttons;
     }

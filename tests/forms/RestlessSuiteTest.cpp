@@ -4,6 +4,8 @@
 // more walks he stays with one calculation. QUILLMETRA_ACTS and QUILLMETRA_SEEDS make it long.
 #include "tests/forms/RestlessSuite.h"
 
+#include <cmath>
+
 namespace quillmetra {
 namespace {
 
@@ -62,6 +64,18 @@ protected:
     }
 };
 
+// But for the saved side; a refused calculation may leave no number in the working layer.
+bool IsRecordInHand(const CalcRecord& record) {
+    CalcRecord one = WithSavedSideOf(record, Calc), other = Calc;
+    for (double CalcRecord::*const scratch :
+         {&CalcRecord::Velocity, &CalcRecord::SonicVelocity, &CalcRecord::LossPer100,
+          &CalcRecord::FlowPressure, &CalcRecord::EquivLength, &CalcRecord::CompressFactor,
+          &CalcRecord::Density}) {
+        if (std::isnan(one.*scratch) && std::isnan(other.*scratch)) one.*scratch = other.*scratch = 0;
+    }
+    return one == other;
+}
+
 TEST_P(UndoneActs, GiveTheRecordOfBefore) {
     stays_ = true;
     FillGoodCase(*Calculation(), 0);
@@ -76,10 +90,10 @@ TEST_P(UndoneActs, GiveTheRecordOfBefore) {
     const std::string after = Texts();
     const std::size_t boxes = User.Boxes.size();
     Repeat("mnuUndo");
-    EXPECT_TRUE(WithSavedSideOf(start, Calc) == Calc);
+    EXPECT_TRUE(IsRecordInHand(start));
     EXPECT_EQ(before, Texts());
     Repeat("mnuRedo");
-    EXPECT_TRUE(WithSavedSideOf(end, Calc) == Calc);
+    EXPECT_TRUE(IsRecordInHand(end));
     EXPECT_EQ(after, Texts());
     EXPECT_EQ(User.Boxes.size(), boxes);
 }

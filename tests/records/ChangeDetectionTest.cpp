@@ -59,6 +59,7 @@ const Change Changes[] = {
     {"fouling", 1, [] { Calc.PipeFouling += 1; }, "record PD "},
     {"material", 1, [] { Calc.PipeMaterial = "Brass"; }, "record PD "},
     {"pipe of the same diameter", 2, [] { Calc.PipeName = "6 in sch 40"; }, "record "},
+    {"service", 1, [] { Calc.Service = "Water - pump suction"; }, "record "},
     {"direction", 2, [] { Calc.PressureDirection = 1; }, "record PD "},
     {"direction", 4, [] { Calc.PressureDirection = 1; }, ""},
     {"hammer result", 3, [] { Calc.HammerResult[18] += 1; }, "record WH "},

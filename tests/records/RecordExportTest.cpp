@@ -113,7 +113,7 @@ TEST_F(RecordExportTest, EachProgramFillsItsOwnColumns) {
     const std::vector<std::string> lines = Exported();
     ASSERT_EQ(lines.size(), 7U);
     EXPECT_TRUE(lines[0].starts_with("Tag,Fluid Type,Program Number,"));
-    EXPECT_NE(lines[0].find(",Case 3 Bulk Modulus,Pipe,Flow Factor,"), std::string::npos)
+    EXPECT_NE(lines[0].find(",Case 3 Bulk Modulus,Pipe,Service,Flow Factor,"), std::string::npos)
         << "the former first";
     EXPECT_TRUE(lines[1].starts_with("\"odd, \"\"tag\"\"\",Liquid,101,"));
     EXPECT_NE(lines[1].find(",'=heading,"), std::string::npos);

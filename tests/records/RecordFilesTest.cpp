@@ -90,10 +90,7 @@ protected:
     }
 };
 
-// What only a file has, and no server.
-class FileAloneTest : public RecordFilesTest {};
-
-TEST_F(FileAloneTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
+TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
     const std::string own = Bytes();
     fs::remove(File());
     EXPECT_EQ(OpenFailure(), Invalid) << "no file";
@@ -127,7 +124,7 @@ TEST_F(FileAloneTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
     EXPECT_EQ(OpenFailure(), Invalid) << "a folder";
 }
 
-TEST_F(FileAloneTest, ReadOnlyLockedAndCutFiles) {
+TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
     for (const char* tag : {"P-1", "P-3"}) SaveNew(tag);
     fs::permissions(File(), fs::perms::owner_read);
     EXPECT_TRUE(Display("P-1"));
@@ -170,7 +167,7 @@ TEST_F(FileAloneTest, ReadOnlyLockedAndCutFiles) {
 
 #ifdef HAS_USERS
 // Rights of the file are those of the people who work with it, whoever compacts, repairs or creates it anew.
-TEST_F(FileAloneTest, RightsAreKeptAndAsked) {
+TEST_F(RecordFilesTest, RightsAreKeptAndAsked) {
     fs::permissions(File(), fs::perms(0660));
     for (const char* tag : {"P-1", "P-2"}) SaveNew(tag);
     const std::string backup = BackupsOf(Suite.DatabaseFile).front().File;
@@ -220,7 +217,7 @@ TEST_F(FileAloneTest, RightsAreKeptAndAsked) {
 #endif
 
 // A database without the table of settings, as one made elsewhere, opens and gets it with the first save.
-TEST_F(FileAloneTest, SettingsTableComesWithTheFirstSave) {
+TEST_F(RecordFilesTest, SettingsTableComesWithTheFirstSave) {
     Engine("DROP TABLE \"Calculation Settings\"");
     SaveNew("P-1");
     ASSERT_TRUE(Display("P-1"));
@@ -237,7 +234,7 @@ TEST_F(RecordFilesTest, NamesOfTheDatabase) {
     EXPECT_EQ(FolderOf("/a/b\\TRDB.MDB"), "/a/b");
 }
 
-TEST_F(FileAloneTest, CreateAsksAndReplaces) {
+TEST_F(RecordFilesTest, CreateAsksAndReplaces) {
     SaveNew("P-1");
     Calc.MessageTitle = "Database TRDB.MDB";
     User.Boxes.clear();
@@ -257,7 +254,7 @@ TEST_F(FileAloneTest, CreateAsksAndReplaces) {
     EXPECT_EQ(FilesBeside(), std::vector<std::string>{"TRDB.MDB"});
 }
 
-TEST_F(FileAloneTest, CompactKeepsRecordsAndOneBackup) {
+TEST_F(RecordFilesTest, CompactKeepsRecordsAndOneBackup) {
     for (int i = 0; i < 40; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
     for (int i = 10; i < 40; ++i) DeleteRecord(Suite.DatabaseFile, "P-" + std::to_string(i));
     const std::vector<FieldValue> kept = AllValues("P-7");
@@ -301,7 +298,7 @@ private:
     void (*former_)(int);
 };
 
-TEST_F(FileAloneTest, AFullDiskLosesNothing) {
+TEST_F(RecordFilesTest, AFullDiskLosesNothing) {
     for (int i = 0; i < 30; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
     int refused = 0;
     {
@@ -372,7 +369,7 @@ TEST_F(RecordFilesTest, SaveToAnotherDatabase) {
 
 // Another program compacts while this one has the file open: what is open is then no file any more, or the
 // system keeps it and the other one is told.
-TEST_F(FileAloneTest, AFileThatIsReplacedMeanwhile) {
+TEST_F(RecordFilesTest, AFileThatIsReplacedMeanwhile) {
     for (const char* tag : {"P-1", "P-2", "P-3"}) SaveNew(tag);
     RecordView view(Suite.DatabaseFile);
     view.Next();

@@ -14,7 +14,6 @@
 #include "records/RecordTransfer.h"
 #include "records/RecordView.h"
 #include "records/SaveRecord.h"
-#include "tests/OnServer.h"
 #include "tests/SuiteFixture.h"
 #include "units/NamedUnitSets.h"
 
@@ -53,6 +52,7 @@ inline void TakeFilledRecord(int program, int set, const std::string& tag) {
     Calc.FluidName = word("fluid ");
     Calc.PipeMaterial = word("pipe ");
     Calc.PipeName = word("6 in sch ");
+    Calc.Service = word("service ");
     Calc.PipeMaterialNumber = 3;
     Calc.PipeFouling = 33.3;
     Calc.PressureDirection = 2;
@@ -78,12 +78,7 @@ class RecordTest : public SuiteTest {
 protected:
     RecordTest() {
         Suite.DatabasePath = SuitePath(DataFolder());
-        if (OnServer()) {
-            Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
-            MakeServerDatabase(Suite.DatabaseFile, NewServerLink());
-        } else {
-            CreateDB(true);
-        }
+        CreateDB(true);
         User.Boxes.clear();
     }
 

@@ -25,7 +25,7 @@ protected:
         shapes.push_back(ExtrasTable());
         DatabasePages(File(), shapes)
             .Read([&](PageRow& row) { rows_.push_back(std::move(row)); }, [](const std::string&) {});
-        EXPECT_EQ(rows_.size(), 25U * 4 + 1 + 16) << "the pages give all rows of a whole file";
+        EXPECT_EQ(rows_.size(), 25U * 5 + 1 + 16) << "the pages give all rows of a whole file";
     }
 
     std::size_t PageCount() const { return whole_.size() / Page; }

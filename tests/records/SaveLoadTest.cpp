@@ -54,6 +54,7 @@ TEST_F(SaveLoadTest, EveryFieldOfEveryProgramComesBack) {
         EXPECT_EQ(Calc.UnitSetName, saved.UnitSetName);
         EXPECT_EQ(Calc.NoteText[1], saved.HeadingText[8]);
         EXPECT_EQ(Calc.PipeName, each.Program <= 3 ? saved.PipeName : "") << "a fluid has no pipe";
+        EXPECT_EQ(Calc.Service, saved.Service);
 
         // Nothing counts as changed, and a second save leaves the same bytes.
         Calc.ChangedFlag = words::Yes;

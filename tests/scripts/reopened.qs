@@ -18,6 +18,16 @@ expect-message New database
 click mnuProgram
 open L-1
 expect pltLine "Normal case: Pressure 100 to 90.31 psig over 1000 ft"
+# Its service alone is a change to save.
+pick cmdService "Erosional - cont"
+expect-window "L-1* - Ver.6.0.0.  Line Loss  - Liquid flow"
+answer Yes
+click mnuSave
+expect-message Overwrite
+click mnuProgram
+open L-1
+expect cmdService "Erosional - continuous"
+expect-window "L-1 - Ver.6.0.0.  Line Loss  - Liquid flow"
 # The pipe of the table is remembered until its diameter is typed over.
 click cmdPipeID
 type txtNomSize 6

@@ -26,6 +26,26 @@ expect-status "The table is on the clipboard"
 click cmdOK
 expect-form frmLiqLineLoss
 expect txtInletPipeID 5.047
+# Its service goes with the pipe, and may be another one.
+expect cmdService "Liquid - loss of a suction"
+answer Yes
+click cmdCalculate(1)
+expect-message Transition
+expect-status ""
+pick cmdService "Liquid - loss by gravity"
+expect-status "Loss above 0.2 psi per 100 ft: beyond the criterion of Liquid - loss by gravity (Usual: 0.025 to 0.045 bar per 100 m)."
+expect txtVelocity(1) 3.204
+click mnuUndo
+expect cmdService "Liquid - loss of a suction"
+write-file TRData/Criteria.txt "Service,\nWater - own line, Liquid, 3, , , Own,"
+pick cmdService (none)
+pick cmdService Water
+expect-status "Velocity above 3 ft/s: beyond the criterion of Water - own line (Own)."
+write-file TRData/Criteria.txt "Service,\nWater - former line, Liquid, 7, , , Own,"
+answer Yes
+click cmdCalculate(1)
+expect-message Transition
+expect-status "The table of criteria has no service Water - own line."
 
 # Other families, other units; nothing of a family that is gone.
 remove-file TRData/W-COPPER.TXT

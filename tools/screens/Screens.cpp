@@ -25,6 +25,7 @@
 #include "desktop/Painting.h"
 #include "forms/ColourSchemes.h"
 #include "forms/RegisterForms.h"
+#include "platform/DropButton.h"
 #include "platform/Forms.h"
 #include "platform/TextFiles.h"
 #include "platform/UserActs.h"
@@ -85,13 +86,18 @@ void SavePicture(QWidget& window, const char* name) {
     picture.save(Folder + "/" + name + ".png", nullptr, smallest);
 }
 
-void Shoot(const char* name) {
-    Settle();
+QWidget* TopWindow() {
     QWidget* top = QApplication::activeModalWidget();
     if (top == nullptr) top = QApplication::activeWindow();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (top == nullptr && window->isVisible()) top = window;
     }
+    return top;
+}
+
+void Shoot(const char* name) {
+    Settle();
+    QWidget* const top = TopWindow();
     if (top == nullptr) return;
     SavePicture(*top, name);
     std::printf("%s %d x %d\n", name, top->width(), top->height());
@@ -110,9 +116,9 @@ void Click(const char* form, const char* name, int index = Control::NoIndex) {
     Settle();
 }
 
-void DropList(int unitRow) {
-    auto* const button = QApplication::activeWindow()->findChild<QWidget*>(
-        ToQt(ControlOf(Calculation, "cmdUnits", unitRow).FullName()));
+void DropList(const char* name, int index = Control::NoIndex) {
+    auto* const button =
+        TopWindow()->findChild<QWidget*>(ToQt(ControlOf(Calculation, name, index).FullName()));
     QContextMenuEvent right(QContextMenuEvent::Mouse, {}, button->mapToGlobal(QPoint()));
     QCoreApplication::sendEvent(button, &right);
     Settle();
@@ -239,6 +245,13 @@ void ShootLiquidLine() {
     Type("txtInletPipeLen", Control::NoIndex, "1000");
     for (int i = 2; i >= 0; --i) Click(Calculation, "cmdCalculate", i);
     Shoot("line-results");
+    DropList("cmdService");
+    Shoot("services");
+    QApplication::activePopupWidget()->close();
+    TakeDropLine(static_cast<DropButton&>(ControlOf(Calculation, "cmdService")), 5);
+    Shoot("line-service-long");
+    TakeDropLine(static_cast<DropButton&>(ControlOf(Calculation, "cmdService")), 1);
+    Shoot("line-service");
     ShootTrials(7, 2, "sizes", "line-flow");
     Within([] {
         TypeText(ControlOf("frmObxPrintCalc", "txtTitle"), "Northfield Terminal");
@@ -257,7 +270,7 @@ void ShootLiquidLine() {
     Click(Calculation, "cmdFormLayout");
     Shoot("options");
     Click("frmCalcOptions", "cmdCancelOptions");
-    DropList(1);
+    DropList("cmdUnits", 1);
     Shoot("units-in-place");
     QApplication::activePopupWidget()->close();
     Click(Calculation, "cmdUnits", 1);

@@ -17,13 +17,15 @@ Node Line() {
                              .Wide(LabelDigits));
 }
 
+// The service stands under the two that are no counts, beside the sizes that go by it.
 Node Fittings() {
     std::vector<Node> names = {Words("Valves and fittings").Bold()}, counts = {""};
     for (const char* fitting : {"Gate", "Globe", "Check", "90Deg", "45Deg", "Thru", "Branch"}) {
         names.push_back(Item(std::string("lblInlet").append(fitting)).Centred());
         counts.push_back(Item(std::string("txtInlet").append(fitting)).Wide(7));
     }
-    for (Node part : {Stretch(), Item("chkEntrance"), Item("chkExit")}) counts.push_back(std::move(part));
+    names.push_back(Row({"chkEntrance", "chkExit", Stretch()}).Grow());
+    counts.push_back(Row({"lblService", Item("cmdService").Grow()}));
     return Panel("", Table({std::move(names), std::move(counts)}).Wide(LabelDigits));
 }
 
