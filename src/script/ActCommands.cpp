@@ -108,13 +108,13 @@ bool IsKey(std::string key) {
     return starts == 1;
 }
 
+}  // namespace
+
 void RequireBrowser(const ScriptPlayer& player) {
     const Form& form = player.FormInHand();
     if (SameName(form.Name(), Browser)) return;
     throw ScriptFailure{"this starts at the record browser, and the form in hand is " + form.Name()};
 }
-
-}  // namespace
 
 void NewCalculation(ScriptPlayer& player, const Arguments& arguments) {
     const int number = WholeNumber(arguments[0]);

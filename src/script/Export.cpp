@@ -3,7 +3,6 @@
 #include <ostream>
 
 #include "forms/FileGuard.h"
-#include "platform/Form.h"
 #include "platform/TextFiles.h"
 #include "records/RecordExport.h"
 #include "records/RecordFiles.h"
@@ -36,7 +35,7 @@ std::string FileToWrite(const ScriptPlayer& player, const std::string& path, con
 }
 
 void Export(ScriptPlayer& player, const Arguments& arguments) {
-    if (player.FormInHand().Name() != "frmTRProg") throw ScriptFailure{"the browser is not in hand"};
+    RequireBrowser(player);
     const std::string file = FileToWrite(player, arguments[1].Text, "an export");
     const int count = ExportRecords(DatabaseNamed(player, arguments[0].Text), file);
     player.Out << Counted(static_cast<std::size_t>(count), "record") << '\n';

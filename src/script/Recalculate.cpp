@@ -4,13 +4,11 @@
 
 #include "core/Suite.h"
 #include "forms/Recalculation.h"
-#include "platform/Form.h"
 #include "platform/NumberText.h"
 #include "platform/TextFiles.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptFailure.h"
 #include "script/ScriptPlayer.h"
-#include "units/Rounding.h"
 
 namespace quillmetra::script {
 
@@ -25,12 +23,13 @@ std::vector<std::string> ReportOf(const Recalculation& run) {
         return quoted + "\"";
     };
     for (const ResultChange& each : run.Changes()) {
-        const std::string percent = each.Percent == 0 ? "" : TrimmedStr(RoundedThree(each.Percent));
         lines.push_back(item(each.Tag) + "," + item(each.Result) + "," + each.Before + "," + each.After +
-                        "," + percent);
+                        "," + PercentText(each));
     }
-    for (const RecordProblem& each : run.Problems())
-        lines.push_back(item(each.Tag) + "," + item(each.Text) + ",,,");
+    for (const auto* told : {&run.Problems(), &run.Remarks()}) {
+        for (const RecordProblem& each : *told)
+            lines.push_back(item(each.Tag) + "," + item(each.Text) + ",,,");
+    }
     return lines;
 }
 
@@ -53,7 +52,7 @@ void Recalculate(ScriptPlayer& player, const Arguments& arguments) {
     const bool saves = what == "save" || what == "fluids+save";
     if (!what.empty() && !fluids && !saves)
         throw ScriptFailure{what + " is none of save, fluids, fluids+save"};
-    if (player.FormInHand().Name() != "frmTRProg") throw ScriptFailure{"the browser is not in hand"};
+    RequireBrowser(player);
 
     Suite.DatabaseFile = DatabaseNamed(player, arguments[0].Text);
     Recalculation run(fluids);
@@ -62,8 +61,7 @@ void Recalculate(ScriptPlayer& player, const Arguments& arguments) {
         if (view.Find(tag)) run.Take(view.Head());
     }
     WriteReport(player, report, ReportOf(run));
-    player.Out << run.Records() << " records, " << run.Changed() << " changed, " << run.Problems().size()
-               << " messages\n";
+    player.Out << run.Summary() << '\n';
     player.Differs = run.Changed() > 0 || !run.Problems().empty();
     if (saves) run.Save();
 }

@@ -26,6 +26,8 @@ constexpr ScriptCommand Table[] = {
     {"recalculate", "DATABASE [REPORT] [WHAT]", script::Recalculate,
      "all its records; WHAT is save, fluids or fluids+save"},
     {"export", "DATABASE FILE", script::Export, "all its records as CSV, or as a workbook (.xlsx)"},
+    {"sizes", "DATABASE TAG [CASE] [SERVICE] [SCHEDULE] [FAMILY]", script::Sizes,
+     "a saved line in each pipe, and the one for it"},
     {"form", "NAME", script::TakeForm, "takes a loaded form in hand"},
     {"close", "", script::CloseForm, "the close box of the form in hand"},
 

@@ -54,15 +54,17 @@ void PrintToPdf(ScriptPlayer& player, const Arguments& arguments);
 void PrintToText(ScriptPlayer& player, const Arguments& arguments);
 void Quit(ScriptPlayer& player, const Arguments& arguments);
 
-// Recalculate.cpp, Export.cpp: databases as a whole, without a form.
+// Recalculate.cpp, Export.cpp, Sizes.cpp: databases and records, without a form.
 void Recalculate(ScriptPlayer& player, const Arguments& arguments);
 void Export(ScriptPlayer& player, const Arguments& arguments);
+void Sizes(ScriptPlayer& player, const Arguments& arguments);
 // A database, or the folder that it is in, as the suite names files; "@" is the suite's own folder.
 std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path);
 // A file likewise; throws where it must not be written over by what is named ("an export").
 std::string FileToWrite(const ScriptPlayer& player, const std::string& path, const std::string& by);
 
 // ActCommands.cpp: what a user does.
+void RequireBrowser(const ScriptPlayer& player);  // throws where another form is in hand
 void NewCalculation(ScriptPlayer& player, const Arguments& arguments);
 void OpenCalculation(ScriptPlayer& player, const Arguments& arguments);
 void Type(ScriptPlayer& player, const Arguments& arguments);

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <iostream>
 #include <iterator>
+#include <map>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -32,6 +33,13 @@ void PrintHelp() {
         "Writes all records of a database as CSV, or as a workbook where FILE ends with .xlsx. Ends with 0, "
         "or\n"
         "with 2 when it could not be done.\n\n"
+        "   or: quillmetra-script --sizes DATABASE TAG [--case N] [--service NAME] [--schedule NAME] "
+        "[--family "
+        "NAME] [--folder PATH]\n"
+        "Prints what a case of a saved line comes to in each pipe. Ends with 0 when one keeps to the "
+        "service, "
+        "with\n"
+        "1 when none does, with 2 when it could not be done.\n\n"
         "Commands:");
     for (const quillmetra::ScriptCommand& command : quillmetra::ScriptCommands()) {
         const std::string usage = std::string(command.Name) + " " + command.Usage;
@@ -49,18 +57,31 @@ std::string Quoted(const std::string& text) {
 // What stands on the command line behind a short form.
 struct Order {
     std::vector<std::string> Files;
-    std::string Report, Folder;
+    std::map<std::string, std::string, std::less<>> Values;  // of the options that have one
     bool Fluids = false, Saves = false;
+
+    std::string Value(std::string_view option) const {
+        const auto found = Values.find(option);
+        return found == Values.end() ? "" : found->second;
+    }
 };
 
 std::string RecalculateLine(const Order& order) {
     const char* what = order.Saves ? "save" : "";
     if (order.Fluids) what = order.Saves ? "fluids+save" : "fluids";
-    return "recalculate " + Quoted(order.Files[0]) + " " + Quoted(order.Report) + " " + Quoted(what);
+    return "recalculate " + Quoted(order.Files[0]) + " " + Quoted(order.Value("--report")) + " " +
+           Quoted(what);
 }
 
 std::string ExportLine(const Order& order) {
     return "export " + Quoted(order.Files[0]) + " " + Quoted(order.Files[1]);
+}
+
+std::string SizesLine(const Order& order) {
+    std::string line = "sizes " + Quoted(order.Files[0]) + " " + Quoted(order.Files[1]);
+    for (const char* option : {"--case", "--service", "--schedule", "--family"})
+        line += " " + Quoted(order.Value(option));
+    return line;
 }
 
 // A command as an option, with as many files behind it; it is played as a script of two or three lines.
@@ -68,11 +89,12 @@ struct ShortForm {
     std::string_view Option;
     std::size_t Files;
     std::string (*Line)(const Order& order);
-    std::array<std::string_view, 4> Options;  // that it takes
+    std::array<std::string_view, 5> Options;  // that it takes
 };
 constexpr ShortForm ShortForms[] = {
     {"--recalculate", 1, RecalculateLine, {"--report", "--fluids", "--save", "--folder"}},
     {"--export", 2, ExportLine, {"--folder"}},
+    {"--sizes", 2, SizesLine, {"--case", "--service", "--schedule", "--family", "--folder"}},
 };
 
 const ShortForm* FindShortForm(std::string_view option) {
@@ -98,13 +120,14 @@ bool Take(Order& order, const ShortForm& form, const std::vector<std::string>& w
             continue;
         }
         if (i + 1 == words.size()) return refuse("Which is the one of " + word);
-        (word == "--report" ? order.Report : order.Folder) = words[++i];
+        order.Values[word] = words[++i];
     }
     return order.Files.size() == form.Files || refuse("Which files");
 }
 
 int Play(quillmetra::ScriptPlayer& player, const ShortForm& form, const Order& order) {
-    const std::string folder = order.Folder.empty() ? "" : "folder " + Quoted(order.Folder) + "\n";
+    const std::string folder =
+        order.Value("--folder").empty() ? "" : "folder " + Quoted(order.Value("--folder")) + "\n";
     std::istringstream script(folder + "start\n" + form.Line(order));
     if (player.Play(std::string(form.Option), script) != 0) return Failed;
     return player.Differs ? 1 : 0;

@@ -17,9 +17,11 @@ expect-message created
 type txtTagNum P-102
 type txtFlow(1) 90000
 expect txtDestPress(1) ""
+pick cmdService "Liquid - loss by"
 click mnuSave
 type txtTagNum P-103
 type txtFlow(1) 900000
+pick cmdService (none)
 click mnuSave
 click mnuProgram
 click cmdDBOpen
@@ -29,7 +31,7 @@ expect-form frmRecalculate
 expect lblRecords "3 records"
 expect-state cmdSave disabled
 click cmdRun
-expect lblSummary "3 records, 1 changed, 1 message"
+expect lblSummary "3 records, 1 changed, 1 message, 1 remark"
 expect-cell grdChanges 1 0 P-102
 expect-cell grdChanges 1 1 "Loss per 100 ft, Normal"
 click cmdCopy
@@ -41,8 +43,10 @@ click cmdSave
 expect-message Save the new
 expect-status "1 record saved"
 click cmdRun
-expect lblSummary "3 records, 0 changed, 1 message"
+expect lblSummary "3 records, 0 changed, 1 message, 1 remark"
 expect-cell grdChanges 1 0 P-103
+expect-cell grdChanges 2 0 P-102
+expect-cell grdChanges 2 1 "Normal: Loss above 0.2 psi per 100 ft: beyond the criterion of Liquid - loss by gravity (Usual: 0.025 to 0.045 bar per 100 m)."
 expect-state cmdSave disabled
 click cmdCancel
 expect-form frmTRProg
@@ -67,14 +71,52 @@ click mnuLiquid1
 pick lstFluid "Test oil"
 click cmdSelect
 click mnuSave
+click mnuProgram
+new 1
+type txtTagNum T-2
+type txtInletPipeLen 1000
+type txtInletPipeID 4.026
+type txtFlow(0) 10000
+type txtTemp(0) 60
+type txtPressure(0) 100
+click mnuPureLiquid1
+pick lstFluid "Test oil"
+click cmdSelect
+answer Yes
+click cmdCalculate(0)
+expect-message Transition
+expect txtSGFlow(0) 0.8004
+click mnuSave
 write-file TRData/Liquid.txt "Name,\nTest oil                       ,1,100,0.9,500,60,2,200,1,500,200,1,1,0,200,12,100,"
+click mnuProgram
+# A line that is to pass more than it can, without its results.
+new 2
+type txtTagNum T-3
+type txtInletPipeLen 1000
+type txtInletPipeID 4.026
+type txtFlow(1) 18500
+type txtTemp(1) 60
+type txtPressure(1) 100
+type txtMW(1) 16.04
+type txtRatioSH(1) 1.3
+type txtCritTemp(1) 343
+type txtCritPressure(1) 667
+type txtViscosity(1) 0.011
+click mnuSave
 click mnuProgram
 click mnuRecalculateAll
 click cmdRun
-expect lblSummary "4 records, 1 changed, 1 message"
+expect lblSummary "6 records, 2 changed, 1 message, 2 remarks"
 expect-cell grdChanges 1 0 T-1
+expect-cell grdChanges 11 1 "Normal: the line chokes now."
+click chkFluids
+click cmdRun
+expect lblSummary "6 records, 3 changed, 1 message, 2 remarks"
+expect-cell grdChanges 4 0 T-2
 click cmdCancel
 
 # The same as a command, which prints what it finds.
 recalculate @TRData "" save
 recalculate @TRData/TRDB.MDB
+# And a saved line in each pipe.
+sizes @TRData P-102 2 "Water - general service" 40
