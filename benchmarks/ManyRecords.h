@@ -16,6 +16,7 @@
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
 #include "script/ScriptHost.h"
+#include "tests/OnServer.h"
 #include "units/NamedUnitSets.h"
 
 namespace quillmetra {
@@ -58,7 +59,9 @@ inline const std::string& ManyRecordsFile() {
         InstallHost(&host);
         Suite = SuiteState();
         Suite.DatabasePath = SuitePath(folder.Path());
-        CreateDB(true);
+        Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
+        OnServer() ? MakeServerDatabase(Suite.DatabaseFile, NewServerLink())
+                   : MakeEmptyDatabase(Suite.DatabaseFile);
         const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
         Transaction all(*database);
         for (const RecordTable* table :

@@ -40,6 +40,7 @@ ALLOWED = {
 RESTRICTED = [
     ("Qt", re.compile(r"Qt?[A-Z]\w*(/.*)?|q\w+\.h"), {"desktop", "paper"}),
     ("SQLite", re.compile(r"sqlite3(ext)?\.h"), {"platform"}),
+    ("libpq", re.compile(r"libpq.*\.h|postgresql/.*"), {"platform"}),
     ("what reads and writes workbooks", re.compile(r"minizip/.*|expat\w*\.h|zlib\.h|xlsxwriter(/.*)?\.h"), {"platform"}),
     (
         "what one operating system alone has",

@@ -25,7 +25,7 @@ Package=$(echo "$Work"/packages/*.deb)
 
 # What it says of itself.
 Depends=$(dpkg-deb -f "$Package" Depends)
-for Library in libqt6widgets libqt6printsupport libsqlite3; do
+for Library in libqt6widgets libqt6printsupport libsqlite3 libpq; do
     [[ $Depends == *$Library* ]] || Fail "it does not depend on $Library: $Depends"
 done
 

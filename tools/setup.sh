@@ -6,12 +6,14 @@ cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." || exit 1
 
 # Debian packages by purpose; the scripts use those that the caller names.
 BuildPackages=(build-essential cmake ninja-build ccache qt6-base-dev qt6-svg-dev libqcustomplot-dev
-               libsqlite3-dev libminizip-dev libexpat1-dev libxlsxwriter-dev fontconfig fonts-dejavu-core)
+               libsqlite3-dev libpq-dev libminizip-dev libexpat1-dev libxlsxwriter-dev
+               fontconfig fonts-dejavu-core)
 TestPackages=(libgtest-dev libgmock-dev xvfb poppler-utils unzip locales file desktop-file-utils
               appstream python3)
 BenchPackages=(libbenchmark-dev)
 WindowsPackages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 tcl dpkg-dev xz-utils googletest)
 WindowsSetupPackages=(qt6-base-dev-tools nsis zip)
+ServerPackages=(postgresql-common postgresql-15)
 CheckPackages=(clang clang-format clang-tidy libclang-rt-14-dev git python3)
 
 # Where the release build puts its programs.
@@ -47,6 +49,16 @@ InstallMissing() {
     "${AsRoot[@]}" apt-get -q update
     "${AsRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get -q install -y --no-install-recommends "${Missing[@]}"
+}
+
+# Installs a server for the tests, which start their own: without a database that would run from then on.
+InstallServer() {
+    local Folder=/etc/postgresql-common/createcluster.d
+    if ! IsInstalled postgresql-15 && ((EUID == 0)); then
+        mkdir -p "$Folder"
+        echo 'create_main_cluster = false' >"$Folder/quillmetra.conf"
+    fi
+    InstallMissing "${ServerPackages[@]}"
 }
 
 # Configure PRESET [-DNAME=VALUE...]: the presets ask for Ninja; without it make serves. ccache where present.

@@ -11,6 +11,7 @@
 #include "core/Suite.h"
 #include "platform/Dialogs.h"
 #include "platform/Folders.h"
+#include "platform/ServerLink.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
@@ -60,7 +61,7 @@ bool BeginsAsDatabase(const fs::path& file) {
     if (!fs::is_regular_file(file, error)) return false;
     std::array<char, mark.size()> start{};
     std::ifstream(file, std::ios::binary).read(start.data(), start.size());
-    return std::string_view(start.data(), start.size()) == mark;
+    return std::string_view(start.data(), start.size()) == mark || IsServerLink(file);
 }
 
 }  // namespace

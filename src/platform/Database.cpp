@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/Engine.h"
+#include "platform/ServerEngine.h"
 #include "platform/SqliteEngine.h"
 
 namespace quillmetra {
@@ -11,12 +12,17 @@ namespace quillmetra {
 namespace fs = std::filesystem;
 
 Database::Database(const fs::path& file, const DatabaseKind& kind)
-    : engine_(std::make_unique<SqliteEngine>(file, kind)) {}
+    : engine_(IsServerLink(file) ? OpenOnServer(file, kind) : std::make_unique<SqliteEngine>(file, kind)) {}
 
 Database::~Database() = default;
 
 void Database::Create(const fs::path& file, const DatabaseKind& kind, const std::vector<TableShape>& tables) {
     SqliteEngine::Create(file, kind, tables);
+}
+
+void Database::CreateOnServer(const ServerLink& link, const DatabaseKind& kind,
+                              const std::vector<TableShape>& tables) {
+    quillmetra::CreateOnServer(link, kind, tables);
 }
 
 std::string Database::SchemaText(const TableShape& table) { return SqliteEngine::SchemaText(table); }

@@ -23,6 +23,7 @@ namespace quillmetra {
 class Engine;
 class EngineNames;
 class EngineRows;
+struct ServerLink;
 
 enum class FieldType { Text, Integer, Single, Date };
 
@@ -90,8 +91,9 @@ struct DatabaseKind {
 
 class Database {
 public:
-    // Opens a database that exists. A file of another kind, and one of a newer schema, is refused
-    // before the engine touches it. A file that nobody may write is opened for reading.
+    // Opens a database that exists, or follows a link to a server (ServerLink.h). A file of another kind, and
+    // one of a newer schema, is refused before the engine touches it. A file that nobody may write is opened
+    // for reading.
     Database(const std::filesystem::path& file, const DatabaseKind& kind);
     ~Database();
     Database(const Database&) = delete;
@@ -100,6 +102,9 @@ public:
     // Makes a file with these tables, where there is none; a failure leaves none.
     static void Create(const std::filesystem::path& file, const DatabaseKind& kind,
                        const std::vector<TableShape>& tables);
+    // Makes the tables that a server does not have yet; those that are there stay as they are.
+    static void CreateOnServer(const ServerLink& link, const DatabaseKind& kind,
+                               const std::vector<TableShape>& tables);
 
     // How the engine writes a table down in its list of tables.
     static std::string SchemaText(const TableShape& table);

@@ -12,12 +12,20 @@
 #include <vector>
 
 #include "platform/Database.h"
+#include "platform/ServerLink.h"
 
 namespace quillmetra {
 
 // Where the numbers of the engines' failures begin, and those of a lock, whichever engine tells of it.
 inline constexpr int EngineFailures = 3000;
 inline constexpr int LockFailures[] = {EngineFailures + 5, EngineFailures + 6};
+
+// A name in a statement.
+inline std::string Quoted(std::string_view name) {
+    std::string quoted(1, '"');
+    for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
+    return quoted.append(1, '"');
+}
 
 // A number as a field reads it; one that no field of ours can have written reads 0.
 double NumberRead(FieldType type, double stored);
@@ -86,11 +94,11 @@ public:
     virtual std::int64_t Version() = 0;
     virtual bool IsReplaced() const = 0;
 
-    // Of the file.
-    virtual std::string Fault() = 0;
-    virtual void Reindex() = 0;
-    virtual void CompactInto(const std::filesystem::path& file) = 0;
-    virtual void CopyInto(const std::filesystem::path& file) = 0;
+    // Of the file, which not every engine has.
+    virtual std::string Fault() { return {}; }
+    virtual void Reindex() { throw failure::OnServer(); }
+    virtual void CompactInto(const std::filesystem::path&) { throw failure::OnServer(); }
+    virtual void CopyInto(const std::filesystem::path&) { throw failure::OnServer(); }
 };
 
 }  // namespace quillmetra

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "platform/Utf8.h"
+
 namespace quillmetra {
 
 namespace {
@@ -69,6 +71,13 @@ int CompareKeys(std::string_view a, std::string_view b) {
     }
     if (i == a.size() && k == b.size()) return 0;
     return i == a.size() ? -1 : 1;
+}
+
+// UTF-8 orders by the numbers of the characters, and has room for those of bytes that are none.
+std::string SortKey(std::string_view text) {
+    std::string key;
+    for (std::size_t next = 0; next < text.size();) AppendUtf8(key, SmallLetter(NextCharacter(text, next)));
+    return key;
 }
 
 // All letters that have a small form have two bytes in UTF-8, or one, and so has the small form.

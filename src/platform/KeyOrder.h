@@ -14,6 +14,9 @@ namespace quillmetra {
 // Below 0, 0 or above 0 as the first UTF-8 text stands before, beside or behind the second.
 int CompareKeys(std::string_view a, std::string_view b);
 
+// Bytes that compare, one by one, as CompareKeys compares the texts: for an engine that only knows bytes.
+std::string SortKey(std::string_view text);
+
 // The text in small letters, so that what CompareKeys holds for the same is the same.
 std::string SmallLetters(std::string_view text);
 

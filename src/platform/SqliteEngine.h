@@ -13,12 +13,6 @@
 
 namespace quillmetra {
 
-inline std::string Quoted(std::string_view name) {
-    std::string quoted(1, '"');
-    for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
-    return quoted.append(1, '"');
-}
-
 // Ends the run of a prepared statement on every way out, so that no lock outlives a call.
 class Run {
 public:

@@ -11,6 +11,7 @@
 #include "platform/Database.h"
 #include "platform/Folders.h"
 #include "platform/SafeFiles.h"
+#include "platform/ServerLink.h"
 #include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
@@ -87,7 +88,7 @@ std::string ContentOf(const std::string& backup) {
 
 void KeepBackupOfToday(const std::string& file) {
     Trouble.clear();
-    if (BackupsKept <= 0 || !IsDatabaseName(file)) return;
+    if (BackupsKept <= 0 || !IsDatabaseName(file) || IsServerLink(MachinePath(file))) return;
     const std::string backup = NameBeside(file);
     if (FileExists(backup)) return;
     try {

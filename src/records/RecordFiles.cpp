@@ -10,6 +10,7 @@
 #include "core/Suite.h"
 #include "platform/Dialogs.h"
 #include "platform/SafeFiles.h"
+#include "platform/ServerLink.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/Backups.h"
@@ -53,6 +54,7 @@ void PutAside(Database* reader, const fs::path& file, const fs::path& aside) {
 // under another name when one is given. What an engine leaves beside a database after a crash belongs to it
 // under its name: it is undone, and gone before another file takes the name.
 void Replace(const fs::path& beside, const fs::path& file, const fs::path& aside = {}) {
+    if (IsServerLink(file)) return MoveOver(beside, file);  // what is on the server stays there
     std::unique_ptr<Database> former, reader;
     std::optional<Transaction> lock;
     try {
@@ -70,6 +72,10 @@ void Replace(const fs::path& beside, const fs::path& file, const fs::path& aside
         reader.reset();
     }
     MoveOver(beside, file);
+}
+
+void MustBeFile(const fs::path& file) {
+    if (IsServerLink(file)) throw failure::OnServer();
 }
 
 std::vector<std::int64_t> RowCounts(Database& database) {
@@ -181,6 +187,15 @@ void MakeEmptyDatabase(const std::string& name) {
     Replace(beside.File, file);
 }
 
+void MakeServerDatabase(const std::string& name, const ServerLink& link) {
+    std::vector<TableShape> shapes = Shapes();
+    shapes.push_back(ExtrasTable());  // later only whoever owns the schema could make it
+    Database::CreateOnServer(link, Kind, shapes);
+    const Scratch beside(InFolder(FolderOf(name), "TRDB.new"));
+    WriteServerLink(beside.File, link);
+    Replace(beside.File, MachinePath(name));
+}
+
 bool CreateDB(bool agreed) {
     const std::string& folder = Suite.DatabasePath;
     Suite.DatabaseFile = DatabaseFileOf(folder);
@@ -217,6 +232,7 @@ std::string AskDatabaseFile(bool forSaving) {
 void CompactDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
     const fs::path file = MachinePath(name);
+    MustBeFile(file);
     if (IsWriteProtected(file)) throw WriteProtected(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch backup(InFolder(folder, filename::Backup + std::string(".new")));
@@ -239,9 +255,10 @@ void CompactDB(const std::string& folder) {
 
 RepairReport RepairDB(const std::string& folder) {
     const std::string name = DatabaseFileOf(folder);
+    const fs::path file = MachinePath(name);
+    MustBeFile(file);
     const std::optional<RuntimeError> fault = FaultOf(name);
     if (!fault) return {};
-    const fs::path file = MachinePath(name);
     const FileStamp stamp = StampOf(file);
     const Scratch beside(InFolder(folder, "Temp.mdb"));
     const Scratch aside(InFolder(folder, filename::Damaged + std::string(".new")));
@@ -273,6 +290,7 @@ bool IsSound(const std::string& name) {
 
 void RestoreDatabase(const std::string& name, const std::string& backup, const std::string& aside) {
     const fs::path file = MachinePath(name);
+    MustBeFile(file);
     if (IsWriteProtected(file)) throw WriteProtected(file);
     const Scratch beside(InFolder(FolderOf(name), "TRDB.new"));
     CopyWhole(MachinePath(backup), beside.File);

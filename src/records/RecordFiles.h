@@ -14,6 +14,8 @@
 
 namespace quillmetra {
 
+struct ServerLink;
+
 // Folder & "\TRDB.MDB".
 std::string DatabaseFileOf(const std::string& folder);
 
@@ -43,6 +45,10 @@ std::unique_ptr<Database> OpenRecords(const std::string& file);
 // Makes an empty database under a name, in place of one that is there, without a word. Throws when another
 // program is at work on that.
 void MakeEmptyDatabase(const std::string& name);
+
+// Makes the tables of the suite on a server where they are not there yet, and puts a link to them under a
+// name, in place of a database that is there. Throws when the server refuses; all is then as it was.
+void MakeServerDatabase(const std::string& name, const ServerLink& link);
 
 // Makes an empty database in Suite.DatabasePath and tells so with the title Calc.MessageTitle; sets
 // Suite.DatabaseFile. A database that is there already is replaced without a question when the user has

@@ -1,7 +1,11 @@
 // The behaviour of recordsets that the suite relies on, and the order of keys.
 #include "platform/Database.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "platform/KeyOrder.h"
+#include "tests/OnServer.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {
@@ -13,7 +17,15 @@ const TableShape Tanks = {"Odd \"name\"", {{"Tag", FieldType::Text, 10}, {"SG @ 
 
 class DatabaseTest : public SuiteTest {
 protected:
-    DatabaseTest() { Database::Create(File(), Kind, {Tanks}); }
+    DatabaseTest() {
+        if (!OnServer()) {
+            Database::Create(File(), Kind, {Tanks});
+            return;
+        }
+        const ServerLink link = NewServerLink();
+        Database::CreateOnServer(link, Kind, {Tanks});
+        WriteServerLink(File(), link);
+    }
 
     std::filesystem::path File() const { return Folder / "tanks.db"; }
 
@@ -86,6 +98,114 @@ TEST_F(DatabaseTest, TransactionsNestAndUndo) {
     }
     EXPECT_EQ(rows.Keys(), std::vector<std::string>{"kept"});
     EXPECT_FALSE(database.InTransaction());
+}
+
+// Keys with letters of every kind, and bytes that are no letters: an engine keeps all of them, in the one
+// order.
+TEST_F(DatabaseTest, KeysAndTextsComeBackInTheOrderOfKeys) {
+    using namespace std::string_literals;
+    std::vector<std::string> keys = {"b",
+                                     "A",
+                                     "a1",
+                                     "10",
+                                     "2",
+                                     "-",
+                                     " ",
+                                     "\u00c4",
+                                     "z\u00e9",
+                                     "\u00d7",
+                                     "\u00f7",
+                                     "\u0178",
+                                     "\u0416",
+                                     "\u03a9",
+                                     "\u20ac",
+                                     "\U0001f600",
+                                     "\ufffd",
+                                     "a\0b"s,
+                                     "\xc3",
+                                     "\xff",
+                                     "a\xc3(",
+                                     "\xe0\x80\x80",
+                                     "\xed\xa0\x80",
+                                     "\xf4\x8f\xbf\xbf",
+                                     "\xf4\x90\x80\x80",
+                                     "'\"\\%_"};
+    Database database(File(), Kind);
+    Recordset rows(database, Tanks);
+    rows.Index("Tag_Number");
+    for (const std::string& key : keys) Add(rows, key, 0.1);
+    std::ranges::sort(keys, [](const auto& a, const auto& b) { return CompareKeys(a, b) < 0; });
+    EXPECT_EQ(rows.Keys(), keys);
+    std::vector<std::string> walked;
+    for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext()) walked.push_back(rows.Text("Tag"));
+    EXPECT_EQ(walked, keys);
+    constexpr std::string_view fields[] = {"Tag", "SG @ FTP"};
+    std::size_t known = 0;
+    rows.EachRow(fields, [&](Recordset::TextRow row) {
+        known += std::ranges::count(keys, row[0]) * (std::stof(std::string(row[1])) == 0.1F);
+    });
+    EXPECT_EQ(known, keys.size());
+    for (const char* other : {"B", "\u00e4", "Z\u00c9", "\u00ff", "\u0436", "\u03c9", "A\xc3("})
+        EXPECT_TRUE(rows.Seek(other)) << other;
+    for (const char* none : {"\u00c3", "\xc3\xc3", "a", "-0"})
+        EXPECT_EQ(rows.Seek(none), *none == 'a') << none;
+    for (const std::string& a : keys) {
+        for (const std::string& b : keys)
+            EXPECT_EQ(SortKey(a) < SortKey(b), CompareKeys(a, b) < 0) << a << " and " << b;
+    }
+    // Numbers as well: the largest, the smallest, and a zero without a sign.
+    for (const double number : {-3.4e38, 1.2e-38, 123456.7, -0.0}) {
+        ASSERT_TRUE(rows.Seek("b"));
+        rows.Edit();
+        rows.Set("SG @ FTP", number);
+        rows.Update();
+        EXPECT_EQ(std::signbit(rows.Number("SG @ FTP")), number < 0);
+        EXPECT_EQ(rows.Number("SG @ FTP"), number);
+    }
+}
+
+struct BadLink {
+    const char *Text, *Refusal;
+};
+constexpr BadLink BadLinks[] = {
+    {"", "It names neither a host nor a service"},
+    {"host=a\nport=x\n", "Its port is no number from 1 to 65535"},
+    {"host=a\nport=65536\n", "Its port is no number"},
+    {"host=a\npassword=secret\n", "A link holds no password"},
+    {"host=a\nrows\n", "It has a line that is not understood: rows"},
+    {"host=a\x01\n", "Its host is no name"},
+    {"host=no.such.host.invalid\n", "cannot be reached\nno.such.host.invalid, schema quillmetra\n"},
+    {"host=127.0.0.1\nport=1\nschema=x\n", "cannot be reached\n127.0.0.1:1, schema x\n"},
+};
+
+TEST_F(DatabaseTest, LinksThatCannotBeFollowedSayWhy) {
+    const auto refusal = [this](const std::string& link) -> std::string {
+        ReplaceFile(SuitePath(File()), link);
+        try {
+            Database(File(), Kind);
+        } catch (const RuntimeError& error) {
+            return error.Description;
+        }
+        return "";
+    };
+    const std::string first = "Quillmetra database link 1\n";
+    for (const BadLink& each : BadLinks) {
+        const std::string found = refusal(first + each.Text);
+        const bool isBuilt = found.find("this build of the program knows no server") == std::string::npos;
+        EXPECT_TRUE(!isBuilt || found.find(each.Refusal) != std::string::npos) << each.Text << found;
+    }
+    EXPECT_EQ(refusal("Quillmetra database link 2\nhost=a\n"), failure::DatabaseNewer().Description);
+    EXPECT_NE(refusal(first + std::string(5000, '\n')).find("It is too long"), std::string::npos);
+    if (!OnServer()) return;
+    const auto asked = [&](const std::string& more) {
+        return refusal(first + "host=" + NewServerLink().Host + "\n" + more);
+    };
+    EXPECT_EQ(asked("schema=none\n").find("Open failed (Database invalid)"), 0U);
+    EXPECT_EQ(asked("dbname=none\n").find("The server has no such database"), 0U);
+    EXPECT_EQ(asked("user=none\n").find("The server refuses the log-in"), 0U);
+    const ServerLink later = NewServerLink();
+    Database::CreateOnServer(later, {Kind.Application, Kind.Schema + 1}, {});
+    EXPECT_EQ(asked("schema=" + later.Schema + "\n"), failure::DatabaseNewer().Description);
 }
 
 TEST(KeyOrder, TakesNoNoticeOfCaseInAnyAlphabet) {

@@ -90,7 +90,10 @@ protected:
     }
 };
 
-TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
+// What only a file has, and no server.
+class FileAloneTest : public RecordFilesTest {};
+
+TEST_F(FileAloneTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
     const std::string own = Bytes();
     fs::remove(File());
     EXPECT_EQ(OpenFailure(), Invalid) << "no file";
@@ -124,7 +127,7 @@ TEST_F(RecordFilesTest, ForeignFilesAreRefusedAndLeftAsTheyAre) {
     EXPECT_EQ(OpenFailure(), Invalid) << "a folder";
 }
 
-TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
+TEST_F(FileAloneTest, ReadOnlyLockedAndCutFiles) {
     for (const char* tag : {"P-1", "P-3"}) SaveNew(tag);
     fs::permissions(File(), fs::perms::owner_read);
     EXPECT_TRUE(Display("P-1"));
@@ -167,7 +170,7 @@ TEST_F(RecordFilesTest, ReadOnlyLockedAndCutFiles) {
 
 #ifdef HAS_USERS
 // Rights of the file are those of the people who work with it, whoever compacts, repairs or creates it anew.
-TEST_F(RecordFilesTest, RightsAreKeptAndAsked) {
+TEST_F(FileAloneTest, RightsAreKeptAndAsked) {
     fs::permissions(File(), fs::perms(0660));
     for (const char* tag : {"P-1", "P-2"}) SaveNew(tag);
     const std::string backup = BackupsOf(Suite.DatabaseFile).front().File;
@@ -217,7 +220,7 @@ TEST_F(RecordFilesTest, RightsAreKeptAndAsked) {
 #endif
 
 // A database without the table of settings, as one made elsewhere, opens and gets it with the first save.
-TEST_F(RecordFilesTest, SettingsTableComesWithTheFirstSave) {
+TEST_F(FileAloneTest, SettingsTableComesWithTheFirstSave) {
     Engine("DROP TABLE \"Calculation Settings\"");
     SaveNew("P-1");
     ASSERT_TRUE(Display("P-1"));
@@ -234,7 +237,7 @@ TEST_F(RecordFilesTest, NamesOfTheDatabase) {
     EXPECT_EQ(FolderOf("/a/b\\TRDB.MDB"), "/a/b");
 }
 
-TEST_F(RecordFilesTest, CreateAsksAndReplaces) {
+TEST_F(FileAloneTest, CreateAsksAndReplaces) {
     SaveNew("P-1");
     Calc.MessageTitle = "Database TRDB.MDB";
     User.Boxes.clear();
@@ -254,7 +257,7 @@ TEST_F(RecordFilesTest, CreateAsksAndReplaces) {
     EXPECT_EQ(FilesBeside(), std::vector<std::string>{"TRDB.MDB"});
 }
 
-TEST_F(RecordFilesTest, CompactKeepsRecordsAndOneBackup) {
+TEST_F(FileAloneTest, CompactKeepsRecordsAndOneBackup) {
     for (int i = 0; i < 40; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
     for (int i = 10; i < 40; ++i) DeleteRecord(Suite.DatabaseFile, "P-" + std::to_string(i));
     const std::vector<FieldValue> kept = AllValues("P-7");
@@ -298,7 +301,7 @@ private:
     void (*former_)(int);
 };
 
-TEST_F(RecordFilesTest, AFullDiskLosesNothing) {
+TEST_F(FileAloneTest, AFullDiskLosesNothing) {
     for (int i = 0; i < 30; ++i) SaveNew("P-" + std::to_string(i), i % 5 + 1);
     int refused = 0;
     {
@@ -369,7 +372,7 @@ TEST_F(RecordFilesTest, SaveToAnotherDatabase) {
 
 // Another program compacts while this one has the file open: what is open is then no file any more, or the
 // system keeps it and the other one is told.
-TEST_F(RecordFilesTest, AFileThatIsReplacedMeanwhile) {
+TEST_F(FileAloneTest, AFileThatIsReplacedMeanwhile) {
     for (const char* tag : {"P-1", "P-2", "P-3"}) SaveNew(tag);
     RecordView view(Suite.DatabaseFile);
     view.Next();

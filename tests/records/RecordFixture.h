@@ -14,6 +14,7 @@
 #include "records/RecordTransfer.h"
 #include "records/RecordView.h"
 #include "records/SaveRecord.h"
+#include "tests/OnServer.h"
 #include "tests/SuiteFixture.h"
 #include "units/NamedUnitSets.h"
 
@@ -78,7 +79,12 @@ class RecordTest : public SuiteTest {
 protected:
     RecordTest() {
         Suite.DatabasePath = SuitePath(DataFolder());
-        CreateDB(true);
+        if (OnServer()) {
+            Suite.DatabaseFile = DatabaseFileOf(Suite.DatabasePath);
+            MakeServerDatabase(Suite.DatabaseFile, NewServerLink());
+        } else {
+            CreateDB(true);
+        }
         User.Boxes.clear();
     }
 

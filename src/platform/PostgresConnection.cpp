@@ -1,0 +1,299 @@
+// See PostgresConnection.h.
+#include "platform/PostgresConnection.h"
+
+#include <array>
+#include <charconv>
+#include <string>
+#include <utility>
+
+#ifdef _WIN32
+#include <winsock2.h>
+#else
+#include <poll.h>
+#endif
+
+#include "platform/Engine.h"
+
+namespace quillmetra {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto LongestSilence = 4000ms;
+// Of one act: as long as all its answers together may take when each of them is slow.
+constexpr auto LongestSlowness = 4000ms, SlowAnswer = 250ms;
+constexpr auto BetweenActs = 1000ms;
+constexpr int ServerLost = EngineFailures + 150, ServerRefused = EngineFailures + 151;
+
+// By the first letters of the standard's codes of failures.
+struct FailureWords {
+    std::string_view Code;
+    const char* Text;
+    int Number;
+};
+constexpr FailureWords WordsOfFailures[] = {
+    {"42501", "You have no right to do this on the server", ServerRefused},
+    {"25006", "The server lets nobody write", ServerRefused},
+    {"28", "The server refuses the log-in", ServerRefused},
+    {"3D000", "The server has no such database", ServerRefused},
+    {"53100", "The disk of the server is full", ServerRefused},
+    {"53300", "The server takes no more connections", ServerRefused},
+    {"53", "The server has no room left", ServerRefused},
+    {"55P03", "The database is locked by another program", LockFailures[0]},
+    {"40", "The database is locked by another program", LockFailures[0]},
+    {"57P", "The server is being stopped or started", ServerLost},
+    {"08", "The connection to the server is lost", ServerLost},
+    {"42P01", "Open failed (Database invalid)", 3343},
+    {"42703", "Open failed (Database invalid)", 3343},
+    {"3F000", "Open failed (Database invalid)", 3343},
+};
+
+std::string FirstLine(const char* text) {
+    const std::string_view all = text == nullptr ? "" : text;
+    return std::string(all.substr(0, all.find_first_of("\r\n")));
+}
+
+// Of a connection, or of a statement.
+std::string CodeOf(const PGresult* result, std::string_view message) {
+    if (const char* code = PQresultErrorField(result, PG_DIAG_SQLSTATE)) return code;
+    struct Sign {
+        std::string_view Text, Code;
+    };
+    // A connection that is refused has no code, but English words unless the server has its own language.
+    constexpr Sign signs[] = {
+        {"authentication", "28000"}, {"pg_hba", "28000"},           {"no password supplied", "28000"},
+        {"role \"", "28000"},        {"database \"", "3D000"},      {"starting up", "57P03"},
+        {"shutting down", "57P01"},  {"too many clients", "53300"}, {"remaining connection slots", "53300"}};
+    for (const Sign& each : signs) {
+        if (message.find("FATAL") != std::string_view::npos &&
+            message.find(each.Text) != std::string_view::npos)
+            return std::string(each.Code);
+    }
+    return "";
+}
+
+}  // namespace
+
+std::int64_t PostgresResult::Number(int row, int column) const {
+    std::int64_t number = 0;
+    const std::string_view text = At(row, column);
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+void PostgresParameters::Add(const char* data, std::size_t size, bool isBytes) {
+    data_.push_back(data);
+    sizes_.push_back(static_cast<int>(size));
+    formats_.push_back(isBytes ? 1 : 0);
+}
+
+PostgresConnection::PostgresConnection(const ServerLink& link) : link_(link) {
+    Connect();
+    Prepare();
+}
+
+// Keeps the names that are given; the library's own ways find the rest, a password above all.
+void PostgresConnection::Connect() {
+    std::vector<const char*> names, values;
+    const auto add = [&](const char* name, const char* value) {
+        if (*value == '\0') return;
+        names.push_back(name);
+        values.push_back(value);
+    };
+    add("service", link_.Service.c_str());
+    add("host", link_.Host.c_str());
+    add("port", link_.Port.c_str());
+    add("dbname", link_.Database.c_str());
+    add("user", link_.User.c_str());
+    add("client_encoding", "UTF8");
+    add("fallback_application_name", "Quillmetra");
+    for (const auto& [name, value] : {std::pair{"tcp_user_timeout", "4000"},
+                                      {"keepalives_idle", "5"},
+                                      {"keepalives_interval", "2"},
+                                      {"keepalives_count", "2"}})
+        add(name, value);
+    names.push_back(nullptr);
+    values.push_back(nullptr);
+
+    connection_.reset(PQconnectStartParams(names.data(), values.data(), 0));
+    if (PQstatus(connection_.get()) == CONNECTION_BAD) Lose(PQerrorMessage(connection_.get()));
+    const auto until = Clock::now() + LongestSilence;
+    for (PostgresPollingStatusType next = PGRES_POLLING_WRITING; next != PGRES_POLLING_OK;) {
+        Wait(next == PGRES_POLLING_WRITING, until);
+        next = PQconnectPoll(connection_.get());
+        if (next == PGRES_POLLING_FAILED) Lose(PQerrorMessage(connection_.get()));
+    }
+}
+
+// A client that has gone without a word holds its lock no longer than this.
+void PostgresConnection::Prepare() {
+    isOpen_ = true;
+    PQsetnonblocking(connection_.get(), 1);
+    PQsetNoticeProcessor(
+        connection_.get(), [](void*, const char*) {}, nullptr);
+    PQenterPipelineMode(connection_.get());
+    for (const char* setting :
+         {"idle_in_transaction_session_timeout = '60s'", "tcp_keepalives_idle = 5",
+          "tcp_keepalives_interval = 2", "tcp_keepalives_count = 2", "tcp_user_timeout = 10000",
+          "extra_float_digits = 1", "search_path = pg_catalog"}) {
+        PutOff(std::string("SET ") + setting);
+    }
+}
+
+bool PostgresConnection::InTransaction() const {
+    if (isLost_) return false;
+    const PGTransactionStatusType status = PQtransactionStatus(connection_.get());
+    return status == PQTRANS_INTRANS || status == PQTRANS_INERROR;
+}
+
+bool PostgresConnection::TakeBack() {
+    if (putOff_.empty()) return false;
+    putOff_.pop_back();
+    return true;
+}
+
+void PostgresConnection::Abandon() noexcept {
+    isLost_ = true;
+    connection_.reset();
+}
+
+void PostgresConnection::Lose(const std::string& reason) {
+    const std::string message = FirstLine(reason.c_str());
+    const std::string code = CodeOf(nullptr, message);
+    const bool wasInTransaction = InTransaction();
+    hasDiedUnused_ = isOpen_ && answered_ != Clock::time_point() && Clock::now() - asked_ < SlowAnswer;
+    Abandon();
+    std::string words = isOpen_ ? "The connection to the server is lost" : "The server cannot be reached";
+    int number = ServerLost;
+    for (const FailureWords& each : WordsOfFailures) {
+        if (code.empty() || !code.starts_with(each.Code)) continue;
+        words = each.Text;
+        number = each.Number;
+        break;
+    }
+    if (wasInTransaction) words += "; what was being written is not";
+    throw RuntimeError(number, words + "\n" + link_.Words() + "\n" + message);
+}
+
+void PostgresConnection::Wait(bool alsoWrite, Clock::time_point until) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(until - Clock::now());
+    if (left.count() <= 0) Lose("It does not answer");
+#ifdef _WIN32
+    WSAPOLLFD waiting{};
+    const auto wait = [&] { return WSAPoll(&waiting, 1, static_cast<int>(left.count())); };
+    waiting.fd = static_cast<SOCKET>(PQsocket(connection_.get()));
+#else
+    pollfd waiting{};
+    const auto wait = [&] { return poll(&waiting, 1, static_cast<int>(left.count())); };
+    waiting.fd = PQsocket(connection_.get());
+#endif
+    waiting.events = static_cast<short>(POLLIN | (alsoWrite ? POLLOUT : 0));
+    if (wait() == 0) Lose("It does not answer");
+}
+
+void PostgresConnection::Send(const std::string& sql, const PostgresParameters& parameters) {
+    auto found = prepared_.find(sql);
+    if (found == prepared_.end()) {
+        found = prepared_.emplace(sql, "s" + std::to_string(++preparedCount_)).first;
+        if (PQsendPrepare(connection_.get(), found->second.c_str(), sql.c_str(), 0, nullptr) == 0)
+            Lose(PQerrorMessage(connection_.get()));
+    }
+    if (PQsendQueryPrepared(connection_.get(), found->second.c_str(),
+                            static_cast<int>(parameters.data_.size()), parameters.data_.data(),
+                            parameters.sizes_.data(), parameters.formats_.data(), 0) == 0) {
+        Lose(PQerrorMessage(connection_.get()));
+    }
+}
+
+// The next result, or none at the end of a statement.
+PGresult* PostgresConnection::Next() {
+    auto until = Clock::now() + LongestSilence;
+    for (;;) {
+        const int unsent = PQflush(connection_.get());
+        if (unsent < 0) Lose(PQerrorMessage(connection_.get()));
+        if (PQisBusy(connection_.get()) == 0) return PQgetResult(connection_.get());
+        Wait(unsent > 0, until);
+        if (PQconsumeInput(connection_.get()) == 0) Lose(PQerrorMessage(connection_.get()));
+        until = Clock::now() + LongestSilence;
+    }
+}
+
+PostgresResult PostgresConnection::Run(const std::string& sql, const PostgresParameters& parameters) {
+    if (isLost_) throw RuntimeError(ServerLost, "The connection to the server is lost\n" + link_.Words());
+    const auto asked = asked_ = Clock::now();
+    if (asked - answered_ > BetweenActs) {
+        waited_ = {};
+        answers_ = 0;
+    }
+    const bool isNew = !prepared_.contains(sql);
+    std::size_t results = putOff_.size() + 1 + (isNew ? 1 : 0);
+    for (const std::string& each : std::exchange(putOff_, {})) {
+        if (PQsendQueryParams(connection_.get(), each.c_str(), 0, nullptr, nullptr, nullptr, nullptr, 0) == 0)
+            Lose(PQerrorMessage(connection_.get()));
+    }
+    Send(sql, parameters);
+    if (PQpipelineSync(connection_.get()) == 0) Lose(PQerrorMessage(connection_.get()));
+    PostgresResult result(nullptr);
+    try {
+        result = PostgresResult(Collect(results));
+    } catch (const RuntimeError&) {
+        if (isNew) prepared_.erase(sql);
+        throw;
+    }
+    CountAnswer(asked);
+    return result;
+}
+
+// Reads all answers up to the mark behind them, so that the connection is ready again; gives the last one.
+PGresult* PostgresConnection::Collect(std::size_t statements) {
+    std::unique_ptr<PGresult, decltype(&PQclear)> last(nullptr, PQclear), failed(nullptr, PQclear);
+    for (std::size_t i = 0; i <= statements;) {
+        std::unique_ptr<PGresult, decltype(&PQclear)> result(Next(), PQclear);
+        if (result == nullptr) {
+            if (PQstatus(connection_.get()) == CONNECTION_BAD) Lose(PQerrorMessage(connection_.get()));
+            continue;  // the end of a statement
+        }
+        ++i;
+        const ExecStatusType status = PQresultStatus(result.get());
+        if (status == PGRES_PIPELINE_SYNC) break;
+        if (status == PGRES_FATAL_ERROR && failed == nullptr) {
+            failed = std::move(result);
+        } else if (status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK) {
+            last = std::move(result);
+        }
+    }
+    if (failed != nullptr) {
+        if (Failure(failed.get()).Number == ServerLost) Lose(PQresultErrorMessage(failed.get()));
+        throw Failure(failed.get());
+    }
+    return last.release();
+}
+
+void PostgresConnection::CountAnswer(Clock::time_point asked) {
+    answered_ = Clock::now();
+    waited_ += answered_ - asked;
+    ++answers_;
+    if (waited_ > LongestSlowness && waited_ / answers_ > SlowAnswer) Lose("It answers too slowly");
+}
+
+bool PostgresConnection::HasNotice() {
+    if (isLost_ || PQconsumeInput(connection_.get()) == 0) return false;
+    while (PGnotify* const notice = PQnotifies(connection_.get())) {
+        hasNotice_ = hasNotice_ || notice->extra == link_.Schema;
+        PQfreemem(notice);
+    }
+    return std::exchange(hasNotice_, false);
+}
+
+RuntimeError PostgresConnection::Failure(const PGresult* result) const {
+    const std::string message = FirstLine(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY));
+    const std::string code = CodeOf(result, PQresultErrorMessage(result));
+    for (const FailureWords& each : WordsOfFailures) {
+        if (!code.starts_with(each.Code)) continue;
+        return {each.Number, std::string(each.Text) + "\n" + link_.Words() + "\n" + message};
+    }
+    return {ServerRefused, "The server refuses: " + message + "\n" + link_.Words()};
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,101 @@
+// One connection to a PostgreSQL server. It never waits for long: a server that is silent for some seconds is
+// taken for lost, and so is one whose answers are so slow that an act of the user would take much longer.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <libpq-fe.h>
+
+#include "platform/Database.h"
+#include "platform/ServerLink.h"
+
+namespace quillmetra {
+
+// The rows that a statement gave.
+class PostgresResult {
+public:
+    explicit PostgresResult(PGresult* result) : result_(result, PQclear) {}
+
+    int Rows() const { return PQntuples(result_.get()); }
+    bool IsNull(int row, int column) const { return PQgetisnull(result_.get(), row, column) != 0; }
+    std::string_view At(int row, int column) const {
+        return {PQgetvalue(result_.get(), row, column),
+                static_cast<std::size_t>(PQgetlength(result_.get(), row, column))};
+    }
+    std::int64_t Number(int row, int column) const;
+
+private:
+    std::unique_ptr<PGresult, decltype(&PQclear)> result_;
+};
+
+// What stands for "$1", "$2", ... of a statement. It must last until the statement has run.
+class PostgresParameters {
+public:
+    void AddNull() { Add(nullptr, 0, false); }
+    void AddText(const std::string& text) { Add(text.c_str(), text.size(), false); }
+    void AddBytes(const std::string& bytes) { Add(bytes.data(), bytes.size(), true); }
+
+private:
+    friend class PostgresConnection;
+    void Add(const char* data, std::size_t size, bool isBytes);
+
+    std::vector<const char*> data_;
+    std::vector<int> sizes_, formats_;
+};
+
+class PostgresConnection {
+    using Clock = std::chrono::steady_clock;
+
+public:
+    // Throws in words that say who refused.
+    explicit PostgresConnection(const ServerLink& link);
+
+    const ServerLink& Link() const { return link_; }
+    bool IsAlive() const { return !isLost_; }
+    bool InTransaction() const;
+    // Whether it was gone at once when it was used again, as after a restart of the server: a new one may
+    // serve.
+    bool HasDiedUnused() const { return hasDiedUnused_; }
+
+    // Runs a statement that stays prepared. What was put off before goes with it, so that it costs no time of
+    // its own. After a failure of the server's the connection stays of use.
+    PostgresResult Run(const std::string& sql, const PostgresParameters& parameters = {});
+    void PutOff(std::string sql) { putOff_.push_back(std::move(sql)); }
+    // Takes back what was put off last; false when it has been sent.
+    bool TakeBack();
+    // Whether the server has told of a change of its own accord; asks nothing of it.
+    bool HasNotice();
+    // Of whatever state, for one who goes on without.
+    void Abandon() noexcept;
+
+    [[noreturn]] void Lose(const std::string& reason);
+
+private:
+    void Connect();
+    void Prepare();
+    void Send(const std::string& sql, const PostgresParameters& parameters);
+    // Until the server can be read from or, when there is something to be sent, written to.
+    void Wait(bool alsoWrite, Clock::time_point until);
+    PGresult* Next();
+    PGresult* Collect(std::size_t statements);
+    void CountAnswer(Clock::time_point asked);
+    RuntimeError Failure(const PGresult* result) const;
+
+    const ServerLink link_;
+    std::unique_ptr<PGconn, decltype(&PQfinish)> connection_{nullptr, PQfinish};
+    std::map<std::string, std::string, std::less<>> prepared_;
+    std::vector<std::string> putOff_;
+    bool isOpen_ = false, isLost_ = false, hasDiedUnused_ = false, hasNotice_ = false;
+    Clock::time_point asked_{}, answered_{};
+    Clock::duration waited_{};
+    int answers_ = 0, preparedCount_ = 0;
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,267 @@
+// See PostgresEngine.h.
+#include "platform/PostgresEngine.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/ServerEngine.h"
+
+namespace quillmetra {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t MostIdle = 4;
+constexpr int LongestLockWait = 3500;  // milliseconds; a silence of the server must be longer
+
+// Connections that nobody uses at the moment: making one takes much longer than what is asked of it.
+std::vector<std::unique_ptr<PostgresConnection>>& Idle() {
+    static std::vector<std::unique_ptr<PostgresConnection>> idle;
+    return idle;
+}
+
+std::unique_ptr<PostgresConnection> TakeIdle(const ServerLink& link) {
+    const auto found = std::ranges::find_if(Idle(), [&](const auto& each) { return each->Link() == link; });
+    if (found == Idle().end()) return nullptr;
+    std::unique_ptr<PostgresConnection> taken = std::move(*found);
+    Idle().erase(found);
+    return taken;
+}
+
+const char* ServerType(FieldType type) {
+    switch (type) {
+        case FieldType::Integer: return "smallint";
+        case FieldType::Single: return "real";
+        default: return "text";
+    }
+}
+
+std::string Literal(std::string_view text) {
+    std::string quoted(1, '\'');
+    for (const char c : text) quoted.append(c == '\'' ? 2 : 1, c);
+    return quoted.append(1, '\'');
+}
+
+// In a statement "%s" is the schema as a name and "%l" as a text.
+std::string OfSchema(std::string_view pattern, const std::string& schema) {
+    std::string sql;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        if (pattern[i] != '%') {
+            sql += pattern[i];
+            continue;
+        }
+        sql += pattern[++i] == 's' ? Quoted(schema) : Literal(schema);
+    }
+    return sql;
+}
+
+// The first writing statement of a transaction gives the database its new number, and tells the others of it
+// when the transaction is through.
+constexpr std::string_view Functions[] = {
+    R"(CREATE OR REPLACE FUNCTION %s.note_author() RETURNS trigger LANGUAGE plpgsql AS $$
+BEGIN
+    NEW.changed_by := session_user;
+    NEW.changed_at := now();
+    RETURN NEW;
+END $$)",
+    R"(CREATE OR REPLACE FUNCTION %s.note_change() RETURNS trigger LANGUAGE plpgsql
+SECURITY DEFINER SET search_path = pg_catalog AS $$
+DECLARE
+    own bigint := pg_current_xact_id()::text::bigint;
+BEGIN
+    UPDATE %s."Suite" SET change = own WHERE change <> own;
+    IF FOUND THEN
+        PERFORM pg_notify('quillmetra', %l);
+    END IF;
+    RETURN NULL;
+END $$)"};
+
+constexpr std::string_view SuiteTable =
+    "CREATE TABLE IF NOT EXISTS %s.\"Suite\"(application bigint NOT NULL, number integer NOT NULL, change "
+    "bigint NOT "
+    "NULL)";
+
+}  // namespace
+
+PostgresEngine::PostgresEngine(const ServerLink& link) : link_(link), stamp_{} {}
+
+PostgresEngine::PostgresEngine(const fs::path& file, const DatabaseKind& kind)
+    : link_(ReadServerLink(file)), file_(file), stamp_(StampOf(file)) {
+    CheckKind(kind);
+}
+
+PostgresEngine::~PostgresEngine() {
+    if (connection_ == nullptr || !connection_->IsAlive() || connection_->InTransaction()) return;
+    if (Idle().size() < MostIdle) Idle().push_back(std::move(connection_));
+}
+
+void PostgresEngine::Connect() {
+    if (connection_ != nullptr && connection_->IsAlive()) return;
+    connection_ = TakeIdle(link_);
+    if (connection_ == nullptr) connection_ = std::make_unique<PostgresConnection>(link_);
+}
+
+PostgresResult PostgresEngine::Run(const std::string& sql, const PostgresParameters& parameters) {
+    if (depth_ > 0) return connection_->Run(sql, parameters);
+    Connect();
+    try {
+        return connection_->Run(sql, parameters);
+    } catch (const RuntimeError&) {
+        if (!connection_->HasDiedUnused() || !sql.starts_with("SELECT")) throw;
+    }
+    connection_ = std::make_unique<PostgresConnection>(link_);
+    return connection_->Run(sql, parameters);
+}
+
+std::string PostgresEngine::Named(std::string_view table) const {
+    return Quoted(link_.Schema) + "." + Quoted(table);
+}
+
+// In one answer what kind of database it is and which tables it has.
+void PostgresEngine::CheckKind(const DatabaseKind& kind) {
+    const PostgresResult found =
+        Run(OfSchema("SELECT application, number, relname FROM %s.\"Suite\", pg_class"
+                     " WHERE relnamespace = to_regnamespace(quote_ident(%l)) AND relkind IN ('r', 'p', 'v')",
+                     link_.Schema));
+    if (found.Rows() == 0 || found.Number(0, 0) != kind.Application) throw failure::DatabaseInvalid();
+    if (found.Number(0, 1) > kind.Schema) throw failure::DatabaseNewer();
+    for (int i = 0; i < found.Rows(); ++i) tables_.emplace(found.At(i, 2));
+}
+
+void PostgresEngine::Create(const ServerLink& link, const DatabaseKind& kind,
+                            const std::vector<TableShape>& tables) {
+    PostgresEngine engine(link);
+    engine.Begin(0);
+    try {
+        // Who has been given a schema need not have the right to make one.
+        const bool isThere =
+            !engine.Run(OfSchema("SELECT to_regnamespace(quote_ident(%l))", link.Schema)).IsNull(0, 0);
+        if (!isThere) engine.Run(OfSchema("CREATE SCHEMA %s", link.Schema));
+        engine.Run(OfSchema(SuiteTable, link.Schema));
+        for (const std::string_view function : Functions) engine.Run(OfSchema(function, link.Schema));
+        engine.Run("INSERT INTO " + engine.Named("Suite") + " SELECT " + std::to_string(kind.Application) +
+                   ", " + std::to_string(kind.Schema) + ", 0 WHERE NOT EXISTS (SELECT FROM " +
+                   engine.Named("Suite") + ")");
+        engine.CheckKind(kind);
+        for (const TableShape& table : tables) {
+            if (!engine.HasTable(table.Name)) engine.AddTable(table);
+        }
+        engine.Commit(0);
+    } catch (const RuntimeError&) {
+        engine.Undo(0);
+        throw;
+    }
+}
+
+bool PostgresEngine::HasTable(std::string_view name) { return tables_.contains(name); }
+
+void PostgresEngine::AddTable(const TableShape& table) {
+    if (HasTable(table.Name)) return;
+    std::string sql = "CREATE TABLE " + Named(table.Name) + "(key_order bytea NOT NULL";
+    std::string key = "key_order";
+    for (std::size_t i = 0; i < table.Fields.size(); ++i) {
+        const std::string name = Quoted(table.Fields[i].Name);
+        sql += ", " + name + " " + ServerType(table.Fields[i].Type);
+        if (i < table.KeyFields) sql += " COLLATE \"C\" NOT NULL";
+        if (i > 0 && i < table.KeyFields) key += ", " + name;
+    }
+    Run(sql + ", changed_by text, changed_at timestamptz, PRIMARY KEY(" + key + "))");
+    Run("CREATE TRIGGER note_author BEFORE INSERT OR UPDATE ON " + Named(table.Name) +
+        " FOR EACH ROW EXECUTE FUNCTION " + Named("note_author") + "()");
+    Run("CREATE TRIGGER note_change AFTER INSERT OR UPDATE OR DELETE OR TRUNCATE ON " + Named(table.Name) +
+        " FOR EACH STATEMENT EXECUTE FUNCTION " + Named("note_change") + "()");
+    tables_.insert(table.Name);
+    added_.insert(table.Name);
+}
+
+// What begins and ends an inner transaction goes with the statement behind it.
+void PostgresEngine::Begin(int level) {
+    if (level > 0) {
+        connection_->PutOff("SAVEPOINT level" + std::to_string(level));
+        depth_ = level + 1;
+        return;
+    }
+    const auto begin = [&] {
+        connection_->PutOff("BEGIN");
+        connection_->PutOff("SET LOCAL lock_timeout = " +
+                            std::to_string(std::min(Database::BusyMilliseconds, LongestLockWait)));
+        connection_->Run(OfSchema("SELECT pg_advisory_xact_lock(hashtextextended(%l, 81))", link_.Schema));
+    };
+    Connect();
+    depth_ = 1;
+    try {
+        begin();
+    } catch (const RuntimeError&) {
+        Undo(0);
+        if (!connection_->HasDiedUnused()) throw;
+        connection_ = std::make_unique<PostgresConnection>(link_);
+        depth_ = 1;
+        try {
+            begin();
+        } catch (const RuntimeError&) {
+            Undo(0);
+            throw;
+        }
+    }
+}
+
+void PostgresEngine::Commit(int level) {
+    if (level > 0) {
+        connection_->PutOff("RELEASE level" + std::to_string(level));
+        depth_ = level;
+        return;
+    }
+    connection_->Run("COMMIT");
+    added_.clear();
+    depth_ = 0;
+}
+
+void PostgresEngine::Undo(int level) noexcept {
+    depth_ = level;
+    for (const std::string& table : std::exchange(added_, {})) tables_.erase(table);
+    if (connection_ == nullptr || !connection_->IsAlive()) return;
+    const std::string name = "level" + std::to_string(level);
+    try {
+        if (level > 0) {
+            connection_->PutOff("ROLLBACK TO " + name);
+            connection_->Run("RELEASE " + name);
+        } else {
+            connection_->Run("ROLLBACK");
+        }
+    } catch (const std::exception&) {
+        connection_->Abandon();
+    }
+}
+
+bool PostgresEngine::InTransaction() const {
+    return depth_ > 0 && connection_ != nullptr && connection_->InTransaction();
+}
+
+void PostgresEngine::TryToWrite() {
+    const PostgresResult found =
+        Run(OfSchema("SELECT relname FROM pg_class WHERE relnamespace = to_regnamespace(quote_ident(%l))"
+                     " AND relkind = 'r' AND relname <> 'Suite' AND NOT (has_table_privilege(oid, 'INSERT')"
+                     " AND has_table_privilege(oid, 'UPDATE') AND has_table_privilege(oid, 'DELETE'))",
+                     link_.Schema));
+    if (found.Rows() == 0) return;
+    Run("DELETE FROM " + Named(found.At(0, 0)) + " WHERE false");
+    Run("UPDATE " + Named(found.At(0, 0)) + " SET changed_by = '' WHERE false");
+    Run("INSERT INTO " + Named(found.At(0, 0)) + " SELECT FROM pg_class WHERE false");
+}
+
+bool KnowsServers() { return true; }
+
+std::unique_ptr<Engine> OpenOnServer(const fs::path& file, const DatabaseKind& kind) {
+    return std::make_unique<PostgresEngine>(file, kind);
+}
+
+void CreateOnServer(const ServerLink& link, const DatabaseKind& kind, const std::vector<TableShape>& tables) {
+    PostgresEngine::Create(link, kind, tables);
+}
+
+std::int64_t PostgresEngine::Version() { return Run("SELECT change FROM " + Named("Suite")).Number(0, 0); }
+
+bool PostgresEngine::IsReplaced() const { return StampOf(file_) != stamp_; }
+
+}  // namespace quillmetra
