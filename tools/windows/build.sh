@@ -4,50 +4,11 @@
 # suite into build/windows, and of it Quillmetra-VERSION-setup.exe and Quillmetra-VERSION-portable.zip there.
 set -euo pipefail
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
+source tools/windows/libraries.sh
 
 Build=build/windows
 Package=$Build/package
 Version=$(SuiteVersion)
-
-# Without what Windows does not have, what the suite does not use, and tabletevent, whose header Debian leaves out.
-MakeQt() {
-    local Name Options=()
-    if [[ -f $Prefix/lib/cmake/Qt6PrintSupport/Qt6PrintSupportConfig.cmake ]]; then
-        return
-    fi
-    Heading "Qt"
-    Source qt6-base
-    for Name in sql dbus direct2d vulkan concurrent openssl schannel glib icu tabletevent; do
-        Options+=("-DFEATURE_$Name=OFF")
-    done
-    for Name in zlib png jpeg harfbuzz freetype pcre2 doubleconversion; do
-        Options+=("-DFEATURE_system_$Name=OFF")
-    done
-    InstallLibrary "$Libraries/src/qt6-base" qt -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
-        -DINPUT_opengl=no "${Options[@]}"
-}
-
-# Qt's writer of SVG, for the plots; without it their menu says that it is not in this build.
-MakeQtSvg() {
-    if [[ -f $Prefix/lib/cmake/Qt6Svg/Qt6SvgConfig.cmake ]]; then
-        return
-    fi
-    Heading "Qt Svg"
-    if ! Source qt6-svg; then
-        echo "Its source package is not to be had: this build saves no plot as SVG."
-        return
-    fi
-    InstallLibrary "$Libraries/src/qt6-svg" qtsvg -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF
-}
-
-MakeQCustomPlot() {
-    if [[ -f $Prefix/lib/cmake/QCustomPlotQt6/QCustomPlotQt6Config.cmake ]]; then
-        return
-    fi
-    Heading "QCustomPlot"
-    Source qcustomplot
-    InstallLibrary "$Libraries/src/qcustomplot" qcustomplot -DUSE_QT_VERSION=6
-}
 
 MakeSuite() {
     Heading "The suite"
@@ -110,6 +71,8 @@ MakeGoogleTest
 MakeQt
 MakeQtSvg
 MakeQCustomPlot
+MakeXlsx
+MakeLibpq
 MakeSuite
 MakePackage
 Heading "The setup"

@@ -17,26 +17,37 @@ Heading() {
     echo "== $* ($((SECONDS - Started)) s so far)"
 }
 
-# The machine's own entries of Debian with sources in place of programs, in lists of their own: the machine's stay as
-# they are, and no root is needed.
+# AptSources TOOL...: the machine's own entries of Debian with sources in place of programs, in lists of their own: the
+# machine's stay as they are, and no root is needed.
 AptSources() {
-    local Lists=$Libraries/apt
+    local Tool=$1 Lists=$Libraries/apt
+    shift
     if [[ ! -d $Lists/state ]]; then
         mkdir -p "$Lists/parts" "$Lists/state/partial"
         cat /etc/apt/sources.list.d/debian*.sources 2>/dev/null |
             sed 's/^Types:.*/Types: deb-src/' >"$Lists/parts/debian.sources" || true
         cat /etc/apt/sources.list 2>/dev/null | sed -n 's/^deb \(.*\)/deb-src \1/p' >"$Lists/parts/debian.list" || true
     fi
-    apt-get -q -o Dir::Etc::sourcelist=/dev/null -o Dir::Etc::sourceparts="$Lists/parts" \
+    "$Tool" -q -o Dir::Etc::sourcelist=/dev/null -o Dir::Etc::sourceparts="$Lists/parts" \
         -o Dir::State::lists="$Lists/state" -o APT::Sandbox::User="$(id -un)" "$@"
 }
 
-# A source package of which a part was not to be had is as good as none.
+# Of the newest version that is to be had whole: a mirror may list one that it no longer, or not yet, holds.
 FetchSource() {
-    if ! AptSources update || ! AptSources source --download-only "$1"; then
+    local Version
+    AptSources apt-get update || return
+    for Version in $(AptSources apt-cache showsrc "$1" | sed -n 's/^Version: //p' | sort -rV); do
+        if AptSources apt-get source --download-only "$1=$Version"; then
+            return
+        fi
         rm -f -- "$1"_*
-        return 1
-    fi
+    done
+    return 1
+}
+
+Unpack() {
+    rm -rf -- "$1.part"
+    dpkg-source --no-check -x "$1"_*.dsc "$1.part" && mv -- "$1.part" "$1"
 }
 
 # Source PACKAGE: its source package, unpacked, with Debian's changes to it.
@@ -48,8 +59,10 @@ Source() {
     mkdir -p "$Folder"
     (
         cd -- "$Folder" || exit
-        compgen -G "$1_*.dsc" >/dev/null || FetchSource "$1" || exit
-        dpkg-source --no-check -x "$1"_*.dsc "$1.part" && mv -- "$1.part" "$1"
+        if compgen -G "$1_*.dsc" >/dev/null && Unpack "$1"; then
+            exit
+        fi
+        FetchSource "$1" && Unpack "$1"
     )
 }
 
