@@ -284,11 +284,15 @@ TEST_F(WindowTest, ASearchForFilesIsStoppedByMouseAndKey) {
     for (const bool byKey : {false, true}) {
         finder.txtSearchSpec.SetText("*");
         QTest::qWait(30);  // the user is let in at the first folder
-        QTimer::singleShot(1, qApp, [&] {
+        QTimer user;       // who acts as soon as the search lets him in, by no clock
+        QObject::connect(&user, &QTimer::timeout, qApp, [&] {
+            if (!ViewOf(finder.cmdStop).Widget()->isEnabled()) return;
+            user.stop();
             EXPECT_FALSE(ViewOf(finder.cmdOK).Widget()->isEnabled());
             if (byKey) return QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             QTest::mouseClick(ViewOf(finder.cmdStop).Widget(), Qt::LeftButton);
         });
+        user.start(0);
         ClickControl(finder.cmdSearch);
         EXPECT_EQ(finder.lblSearch.Caption(), "Search Complete");
         EXPECT_EQ(finder.lblCount.Caption(), "0") << (byKey ? "by key" : "by mouse");

@@ -18,7 +18,6 @@ test_desktop *Restless* the same
 test_performance * promises of speed are those of a program, not of Wine
 test_print_run_speed * the same
 test_desktop *Speed* the same
-test_desktop WindowTest.ASearchForFilesIsStoppedByMouseAndKey it stops, but some files later than on a system that keeps 1 ms
 "
 
 GapsOf() { echo "$Gaps" | awk -v Program="$1" '$1 == Program { printf "%s%s", Separator, $2; Separator = ":" }'; }
