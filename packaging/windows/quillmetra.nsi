@@ -9,6 +9,7 @@ ManifestDPIAware true
 !define KEY "Software\Quillmetra"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillmetra"
 !define PROGRAM "$INSTDIR\bin\quillmetra.exe"
+!define PLAYER "$INSTDIR\bin\quillmetra-script.exe"
 
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
@@ -47,12 +48,13 @@ VIAddVersionKey LegalCopyright "GNU General Public License, version 3 or later"
 ; A program that runs cannot be written over: told, and nothing has been touched.
 !macro NeedsClosed un
 Function ${un}NeedsClosed
-    IfFileExists "${PROGRAM}" 0 done
+    Pop $1
+    IfFileExists "$1" 0 done
 again:
     ClearErrors
-    FileOpen $0 "${PROGRAM}" a
+    FileOpen $0 "$1" a
     IfErrors 0 close
-    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Quillmetra is running. Close it first." /SD IDCANCEL IDRETRY again
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$1 is running. Close it first." /SD IDCANCEL IDRETRY again
     SetErrorLevel 3
     Abort
 close:
@@ -62,6 +64,13 @@ FunctionEnd
 !macroend
 !insertmacro NeedsClosed ""
 !insertmacro NeedsClosed "un."
+
+!macro NeedBothClosed un
+    Push "${PLAYER}"
+    Push "${PROGRAM}"
+    Call ${un}NeedsClosed
+    Call ${un}NeedsClosed
+!macroend
 
 Function .onInit
     !insertmacro MULTIUSER_INIT
@@ -79,7 +88,7 @@ none:
 FunctionEnd
 
 Section
-    Call NeedsClosed
+    !insertmacro NeedBothClosed ""
     Call RemoveOlder
     SetOutPath "$INSTDIR"
     File /r "${PACKAGE}/*"
@@ -101,7 +110,7 @@ SectionEnd
 
 ; Records, tables and settings lie in the user's own folder and are left there, as is a folder TRData beside the program.
 Section Uninstall
-    Call un.NeedsClosed
+    !insertmacro NeedBothClosed "un."
     SetOutPath "$TEMP"
     !include "${FILES}"
     Delete "$INSTDIR\uninstall.exe"

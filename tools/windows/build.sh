@@ -51,6 +51,18 @@ MakeDocuments() {
     sed 's/$/\r/' /usr/share/common-licenses/LGPL-3 >"$Package/LGPL-3.txt"
     sed 's/$/\r/' CHANGELOG.md >"$Package/CHANGES.txt"
     cp -r docs "$Package/docs"
+    MakeLicences
+}
+
+# What the libraries ask to be said where they are shipped.
+MakeLicences() {
+    local Text Name
+    mkdir "$Package/licences"
+    for Text in "$Libraries"/src/*/debian/copyright /usr/share/doc/{g++-mingw-w64-x86-64-posix,mingw-w64-x86-64-dev}/copyright; do
+        Name=${Text%/copyright}
+        Name=${Name%/debian}
+        sed 's/$/\r/' "$Text" >"$Package/licences/${Name##*/}.txt"
+    done
 }
 
 # A folder TRData beside the program makes that place the suite's own folder.

@@ -198,6 +198,36 @@ Setup() {
     ! wine reg query "HKCU\\$Uninstall"
 }
 
+# EndsWith CODE COMMAND...
+EndsWith() {
+    local Code=0
+    "${@:2}" || Code=$?
+    [[ $Code == "$1" ]]
+}
+
+# Neither setup nor uninstaller touches anything while one of the programs runs; once it has ended, both do.
+SetupWhileRunning() {
+    local Folder Home Program
+    Home=$(UserFolder)/$Installed
+    Folder=$(WindowsPath "$WineHome/running")
+    mkdir -p "$WineHome/running"
+    rm -rf -- "$Home"
+    wine "$Build/Quillmetra-$Version-setup.exe" /S /CurrentUser
+    for Program in quillmetra quillmetra-script; do
+        sleep 60 | wine "$Home/bin/$Program.exe" "$([[ $Program == quillmetra ]] && echo "--folder=$Folder" || echo -)" &
+        sleep 5
+        EndsWith 3 wine "$Build/Quillmetra-$Version-setup.exe" /S /CurrentUser
+        EndsWith 3 wine "$Home/uninstall.exe" /S /CurrentUser "_?=C:${Home#"$WINEPREFIX/drive_c"}"
+        diff -r "$Package" "$Home" | grep -v "uninstall.exe" && return 1
+        wine taskkill /f /im "$Program.exe"
+    done
+    wine "$Build/Quillmetra-$Version-setup.exe" /S /CurrentUser
+    diff -r "$Package" "$Home" | grep -v "uninstall.exe" && return 1
+    wine "$Home/uninstall.exe" /S /CurrentUser
+    for _ in {1..60}; do [[ -e $Home ]] && sleep 1; done
+    [[ ! -e $Home ]]
+}
+
 # For all users: where programs are, in the menu and in the registry of all, and gone again.
 SetupForAll() {
     local Disk="$WINEPREFIX/drive_c"
@@ -234,6 +264,7 @@ Screen=$!
 export DISPLAY=:97
 Judge "the portable folder" "$WineHome/log" Portable
 Judge "setup, upgrade, uninstall" "$WineHome/log" Setup
+Judge "setup while a program runs" "$WineHome/log" SetupWhileRunning
 Judge "setup for all users" "$WineHome/log" SetupForAll
 Judge "starts, in less than a second" "$WineHome/log" Starts
 Judge "a second start" "$WineHome/log" StartsOnce
