@@ -12,8 +12,6 @@ Version=$(SuiteVersion)
 
 # What cannot be tried so, a line each: program, test, reason. Everything else of a program is played.
 Gaps="
-test_tables PathWalkTest.AFullListEndsTheSearch Wine reads a whole folder for each name in it: 32,000 files take hours
-test_forms *Restless* he searches the whole machine for files, and Wine is slow in folders
 test_desktop *Restless* the same
 test_performance * promises of speed are those of a program, not of Wine
 test_print_run_speed * the same
