@@ -1,4 +1,5 @@
 // A window and its form say the same, whoever changes it, and the focus goes the model's way.
+#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QLineEdit>
@@ -284,14 +285,17 @@ TEST_F(WindowTest, ASearchForFilesIsStoppedByMouseAndKey) {
     for (const bool byKey : {false, true}) {
         finder.txtSearchSpec.SetText("*");
         QTest::qWait(30);  // the user is let in at the first folder
-        QTimer user;       // who acts as soon as the search lets him in, by no clock
-        QObject::connect(&user, &QTimer::timeout, qApp, [&] {
-            if (!ViewOf(finder.cmdStop).Widget()->isEnabled()) return;
+        // He acts as soon as the search lets him in; Windows' loop keeps timers back while messages wait.
+        QTimer user;
+        const auto acts = [&] {
+            if (!user.isActive() || !ViewOf(finder.cmdStop).Widget()->isEnabled()) return;
             user.stop();
             EXPECT_FALSE(ViewOf(finder.cmdOK).Widget()->isEnabled());
             if (byKey) return QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             QTest::mouseClick(ViewOf(finder.cmdStop).Widget(), Qt::LeftButton);
-        });
+        };
+        QObject::connect(&user, &QTimer::timeout, &user, acts);
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &user, acts);
         user.start(0);
         ClickControl(finder.cmdSearch);
         EXPECT_EQ(finder.lblSearch.Caption(), "Search Complete");

@@ -131,8 +131,12 @@ StartWine() {
     trap EndWine EXIT
     wineserver --persistent  # else it ends after each program, and the next one waits for it
     wine wineboot --init >/dev/null 2>&1
+    QtSetting QT_QPA_PLATFORM offscreen
     mkdir -p "$WINEPREFIX/dosdevices/unc/server/share"
 }
+
+# QtSetting NAME VALUE: Wine keeps this machine's variables of Qt from its programs, which get those of its registry.
+QtSetting() { wine reg add 'HKCU\Environment' /v "$1" /d "$2" /f >/dev/null; }
 
 EndWine() {
     wineserver -k 2>/dev/null || true
@@ -201,7 +205,7 @@ PlayBoth() {
     local Script=$PWD/$2 Windows=$WineHome/windows Machine=$WineHome/machine Page
     rm -rf -- "$Windows" "$Machine"
     mkdir "$Windows" "$Machine"
-    (cd -- "$Windows" && QT_QPA_PLATFORM=offscreen wine "$1" "$(WindowsPath "$Script")" >printed)
+    (cd -- "$Windows" && wine "$1" "$(WindowsPath "$Script")" >printed)
     (cd -- "$Machine" && QT_QPA_PLATFORM=offscreen "$Player" "$Script" >printed)
     diff <(Plain <"$Machine/printed") <(Plain <"$Windows/printed")
     for Page in "$Machine"/*.pdf; do

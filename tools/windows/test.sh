@@ -42,13 +42,12 @@ PlayScripts() {
 
 PlayWindows() {
     local Scale
-    export QT_QPA_PLATFORM=offscreen
     for Scale in 1 1.25 1.5 2; do
-        export QT_SCALE_FACTOR=$Scale
+        QtSetting QT_SCALE_FACTOR "$Scale"
         Note=" at scale $Scale" PlayTests "$Build/bin/test_desktop.exe" "--gtest_filter=-$(GapsOf test_desktop)"
         Note=" at scale $Scale" PlayTests "$Build/bin/test_desktop_rules.exe"
     done
-    unset QT_SCALE_FACTOR QT_QPA_PLATFORM
+    QtSetting QT_SCALE_FACTOR 1
 }
 
 # A system that writes 1,5 for one and a half, and one with dark windows, which the system's own platform follows when it
@@ -57,12 +56,13 @@ PlaySettings() {
     export LOCPATH=$PWD/$Build/locale
     { export LC_ALL=de_DE.UTF-8; } 2>/dev/null  # which this shell itself does not find
     Note=" with a comma" PlayTests "$Build/bin/test_forms.exe" '--gtest_filter=-*Restless*'
-    QT_QPA_PLATFORM=offscreen Note=" with a comma" PlayTests "$Build/bin/test_desktop.exe" \
+    Note=" with a comma" PlayTests "$Build/bin/test_desktop.exe" \
         '--gtest_filter=Keyboard*:Window*'
     unset LC_ALL LOCPATH
     wine reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize' /v AppsUseLightTheme \
         /t REG_DWORD /d 0 /f >/dev/null
-    QT_QPA_PLATFORM=windows:darkmode=2 Note=", dark" PlayTests "$Build/bin/test_desktop.exe" \
+    QtSetting QT_QPA_PLATFORM windows:darkmode=2
+    Note=", dark" PlayTests "$Build/bin/test_desktop.exe" \
         '--gtest_filter=*ASchemePaintsTheWholeProgram:PrintingDialogs*'
 }
 
@@ -260,6 +260,7 @@ Heading "From outside"
 Xvfb :97 -screen 0 1280x1024x24 >/dev/null 2>&1 &
 Screen=$!
 export DISPLAY=:97
+QtSetting QT_QPA_PLATFORM windows
 Judge "the portable folder" "$WineHome/log" Portable
 Judge "setup, upgrade, uninstall" "$WineHome/log" Setup
 Judge "setup while a program runs" "$WineHome/log" SetupWhileRunning
@@ -269,6 +270,7 @@ Judge "a second start" "$WineHome/log" StartsOnce
 Judge "texts in UTF-8" "$WineHome/log" SpeaksUtf8
 Judge "a long path on a share" "$WineHome/log" OnAShare
 Heading "Settings of the system"
+QtSetting QT_QPA_PLATFORM offscreen
 PlaySettings
 kill "$Screen"
 Heading "Not played"
