@@ -40,10 +40,14 @@ PlayScripts() {
     done 3<"$WineHome/scripts"
 }
 
+# Who works at a scale of 2 has a screen for it.
 PlayWindows() {
-    local Scale
+    local Scale Screen=$Build/screen.json
+    QtSetting QT_QPA_PLATFORM "offscreen:configfile=$Screen"
     for Scale in 1 1.25 1.5 2; do
         QtSetting QT_SCALE_FACTOR "$Scale"
+        awk -v "Scale=$Scale" 'BEGIN { printf "{\"screens\": [{\"name\": \"\", \"x\": 0, \"y\": 0, \"width\": %d, " \
+            "\"height\": %d, \"logicalDpi\": 96, \"logicalBaseDpi\": 96, \"dpr\": 1}]}", 800 * Scale, 800 * Scale }' >"$Screen"
         Note=" at scale $Scale" PlayTests "$Build/bin/test_desktop.exe" "--gtest_filter=-$(GapsOf test_desktop)"
         Note=" at scale $Scale" PlayTests "$Build/bin/test_desktop_rules.exe"
     done
