@@ -6,6 +6,7 @@
 #include "forms/Recalculation.h"
 #include "platform/NumberText.h"
 #include "platform/TextFiles.h"
+#include "records/RecordColumns.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptFailure.h"
 #include "script/ScriptPlayer.h"
@@ -19,7 +20,7 @@ std::vector<std::string> ReportOf(const Recalculation& run) {
     std::vector<std::string> lines = {"Tag,Result,Before,Now,Change %"};
     const auto item = [](const std::string& text) {
         std::string quoted = "\"";
-        for (const char c : text) quoted.append(c == '"' ? 2 : 1, c == '\n' ? ' ' : c);
+        for (const char c : CellOfText(text)) quoted.append(c == '"' ? 2 : 1, c == '\n' ? ' ' : c);
         return quoted + "\"";
     };
     for (const ResultChange& each : run.Changes()) {

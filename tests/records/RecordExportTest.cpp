@@ -168,8 +168,14 @@ TEST_F(RecordExportTest, AWorkbookSaysWhatTheValuesSay) {
     EXPECT_EQ(book.Rows["P1"]["Pipe Fouling"].Of, SheetCell::Kind::Number);
     EXPECT_EQ(book.Rows["Water hammer"]["Operating Pressure"].Text, "psig");
     EXPECT_FALSE(book.Rows["Liquid line loss"].contains("Case 1 Final Pressure")) << "two units";
-    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, workbook, {"P3"}), 1);
-    EXPECT_EQ(SheetsByTag(workbook).Names, std::vector<std::string>{"Water hammer"});
+    TakeFilledRecord(3, 1, "DENSITY");
+    Calc.LiquidDensityMode = words::Density;
+    ASSERT_TRUE(SaveTRCalc());
+    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, workbook, {"DENSITY"}), 1);
+    SheetsByTag one(workbook);
+    EXPECT_EQ(one.Names, std::vector<std::string>{"Water hammer"});
+    EXPECT_EQ(one.Rows["Water hammer"]["SG @ FTP"].Text, "lb/ft3") << "a density in the place of the gravity";
+    EXPECT_FALSE(book.Rows["Water hammer"].contains("SG @ FTP"));
     EXPECT_THROW(ExportRecords(Suite.DatabaseFile, SuitePath(Folder / "all.csv" / "x.xlsx")), RuntimeError);
 }
 
