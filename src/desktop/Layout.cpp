@@ -32,6 +32,7 @@ constexpr Entry Layouts[] = {
     {"WinSeek", WinSeek},
     {"frmPrintControl", frmPrintControl},
     {"frmShippedRows", frmShippedRows},
+    {"frmImport", frmImport},
     {"frmRecalculate", frmRecalculate},
     {"frmSizes", frmSizes},
     {"frmLineFlow", frmLineFlow},

@@ -13,7 +13,15 @@
 
 namespace quillmetra {
 
+namespace {
+DataRefusals* Refusals = nullptr;
+}
+
+DataRefusals::DataRefusals() : outer_(Refusals) { Refusals = this; }
+DataRefusals::~DataRefusals() { Refusals = outer_; }
+
 bool RefuseData(const std::string& message, Control& box, Icon icon) {
+    if (Refusals != nullptr) Refusals->all_.push_back({message, &box});
     Tell(message, "Data checking", icon);
     box.SetFocus();
     return false;

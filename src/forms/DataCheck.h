@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/Controls.h"
 #include "platform/Dialogs.h"
@@ -14,6 +15,27 @@ class CalculationForm;
 
 // Tells a failed check and moves the focus; returns false for the caller to return.
 bool RefuseData(const std::string& message, Control& box, Icon icon = Icon::Stop);
+
+// What was refused since it was made, and at which box, for a run that has to say so of many records. It
+// nests.
+class DataRefusals {
+public:
+    struct Refusal {
+        std::string Text;
+        const Control* Box = nullptr;
+    };
+    DataRefusals();
+    ~DataRefusals();
+    DataRefusals(const DataRefusals&) = delete;
+    DataRefusals& operator=(const DataRefusals&) = delete;
+
+    const std::vector<Refusal>& All() const { return all_; }
+
+private:
+    friend bool RefuseData(const std::string& message, Control& box, Icon icon);
+    DataRefusals* outer_;
+    std::vector<Refusal> all_;
+};
 
 // " must be greater than minus 14.7", the barometer in its unit: for a gauge pressure below a vacuum.
 std::string AboveVacuum();

@@ -4,6 +4,7 @@
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "forms/FileGuard.h"
+#include "forms/frmImport.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
 #include "platform/Folders.h"
@@ -19,6 +20,7 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* ExportTitle = "Export records";
+constexpr const char* ImportTitle = "Import records";
 constexpr const char* CreateTitle = "Create New Database File";
 
 // Asks for a database and takes it as the one in hand; false when the user cancels or picks another file.
@@ -95,6 +97,21 @@ void frmTRProg::TellBackupTrouble() {
 void frmTRProg::mnuExport_Click() {
     if (view_ == nullptr) return Tell("Open the database first", ExportTitle);
     ExportTags({});
+}
+
+void frmTRProg::mnuImport_Click() {
+    if (view_ == nullptr) return Tell("Open the database first", ImportTitle);
+    const std::string file = AskListFile();
+    if (!file.empty()) ImportList(file);
+}
+
+void frmTRProg::ImportList(const std::string& file) {
+    if (view_ == nullptr) return Tell("Open the database first", ImportTitle);
+    if (!ImportRecords(file)) return;
+    if (!view_->HasRecord()) view_->First();
+    RenewTable();
+    ShowRecord();
+    TellBackupTrouble();
 }
 
 // All records when no tag is given.

@@ -28,6 +28,11 @@ private:
     const int before_ = Database::BusyMilliseconds;
 };
 
+bool IsListName(const std::string& file) {
+    const std::string name = LowerCase(file);
+    return name.ends_with(".csv") || name.ends_with(".xlsx");
+}
+
 // "&1  C:\data\TRDB.MDB".
 std::string EntryOf(int number, const std::string& file) {
     return std::string(1, '&').append(std::to_string(number)).append("  ").append(CaptionOfFile(file));
@@ -46,6 +51,7 @@ void frmTRProg::HookHistory() {
     });
     FileDropped = [this](const std::string& file) {
         if (IsDatabaseName(file)) return OpenByName(file);
+        if (IsListName(file)) return ImportList(file);
         Tell("Must find file named TRDB.MDB", "Database file");
     };
 }

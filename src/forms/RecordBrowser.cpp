@@ -65,6 +65,7 @@ void frmTRProg::HookDatabase() {
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
     mnuBackups.Click = [this] { mnuBackups_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
+    mnuImport.Click = [this] { mnuImport_Click(); };
     mnuPrinting.Click = [this] { mnuPrinting_Click(); };
     HookTable();
     HookHistory();

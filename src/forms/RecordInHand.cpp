@@ -8,14 +8,29 @@
 #include "core/Words.h"
 #include "platform/Forms.h"
 #include "records/LoadRecord.h"
+#include "records/RecordRows.h"
 #include "reports/FormRefresh.h"
 
 namespace quillmetra {
 
-bool TakeRecord(const RecordHead& head) {
+namespace {
+void BeginRecord() {
     ResetRecord();
     LoadHeadings();
     Calc.LoadedDatabaseFile = Suite.DatabaseFile;
+}
+}  // namespace
+
+bool TakeRecordRows(const RecordRows& rows) {
+    BeginRecord();
+    TakeFluidType(rows.FluidType(), rows.Program());
+    if (!TakeRows(rows)) return false;
+    Calc.BrowserOpen = words::Yes;
+    return true;
+}
+
+bool TakeRecord(const RecordHead& head) {
+    BeginRecord();
     Calc.Tag = head.Tag;
     TakeFluidType(head.FluidType, head.ProgramNumber);
     if (!GetTRCalc()) return false;

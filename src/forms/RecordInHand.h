@@ -5,9 +5,14 @@
 
 namespace quillmetra {
 
+struct RecordRows;
+
 // Reads a record of Suite.DatabaseFile into hand. False, after a message, when it cannot be shown. Throws as
 // OpenRecords.
 bool TakeRecord(const RecordHead& head);
+
+// The same for a record that is in no database; false when it is of no program.
+bool TakeRecordRows(const RecordRows& rows);
 
 // Loads the form of the record in hand, hidden, and fills it. Returns its name; null when the record is of
 // no program.

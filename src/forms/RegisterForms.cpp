@@ -11,6 +11,7 @@
 #include "forms/frmFluid.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
+#include "forms/frmImport.h"
 #include "forms/frmLineFlow.h"
 #include "forms/frmLiqData.h"
 #include "forms/frmLiqLineLoss.h"
@@ -65,6 +66,7 @@ constexpr FormEntry FormTable[] = {
     {"frmShippedRows", MakeForm<frmShippedRows>, 416},
     {"frmSizes", MakeForm<frmSizes>, 406},
     {"frmRecalculate", MakeForm<frmRecalculate>, 407},
+    {"frmImport", MakeForm<frmImport>, 428},
     {"frmLineFlow", MakeForm<frmLineFlow>, 406},
     {"frmWaterHammer", MakeForm<frmWaterHammer>, 403},
     {"frmUnits", MakeForm<frmUnits>, 412},

@@ -31,6 +31,7 @@ public:
     ControlArray<MenuItem> mnuRecentFile{mnuRecent, "mnuRecentFile", {1, 2, 3, 4, 5, 6, 7, 8, 9}, ""};
     MenuItem mnuBackups{mnuFile, "mnuBackups", "&Backups..."};
     MenuItem mnuExport{mnuFile, "mnuExport", "Exp&ort records..."};
+    MenuItem mnuImport{mnuFile, "mnuImport", "&Import records..."};
     MenuItem mnuRecalculateAll{mnuFile, "mnuRecalculateAll", "Recalcu&late all records..."};
     MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
     MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
@@ -157,6 +158,7 @@ public:
     void mnuRepairDB_Click();
     void mnuBackups_Click();
     void mnuExport_Click();
+    void mnuImport_Click();
 
     // Records of version 5, in OldDataMenu.cpp
     void mnuConvertRandom_Click();
@@ -194,6 +196,7 @@ private:
     // Of the rows that are selected; of the record in hand when it is not among the rows.
     std::vector<std::string> PickedTags() const;
     bool AskDelete(const std::vector<std::string>& tags);
+    void ImportList(const std::string& file);
     void RecalculateTags(const std::vector<std::string>& tags);
     void ExportTags(const std::vector<std::string>& tags);
     void PrintTags(const std::vector<std::string>& tags);

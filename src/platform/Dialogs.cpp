@@ -6,6 +6,7 @@
 
 #include "platform/Events.h"
 #include "platform/Host.h"
+#include "platform/RuntimeError.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 
@@ -17,6 +18,7 @@ Host* InstalledHost = nullptr;
 int ShownBoxes = 0;
 int BusyDepth = 0;
 HeldMessages* Holding = nullptr;
+bool NobodyAnswers = false;  // a text that is asked for would be asked for again and again
 
 Host& RequiredHost() {
     if (InstalledHost == nullptr) throw std::logic_error("a question to the user without a host");
@@ -79,6 +81,7 @@ bool AskYesNo(const std::string& text, const std::string& title, Icon sign, Answ
 }
 
 std::string AskText(const std::string& prompt, const std::string& title) {
+    if (NobodyAnswers) throw RuntimeError{5, prompt};
     ++ShownBoxes;
     return RequiredHost().InputBox(prompt, title).value_or("");
 }
@@ -166,8 +169,12 @@ HeldMessages::HeldMessages(Questions questions)
     : outer_(Holding),
       answers_(questions == Questions::Answered || (Holding != nullptr && Holding->answers_)) {
     Holding = this;
+    NobodyAnswers = answers_;
 }
-HeldMessages::~HeldMessages() { Holding = outer_; }
+HeldMessages::~HeldMessages() {
+    Holding = outer_;
+    NobodyAnswers = outer_ != nullptr && outer_->answers_;
+}
 
 BusyPointer::BusyPointer() {
     if (++BusyDepth == 1 && InstalledHost != nullptr) InstalledHost->SetBusyPointer(true);

@@ -1,6 +1,7 @@
 // See LoadRecord.h.
 #include "records/LoadRecord.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -15,6 +16,7 @@
 #include "records/OptionCodes.h"
 #include "records/RecordExtras.h"
 #include "records/RecordFiles.h"
+#include "records/RecordRows.h"
 #include "records/RecordTables.h"
 #include "records/RecordTransfer.h"
 #include "records/StoredRows.h"
@@ -31,15 +33,24 @@ void TellNotFound(const RecordTable& table) {
     Tell("Cannot find " + Calc.Tag + table.NotFound, "Tag Number Search", Icon::Stop);
 }
 
-bool GetRow(Database& database, const RecordTable& table) {
-    Recordset rows(database, table.Shape, Recordset::Unplaced());
-    rows.Index(TagIndex);
-    if (!rows.Seek(Calc.Tag)) {
-        TellNotFound(table);
-        return false;
-    }
-    TakeRow(table, rows);
-    return true;
+// Where the rows of the record come from: takes that of a table; false when there is none.
+using RowTaker = std::function<bool(const RecordTable&)>;
+
+RowTaker RowsIn(Database& database) {
+    return [&database](const RecordTable& table) {
+        if (&table == &SettingsTable() && !database.HasTable(table.Shape.Name)) return false;
+        Recordset rows(database, table.Shape, Recordset::Unplaced());
+        rows.Index(TagIndex);
+        if (!rows.Seek(Calc.Tag)) return false;
+        TakeRow(table, rows);
+        return true;
+    };
+}
+
+bool GetRow(const RowTaker& take, const RecordTable& table) {
+    if (take(table)) return true;
+    TellNotFound(table);
+    return false;
 }
 
 // Rows of units that no field holds follow from those that one does, or are as every unit set leaves them:
@@ -69,6 +80,42 @@ void CompleteUnits() {
 // The standard conditions are kept in degF and psia and shown by the unit system.
 void ShowStandardConditions() { Calc.UnitSystem == words::SI ? STPSI() : STPEnglish(); }
 
+bool GetUnits(const RowTaker& take) {
+    const bool found = GetRow(take, UnitsTable());
+    CompleteUnits();
+    return found;
+}
+
+bool GetLine(const RowTaker& take) {
+    if (GetRow(take, PressureDropTable())) {
+        Calc.UnitsConverted = words::Yes;
+        return true;
+    }
+    if (Calc.OtherCalcs.size() >= 2) SetCode(Calc.OtherCalcs, code::NoPressureDropRow);
+    Calc.PDRowLoaded = words::No;
+    return false;
+}
+
+// To the last row that is one. The count stops at 15, as the suite counts components.
+void CountComponents() {
+    Calc.MixtureCount = 15;
+    while (Calc.MixtureCount > 0 &&
+           Calc.FluidData[static_cast<std::size_t>(Calc.MixtureCount - 1)].size() <= 3) {
+        --Calc.MixtureCount;
+    }
+    for (std::size_t i = 16; i < Calc.FluidData.size(); ++i) {
+        Calc.FluidData[i].clear();
+        Calc.FluidPercent[i] = 0;
+    }
+}
+
+bool GetOptions(const RowTaker& take) {
+    const bool found = take(SettingsTable());
+    RestoreStandardConditions();
+    ShowStandardConditions();
+    return found;
+}
+
 void NameUnitSet() {
     const int set = Calc.FluidType == words::Liquid ? Calc.LiquidUnitSet : Calc.GasUnitSet;
     Calc.UnitSetName = SelectedUnitsName;
@@ -77,32 +124,32 @@ void NameUnitSet() {
     }
 }
 
-bool GetProgramRow(Database& database) {
+bool GetProgramRow(const RowTaker& take) {
     const std::string& codes = Calc.OtherCalcs;
     switch (Calc.CurrentProgram) {
         case program::LiquidLine:
         case program::GasLine:
             Calc.PDRowLoaded = YesIf(HasCode(codes, code::PressureDropRow));
-            return GetTRDB(database);
+            return GetLine(take);
         case program::WaterHammer:
             Calc.WHRowLoaded = YesIf(HasCode(codes, code::WaterHammerRow));
-            return GetWHCalc(database);
+            return GetRow(take, WaterhammerTable());
         case program::LiquidData:
             Calc.FDRowLoaded = YesIf(HasCode(codes, code::FluidDataRow));
-            return GetFDCalc(database);
+            return GetRow(take, FluidDataTable());
         default:
             // The gas data program looks at another position than the save writes, so its word stays unset;
             // the row is read all the same.
             if (HasCode(codes, {code::PressureDropRow.Position, code::FluidDataRow.Letters}))
                 Calc.FDRowLoaded = words::Yes;
-            return GetFDCalc(database);
+            return GetRow(take, FluidDataTable());
     }
 }
 
-void TakeOptions(Database& database) {
+void TakeOptions(const RowTaker& take) {
     const std::string& kind = Calc.OtherCalcs;
     Calc.MixtureFlag = YesIf(HasCode(kind, code::Mixture));
-    if (HasCode(kind, code::Mixture)) GetMixture(database);
+    if (HasCode(kind, code::Mixture) && GetRow(take, MixtureTable())) CountComponents();
     Calc.MixtureMarker = words::Yes;
     if (HasCode(kind, code::Superheated)) Calc.SteamKind = words::Superheated;
     if (HasCode(kind, code::Saturated)) Calc.SteamKind = words::Saturated;
@@ -110,6 +157,12 @@ void TakeOptions(Database& database) {
     Calc.PressureMode = HasCode(Calc.CalcOption, code::AbsolutePressure) ? words::Absolute : words::Gauge;
     Calc.LiquidDensityModePrevious = Calc.LiquidDensityMode;
     Calc.PressureModePrevious = Calc.PressureMode;
+}
+
+void TakeWithoutProgram(const RowTaker& take) {
+    for (std::size_t i = 1; i <= 3; ++i) Calc.NoteText[i] = Calc.HeadingText[i + 7];
+    GetUnits(take);
+    TakeOptions(take);
 }
 
 // An empty temperature and a typed zero are both 0 in rows that were written elsewhere: without a pressure
@@ -171,64 +224,43 @@ bool GetTRCalc() {
         Tell("Not found", "Tag Number Search", Icon::Stop);
         return false;
     }
-    for (std::size_t i = 1; i <= 3; ++i) Calc.NoteText[i] = Calc.HeadingText[i + 7];
-    GetTRUnits(*database);
-    TakeOptions(*database);
-    if (!GetProgramRow(*database)) TakeRow(table, heads, true);
-    if (!GetSettings(*database)) MarkBlankTemperatures();
+    const RowTaker take = RowsIn(*database);
+    TakeWithoutProgram(take);
+    if (!GetProgramRow(take)) TakeRow(table, heads, true);
+    if (!GetOptions(take)) MarkBlankTemperatures();
     GetExtras(*database);
     RememberRows(*database);
     FinishLoad();
     return true;
 }
 
-bool GetTRUnits(Database& database) {
-    const bool found = GetRow(database, UnitsTable());
-    CompleteUnits();
-    return found;
-}
-
-bool GetTRDB(Database& database) {
-    if (!GetRow(database, PressureDropTable())) {
-        if (Calc.OtherCalcs.size() >= 2) SetCode(Calc.OtherCalcs, code::NoPressureDropRow);
-        Calc.PDRowLoaded = words::No;
-        return false;
-    }
-    Calc.UnitsConverted = words::Yes;
+bool TakeRows(const RecordRows& rows) {
+    const auto take = [&rows](const RecordTable& table) {
+        const RecordRows::Row& row = rows.Of(table);
+        if (!row.empty()) TakeRow(table, row);
+        return !row.empty();
+    };
+    Calc.Tag = rows.Tag();
+    TakeRow(HeadTable(), rows.Of(HeadTable()));
+    if (FindProgram(Calc.CurrentProgram) == nullptr) return false;
+    TakeWithoutProgram(take);
+    GetProgramRow(take);
+    if (!GetOptions(take)) MarkBlankTemperatures();
+    for (std::size_t i = 0; i < RecordExtras.size(); ++i) Calc.*RecordExtras[i].Text = rows.Extras[i];
+    FinishLoad();
     return true;
 }
 
-bool GetWHCalc(Database& database) { return GetRow(database, WaterhammerTable()); }
-
-bool GetFDCalc(Database& database) { return GetRow(database, FluidDataTable()); }
-
+bool GetTRUnits(Database& database) { return GetUnits(RowsIn(database)); }
+bool GetTRDB(Database& database) { return GetLine(RowsIn(database)); }
+bool GetWHCalc(Database& database) { return GetRow(RowsIn(database), WaterhammerTable()); }
+bool GetFDCalc(Database& database) { return GetRow(RowsIn(database), FluidDataTable()); }
 bool GetMixture(Database& database) {
-    if (!GetRow(database, MixtureTable())) return false;
-    // To the last row that is one. The count stops at 15, as the suite counts components.
-    Calc.MixtureCount = 15;
-    while (Calc.MixtureCount > 0 &&
-           Calc.FluidData[static_cast<std::size_t>(Calc.MixtureCount - 1)].size() <= 3) {
-        --Calc.MixtureCount;
-    }
-    for (std::size_t i = 16; i < Calc.FluidData.size(); ++i) {
-        Calc.FluidData[i].clear();
-        Calc.FluidPercent[i] = 0;
-    }
+    const RowTaker take = RowsIn(database);
+    if (!GetRow(take, MixtureTable())) return false;
+    CountComponents();
     return true;
 }
-
-bool GetSettings(Database& database) {
-    const RecordTable& table = SettingsTable();
-    bool found = false;
-    if (database.HasTable(table.Shape.Name)) {
-        Recordset rows(database, table.Shape, Recordset::Unplaced());
-        rows.Index(TagIndex);
-        found = rows.Seek(Calc.Tag);
-        if (found) TakeRow(table, rows);
-    }
-    RestoreStandardConditions();
-    ShowStandardConditions();
-    return found;
-}
+bool GetSettings(Database& database) { return GetOptions(RowsIn(database)); }
 
 }  // namespace quillmetra

@@ -5,6 +5,8 @@
 
 namespace quillmetra {
 
+struct RecordRows;
+
 // Loads the record of Calc.Tag from Suite.DatabaseFile. The caller has reset the record and set FluidType
 // from the head's "Fluid Type" (TakeFluidType), which is not read here. True when the record can be shown:
 // it then counts as unchanged and as the reference for colours. False, after a message, when there is no such
@@ -14,6 +16,10 @@ namespace quillmetra {
 // After it the form of Calc.CurrentProgram is loaded with InCalculation "Yes"; UnitsConverted is "Yes", so
 // its first refresh shows all cases.
 bool GetTRCalc();
+
+// The same for a record that is in no database, with its rows in hand; without a message for one that is of
+// no program.
+bool TakeRows(const RecordRows& rows);
 
 // Sets FluidType from the head of a record; from its program where the head does not tell.
 void TakeFluidType(const std::string& headFluidType, int storedProgramNumber);

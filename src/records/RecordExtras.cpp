@@ -63,20 +63,28 @@ std::string ExtraText(NamedValues& extras, const RecordExtra& extra, const Recor
 namespace {
 
 // As it is stored; empty for none.
-std::string StoredValue(const RecordExtra& extra, const Recordset* row) {
-    const std::string& text = Calc.*extra.Text;
+std::string StoredValue(const RecordExtra& extra, const std::string& text, const RecordTable* table,
+                        const Recordset* row) {
     if (text.empty() || row == nullptr) return "";
-    const auto figures = FiguresOf(extra, *ProgramTable(Calc.CurrentProgram), *row);
+    const auto figures = FiguresOf(extra, *table, *row);
     return figures ? *figures + text : "";
 }
 
 }  // namespace
 
+void PutExtra(NamedValues& extras, const RecordExtra& extra, const RecordTable& table, const Recordset& row,
+              const std::string& text) {
+    const std::string value = StoredValue(extra, text, &table, &row);
+    if (!value.empty()) extras.MakeTable();
+    extras.Set(row.Text("Tag"), extra.Name, value);
+}
+
 void SaveExtras(Database& database) {
     NamedValues extras(database, ExtrasTable());
     const std::unique_ptr<Recordset> row = ProgramRow(database);
     for (const RecordExtra& extra : RecordExtras) {
-        const std::string value = StoredValue(extra, row.get());
+        const std::string value =
+            StoredValue(extra, Calc.*extra.Text, ProgramTable(Calc.CurrentProgram), row.get());
         if (!value.empty()) extras.MakeTable();
         extras.Set(Trim(Calc.Tag), extra.Name, value);
     }

@@ -37,4 +37,8 @@ void CopyExtras(Database& database, std::string_view tag, std::string_view newTa
 std::string ExtraText(NamedValues& extras, const RecordExtra& extra, const RecordTable& table,
                       const Recordset& row);
 
+// Stores it beside that row, an empty one by taking it away. The table must be there for one that is not.
+void PutExtra(NamedValues& extras, const RecordExtra& extra, const RecordTable& table, const Recordset& row,
+              const std::string& text);
+
 }  // namespace quillmetra

@@ -197,12 +197,15 @@ RowValues RowOfRecord(const RecordTable& table) {
     return values;
 }
 
-void TakeRow(const RecordTable& table, const Recordset& row, bool standIn) {
+namespace {
+
+template <typename Value>
+void TakeValues(const RecordTable& table, Value valueOf, bool standIn) {
     const std::string fluidType = Calc.FluidType;  // the browser has set it, see GetTRCalc
     for (std::size_t i = 0; i < table.Fields.size(); ++i) {
         const RecordField& field = table.Fields[i];
         if (!IsTaken(field.Rules.Load, standIn)) continue;
-        const FieldValue& value = row.Value(i);
+        const FieldValue& value = valueOf(i);
         if (const auto* cell = std::get_if<Cell>(&field.From)) TakeCell(field, *cell, value);
         if (const auto* made = std::get_if<Made>(&field.From)) TakeMade(field, *made, value);
         if (const auto* text = std::get_if<TextMember>(&field.From)) Calc.*(*text) = TextOf(value);
@@ -212,6 +215,18 @@ void TakeRow(const RecordTable& table, const Recordset& row, bool standIn) {
         }
     }
     Calc.FluidType = fluidType;
+}
+
+}  // namespace
+
+void TakeRow(const RecordTable& table, const Recordset& row, bool standIn) {
+    TakeValues(
+        table, [&row](std::size_t i) -> const FieldValue& { return row.Value(i); }, standIn);
+}
+
+void TakeRow(const RecordTable& table, const std::vector<FieldValue>& row) {
+    TakeValues(
+        table, [&row](std::size_t i) -> const FieldValue& { return row[i]; }, false);
 }
 
 int StoredProgramNumber() {

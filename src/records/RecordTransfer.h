@@ -21,6 +21,7 @@ RowValues RowOfRecord(const RecordTable& table);
 // Takes the current row into the record. Empty fields give 0 and "". With standIn it takes those fields of a
 // head row alone that are left to the program's own row, for a record that has lost it.
 void TakeRow(const RecordTable& table, const Recordset& row, bool standIn = false);
+void TakeRow(const RecordTable& table, const std::vector<FieldValue>& row);
 
 // The stored program number, and what it says: a number of 90 or less is the program itself.
 int StoredProgramNumber();

@@ -275,6 +275,25 @@ void WriteWholeRecord(Database& database) {
     all.Commit();
 }
 
+RecordRows RowsOfRecord() {
+    MarkEverything();
+    ComposeCodes();
+    RecordRows rows;
+    for (const RecordTable* table : RecordTables()) {
+        const bool isOwn = table == ProgramTable(Calc.CurrentProgram) || table == &HeadTable() ||
+                           table == &UnitsTable() || table == &SettingsTable() ||
+                           (table == &MixtureTable() && IsYes(Calc.MixtureFlag));
+        if (!isOwn) continue;
+        RowValues values = RowOfRecord(*table);
+        RecordRows::Row& row = rows.Of(*table);
+        for (std::size_t i = 0; i < values.size(); ++i)
+            row.push_back(values[i] ? KeptValue(table->Shape.Fields[i], std::move(*values[i]))
+                                    : FieldValue());
+    }
+    for (std::size_t i = 0; i < RecordExtras.size(); ++i) rows.Extras[i] = Calc.*RecordExtras[i].Text;
+    return rows;
+}
+
 void SaveTRUnits(Database& database) { SaveRow(database, UnitsTable()); }
 void SaveTRDB(Database& database) { SaveRow(database, PressureDropTable()); }
 void SaveWHCalc(Database& database) { SaveRow(database, WaterhammerTable()); }

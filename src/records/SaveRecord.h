@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/Database.h"
+#include "records/RecordRows.h"
 
 namespace quillmetra {
 
@@ -26,6 +27,9 @@ std::string CutHeadings();
 
 // Writes all rows of the record in hand to an empty database, under its tag, without a question or a word.
 void WriteWholeRecord(Database& database);
+
+// All rows of the record in hand, as a save of it would write them.
+RecordRows RowsOfRecord();
 
 // The row of each table, over the one of the same tag if there is one. Failures are RuntimeErrors.
 void SaveTRUnits(Database& database);

@@ -13,26 +13,29 @@
 
 namespace quillmetra::script {
 
+std::string Item(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char c : CellOfText(text)) quoted.append(c == '"' ? 2 : 1, c == '\n' ? ' ' : c);
+    return quoted + "\"";
+}
+
 namespace {
 
 // "tag,result,before,now,change in percent", as the export writes its lines.
 std::vector<std::string> ReportOf(const Recalculation& run) {
     std::vector<std::string> lines = {"Tag,Result,Before,Now,Change %"};
-    const auto item = [](const std::string& text) {
-        std::string quoted = "\"";
-        for (const char c : CellOfText(text)) quoted.append(c == '"' ? 2 : 1, c == '\n' ? ' ' : c);
-        return quoted + "\"";
-    };
     for (const ResultChange& each : run.Changes()) {
-        lines.push_back(item(each.Tag) + "," + item(each.Result) + "," + each.Before + "," + each.After +
+        lines.push_back(Item(each.Tag) + "," + Item(each.Result) + "," + each.Before + "," + each.After +
                         "," + PercentText(each));
     }
     for (const auto* told : {&run.Problems(), &run.Remarks()}) {
         for (const RecordProblem& each : *told)
-            lines.push_back(item(each.Tag) + "," + item(each.Text) + ",,,");
+            lines.push_back(Item(each.Tag) + "," + Item(each.Text) + ",,,");
     }
     return lines;
 }
+
+}  // namespace
 
 void WriteReport(ScriptPlayer& player, const std::string& file, const std::vector<std::string>& lines) {
     if (file.empty()) {
@@ -43,8 +46,6 @@ void WriteReport(ScriptPlayer& player, const std::string& file, const std::vecto
     for (const std::string& line : lines) writer.Line(line);
     writer.Commit();
 }
-
-}  // namespace
 
 void Recalculate(ScriptPlayer& player, const Arguments& arguments) {
     const std::string report = arguments.size() > 1 ? arguments[1].Text : "";

@@ -28,6 +28,8 @@ constexpr ScriptCommand Table[] = {
     {"export", "DATABASE FILE", script::Export, "all its records as CSV, or as a workbook (.xlsx)"},
     {"sizes", "DATABASE TAG [CASE] [SERVICE] [SCHEDULE] [FAMILY]", script::Sizes,
      "a saved line in each pipe, and the one for it"},
+    {"import", "DATABASE FILE [REPORT] [WHAT]", script::ImportList,
+     "a list of records, CSV or XLSX; WHAT is replace or preview"},
     {"form", "NAME", script::TakeForm, "takes a loaded form in hand"},
     {"close", "", script::CloseForm, "the close box of the form in hand"},
 

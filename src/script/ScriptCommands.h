@@ -54,14 +54,18 @@ void PrintToPdf(ScriptPlayer& player, const Arguments& arguments);
 void PrintToText(ScriptPlayer& player, const Arguments& arguments);
 void Quit(ScriptPlayer& player, const Arguments& arguments);
 
-// Recalculate.cpp, Export.cpp, Sizes.cpp: databases and records, without a form.
+// Recalculate.cpp, Export.cpp, Import.cpp, Sizes.cpp: databases and records, without a form.
 void Recalculate(ScriptPlayer& player, const Arguments& arguments);
 void Export(ScriptPlayer& player, const Arguments& arguments);
 void Sizes(ScriptPlayer& player, const Arguments& arguments);
+void ImportList(ScriptPlayer& player, const Arguments& arguments);
 // A database, or the folder that it is in, as the suite names files; "@" is the suite's own folder.
 std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path);
 // A file likewise; throws where it must not be written over by what is named ("an export").
 std::string FileToWrite(const ScriptPlayer& player, const std::string& path, const std::string& by);
+// A text in quotes, and the lines of a report to a file; to the output without one.
+std::string Item(const std::string& text);
+void WriteReport(ScriptPlayer& player, const std::string& file, const std::vector<std::string>& lines);
 
 // ActCommands.cpp: what a user does.
 void RequireBrowser(const ScriptPlayer& player);  // throws where another form is in hand

@@ -36,6 +36,10 @@ void PrintHelp() {
         "                         [--family NAME] [--folder PATH]\n"
         "Prints what a case of a saved line comes to in each pipe. Ends with 0 when one keeps to the\n"
         "service, with 1 when none does, with 2 when it could not be done.\n\n"
+        "   or: quillmetra-script --import DATABASE FILE [--report FILE] [--replace] [--preview]\n"
+        "                         [--folder PATH]\n"
+        "Takes a list of calculations, CSV or XLSX, into a database. Ends with 0 when every row is equal to\n"
+        "what is on file, with 1 when one is not or is refused, with 2 when it could not be done.\n\n"
         "Commands:");
     for (const quillmetra::ScriptCommand& command : quillmetra::ScriptCommands()) {
         const std::string usage = std::string(command.Name) + " " + command.Usage;
@@ -54,7 +58,7 @@ std::string Quoted(const std::string& text) {
 struct Order {
     std::vector<std::string> Files;
     std::map<std::string, std::string, std::less<>> Values;  // of the options that have one
-    bool Fluids = false, Saves = false;
+    bool Fluids = false, Saves = false, Replaces = false, Previews = false;
 
     std::string Value(std::string_view option) const {
         const auto found = Values.find(option);
@@ -80,6 +84,12 @@ std::string SizesLine(const Order& order) {
     return line;
 }
 
+std::string ImportLine(const Order& order) {
+    const char* what = order.Previews ? "preview" : order.Replaces ? "replace" : "";
+    return "import " + Quoted(order.Files[0]) + " " + Quoted(order.Files[1]) + " " +
+           Quoted(order.Value("--report")) + " " + Quoted(what);
+}
+
 // A command as an option, with as many files behind it; it is played as a script of two or three lines.
 struct ShortForm {
     std::string_view Option;
@@ -91,11 +101,20 @@ constexpr ShortForm ShortForms[] = {
     {"--recalculate", 1, RecalculateLine, {"--report", "--fluids", "--save", "--folder"}},
     {"--export", 2, ExportLine, {"--folder"}},
     {"--sizes", 2, SizesLine, {"--case", "--service", "--schedule", "--family", "--folder"}},
+    {"--import", 2, ImportLine, {"--report", "--replace", "--preview", "--folder"}},
 };
 
 const ShortForm* FindShortForm(std::string_view option) {
     const auto* const found = std::ranges::find(ShortForms, option, &ShortForm::Option);
     return found == std::end(ShortForms) ? nullptr : found;
+}
+
+// Null for an option with a value.
+bool* FlagOf(Order& order, std::string_view option) {
+    if (option == "--fluids") return &order.Fluids;
+    if (option == "--save") return &order.Saves;
+    if (option == "--replace") return &order.Replaces;
+    return option == "--preview" ? &order.Previews : nullptr;
 }
 
 // False, after a word, for an option that there is not, and where files are missing or too many.
@@ -111,8 +130,8 @@ bool Take(Order& order, const ShortForm& form, const std::vector<std::string>& w
             continue;
         }
         if (std::ranges::find(form.Options, word) == form.Options.end()) return refuse("What is " + word);
-        if (word == "--fluids" || word == "--save") {
-            (word == "--fluids" ? order.Fluids : order.Saves) = true;
+        if (bool* const flag = FlagOf(order, word)) {
+            *flag = true;
             continue;
         }
         if (i + 1 == words.size()) return refuse("Which is the one of " + word);

@@ -5,8 +5,10 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
+#include <map>
 #include <regex>
 #include <set>
+#include <utility>
 
 #include "core/CalcRecord.h"
 #include "core/PipeFamilies.h"
@@ -15,6 +17,7 @@
 #include "platform/Arithmetic.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/RuntimeError.h"
 #include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "tables/TableFiles.h"
@@ -247,6 +250,79 @@ std::string PipeNameOf(std::string_view listLine) {
     if (!schedule.empty()) name += (IsDigit(schedule[0]) ? " sch " : " ") + schedule;
     const std::string family = FamilyWord();
     return family.empty() ? name : name + " " + family;
+}
+
+namespace {
+
+struct NamedPipe {
+    std::string File, Line;
+};
+using NamedPipes = std::map<std::string, NamedPipe, std::less<>>;
+
+// 6" Sch  40 is 6 in sch 40.
+std::string PlainName(std::string_view name) {
+    std::string plain;
+    for (const char c : name) {
+        if (c == '"') {
+            plain += plain.ends_with(' ') ? "in " : " in ";
+        } else if (!IsBlank(c) || !plain.ends_with(' ')) {
+            plain += LowerCase(c);
+        }
+    }
+    return std::string(Trim(plain));
+}
+
+void SetNameUnits(bool metric) {
+    const double factor =
+        std::exchange(Calc.UnitFactor[pipeunit::Diameter], metric ? InchesPerMillimetre : 1);
+    SetPipeUnits();
+    Calc.UnitFactor[pipeunit::Diameter] = factor;
+}
+
+// Of two families with one name the first counts.
+NamedPipes AllPipes(bool metric) {
+    SetNameUnits(metric);
+    const std::string family = Suite.PipeFamily;
+    NamedPipes pipes;
+    for (const PipeFile& file : PipeFiles()) {
+        Suite.PipeFamily = file.File;
+        try {
+            for (const std::string& line : AllPipeSizes())
+                pipes.try_emplace(PlainName(PipeNameOf(line)), NamedPipe{file.File, line});
+        } catch (const RuntimeError&) {
+            // A file that cannot be read has no pipe to offer.
+        }
+    }
+    Suite.PipeFamily = family;
+    return pipes;
+}
+
+std::vector<FileStamp> StampsOfPipes() {
+    std::vector<FileStamp> stamps;
+    for (const PipeFile& file : PipeFiles())
+        stamps.push_back(StampOf(MachinePath(Suite.DefaultPaths[path::DataFiles] + "\\" + file.File)));
+    return stamps;
+}
+
+}  // namespace
+
+std::string TakePipeNamed(std::string_view name) {
+    static std::array<NamedPipes, 2> known;
+    static std::vector<FileStamp> stamps;
+    if (std::vector<FileStamp> now = StampsOfPipes(); now != stamps) {
+        stamps = std::move(now);
+        known = {AllPipes(false), AllPipes(true)};
+    }
+    const std::string plain = PlainName(name);
+    for (const bool metric : {false, true}) {
+        const NamedPipes& pipes = known.at(metric ? 1 : 0);
+        const auto found = pipes.find(plain);
+        if (found == pipes.end()) continue;
+        SetNameUnits(metric);
+        Suite.PipeFamily = found->second.File;
+        return found->second.Line;
+    }
+    return "";
 }
 
 void ReturnPipeSize(const std::string& pipeName) {

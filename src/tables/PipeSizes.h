@@ -57,6 +57,10 @@ void TakePipeRow(std::string_view listLine);
 // that is not steel.
 std::string PipeNameOf(std::string_view listLine);
 
+// A line of the list by the name of its pipe, in whatever family and in inches or millimetres as the name has
+// it; the lookup then has that family and these units. Empty for a name that no pipe has.
+std::string TakePipeNamed(std::string_view name);
+
 // Returns the row taken to the form that MessageText names, in the form's unit of the diameter: the diameter
 // to six significant figures, the wall, where the form has a box for it, to four. Closes the dialog and
 // clears MessageText. The record keeps the name of the pipe. Throws when the form's factor makes the diameter

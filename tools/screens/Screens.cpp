@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -450,11 +451,33 @@ void ShootRecords() {
     Click("frmTRProg", "mnuBackups");
 }
 
+// A list with one row of each kind, dropped on the browser.
+void ShootImport() {
+    const std::string list = Suite.DefaultPaths[1] + "/lines.csv";
+    std::ofstream(MachinePath(list))
+        << "Tag,Program Number,Pipe,Pipe Length,Normal Flow,Normal Temperature,Normal Flow Source "
+           "Pressure,Fluid "
+           "Name,Remark\n"
+           "P-201,1,6 in sch 40,850,120000,70,95,Toluene,new\n"
+           "P-202,1,8 in sch 40,1200,250000,70,95,Toluene,new\n"
+           "P-203,1,6 in sch 41,850,120000,70,95,Toluene,a schedule that there is not\n"
+           "P-204,1,6 in sch 40,,120000,70,95,Toluene,no length\n"
+           "P-205,2,6 in sch 40,400,a lot,70,95,Methane,no flow\n"
+           "P-201,1,6 in sch 40,850,120000,70,95,Toluene,twice\n";
+    Within([] {
+        Click("frmImport", "cmdRead");
+        Shoot("import");
+        Click("frmImport", "cmdCancel");
+    });
+    LoadedForm("frmTRProg")->FileDropped(list);
+}
+
 // The browser with the records that the pictures before have saved.
 void ShootBrowser() {
     Click("frmTRProg", "cmdDBOpen");
     Shoot("browser-record");
     ShootRecords();
+    ShootImport();
     Click("frmTRProg", "cmdBrowse");
     Shoot("browser-tags");
     Click("frmTRProg", "cmdCancel");

@@ -20,6 +20,7 @@ Node frmObxPrintCalc();
 Node frmObxProg();
 Node frmPipeSize();
 Node frmPrintControl();
+Node frmImport();
 Node frmRecalculate();
 Node frmShippedRows();
 Node frmSizes();

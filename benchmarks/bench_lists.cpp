@@ -1,0 +1,102 @@
+// Lists of 500 lines from a spreadsheet, beside a loop that gives each line to its form and the bare engine.
+#include <fstream>
+
+#include "benchmarks/FilledForm.h"
+#include "benchmarks/Measure.h"
+#include "benchmarks/PlainRecords.h"
+#include "forms/Import.h"
+#include "forms/PanelReturn.h"
+#include "forms/RecordInHand.h"
+#include "platform/Dialogs.h"
+#include "records/RecordFiles.h"
+#include "records/SaveRecord.h"
+
+namespace {
+
+using namespace quillmetra;
+
+constexpr int Lines = 500;
+
+class List {
+public:
+    List() {
+        std::ofstream file(folder_.Path() / "list.csv");
+        file << "Tag,Program Number,Pipe Size,Pipe Length,Normal Flow,Normal Temperature,Normal Flow Source "
+                "Pressure,"
+                "Normal MW/SG,Normal Viscosity\n";
+        for (int i = 0; i < Lines; ++i)
+            file << "L-" << i << ",1,4.026,1000," << 100000 + i << ",60,100,1,1\n";
+        Suite.DatabaseFile = DatabaseFileOf(SuitePath(folder_.Path()));
+    }
+    // An empty database for the next round.
+    static void Renew() { MakeEmptyDatabase(Suite.DatabaseFile); }
+    std::string File() const { return SuitePath(folder_.Path() / "list.csv"); }
+
+private:
+    FilledForm form_;
+    TemporaryFolder folder_;
+};
+
+void ImportLines(benchmark::State& state) {
+    const List list;
+    for ([[maybe_unused]] auto each : state) {
+        state.PauseTiming();
+        List::Renew();
+        state.ResumeTiming();
+        Import import(list.File());
+        import.Run([](int, int) { return true;
+    });
+    if (import.Save(false) != Lines) state.SkipWithError("not all lines are new");
+}
+}  // namespace
+
+// The values of a line set field by field in a record that is there, calculated by its form, its rows bound
+// to the engine.
+void PlainLines(benchmark::State& state) {
+    const List list;
+    const HeldMessages held(Questions::Answered);
+    const CalcRecord fresh = Calc;
+    for ([[maybe_unused]] auto each : state) {
+        state.PauseTiming();
+        List::Renew();
+        state.ResumeTiming();
+        PlainRecords plain(Suite.DatabaseFile);
+        plain.Execute("BEGIN IMMEDIATE");
+        std::ifstream file(MachinePath(list.File()));
+        std::string line;
+        std::getline(file, line);
+        while (std::getline(file, line, ',')) {
+            Calc = fresh;
+            Calc.Tag = line;
+            std::getline(file, line, ',');
+            double value = 0;
+            char comma = 0;
+            const auto next = [&] {
+                file >> value >> comma;
+                return value;
+            };
+            Calc.PipeData[pipe::InsideDiameter] = next();
+            Calc.PipeData[pipe::Length] = next();
+            for (const int row : {input::LiquidFlow, input::Temperature, input::Pressure, input::FlowGravity})
+                Calc.CaseInput[At(row)] = {0, next(), 0};
+            file >> value;
+            file.ignore();
+            Calc.CaseInput[input::Viscosity] = {0, value, 0};
+            Calc.TemperatureBlank = {1, 0, 1};
+            FillCalculationForm();
+            OpenCalculation()->CalculateAll();
+            const RecordRows rows = RowsOfRecord();
+            for (std::size_t i = 0; i < rows.Tables.size(); ++i) {
+                if (rows.Tables.at(i).empty()) continue;
+                plain.Insert(*RecordTables()[i],
+                             RowValues(rows.Tables.at(i).begin(), rows.Tables.at(i).end()));
+            }
+        }
+        plain.Execute("COMMIT");
+    }
+}
+
+BENCHMARK(ImportLines)->Name("list/500 lines imported")->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(PlainLines)->Name("list/500 lines imported/plain")->UseRealTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace

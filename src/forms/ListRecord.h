@@ -1,0 +1,72 @@
+// A row of a list becomes a record: what is stored of its tag, or a fresh calculation, with the cells of the
+// row in their fields, checked and calculated by its form.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/ListHeads.h"
+#include "forms/ListUnits.h"
+
+namespace quillmetra {
+
+class DataRefusals;
+class FluidForm;
+
+class ListRecords {
+public:
+    // The rows of the record as a save writes them, with what the calculation told. Throws ListRefusal.
+    struct Made {
+        RecordRows Rows;
+        std::vector<std::string> Told;
+    };
+    Made Make(const ListHeads& heads, const SheetRow& sheetRow, const std::optional<RecordRows>& known);
+
+    // The tag of a row; throws ListRefusal for none.
+    static std::string TagOf(const ListHeads& heads, const SheetRow& row);
+
+private:
+    struct Given {
+        const RecordColumn* Of = nullptr;
+        FieldValue Value;
+        std::string Head;
+    };
+    struct Row {
+        int Program = 0;
+        bool KnowsDates = false;
+        std::vector<Given> Cells;    // without results
+        std::vector<Given> Results;  // what the list has of them
+        const Given* Find(std::string_view column) const;
+    };
+
+    static int ProgramOf(const ListHeads& heads, const SheetRow& row,
+                         const std::optional<RecordRows>& stored);
+    static Row RowOf(const ListHeads& heads, const SheetRow& row, int program);
+    const RecordRows& Fresh(int program, int unitSet);
+    // As its field keeps it.
+    static FieldValue Kept(const Given& given);
+    static bool SaysNothingNew(const Row& row, const RecordRows& stored);
+    static void Put(RecordRows& rows, const Given& given);
+    void PutFluid(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored);
+    void PutMixture(RecordRows& rows, const Row& row);
+    static void DropVaporPressures(RecordRows& rows, const Row& row);
+    static void DropPipeName(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored);
+    static void PutMaterial(RecordRows& rows, const Row& row);
+    static bool IsDatedToday(const Row& row, const std::optional<RecordRows>& stored);
+    static void PutPipe(const Row& row, const std::optional<RecordRows>& stored);
+    void FindFluid(const std::string& fluidType, const std::string& name, const std::string& head,
+                   std::string& line);
+    void TakeFluids(FluidForm& form) const;
+    static void RefuseFirst(const DataRefusals& refusals, const Row& row);
+    Made Calculate(const RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored,
+                   const ListUnits& ofRecord);
+
+    std::map<std::pair<int, int>, RecordRows> fresh_;
+    std::map<std::string, std::map<std::string, std::string>> fluids_;  // lines by type and name
+    bool renews_ = false;                                               // the fluid of the row in hand
+};
+
+}  // namespace quillmetra

@@ -1,0 +1,142 @@
+// See RecordRows.h.
+#include "records/RecordRows.h"
+
+#include <algorithm>
+
+#include "core/Programs.h"
+#include "platform/NumberText.h"
+#include "records/OptionCodes.h"
+
+namespace quillmetra {
+
+namespace {
+
+std::size_t PlaceOf(const RecordTable& table) {
+    const auto& tables = RecordTables();
+    return static_cast<std::size_t>(std::ranges::find(tables, &table) - tables.begin());
+}
+
+std::size_t FieldNamed(const RecordTable& table, std::string_view name) {
+    const auto& fields = table.Shape.Fields;
+    return static_cast<std::size_t>(std::ranges::find(fields, name, &FieldShape::Name) - fields.begin());
+}
+
+std::string TrimmedText(const FieldValue& value) {
+    const auto* text = std::get_if<std::string>(&value);
+    return text == nullptr ? "" : std::string(Trim(*text));
+}
+
+}  // namespace
+
+const RecordRows::Row& RecordRows::Of(const RecordTable& table) const { return Tables.at(PlaceOf(table)); }
+RecordRows::Row& RecordRows::Of(const RecordTable& table) { return Tables.at(PlaceOf(table)); }
+
+std::string RecordRows::Tag() const { return TrimmedText(Of(HeadTable()).front()); }
+
+int RecordRows::Program() const {
+    static const std::size_t field = FieldNamed(HeadTable(), "Program Number");
+    const auto* number = std::get_if<double>(&Of(HeadTable())[field]);
+    return number == nullptr ? 0 : ProgramOf(static_cast<int>(*number));
+}
+
+std::string RecordRows::FluidType() const {
+    static const std::size_t field = FieldNamed(HeadTable(), "Fluid Type");
+    return TrimmedText(Of(HeadTable())[field]);
+}
+
+FieldValue RecordRows::Value(const RecordColumn& column) const {
+    if (column.IsExtra()) return Extras.at(column.At.Field);
+    const Row& row = Of(*column.At.Table);
+    return row.empty() ? FieldValue() : row[column.At.Field];
+}
+
+void RecordRows::Set(const RecordColumn& column, const FieldValue& value) {
+    if (column.IsExtra()) {
+        Extras.at(column.At.Field) = TrimmedText(value);
+        return;
+    }
+    const auto set = [this, &value](const FieldPlace& place) {
+        Row& row = Of(*place.Table);
+        if (!row.empty()) row[place.Field] = KeptValue(place.Table->Shape.Fields[place.Field], value);
+    };
+    set(column.At);
+    std::ranges::for_each(column.Copies, set);
+}
+
+FieldValue KeptValue(const FieldShape& field, FieldValue value) {
+    value = FittedValue(field, std::move(value));
+    if (const auto* number = std::get_if<double>(&value);
+        number != nullptr && field.Type == FieldType::Single)
+        return SingleRead(*number);
+    return value;
+}
+
+bool SameValue(const FieldValue& a, const FieldValue& b) {
+    const auto isText = [](const FieldValue& value) { return !std::holds_alternative<double>(value); };
+    return isText(a) && isText(b) ? TrimmedText(a) == TrimmedText(b) : a == b;
+}
+
+std::string ValueText(const FieldValue& value) {
+    const auto* number = std::get_if<double>(&value);
+    return number == nullptr ? TrimmedText(value) : TrimmedStr(*number);
+}
+
+RowStore::RowStore(Database& database) : extras_(database, ExtrasTable()) {
+    for (const RecordTable* table : RecordTables()) {
+        if (!database.HasTable(table->Shape.Name)) continue;
+        parts_.push_back({table, Recordset(database, table->Shape, Recordset::Unplaced())});
+        parts_.back().Rows.Index(TagIndex);
+    }
+}
+
+// Rows of other programs, and of a mixture that the record is not any more, are none of its own.
+bool RowStore::HasRowIn(const RecordTable& table, const RecordRows& rows) {
+    static const std::size_t codes = FieldNamed(HeadTable(), "Other Calcs");
+    if (&table == &UnitsTable() || &table == &SettingsTable()) return true;
+    if (&table == &MixtureTable()) return HasCode(TrimmedText(rows.Of(HeadTable())[codes]), code::Mixture);
+    return &table == ProgramTable(rows.Program());
+}
+
+std::optional<RecordRows> RowStore::Read(std::string_view tag) {
+    if (!parts_.front().Rows.Seek(tag)) return {};
+    RecordRows rows;
+    for (Part& part : parts_) {
+        const bool isHead = &part == &parts_.front();
+        if (!isHead && (!HasRowIn(*part.Table, rows) || !part.Rows.Seek(tag))) continue;
+        RecordRows::Row& row = rows.Of(*part.Table);
+        for (std::size_t i = 0; i < part.Table->Fields.size(); ++i) row.push_back(part.Rows.Value(i));
+    }
+    const RecordTable* const own = ProgramTable(rows.Program());
+    const auto program = std::ranges::find(parts_, own, &Part::Table);
+    if (program == parts_.end() || rows.Of(*own).empty()) return rows;
+    for (std::size_t i = 0; i < RecordExtras.size(); ++i)
+        rows.Extras.at(i) = ExtraText(extras_, RecordExtras[i], *own, program->Rows);
+    return rows;
+}
+
+void RowStore::WriteRow(Part& part, const RecordRows::Row& row, std::string_view tag) {
+    const bool isThere = part.Rows.Seek(tag);
+    if (row.empty()) {
+        if (isThere) part.Rows.Delete();
+        return;
+    }
+    isThere ? part.Rows.Edit() : part.Rows.AddNew();
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        if (!std::holds_alternative<Spare>(part.Table->Fields[i].From)) part.Rows.Set(i, row[i]);
+    }
+    part.Rows.Update();
+}
+
+void RowStore::Write(const RecordRows& rows) {
+    const std::string tag = rows.Tag();
+    const RecordTable* const own = ProgramTable(rows.Program());
+    for (Part& part : parts_) {
+        WriteRow(part, rows.Of(*part.Table), tag);
+        if (part.Table != own) continue;
+        part.Rows.Seek(tag);
+        for (std::size_t i = 0; i < RecordExtras.size(); ++i)
+            PutExtra(extras_, RecordExtras[i], *own, part.Rows, rows.Extras.at(i));
+    }
+}
+
+}  // namespace quillmetra

@@ -1,0 +1,47 @@
+// The command that takes a list of calculations into a database, for an office that does so every night.
+#include "forms/Import.h"
+
+#include <ostream>
+
+#include "core/Suite.h"
+#include "platform/TextFiles.h"
+#include "script/ScriptCommands.h"
+#include "script/ScriptFailure.h"
+#include "script/ScriptPlayer.h"
+
+namespace quillmetra::script {
+
+namespace {
+
+std::vector<std::string> ReportOf(const Import& import) {
+    std::vector<std::string> lines = {"Row,Tag,State,Column,What"};
+    for (const ImportLine& each : import.Lines()) {
+        lines.push_back((each.Row > 0 ? std::to_string(each.Row) : "") + "," + Item(each.Tag) + "," +
+                        Word(each.State) + "," + Item(each.Column) + "," + Item(each.Text));
+    }
+    return lines;
+}
+
+}  // namespace
+
+void ImportList(ScriptPlayer& player, const Arguments& arguments) {
+    const std::string report = arguments.size() > 2 ? arguments[2].Text : "";
+    const std::string what = arguments.size() > 3 ? arguments[3].Text : "";
+    if (!what.empty() && what != "replace" && what != "preview")
+        throw ScriptFailure{what + " is none of replace, preview"};
+    RequireBrowser(player);
+
+    Suite.DatabaseFile = DatabaseNamed(player, arguments[0].Text);
+    Import import(DatabaseNamed(player, arguments[1].Text));
+    import.Run([](int, int) { return true;
+});
+WriteReport(player, report, ReportOf(import));
+player.Out << import.Summary() << '\n';
+const bool allEqual = import.Count(ImportState::New) + import.Count(ImportState::Changed) +
+                          import.Count(ImportState::Refused) ==
+                      0;
+player.Differs = !allEqual;
+if (what != "preview") import.Save(what == "replace");
+}  // namespace quillmetra::script
+
+}  // namespace quillmetra::script
