@@ -27,6 +27,7 @@ frmRecalculate::frmRecalculate() : SuiteForm(FormName) {
     CancelButton = &cmdCancel;
     grdChanges.IsList = true;
     grdChanges.FixedColumns = 0;
+    grdChanges.NumberColumns = {1, 2, 3};
     grdChanges.Describe(&lblChanges);
     grdChanges.ColourGroup = 4;
     for (Label* label : {&lblRecords, &lblChanges, &lblSummary}) label->ColourGroup = 1;
@@ -86,13 +87,14 @@ bool frmRecalculate::Run() {
     return true;
 }
 
+// What was told is as long as a sentence, so that it stands behind the numbers.
 void frmRecalculate::ShowList() {
-    std::vector<Grid::Cells> rows = {{"Tag", "Result", "Before", "Now", "Change, %"}};
+    std::vector<Grid::Cells> rows = {{"Tag", "Before", "Now", "Change, %", "Result"}};
     if (run_ != nullptr) {
         for (const ResultChange& each : run_->Changes())
-            rows.push_back({each.Tag, each.Result, each.Before, each.After, PercentText(each)});
+            rows.push_back({each.Tag, each.Before, each.After, PercentText(each), each.Result});
         for (const auto* told : {&run_->Problems(), &run_->Remarks()}) {
-            for (const RecordProblem& each : *told) rows.push_back({each.Tag, each.Text, "", "", ""});
+            for (const RecordProblem& each : *told) rows.push_back({each.Tag, "", "", "", each.Text});
         }
         lblSummary.SetCaption(run_->Summary());
     } else {

@@ -33,7 +33,7 @@ expect-state cmdSave disabled
 click cmdRun
 expect lblSummary "3 records, 1 changed, 1 message, 1 remark"
 expect-cell grdChanges 1 0 P-102
-expect-cell grdChanges 1 1 "Loss per 100 ft, Normal"
+expect-cell grdChanges 1 4 "Loss per 100 ft, Normal"
 click cmdCopy
 answer No
 click cmdSave
@@ -46,7 +46,7 @@ click cmdRun
 expect lblSummary "3 records, 0 changed, 1 message, 1 remark"
 expect-cell grdChanges 1 0 P-103
 expect-cell grdChanges 2 0 P-102
-expect-cell grdChanges 2 1 "Normal: Loss above 0.2 psi per 100 ft: beyond the criterion of Liquid - loss by gravity (Usual: 0.025 to 0.045 bar per 100 m)."
+expect-cell grdChanges 2 4 "Normal: Loss above 0.2 psi per 100 ft: beyond the criterion of Liquid - loss by gravity (Usual: 0.025 to 0.045 bar per 100 m)."
 expect-state cmdSave disabled
 click cmdCancel
 expect-form frmTRProg
@@ -108,7 +108,7 @@ click mnuRecalculateAll
 click cmdRun
 expect lblSummary "6 records, 2 changed, 1 message, 2 remarks"
 expect-cell grdChanges 1 0 T-1
-expect-cell grdChanges 11 1 "Normal: the line chokes now."
+expect-cell grdChanges 11 4 "Normal: the line chokes now."
 click chkFluids
 click cmdRun
 expect lblSummary "6 records, 3 changed, 1 message, 2 remarks"

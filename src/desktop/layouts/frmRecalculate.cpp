@@ -5,7 +5,7 @@ namespace quillmetra::layout {
 
 Node frmRecalculate() {
     return Column({Panel("", Column({Row({"lblRecords", Stretch(), "chkFluids", "cmdRun"}), "lblChanges",
-                                     Item("grdChanges").Wide(96).Tall(18).Grow(), "lblSummary"}))
+                                     Item("grdChanges").Wide(116).Tall(18).Grow(), "lblSummary"}))
                        .Grow(),
                    Row({Item("barProgress").Grow(), Buttons({"cmdCopy", "cmdSave", "cmdCancel"})})});
 }
