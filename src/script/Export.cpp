@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "forms/FileGuard.h"
+#include "platform/Folders.h"
 #include "platform/TextFiles.h"
 #include "records/RecordExport.h"
 #include "records/RecordFiles.h"
@@ -16,7 +17,7 @@ namespace {
 
 std::filesystem::path FileNamed(const ScriptPlayer& player, const std::string& path) {
     const std::string named = path.starts_with('@') ? player.Folder() + "\\" + path.substr(1) : path;
-    return std::filesystem::absolute(MachinePath(named)).lexically_normal();
+    return AbsolutePath(named);
 }
 
 }  // namespace
