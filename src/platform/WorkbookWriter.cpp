@@ -12,9 +12,11 @@
 
 #include <xlsxwriter.h>
 
+#include "platform/Clock.h"
 #include "platform/NumberText.h"
 #include "platform/SafeFiles.h"
 #include "platform/TextFiles.h"
+#include "platform/Utf8.h"
 
 namespace quillmetra {
 
@@ -33,6 +35,10 @@ RuntimeError Failure(const fs::path& file, lxw_error error) {
         case LXW_ERROR_ZIP_FILE_OPERATION:
         case LXW_ERROR_ZIP_FILE_ADD:
         case LXW_ERROR_ZIP_CLOSE: return Failure(file, "the workbook could not be written whole");
+        case LXW_ERROR_MAX_STRING_LENGTH_EXCEEDED:
+            return Failure(file, "a text is longer than the 32,767 letters of a cell");
+        case LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE:
+            return Failure(file, "these are more rows than a sheet has");
         default: return Failure(file, lxw_strerror(error));
     }
 }
@@ -60,7 +66,7 @@ lxw_workbook* NewBook(const fs::path& file) {
 
 bool IsDay(const std::string& iso) {
     // Days before March of 1900 have no number that all spreadsheets agree on.
-    return iso.size() == 10 && iso >= "1900-03-01";
+    return iso >= "1900-03-01" && !DateText(iso).empty();
 }
 
 lxw_datetime DayOf(const std::string& iso) {
@@ -72,6 +78,41 @@ lxw_datetime DayOf(const std::string& iso) {
     day.month = part(5, 2);
     day.day = part(8, 2);
     return day;
+}
+
+// Control characters are the library's to write.
+bool IsOfXml(std::string_view character) {
+    if (!IsUtf8(character) || character == "\uFFFE" || character == "\uFFFF") return false;
+    if (character.size() < 3) return true;
+    const auto head = static_cast<unsigned>(static_cast<unsigned char>(character[0])) << 8U |
+                      static_cast<unsigned char>(character[1]);
+    const bool isSurrogate = head >= 0xEDA0 && head < 0xEE00;
+    const bool isTooLong = head < 0xE0A0 || (head >= 0xF000 && head < 0xF090);
+    return !isSurrogate && !isTooLong && head < 0xF490;
+}
+
+// Of a file of another program: XML would not be read that has them.
+std::string WithoutForeignCharacters(std::string_view text) {
+    std::string kept;
+    for (std::size_t end = 0; end < text.size();) {
+        const std::size_t start = end++;
+        while (end < text.size() && !StartsCharacter(text[end])) ++end;
+        const std::string_view character = text.substr(start, end - start);
+        kept += IsOfXml(character) ? character : "\uFFFD";
+    }
+    return kept;
+}
+
+// "_x0041_" would be read as the character of that number.
+std::string WithEscapes(std::string text) {
+    constexpr std::string_view digits = "0123456789ABCDEFabcdef", underline = "_x005F";
+    for (std::size_t at = 0; (at = text.find("_x", at)) != std::string::npos; ++at) {
+        const std::string_view number = std::string_view(text).substr(at + 2);
+        if (number.find_first_not_of(digits) != 4 || number[4] != '_') continue;
+        text.insert(at, underline);
+        at += underline.size();
+    }
+    return text;
 }
 
 }  // namespace
@@ -133,7 +174,8 @@ void WorkbookWriter::Book::Write(lxw_col_t column, const WorkbookCell& cell) {
     if (const auto* number = std::get_if<double>(&cell)) {
         error = worksheet_write_number(Sheet, Row, column, *number, format);
     } else if (const auto* text = std::get_if<std::string>(&cell)) {
-        error = worksheet_write_string(Sheet, Row, column, text->c_str(), format);
+        const std::string written = WithEscapes(WithoutForeignCharacters(*text));
+        error = worksheet_write_string(Sheet, Row, column, written.c_str(), format);
     } else if (const auto* date = std::get_if<WorkbookDate>(&cell)) {
         if (!IsDay(date->Iso)) return Write(column, date->Iso);
         lxw_datetime day = DayOf(date->Iso);

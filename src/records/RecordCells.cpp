@@ -6,6 +6,8 @@
 
 #include "core/Programs.h"
 #include "platform/NumberText.h"
+#include "platform/TextFiles.h"
+#include "platform/Utf8.h"
 #include "records/OptionCodes.h"
 
 namespace quillmetra {
@@ -57,7 +59,9 @@ FieldValue RecordCells::Value(const RecordColumn& column) {
     if (column.IsExtra()) return ExtraText(extras_, RecordExtras[column.At.Field], *table, *row);
     const FieldValue& value = row->Value(column.At.Field);
     const auto* text = std::get_if<std::string>(&value);
-    return text == nullptr ? value : std::string(Trim(*text));
+    if (text == nullptr) return value;
+    const std::string trimmed(Trim(*text));
+    return IsUtf8(trimmed) ? trimmed : Utf8From1252(trimmed);  // as another program may have written it
 }
 
 // The gravity of a line's liquid, where its density is kept in its place.

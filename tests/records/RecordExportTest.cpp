@@ -146,6 +146,8 @@ TEST_F(RecordExportTest, AWorkbookSaysWhatTheValuesSay) {
     if (!WritesWorkbooks() || !ReadsWorkbooks()) GTEST_SKIP();
     for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
     TakeFilledRecord(1, 4, "=SI");
+    Calc.HeadingText[8] = "\x01_x0041_x0042_ \U0001F527";
+    Calc.HeadingText[9] = "caf\xE9";  // of another program
     ASSERT_TRUE(SaveTRCalc());
     TakeMixture("MIX");
     ASSERT_TRUE(SaveTRCalc());
