@@ -35,6 +35,7 @@ std::vector<const RecordTable*> TablesOf(int program) {
 struct Result {
     std::string Name;  // "Velocity, Normal"
     double Value = 0;
+    bool IsOfLastCase = false;  // the equivalent length of a line: that of the case calculated last
 };
 
 std::string NameOf(const Form& form, const FormRow& row, int caseIndex) {
@@ -48,7 +49,8 @@ std::vector<Result> ResultsOf(const Form& form) {
     for (const FormRow& row : FormRows(Calc.CurrentProgram)) {
         if (!row.IsResult()) continue;
         for (int i = 0; i < (row.PerCase ? CaseCount : 1); ++i)
-            results.push_back({NameOf(form, row, i), LiveValue(row, i)});
+            results.push_back({NameOf(form, row, i), LiveValue(row, i),
+                               row.From == Source::CaseResult && row.Row == result::EquivLength});
     }
     return results;
 }
@@ -99,6 +101,7 @@ void Recalculation::Calculate(const RecordHead& head) {
 
     const std::vector<Result> after = ResultsOf(*form);
     std::vector<ResultChange> changes;
+    bool isChanged = false;
     for (std::size_t i = 0; i < after.size(); ++i) {
         const double was = before[i].Value, is = after[i].Value;
         if (was != 0 && is == 0) {
@@ -106,11 +109,12 @@ void Recalculation::Calculate(const RecordHead& head) {
             return;
         }
         if (std::fabs(is - was) <= SmallestChange * std::fabs(was)) continue;
+        isChanged = isChanged || !after[i].IsOfLastCase;
         const double percent = was == 0 ? 0 : 100 * (is - was) / was;
         changes.push_back({head.Tag, after[i].Name, Figure(was), Figure(is), percent});
     }
     Remark(head, choked);
-    if (changes.empty()) return;
+    if (!isChanged) return;
     changes_.insert(changes_.end(), changes.begin(), changes.end());
     Calc.CaseText[text::CalcDate] = Today();
     ChangedRecord changed{head.Tag, Calc.CurrentProgram, {}};

@@ -82,6 +82,18 @@ type txtPressure(0) 100
 click mnuPureLiquid1
 pick lstFluid "Test oil"
 click cmdSelect
+# The equivalent length is that of the case calculated last, whichever that was: no change of its own.
+type txtOutletPipeElev 20
+type txtFlow(1) 9000
+type txtTemp(1) 60
+type txtPressure(1) 100
+answer No
+type txtSGFlow(1) 0.8
+expect-message Update Fluid
+type txtViscosity(1) 1
+answer Yes
+click cmdCalculate(1)
+expect-message Transition
 answer Yes
 click cmdCalculate(0)
 expect-message Transition

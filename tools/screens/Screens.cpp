@@ -493,6 +493,7 @@ void ShootPlant() {
     Click(Calculation, "cmdCalculateAll");
     Shoot("plant-line");
     ShootTrials(7, 2, "plant-sizes", "plant-flow");
+    Type("txtFlow", 1, "350");  // saved without its results
     Click(Calculation, "mnuSave");
     Click(Calculation, "mnuProgram");
     Within([] {
