@@ -81,7 +81,11 @@ void DropPushButton::Drop() {
             });
         });
     }
-    connect(menu, &QMenu::aboutToHide, this, [this] { closed_.start(); });
+    connect(menu, &QMenu::aboutToHide, this, [this] {
+        closed_.start();
+        setAttribute(Qt::WA_UnderMouse, false);  // nobody tells that the mouse has left meanwhile
+        update();
+    });
     menu->popup(mapToGlobal(QPoint(0, height())));
 }
 

@@ -100,7 +100,8 @@ FormWindow::FormWindow(Form& form)
 
     MakeViews();
     status_->setTextFormat(Qt::PlainText);
-    // A long text is cut by the window and does not widen it; the tool tip has it whole.
+    status_->setWordWrap(true);
+    // A long text does not widen the window.
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(status_, 1);
     statusBar()->setSizeGripEnabled(!form.Fixed);
@@ -248,12 +249,23 @@ void FormWindow::Renew(const Control& control, Aspect aspect) {
 
 void FormWindow::RenewForm() {
     RenewTitle();
-    status_->setText(ToRead(form_->Status()));
-    status_->setToolTip(status_->text());
+    RenewStatus();
     PaintArea(*pane_, form_->BackColour(), Readable(form_->BackColour(), SlotColour(slot::AreaText)));
     pane_->setEnabled(form_->Enabled());
     if (menuWidget() != nullptr) menuBar()->setEnabled(form_->Enabled());
     FollowFocusSoon();
+}
+
+// In as many lines as its words need, up to three; a longer text is whole in the tool tip.
+void FormWindow::RenewStatus() {
+    constexpr int most = 3;
+    const QString text = ToRead(form_->Status());
+    const QFontMetrics metrics = status_->fontMetrics();
+    const QRect room(0, 0, width() - 4 * metrics.averageCharWidth(), most * metrics.lineSpacing());
+    status_->setText(text);
+    status_->setToolTip(text);
+    const int lines = metrics.boundingRect(room, Qt::TextWordWrap, text).height() / metrics.lineSpacing();
+    status_->setFixedHeight(std::clamp(lines, 1, most) * metrics.lineSpacing());
 }
 
 void FormWindow::RenewTitle() { setWindowTitle(ToQt(WindowTitle(*form_))); }
@@ -366,6 +378,25 @@ void FormWindow::dropEvent(QDropEvent* event) {
     Later([this, file = FileIn(*event->mimeData())] {
         if (form_ != nullptr && !file.isEmpty()) DropFile(*form_, SuitePath(file.toStdU16String()));
     });
+}
+
+// A form that waits for its panel leaves the front to it: the two are windows of their own.
+bool FormWindow::event(QEvent* event) {
+    if (form_ == nullptr) return QMainWindow::event(event);
+    if (event->type() == QEvent::Resize) RenewStatus();
+    if (event->type() == QEvent::WindowActivate && !form_->Enabled()) {
+        Later([] {
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                const auto* const panel = dynamic_cast<FormWindow*>(window);
+                if (panel == nullptr || !panel->isVisible() || panel->form_ == nullptr ||
+                    !panel->form_->Enabled())
+                    continue;
+                window->raise();
+                window->activateWindow();
+            }
+        });
+    }
+    return QMainWindow::event(event);
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -46,6 +46,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -66,6 +67,7 @@ private:
     void FollowFocusSoon();
     void FollowFormSoon();
     void RenewTitle();
+    void RenewStatus();
     void MarkDefaultButton();
 
     Form* form_;

@@ -247,6 +247,12 @@ void HelpWindow::Read(int row) {
     forward_->setEnabled(place_ + 1 < static_cast<int>(read_.size()));
 }
 
+// The links of a text keep the colour that it was read with.
+void HelpWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) Read(list_->currentRow());
+}
+
 void HelpWindow::GoTo(int place) {
     if (place < 0 || place >= static_cast<int>(read_.size())) return;
     place_ = place;

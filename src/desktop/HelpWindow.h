@@ -25,6 +25,7 @@ public:
     void ShowTopic(int number, const QWidget* beside = nullptr);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

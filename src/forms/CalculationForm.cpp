@@ -296,7 +296,7 @@ void CalculationForm::ShowCalculated() {
     mnuPrint.SetEnabled(true);
     DrawResults();
     ShowHint(Sentences(Hints()));
-    KeepRecovery();
+    if (Visible()) KeepRecovery();  // a recalculation of saved records shows none
 }
 
 void CalculationForm::ShowHint(const std::string& hint) {

@@ -128,6 +128,8 @@ void FluidForm::TickEntries() {
     const bool building = Mixture.fraComponent.Visible();
     const bool mixture = building || IsYes(Calc.MixtureFlag);
     const bool steam = !building && !Calc.SteamKind.empty();
+    lblSteamKind.SetCaption(steam ? Calc.SteamKind + " steam" : "");
+    lblSteamKind.SetVisible(steam);
     const bool ofTable = Fluids.IsOpen() || Calc.FluidDataSource == words::Loaded;
     for (const FluidEntries& entries : Entries) {
         entries.Pure->SetChecked(ofTable && !steam && !mixture && Calc.MixtureFlag == words::No);

@@ -40,6 +40,7 @@ public:
     using CalculationForm::CalculationForm;
 
     CommandButton cmdFluid{Picture1, "cmdFluid", "Pic&k..."};
+    Label lblSteamKind{Picture1, "lblSteamKind"};  // which the heading leaves open
 
     void cmdFluid_Click();
     // What the record has, a pure fluid without its row.

@@ -133,7 +133,7 @@ void LineLossForm::StoreOwn() {
 // --- Calculation ---------------------------------------------------------------------------------------
 
 // Takes the line into the working layer, test by test in the order of the form.
-bool LineLossForm::CheckLine() {
+bool LineLossForm::CheckLine(Wanted wanted) {
     constexpr double longestLine = 10000000;  // ft
     const UnitFactors& factor = Calc.UnitFactor;
     Calc.PipeLength[TheLine] = Calc.PipeData[pipe::Length] * factor[unit::Length];
@@ -141,7 +141,7 @@ bool LineLossForm::CheckLine() {
     if (Calc.PipeLength[TheLine] >= longestLine)
         return RefuseData("Length must be < 10000000 ft", txtInletPipeLen);
     Calc.PipeId[TheLine] = Calc.PipeData[pipe::InsideDiameter] * factor[unit::PipeSize];
-    if (!(Calc.PipeId[TheLine] > 0))
+    if (wanted != Wanted::NoDiameter && !(Calc.PipeId[TheLine] > 0))
         return RefuseData("Pipe inside diameter must be > zero ", txtInletPipeID);
 
     Calc.Elevation[LineStart] = Calc.PipeData[pipe::StartElevation] * factor[unit::Length];
@@ -163,7 +163,7 @@ bool LineLossForm::CheckLine() {
 bool LineLossForm::CheckData(Wanted wanted) {
     const std::size_t i = ThisCase();
     Calc.DataOk = words::No;
-    if (!CheckState() || !CheckLine()) return false;
+    if (!CheckState() || !CheckLine(wanted)) return false;
     Calc.SourcePressure[TheLine] = PressureIn(Calc.CaseInput[input::Pressure][i]);
     if (!CheckSourcePressure()) return false;
     Calc.EquipLoss[TheLine] = Calc.CaseInput[input::EquipLoss][i] * Calc.UnitFactor[unit::PressureDrop];
@@ -224,7 +224,7 @@ LineLossForm* OpenLine() {
 }
 
 void LineLossForm::cmdSizes_Click() {
-    if (TakeCase(CaseToTry())) ShowForm("frmSizes", Modal::Yes);
+    if (TakeCase(CaseToTry(), Wanted::NoDiameter)) ShowForm("frmSizes", Modal::Yes);
 }
 
 void LineLossForm::cmdFlowFor_Click() {

@@ -91,6 +91,7 @@ public:
     Label lblEquivLen{Picture1, "lblEquivLen", "Equivalent length"};
     TextBox txtEquivLen{Picture1, "txtEquivLen"};
     Label unEquivLen{Picture1, "unEquivLen"};
+    Label lblEquivOf{Picture1, "lblEquivOf", "last case"};
     Plot pltLine{Picture1, "pltLine"};  // what goes on along the line, in each case with results
 
     Handler KeepBeside() override;
@@ -105,10 +106,10 @@ public:
     void optSource_Click();
 
     // For the dialogs that try the line of a case. Makes the case that in hand and checks its data as its
-    // button does, telling what is wrong; NoFlow when its flow is what is sought.
-    enum class Wanted { Flow, NoFlow };
+    // button does, telling what is wrong, but for what is sought.
+    enum class Wanted { All, NoFlow, NoDiameter };
     int CaseToTry();  // that in hand, or the first one that has its data
-    bool TakeCase(int caseIndex, Wanted wanted = Wanted::Flow);
+    bool TakeCase(int caseIndex, Wanted wanted = Wanted::All);
     using FluidForm::HasState;
     // The row of the pipe size lookup, as if it had been taken there.
     void TakePipe(const std::string& listLine);
@@ -154,8 +155,8 @@ private:
     void DrawCases();
     void HookLine();
     void HookService();
-    bool CheckData(Wanted wanted = Wanted::Flow);
-    bool CheckLine();
+    bool CheckData(Wanted wanted = Wanted::All);
+    bool CheckLine(Wanted wanted);
 
     Row<PlotDrawing, CaseCount> drawn_;  // of each case, empty without results
 };

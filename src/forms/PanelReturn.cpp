@@ -1,6 +1,8 @@
 // See PanelReturn.h.
 #include "forms/PanelReturn.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -16,11 +18,25 @@
 #include "units/UnitChange.h"
 #include "units/UnitPicks.h"
 #include "units/UserUnits.h"
+#include "units/Viscosity.h"
 
 namespace quillmetra {
 
 namespace {
 std::function<void(Figures)> KeepFigures;
+
+// Mass and volume, and the two kinds of viscosity, go by the gravity of the first case for all of them.
+bool GravityMisleads() {
+    const auto& name = Calc.UnitName[unit::Viscosity];
+    const auto& former = Calc.UnitNamePrevious[unit::Viscosity];
+    const bool goesByIt = Calc.LiquidBasis != Calc.LiquidBasisPrevious ||
+                          (CentistokesPerUnit(name) > 0) != (CentistokesPerUnit(former) > 0);
+    if (Calc.CurrentProgram != program::LiquidLine || IsYes(Calc.NoConversion) || !goesByIt) return false;
+    const auto& gravity = Calc.CaseInput[input::FlowGravity];
+    constexpr double part = 0.001;
+    return std::ranges::any_of(
+        gravity, [&](double each) { return each > 0 && std::abs(each - gravity[0]) > part * gravity[0]; });
+}
 }  // namespace
 
 CalculationForm* OpenCalculation() {
@@ -29,12 +45,19 @@ CalculationForm* OpenCalculation() {
 }
 
 void ConvertToNewUnits(UnitChange& change) {
+    const bool gravityMisleads = GravityMisleads();
     if (IsYes(Calc.NoConversion)) BlankAllResults();
     change.Commit(ZeroTemperature::IsConverted, [] {
         Calc.UnitsConverted = words::Yes;
         ComposeHeading();
     });
     ComposeHeading();
+    CalculationForm* const form = OpenCalculation();
+    if (gravityMisleads && form != nullptr)
+        form->SetStatus(
+            "All cases were converted by the gravity of Maximum; those of Normal and Minimum differ: check "
+            "flow "
+            "and viscosity.");
 }
 
 bool PutPicks(const UnitPicks& picks) {

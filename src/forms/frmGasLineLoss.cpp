@@ -104,7 +104,7 @@ bool frmGasLineLoss::CheckFluid(Wanted wanted) {
         return RefuseData("Molecular weight must be greater than zero", txtMW(caseIndex));
     }
     Calc.MassFlow = GasFlowIn(Calc.CaseInput[input::GasFlow][i], Calc.MolecularWeight);
-    if (wanted == Wanted::Flow && !(Calc.MassFlow > 0)) {
+    if (wanted != Wanted::NoFlow && !(Calc.MassFlow > 0)) {
         return RefuseData("Flow must be greater than zero", txtFlow(caseIndex), Icon::None);
     }
     Calc.RatioSpecificHeats = Calc.CaseInput[input::RatioSpecificHeats][i];

@@ -71,7 +71,7 @@ bool frmLiqLineLoss::CheckFluid(Wanted wanted) {
     }
 
     Calc.MassFlow = LiquidFlowIn(Calc.CaseInput[input::LiquidFlow][i], Calc.FlowingSG);
-    if (wanted == Wanted::Flow && !(Calc.MassFlow > 0))
+    if (wanted != Wanted::NoFlow && !(Calc.MassFlow > 0))
         return RefuseData("Flow must be greater than zero", txtFlow(caseIndex));
 
     Calc.Viscosity = LiquidViscosityIn(Calc.CaseInput[input::Viscosity][i], Calc.FlowingSG);

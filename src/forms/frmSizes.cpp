@@ -14,6 +14,7 @@
 #include "forms/PipeFamilyList.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/Keys.h"
 #include "platform/NumberText.h"
 #include "tables/TableFiles.h"
 #include "units/Rounding.h"
@@ -77,6 +78,10 @@ frmSizes::frmSizes() : SuiteForm("frmSizes") {
     lstService.Click = [this] { lstService_Click(); };
     grdSizes.Click = [this] { grdSizes_Click(); };
     grdSizes.DoubleClick = [this] { cmdOK_Click(); };
+    grdSizes.KeyPress = [this](Key& key) {
+        key.Handled = key.Name == keys::Enter;
+        if (key.Handled) cmdOK_Click();
+    };
     cmdCopy.Click = [this] { cmdCopy_Click(); };
     cmdOK.Click = [this] { cmdOK_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
@@ -162,7 +167,8 @@ void frmSizes::TryPipes() {
 }
 
 void frmSizes::lstService_Click() {
-    lblSource.SetCaption(Criterion().Source);
+    const std::string limits = LimitsOf(Criterion());
+    lblSource.SetCaption(limits.empty() ? "" : limits + " (" + Criterion().Source + ")");
     for (Size& size : sizes_)
         size.Excess = ExcessOf(Criterion(), size.Trial.Figures, LossPer100Of(size.Trial));
     ShowTable();
@@ -223,8 +229,7 @@ void frmSizes::ShowTable() {
     cmdOK.SetEnabled(best >= 0);
 }
 
-// The smallest that meets the criterion; without one the pipe in hand, else the smallest to get the fluid
-// through.
+// The smallest that meets the criterion; without one the pipe in hand.
 int frmSizes::BestRow() const {
     const bool hasService = lstService.Selected() > 0;
     const double inHand = Calc.PipeData[pipe::InsideDiameter];
@@ -232,7 +237,7 @@ int frmSizes::BestRow() const {
     for (std::size_t i = 0; i < sizes_.size(); ++i) {
         const Size& size = sizes_[i];
         if (!hasService && size.Diameter == inHand) return static_cast<int>(i);
-        if (hasService ? !Meets(size) : size.Trial.End != Outcome::Reached) continue;
+        if (!hasService || !Meets(size)) continue;
         if (best < 0 || size.Diameter < sizes_[At(best)].Diameter) best = static_cast<int>(i);
     }
     return best;
@@ -255,7 +260,7 @@ void frmSizes::grdSizes_Click() { cmdOK.SetEnabled(grdSizes.Selected() >= grdSiz
 void frmSizes::optCase_Click(int index) {
     if (index == Calc.CaseIndex || OpenLine() == nullptr) return;
     const int before = Calc.CaseIndex;
-    if (OpenLine()->TakeCase(index)) {
+    if (OpenLine()->TakeCase(index, LineLossForm::Wanted::NoDiameter)) {
         TryPipes();
         return lstService_Click();
     }

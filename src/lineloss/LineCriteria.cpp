@@ -11,9 +11,14 @@ namespace quillmetra {
 
 namespace {
 
-std::string Above(const char* quantity, double limit, int unitRow) {
-    return std::string(quantity) + " above" + Str(RoundedThree(limit / Calc.UnitFactor[At(unitRow)])) + " " +
-           Calc.UnitName[At(unitRow)];
+std::string WithUnit(double limit, int unitRow) {
+    return Str(RoundedThree(limit / Calc.UnitFactor[At(unitRow)])) + " " + Calc.UnitName[At(unitRow)];
+}
+
+// For a hundred of the unit of length.
+std::string LargestLossOf(const LineCriterion& criterion) {
+    return WithUnit(criterion.LargestLoss * Calc.UnitFactor[unit::Length], unit::PressureDrop) + " per 100 " +
+           Calc.UnitName[unit::Length];
 }
 
 void Add(std::string& list, const std::string& part) { list += (list.empty() ? "" : ", ") + part; }
@@ -24,15 +29,22 @@ std::string ExcessOf(const LineCriterion& criterion, const LineFigures& figures,
     std::string excess;
     const double erosional = criterion.ErosionalC / std::sqrt(figures.OutletDensity);
     if (criterion.LargestVelocity > 0 && figures.OutletVelocity > criterion.LargestVelocity)
-        Add(excess, Above("velocity", criterion.LargestVelocity, unit::Velocity));
+        Add(excess, "velocity above" + WithUnit(criterion.LargestVelocity, unit::Velocity));
     if (criterion.ErosionalC > 0 && figures.OutletVelocity > erosional)
-        Add(excess, Above("velocity", erosional, unit::Velocity));
-    if (criterion.LargestLoss > 0 && lossPer100 > criterion.LargestLoss) {
-        // For a hundred of the unit of length.
-        const double limit = criterion.LargestLoss * Calc.UnitFactor[unit::Length];
-        Add(excess, Above("loss", limit, unit::PressureDrop) + " per 100 " + Calc.UnitName[unit::Length]);
-    }
+        Add(excess, "velocity above" + WithUnit(erosional, unit::Velocity));
+    if (criterion.LargestLoss > 0 && lossPer100 > criterion.LargestLoss)
+        Add(excess, "loss above" + LargestLossOf(criterion));
     return excess;
+}
+
+std::string LimitsOf(const LineCriterion& criterion) {
+    std::string limits;
+    if (criterion.LargestVelocity > 0)
+        Add(limits, "velocity up to" + WithUnit(criterion.LargestVelocity, unit::Velocity));
+    if (criterion.ErosionalC > 0)
+        Add(limits, "velocity up to" + Str(criterion.ErosionalC) + " / sqrt(lb/ft3) ft/s");
+    if (criterion.LargestLoss > 0) Add(limits, "loss up to" + LargestLossOf(criterion));
+    return limits;
 }
 
 }  // namespace quillmetra

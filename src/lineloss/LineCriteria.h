@@ -21,4 +21,7 @@ struct LineCriterion {
 // line keeps to all. The velocity is that at the outlet, where it is greatest. lossPer100: psi per 100 ft.
 std::string ExcessOf(const LineCriterion& criterion, const LineFigures& figures, double lossPer100);
 
+// "velocity up to 10 ft/s", in the same units.
+std::string LimitsOf(const LineCriterion& criterion);
+
 }  // namespace quillmetra

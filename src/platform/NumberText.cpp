@@ -153,7 +153,11 @@ double Val(std::string_view text) {
     return WholeNumber(ScanNumber(text).Digits).value_or(0);
 }
 
-bool ValReadsAll(std::string_view text) { return Trim(text.substr(ScanNumber(text).End)).empty(); }
+bool ValReadsAll(std::string_view text) {
+    const LeadingNumber number = ScanNumber(text);
+    if (!Trim(text.substr(number.End)).empty()) return false;
+    return number.Digits.empty() || WholeNumber(number.Digits).has_value();
+}
 
 std::string Str(double value) {
     if (value == 0 || !std::isfinite(value)) return " 0";

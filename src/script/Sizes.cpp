@@ -42,7 +42,7 @@ void TakeCase(const RecordHead& head, const std::string& caseNumber) {
         throw ScriptFailure{head.Tag + " is no line" + (held.Texts().empty() ? "" : ": " + held.Texts()[0])};
     const int index = caseNumber.empty() ? OpenLine()->CaseToTry() : WholeNumber({caseNumber}) - 1;
     if (index < 0 || index >= CaseCount) throw ScriptFailure{"cases are numbered 1 to 3"};
-    if (!OpenLine()->TakeCase(index))
+    if (!OpenLine()->TakeCase(index, LineLossForm::Wanted::NoDiameter))
         throw ScriptFailure{head.Tag + ": " + (held.Texts().empty() ? "no data" : held.Texts()[0])};
 }
 

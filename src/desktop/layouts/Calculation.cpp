@@ -18,7 +18,8 @@ Node Signatures() {
 }
 
 Node Basis() {
-    return Panel("Basis", Column({Item("lblSetupSelections").Wrapped(), Item("lblCalcSource").Wrapped()}));
+    return Panel("Basis", Column({Item("lblSteamKind").Collapsing(), Item("lblSetupSelections").Wrapped(),
+                                  Item("lblCalcSource").Wrapped()}));
 }
 
 Node Components() {
@@ -39,12 +40,12 @@ Node Fluids(const char* frame) {
 }
 
 Node BaseConditions() {
-    return Frame("fraSTP",
-                 Column({Table({{"lblSTPPressure", "txtSTPPressure", "unSTPPressure"},
-                                {"lblSTPTemp", "txtSTPTemp", "unSTPTemp"},
-                                {"lblSTPBaro", "txtSTPBaro", "unSTPBaro"}}),
-                         Item("lblSTPNote").Wrapped().Wide(44), Row({"cmdSTPEnglish", "cmdSTPSI", Stretch()}),
-                         Buttons({"cmdOKSTP", "cmdSaveSTP", "cmdCancelSTP"})}));
+    return Frame("fraSTP", Column({Table({{"lblSTPPressure", "txtSTPPressure", "unSTPPressure"},
+                                          {"lblSTPTemp", "txtSTPTemp", "unSTPTemp"},
+                                          {"lblSTPBaro", "txtSTPBaro", "unSTPBaro"}}),
+                                   Item("lblSTPNote").Wrapped().Wide(44).Tall(4),
+                                   Row({"cmdSTPEnglish", "cmdSTPSI", Stretch()}),
+                                   Buttons({"cmdOKSTP", "cmdSaveSTP", "cmdCancelSTP"})}));
 }
 
 }  // namespace quillmetra::layout

@@ -35,8 +35,8 @@ Node Direction() {
 }
 
 Node CasesAndResults(std::vector<std::vector<Node>> rows, std::vector<std::vector<Node>> following) {
-    rows.push_back(
-        {"lblEquivLen", Item("txtEquivLen").Wide(CaseDigits), "unEquivLen", Item("chkLossParts").Across(2)});
+    rows.push_back({"lblEquivLen", Item("txtEquivLen").Wide(CaseDigits),
+                    Row({"unEquivLen", "lblEquivOf", Stretch()}), Item("chkLossParts").Across(2)});
     for (auto& row : following) rows.push_back(std::move(row));
     return Panel("", Column({Table(std::move(rows)).Wide(LabelDigits), Stretch()}));
 }

@@ -27,7 +27,7 @@ Node Components() {
 
 Node Steam() {
     return Frame("fraSteam",
-                 Column({"optSaturated", "optSuperheated", Item("lblSteam").Wrapped(), Stretch()}))
+                 Column({"optSaturated", "optSuperheated", Item("lblSteam").Wrapped().Wide(90), Stretch()}))
         .Grow();
 }
 
