@@ -12,7 +12,7 @@ namespace quillmetra {
 // large for a double; "inf", "nan" and "0x10" are no numbers beyond their leading digits.
 double Val(std::string_view text);
 
-// True when Val takes the whole text, blanks aside; an empty text counts as read.
+// True when Val takes the whole text, blanks aside, and a double holds it; an empty text counts as read.
 bool ValReadsAll(std::string_view text);
 
 // Writes a number with at most 15 significant digits, the shortest that says the same, plain from 1e-15 up

@@ -7,6 +7,12 @@ answer OK
 click cmdSizes
 expect-box "Data checking" "Flow Temperature must be greater than -459.67" OK Stop
 include good-case.qs
+# A line that has no pipe yet is what sizes are for; without a service none is proposed.
+type txtInletPipeID ""
+click cmdSizes
+expect-state cmdOK disabled
+click cmdCancel
+type txtInletPipeID 4.026
 click cmdSizes
 expect-form frmSizes
 expect-state optCase(1) checked
@@ -15,7 +21,7 @@ expect lblMet "422 pipes"
 expect-cell grdSizes 0 5 "Loss per 100 ft, psi"
 pick lstSchedule 7
 pick lstService "Water - general"
-expect lblSource "Crane TP-410: 4 to 10 ft/s"
+expect lblSource "velocity up to 10 ft/s (Crane TP-410: 4 to 10 ft/s)"
 expect lblMet "16 of 26 pipes meet the criterion"
 expect-cell grdSizes 10 3 "zero pressure"
 expect-cell grdSizes 11 3 meets
