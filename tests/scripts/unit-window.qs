@@ -328,4 +328,22 @@ click cmdCancelUn
 expect cmdUnits(25) µ,/56789
 click cmdCalculate(1)
 expect txtDestPress(1) 90.31
+
+# --- Viscosities of all cases are converted by the gravity of the first, which is told where the others differ
+start
+new 1
+include good-case.qs
+answer No
+type txtTemp(0) 60
+answer No
+type txtPressure(0) 100
+type txtSGFlow(0) 0.5
+type txtViscosity(0) 1
+answer Yes
+answer Yes
+answer No
+pick cmdUnits(7) cs
+expect-message Round converted data?
+expect txtViscosity(1) 2
+expect-status "All cases were converted by the gravity of Maximum; those of Normal and Minimum differ: check flow and viscosity."
 quit
