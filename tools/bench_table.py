@@ -67,6 +67,7 @@ PROMISES = [
     Promise("database/workbook of 10,000 records", ratio=2, remark="looks for the units that all share first"),
     Promise("tables/10,000 rows saved", time=200 * MS),
     Promise("tables/size among 422 pipes looked up", time=1 * MS),
+    Promise("list/500 lines imported", ratio=2.5, time=500 * MS, remark="keeps what is to be saved in a database until it is agreed to"),
     Promise("batch/1,000 records to one PDF", time=5),
 ]
 

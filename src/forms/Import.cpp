@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "core/Suite.h"
-#include "platform/TextCase.h"
 #include "platform/TextFiles.h"
 #include "records/Backups.h"
 #include "records/RecordFiles.h"
@@ -27,6 +26,12 @@ struct RowCounter : SheetTaker {
         return true;
     }
 };
+
+std::set<std::string, KeyLess> TagsOf(Database& database) {
+    const std::vector<std::string> tags =
+        Recordset(database, HeadTable().Shape, Recordset::Unplaced()).Keys();
+    return {tags.begin(), tags.end()};
+}
 
 bool IsDated(const RecordColumn& column) { return column.Name == "Calc Date"; }
 
@@ -113,7 +118,8 @@ Import::Import(std::string file)
     : file_(std::move(file)),
       database_(OpenRecords(Suite.DatabaseFile)),
       version_(database_->Version()),
-      stored_(*database_) {
+      stored_(*database_),
+      tags_(TagsOf(*database_)) {
     const std::string name = DatabaseFileOf(SuitePath(folder_.Path()));
     MakeEmptyDatabase(name);
     waiting_ = OpenRecords(name);
@@ -146,7 +152,7 @@ void Import::TakeRow(const ListHeads& heads, const SheetRow& row) {
     std::string tag;
     try {
         tag = ListRecords::TagOf(heads, row);
-        const auto [same, isNew] = rowOfTag_.emplace(LowerCase(tag), row.Number);
+        const auto [same, isNew] = rowOfTag_.emplace(tag, row.Number);
         if (!isNew) throw ListRefusal{"Tag", "row " + std::to_string(same->second) + " has this tag already"};
         MakeRecord(heads, row, tag);
     } catch (const ListRefusal& refusal) {
@@ -157,7 +163,7 @@ void Import::TakeRow(const ListHeads& heads, const SheetRow& row) {
 }
 
 void Import::MakeRecord(const ListHeads& heads, const SheetRow& row, const std::string& tag) {
-    const std::optional<RecordRows> stored = stored_.Read(tag);
+    const std::optional<RecordRows> stored = tags_.contains(tag) ? stored_.Read(tag) : std::nullopt;
     const ListRecords::Made made = records_.Make(heads, row, stored);
     ImportLine line{row.Number, tag, ImportState::New, "", ""};
     if (stored) {
@@ -168,7 +174,7 @@ void Import::MakeRecord(const ListHeads& heads, const SheetRow& row, const std::
             line.Text = ChangeText(*stored, made.Rows, *others.front(), others.size());
         }
     }
-    if (line.State != ImportState::Equal) made_->Write(made.Rows);
+    if (line.State != ImportState::Equal) made_->Add(made.Rows);
     Add(std::move(line));
     for (const std::string& text : made.Told) Add({row.Number, tag, ImportState::Told, "", text});
 }

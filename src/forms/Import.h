@@ -6,14 +6,22 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "forms/ListRecord.h"
+#include "platform/KeyOrder.h"
 #include "platform/TemporaryFolder.h"
 
 namespace quillmetra {
+
+struct KeyLess {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const { return CompareKeys(a, b) < 0; }
+};
 
 enum class ImportState : std::uint8_t { New, Changed, Equal, Refused, Told };
 const char* Word(ImportState state);
@@ -59,6 +67,7 @@ private:
     const std::unique_ptr<Database> database_;
     const std::int64_t version_;
     RowStore stored_;
+    const std::set<std::string, KeyLess> tags_;  // on file
     // What is to be saved waits in a database of its own, whatever the length of the list.
     const TemporaryFolder folder_;
     std::unique_ptr<Database> waiting_;
@@ -67,7 +76,7 @@ private:
     ListRecords records_;
     std::vector<ImportLine> lines_;
     std::array<int, 5> counts_{};
-    std::map<std::string, int> rowOfTag_;
+    std::map<std::string, int, KeyLess> rowOfTag_;
 };
 
 }  // namespace quillmetra

@@ -385,9 +385,9 @@ ListRecords::Made ListRecords::Calculate(const RecordRows& rows, const Row& row,
                                               (IsEmpty(is) ? "" : ": the calculation has " + ValueText(is))};
         }
     };
-    RecordRows before = RowsOfRecord();
-    check(rows, before, false);
+    RecordRows before = rows;
     if (!ofRecord.empty()) {
+        check(rows, RowsOfRecord(), false);
         ConvertRecordInHand(ofRecord);
         before = RowsOfRecord();
     }

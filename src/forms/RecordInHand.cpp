@@ -16,11 +16,11 @@ namespace quillmetra {
 namespace {
 void BeginRecord() {
     ResetRecord();
-    LoadHeadings();
     Calc.LoadedDatabaseFile = Suite.DatabaseFile;
 }
 }  // namespace
 
+// Without the headings of a print, of which a run of many records has no use.
 bool TakeRecordRows(const RecordRows& rows) {
     BeginRecord();
     TakeFluidType(rows.FluidType(), rows.Program());
@@ -31,6 +31,7 @@ bool TakeRecordRows(const RecordRows& rows) {
 
 bool TakeRecord(const RecordHead& head) {
     BeginRecord();
+    LoadHeadings();
     Calc.Tag = head.Tag;
     TakeFluidType(head.FluidType, head.ProgramNumber);
     if (!GetTRCalc()) return false;

@@ -2,6 +2,7 @@
 #include "records/RecordRows.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/Programs.h"
 #include "platform/NumberText.h"
@@ -65,6 +66,8 @@ void RecordRows::Set(const RecordColumn& column, const FieldValue& value) {
 
 FieldValue KeptValue(const FieldShape& field, FieldValue value) {
     value = FittedValue(field, std::move(value));
+    const auto* whole = std::get_if<double>(&value);
+    if (whole != nullptr && std::nearbyint(*whole) == *whole && std::fabs(*whole) < 1e6) return value;
     if (const auto* number = std::get_if<double>(&value);
         number != nullptr && field.Type == FieldType::Single)
         return SingleRead(*number);
@@ -114,28 +117,29 @@ std::optional<RecordRows> RowStore::Read(std::string_view tag) {
     return rows;
 }
 
-void RowStore::WriteRow(Part& part, const RecordRows::Row& row, std::string_view tag) {
-    const bool isThere = part.Rows.Seek(tag);
-    if (row.empty()) {
-        if (isThere) part.Rows.Delete();
-        return;
-    }
-    isThere ? part.Rows.Edit() : part.Rows.AddNew();
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        if (!std::holds_alternative<Spare>(part.Table->Fields[i].From)) part.Rows.Set(i, row[i]);
-    }
-    part.Rows.Update();
+void RowStore::WriteExtras(Part& part, const RecordRows& rows, bool isNew) {
+    const auto isEmpty = [](const std::string& text) { return text.empty(); };
+    if (isNew && std::ranges::all_of(rows.Extras, isEmpty)) return;
+    part.Rows.Seek(rows.Tag());
+    for (std::size_t i = 0; i < RecordExtras.size(); ++i)
+        PutExtra(extras_, RecordExtras[i], *part.Table, part.Rows, rows.Extras.at(i));
 }
 
-void RowStore::Write(const RecordRows& rows) {
+void RowStore::Write(const RecordRows& rows, bool isNew) {
     const std::string tag = rows.Tag();
-    const RecordTable* const own = ProgramTable(rows.Program());
     for (Part& part : parts_) {
-        WriteRow(part, rows.Of(*part.Table), tag);
-        if (part.Table != own) continue;
-        part.Rows.Seek(tag);
-        for (std::size_t i = 0; i < RecordExtras.size(); ++i)
-            PutExtra(extras_, RecordExtras[i], *own, part.Rows, rows.Extras.at(i));
+        const RecordRows::Row& row = rows.Of(*part.Table);
+        const bool isThere = !isNew && part.Rows.Seek(tag);
+        if (row.empty()) {
+            if (isThere) part.Rows.Delete();
+            continue;
+        }
+        isThere ? part.Rows.Edit() : part.Rows.AddNew();
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (!std::holds_alternative<Spare>(part.Table->Fields[i].From)) part.Rows.Set(i, row[i]);
+        }
+        part.Rows.Update();
+        if (part.Table == ProgramTable(rows.Program())) WriteExtras(part, rows, isNew);
     }
 }
 

@@ -45,7 +45,9 @@ public:
     // None when the tag is not on file.
     std::optional<RecordRows> Read(std::string_view tag);
     // Over the record of the same tag, if there is one: rows that this one has not are gone then.
-    void Write(const RecordRows& rows);
+    void Write(const RecordRows& rows) { Write(rows, false); }
+    // The same where no row has the tag.
+    void Add(const RecordRows& rows) { Write(rows, true); }
 
 private:
     struct Part {
@@ -53,7 +55,8 @@ private:
         Recordset Rows;
     };
     static bool HasRowIn(const RecordTable& table, const RecordRows& rows);
-    void WriteRow(Part& part, const RecordRows::Row& row, std::string_view tag);
+    void Write(const RecordRows& rows, bool isNew);
+    void WriteExtras(Part& part, const RecordRows& rows, bool isNew);
 
     std::vector<Part> parts_;
     NamedValues extras_;

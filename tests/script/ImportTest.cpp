@@ -200,6 +200,18 @@ TEST_F(UsersLists, ARowBecomesACalculationOfItsForm) {
     EXPECT_EQ(Saved("N-2", "Pipe Size"), "1.959");
 }
 
+// Nothing half done: neither of a list that was stopped nor over what somebody else has saved meanwhile.
+TEST_F(UsersLists, AllOrNothing) {
+    std::ofstream(MachinePath(Path("list.csv"))) << "Tag,Normal Flow\nP-1,110000\nP-2,1\n";
+    Import stopped(Path("list.csv"));
+    EXPECT_FALSE(stopped.Run([](int done, int all) { return all == 3 && done < 1; }));
+    Import late(Path("list.csv"));
+    EXPECT_TRUE(late.Run([](int, int) { return true; }));
+    EXPECT_EQ(List("Tag,Calc By\nP-1,Ann\n", true).substr(0, 16), "0 new, 1 changed");
+    EXPECT_THROW(late.Save(true), RuntimeError);
+    EXPECT_EQ(Saved("P-1", "Normal Flow") + Saved("P-1", "Calc By"), "100000Ann");
+}
+
 TEST_F(UsersLists, WhatIsWrongIsToldWithRowAndColumn) {
     const std::string head =
         "Tag,Program Number,Pipe,Pipe Size,Pipe Length,Gate Valves,Pipe Material,Normal Flow,Normal "
