@@ -122,10 +122,11 @@ TEST_F(ImportTest, AnExportComesBackToTheDigit) {
         "type txtTemp(0) 80\ntype txtPressure(0) 250\ntype txtTemp(2) 0\ntype txtPressure(2) 40\n";
     Play(
         "strict off\nset-date 2026-11-20\nstart\n" +
-        InFourSets(
-            1, "L",
-            liquid + line + "type txtBy =Ann\ntype txtComments(0) \"a, \\\"b\\\" \xC3\xA9 \xCE\xA9\"\n",
-            all) +
+        InFourSets(1, "L",
+                   liquid + line +
+                       "pick cmdService Water\ntype txtBy =Ann\ntype txtComments(0) \"a, \\\"b\\\" \xC3\xA9 "
+                       "\xCE\xA9\"\n",
+                   all) +
         InFourSets(1, "LT",
                    liquid + pipe +
                        "click optSource\nclick mnuPureLiquid2\npick lstFluid \"Toluene \"\nclick cmdSelect\n",
@@ -295,6 +296,12 @@ TEST_F(UsersLists, OfARecordThatIsThereTheListSaysWhatChanges) {
               "4 in sch 803.8260.621");
     List("Tag,Pipe Size,Normal Temperature\nP-1,3.9,80\n", true);  // the fluid follows its temperature
     EXPECT_EQ(Saved("P-1", "Pipe") + Saved("P-1", "Normal Viscosity"), "0.5417");
+    // Which pipe it needs, and that there is none.
+    const std::string sizes = "start\nsizes @TRData P-1 2 \"Liquid - centrifugal suction\"";
+    Play(sizes);
+    EXPECT_FALSE(player_.Differs);
+    Play(sizes + " .049 \"Instrument and sanitary tube\"");
+    EXPECT_TRUE(player_.Differs);
 }
 
 }  // namespace
