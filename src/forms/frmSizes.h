@@ -37,8 +37,8 @@ public:
     CommandButton cmdOK{*this, "cmdOK", "OK"};
     CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-    // For who takes no pipe: the smallest that meets the criterion, or that gets the fluid through where
-    // there is none, and how many do.
+    // For who takes no pipe: the smallest that meets the criterion, or that in hand where there is none, if
+    // it gets the fluid through; and how many meet it.
     bool HasAnswer() const;
     std::string Answer() const;
 
