@@ -333,14 +333,10 @@ expect txtDestPress(1) 90.31
 start
 new 1
 include good-case.qs
-answer No
 type txtTemp(0) 60
-answer No
 type txtPressure(0) 100
 type txtSGFlow(0) 0.5
 type txtViscosity(0) 1
-answer Yes
-answer Yes
 answer No
 pick cmdUnits(7) cs
 expect-message Round converted data?
