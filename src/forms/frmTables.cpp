@@ -278,7 +278,12 @@ void frmTables::txtHole_Change() {
     SetStatus(WarningOfRow(FieldsOf(CellsOfBoxes())));
 }
 
+// A click on a cell leads to its box: what is pasted there in several cells is meant for the table.
 void frmTables::txtHole_KeyPress(int index, Key& key) {
+    if (key.Name == keys::Paste && CopiedText().find('\t') != std::string::npos) {
+        key.Handled = true;
+        return mnuPaste_Click();
+    }
     if (key.Name != keys::Enter) return;
     key.Handled = true;
     if (!HasTable()) return;

@@ -271,7 +271,9 @@ const TableDescription Gas = {.KeyWord = "Gas",
                               .Kept = KeptRows::Named,
                               .Separator = ",",
                               .LongestName = 30,
-                              .LongestLine = 110};
+                              .LongestLine = 110,
+                              .FirstNumber = 2,
+                              .LastNumber = 15};
 
 const TableDescription Liquid = {.KeyWord = "Liquid",
                                  .Title = "Liquid Data File Liquid.txt",
@@ -285,7 +287,9 @@ const TableDescription Liquid = {.KeyWord = "Liquid",
                                  .Kept = KeptRows::Named,
                                  .Separator = ",",
                                  .LongestName = 30,
-                                 .LongestLine = 110};
+                                 .LongestLine = 110,
+                                 .FirstNumber = 2,
+                                 .LastNumber = 17};
 
 const TableDescription Pipe = {.KeyWord = "Pipe",
                                .Title = "Pipe Size Data File  W-PIPE.TXT",
@@ -297,7 +301,9 @@ const TableDescription Pipe = {.KeyWord = "Pipe",
                                .NameWidth = 0,
                                .TrimsFields = true,
                                .Kept = KeptRows::All,
-                               .Separator = ","};
+                               .Separator = ",",
+                               .FirstNumber = 3,
+                               .LastNumber = 4};
 
 // A pipe table whose file the caller names.
 const TableDescription PipeFamily = [] {
@@ -319,7 +325,9 @@ const TableDescription Modulus = {.KeyWord = "Modulus",
                                   .TrimsFields = false,
                                   .Kept = KeptRows::Named,
                                   .Separator = ",",
-                                  .LongestName = 30};
+                                  .LongestName = 30,
+                                  .FirstNumber = 2,
+                                  .LastNumber = 15};
 
 const TableDescription Material = {.KeyWord = "Material",
                                    .Title = "Coefficient of Expansion Data File  MATERIAL.DAT",
@@ -331,7 +339,9 @@ const TableDescription Material = {.KeyWord = "Material",
                                    .NameWidth = 31,
                                    .TrimsFields = false,
                                    .Kept = KeptRows::Named,
-                                   .Separator = ","};
+                                   .Separator = ",",
+                                   .FirstNumber = 2,
+                                   .LastNumber = 3};
 
 const TableDescription Wedge = {.KeyWord = "Wedge",
                                 .Title = "Wedge Data File  WEDGE.DAT",
@@ -404,7 +414,9 @@ const TableDescription Criteria = {.KeyWord = "Criteria",
                                    .TrimsFields = true,
                                    .Kept = KeptRows::Named,
                                    .Separator = ",",
-                                   .LongestName = 30};
+                                   .LongestName = 30,
+                                   .FirstNumber = 3,
+                                   .LastNumber = 5};
 
 }  // namespace table
 

@@ -43,6 +43,8 @@ struct TableDescription {
     std::string_view Separator;  // written after each field
     // What a saved calculation has room for of a row, in characters; 0 where it keeps nothing of it.
     std::size_t LongestName = 0, LongestLine = 0;
+    // The columns of numbers, counted from 1; none where a calculation of this program reads none.
+    int FirstNumber = 0, LastNumber = 0;
 
     int ColumnCount() const { return static_cast<int>(Columns.size()); }
 };

@@ -79,6 +79,20 @@ std::optional<std::string> SavedTableLine(const TableDescription& table, const T
     return LineOf(table, fields);
 }
 
+namespace {
+
+std::string NumberWarning(const TableDescription& table, const TableFields& fields) {
+    for (int column = table.FirstNumber; column > 0 && column <= table.LastNumber; ++column) {
+        const std::string& field = fields[static_cast<std::size_t>(column - 1)];
+        if (ValReadsAll(field)) continue;
+        return std::string(TableHead(table, column)) + ": " + std::string(Trim(field)) + " is read as " +
+               TrimmedStr(Val(field));
+    }
+    return "";
+}
+
+}  // namespace
+
 std::string RowWarning(const TableDescription& table, const TableFields& fields) {
     const auto exceeds = [](std::string_view text, std::size_t most) {
         return most > 0 && CharacterCount(text) > most;
@@ -91,7 +105,7 @@ std::string RowWarning(const TableDescription& table, const TableFields& fields)
     }
     const std::string line = SavedTableLine(table, fields).value_or("");
     return exceeds(line, table.LongestLine) ? words("The row has more than ", table.LongestLine, "mixture")
-                                            : "";
+                                            : NumberWarning(table, fields);
 }
 
 void SaveTable(const TableDescription& table, const std::vector<TableFields>& rows,

@@ -34,7 +34,8 @@ TableSheet LoadTable(const TableDescription& table, const TableVariant& variant 
 // the file are written as blanks.
 std::optional<std::string> SavedTableLine(const TableDescription& table, const TableFields& fields);
 
-// Why no calculation can be saved with a row, in words for the user; empty when one can.
+// Why no calculation can be saved with a row, or which of its fields is not the number that it should be, in
+// words for the user; empty when all is well.
 std::string RowWarning(const TableDescription& table, const TableFields& fields);
 
 // Writes the table's file anew, in one step; a failure leaves the old one. The heading is written whatever it

@@ -231,6 +231,10 @@ expect-message "Save the new file"
 expect-status "Row 1: The name has more than 30 letters: no calculation with this row can be saved"
 click cmdReloadGrid
 row grdTable 2
+type txtHole(5) abc
+expect-status "Molecular weight: abc is read as 0"
+click cmdReloadGrid
+row grdTable 2
 type txtHole(15) "a reference that goes on beyond the end of the line of a record"
 expect-status "The row has more than 110 letters: no mixture with this row can be saved"
 click cmdReloadGrid
@@ -336,6 +340,9 @@ expect-status "3 rows pasted; what went beyond the last column is left out"
 expect-count grdTable 425
 expect-cell grdTable 423 3 6.625
 expect-cell grdTable 424 2 120
+click mnuUndo
+key txtHole(1) Ctrl+V
+expect-status "3 rows pasted; what went beyond the last column is left out"
 click mnuUndo
 expect-count grdTable 423
 cells grdTable 3 1 5 1
