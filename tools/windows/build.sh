@@ -16,16 +16,16 @@ MakeSuite() {
     Build windows
 }
 
-# The libraries that a program or library asks for and that Windows does not have; each is looked at in its turn.
+# The libraries that a program or library asks for and that Windows does not have; each is looked at in its turn. Its name
+# may be written in other letters than that of its file.
 CopyNeeded() {
-    local Name Folder
+    local Name File
     "$Target-objdump" -p "$1" | sed -n 's/.*DLL Name: //p' | while IFS= read -r Name; do
-        for Folder in "$Prefix/bin" "$CompilerLibraries" "/usr/$Target/lib"; do
-            if [[ -f $Folder/$Name && ! -f $Package/bin/$Name ]]; then
-                cp -- "$Folder/$Name" "$Package/bin/"
-                CopyNeeded "$Folder/$Name"
-            fi
-        done
+        File=$(find "$Prefix/bin" "$CompilerLibraries" "/usr/$Target/lib" -maxdepth 1 -iname "$Name" -print -quit)
+        if [[ -n $File && ! -f $Package/bin/${File##*/} ]]; then
+            cp -- "$File" "$Package/bin/"
+            CopyNeeded "$File"
+        fi
     done
 }
 

@@ -124,15 +124,19 @@ StartWine() {
     WineHome=$(mktemp -d)
     mkdir "$WineHome/wine"
     export WINEPREFIX=$WineHome/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
-    # The compiler's own libraries are found without copying them beside each program.
-    WINEPATH=$(WindowsPath "$(dirname -- "$("$Target-g++-posix" -print-file-name=libstdc++-6.dll)")")
-    WINEPATH+=";$(WindowsPath "/usr/$Target/lib");$(WindowsPath "$Prefix/bin")"
-    export WINEPATH
+    FindLibraries
     trap EndWine EXIT
     wineserver --persistent  # else it ends after each program, and the next one waits for it
     wine wineboot --init >/dev/null 2>&1
     QtSetting QT_QPA_PLATFORM offscreen
     mkdir -p "$WINEPREFIX/dosdevices/unc/server/share"
+}
+
+# What a program needs is found without copying it beside each one.
+FindLibraries() {
+    WINEPATH=$(WindowsPath "$(dirname -- "$("$Target-g++-posix" -print-file-name=libstdc++-6.dll)")")
+    WINEPATH+=";$(WindowsPath "/usr/$Target/lib");$(WindowsPath "$Prefix/bin")"
+    export WINEPATH
 }
 
 # QtSetting NAME VALUE: Wine keeps this machine's variables of Qt from its programs, which get those of its registry.

@@ -268,6 +268,7 @@ Heading "From outside"
 Xvfb :97 -screen 0 1280x1024x24 >/dev/null 2>&1 &
 Screen=$!
 export DISPLAY=:97
+unset WINEPATH  # the package has what it needs
 QtSetting QT_QPA_PLATFORM windows
 Judge "the portable folder" "$WineHome/log" Portable
 Judge "setup, upgrade, uninstall" "$WineHome/log" Setup
@@ -278,6 +279,7 @@ Judge "a second start" "$WineHome/log" StartsOnce
 Judge "texts in UTF-8" "$WineHome/log" SpeaksUtf8
 Judge "a long path on a share" "$WineHome/log" OnAShare
 Heading "Settings of the system"
+FindLibraries
 QtSetting QT_QPA_PLATFORM offscreen
 PlaySettings
 kill "$Screen"
