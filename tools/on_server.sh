@@ -17,9 +17,9 @@ if ((EUID == 0)); then  # as whom no server runs
     AsPlainUser=(setpriv --reuid=postgres --regid=postgres --clear-groups)
 fi
 
-# The server ends when the other end of the pipe does.
+# A port at random: two that start at once would take the same free one. The server ends when the other end of the pipe does.
 # shellcheck disable=SC2016
-(cd -- "$Folder" && exec "${AsPlainUser[@]}" env HOME="$Folder" pg_virtualenv -t sh -c '
+(cd -- "$Folder" && exec "${AsPlainUser[@]}" env HOME="$Folder" PGPORT=$((20000 + RANDOM % 12000)) pg_virtualenv -t sh -c '
     env | grep "^PG" >"$0/part" && mv "$0/part" "$0/names"
     read -r _ <"$0/end" || true' "$Folder" >"$Folder/log" 2>&1) &
 Server=$!

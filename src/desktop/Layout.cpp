@@ -24,6 +24,8 @@ constexpr Entry Layouts[] = {
     {"frmUnits", frmUnits},
     {"frmBackups", frmBackups},
     {"frmCompare", frmCompare},
+    {"frmCopyAll", frmCopyAll},
+    {"frmServer", frmServer},
     {"frmCalcOptions", frmCalcOptions},
     {"FindDialog", FindDialog},
     {"frmWaterHammer", frmWaterHammer},

@@ -19,6 +19,7 @@
 #include "desktop/Painting.h"
 #include "desktop/StartTime.h"
 #include "forms/frmShippedRows.h"
+#include "forms/frmTRProg.h"
 #include "forms/RegisterForms.h"
 #include "forms/UnsavedWork.h"
 #include "platform/Forms.h"
@@ -77,6 +78,12 @@ int main(int argc, char** argv) {
     QTimer minute;
     QObject::connect(&minute, &QTimer::timeout, [] { quillmetra::KeepUnsavedWork(); });
     minute.start(std::chrono::minutes(1));
+    QTimer halfSecond;
+    QObject::connect(&halfSecond, &QTimer::timeout, [] {
+        if (auto* browser = dynamic_cast<quillmetra::frmTRProg*>(quillmetra::LoadedForm("frmTRProg")))
+            browser->Follow();
+    });
+    halfSecond.start(std::chrono::milliseconds(500));
     quillmetra::DatabaseMemory databases(home + "\\TRWIN.ini");
     quillmetra::RememberFigures(home + "\\TRWIN.ini");
     // A folder that was named is another one than that of the last run.

@@ -7,6 +7,7 @@
 #include "core/Suite.h"
 #include "core/Words.h"
 #include "forms/ColourSchemes.h"
+#include "forms/frmCompare.h"
 #include "forms/frmObxPrintCalc.h"
 #include "forms/WinSeek.h"
 #include "lineloss/PipeMaterials.h"
@@ -382,6 +383,7 @@ bool CalculationForm::SaveTo(const std::string& databaseFile) {
     const std::string cut = CutHeadings();
     if (!SaveTRCalc()) {
         SetStatus("Not saved");  // no "Saved as" of an earlier save stands on
+        if (ComparisonWanted()) ShowComparison(*this);
         if (Calc.Tag.empty()) txtTagNum.SetFocus();
         return false;
     }

@@ -4,12 +4,15 @@
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "forms/FileGuard.h"
+#include "forms/frmCopyAll.h"
 #include "forms/frmImport.h"
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
 #include "platform/Folders.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
+#include "platform/ServerLink.h"
+#include "platform/TextFiles.h"
 #include "platform/WorkbookWriter.h"
 #include "records/Backups.h"
 #include "records/RecordExport.h"
@@ -21,6 +24,7 @@ namespace {
 
 constexpr const char* ExportTitle = "Export records";
 constexpr const char* ImportTitle = "Import records";
+constexpr const char* CopyTitle = "Copy all records";
 constexpr const char* CreateTitle = "Create New Database File";
 
 // Asks for a database and takes it as the one in hand; false when the user cancels or picks another file.
@@ -112,6 +116,22 @@ void frmTRProg::ImportList(const std::string& file) {
     RenewTable();
     ShowRecord();
     TellBackupTrouble();
+}
+
+void frmTRProg::mnuServerDB_Click() {
+    if (!KnowsServers()) return Tell("This build of the program knows no server", DatabaseTitle);
+    ShowForm("frmServer", Modal::Yes);
+}
+
+// Into a database that has none; where there is no database, an empty file is made.
+void frmTRProg::mnuCopyAll_Click() {
+    if (view_ == nullptr) return Tell("Open the database first", CopyTitle);
+    const std::string from = Suite.DatabaseFile, to = AskDatabaseFile(true);
+    if (to.empty()) return;
+    if (IsSameFile(from, to)) return Tell("This is the database that is open", CopyTitle);
+    if (!FileExists(to)) MakeEmptyDatabase(to);
+    dynamic_cast<frmCopyAll&>(LoadForm("frmCopyAll")).Take(from, to);
+    ShowForm("frmCopyAll", Modal::Yes);
 }
 
 // All records when no tag is given.

@@ -64,6 +64,8 @@ void frmTRProg::HookDatabase() {
     mnuCompactDB.Click = [this] { mnuCompactDB_Click(); };
     mnuRepairDB.Click = [this] { mnuRepairDB_Click(); };
     mnuBackups.Click = [this] { mnuBackups_Click(); };
+    mnuServerDB.Click = [this] { mnuServerDB_Click(); };
+    mnuCopyAll.Click = [this] { mnuCopyAll_Click(); };
     mnuExport.Click = [this] { mnuExport_Click(); };
     mnuImport.Click = [this] { mnuImport_Click(); };
     mnuPrinting.Click = [this] { mnuPrinting_Click(); };
@@ -170,6 +172,19 @@ void frmTRProg::Activated() {
     }
     if (!view_->HasRecord()) view_->First();
     ShowRecord();
+}
+
+// While something is being picked among the tags they stay as they are.
+void frmTRProg::Follow() {
+    if (view_ == nullptr || !Visible() || UserActRuns() || fraTags.Visible() || !view_->HasNews()) return;
+    try {
+        const std::string tag = view_->Head().Tag;
+        if (view_->HasRecord() && !view_->Find(tag)) view_->LeaveDeleted();
+        if (!view_->HasRecord()) view_->First();
+        ShowRecord();
+    } catch (const RuntimeError& error) {
+        SetStatus(error.Description);
+    }
 }
 
 // --- The record in hand ------------------------------------------------------------------------------------

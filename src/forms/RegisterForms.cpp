@@ -8,6 +8,7 @@
 #include "forms/frmBackups.h"
 #include "forms/frmCalcOptions.h"
 #include "forms/frmCompare.h"
+#include "forms/frmCopyAll.h"
 #include "forms/frmFluid.h"
 #include "forms/frmGasData.h"
 #include "forms/frmGasLineLoss.h"
@@ -20,6 +21,7 @@
 #include "forms/frmPipeSize.h"
 #include "forms/frmPrintControl.h"
 #include "forms/frmRecalculate.h"
+#include "forms/frmServer.h"
 #include "forms/frmShippedRows.h"
 #include "forms/frmSizes.h"
 #include "forms/frmTables.h"
@@ -60,6 +62,8 @@ constexpr FormEntry FormTable[] = {
     {"FindDialog", MakeForm<FindDialog>, 400},
     {"frmBackups", MakeForm<frmBackups>, 409},
     {"frmCompare", MakeForm<frmCompare>, 409},
+    {"frmServer", MakeForm<frmServer>, 430},
+    {"frmCopyAll", MakeForm<frmCopyAll>, 430},
     {"frmPipeSize", MakeForm<frmPipeSize>, 411},
     {"frmPrintControl", MakeForm<frmPrintControl>, 417},
     {"frmTables", MakeForm<frmTables>, 415},

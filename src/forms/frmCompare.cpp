@@ -11,7 +11,9 @@
 #include "platform/Forms.h"
 #include "platform/Plot.h"
 #include "platform/Printer.h"
+#include "records/RecordFiles.h"
 #include "records/RecordView.h"
+#include "records/StoredRows.h"
 #include "reports/ComparisonPage.h"
 
 namespace quillmetra {
@@ -90,6 +92,28 @@ bool frmCompare::Take(const std::string& first, const std::string& second) {
     }
 }
 
+bool frmCompare::TakeStored(const Form& form) {
+    const CalcRecord here = Calc;
+    CalcRecord stored;
+    try {
+        const KeptRows rowsOfHere;
+        RecordView view(Suite.DatabaseFile);
+        TakeWhole(view, here.Tag);
+        stored = std::exchange(Calc, here);
+    } catch (const RuntimeError& error) {
+        Calc = here;
+        Tell(error.Description, Caption(), Icon::Stop);
+        return false;
+    }
+    TakeChangeAsKnown(*OpenRecords(Suite.DatabaseFile));
+    Comparison comparison = CompareRecords(here, stored, form);
+    comparison.FirstTag += " here";
+    comparison.SecondTag += " as it is stored";
+    Show(std::move(comparison));
+    cmdExchange.SetEnabled(false);
+    return true;
+}
+
 void frmCompare::Show(Comparison comparison) {
     comparison_ = std::move(comparison);
     lblRecords.SetCaption(Names() + ", in the units of " + comparison_.FirstTag + ": " +
@@ -148,5 +172,13 @@ bool frmCompare::Print(PrintJob job, int copies) {
 }
 
 void frmCompare::cmdCancel_Click() { UnloadForm(Name()); }
+
+void ShowComparison(const Form& form) {
+    UnloadForm("frmCompare");
+    if (static_cast<frmCompare&>(LoadForm("frmCompare")).TakeStored(form))
+        ShowForm("frmCompare", Modal::Yes);
+    else
+        UnloadForm("frmCompare");
+}
 
 }  // namespace quillmetra

@@ -20,6 +20,9 @@ public:
     // cannot be read whole.
     bool Take(const std::string& first, const std::string& second);
     void Show(Comparison comparison);
+    // The record in hand, as its open form has it, and the same record as it is stored: another has changed
+    // it. False, after a message, when that cannot be read.
+    bool TakeStored(const Form& form);
 
     Label lblRecords{*this, "lblRecords", "Two records"};
     Grid grdRows{*this, "grdRows"};  // where the keyboard begins
@@ -44,5 +47,8 @@ private:
 
     Comparison comparison_;
 };
+
+// Shows what another has changed in the record in hand since it was opened.
+void ShowComparison(const Form& form);
 
 }  // namespace quillmetra

@@ -25,6 +25,7 @@ public:
 
     MenuItem mnuFile{*this, "mnuFile", "&File"};
     MenuItem mnuCreateDB{mnuFile, "mnuCreateDB", "C&reate database"};
+    MenuItem mnuServerDB{mnuFile, "mnuServerDB", "&New database on a server..."};
     MenuItem mnuCompactDB{mnuFile, "mnuCompactDB", "&Compact database"};
     MenuItem mnuRepairDB{mnuFile, "mnuRepairDB", "R&epair database"};
     MenuItem mnuRecent{mnuFile, "mnuRecent", "Recent &databases"};
@@ -32,6 +33,7 @@ public:
     MenuItem mnuBackups{mnuFile, "mnuBackups", "&Backups..."};
     MenuItem mnuExport{mnuFile, "mnuExport", "Exp&ort records..."};
     MenuItem mnuImport{mnuFile, "mnuImport", "&Import records..."};
+    MenuItem mnuCopyAll{mnuFile, "mnuCopyAll", "Cop&y all records to..."};
     MenuItem mnuRecalculateAll{mnuFile, "mnuRecalculateAll", "Recalcu&late all records..."};
     MenuItem mnuConvertRandom{mnuFile, "mnuConvertRandom", "Con&vert 5.x to 6 data"};
     MenuItem mnuPrinting{mnuFile, "mnuPrinting", "&Printing"};
@@ -159,6 +161,8 @@ public:
     void mnuBackups_Click();
     void mnuExport_Click();
     void mnuImport_Click();
+    void mnuServerDB_Click();
+    void mnuCopyAll_Click();
 
     // Records of version 5, in OldDataMenu.cpp
     void mnuConvertRandom_Click();
@@ -176,6 +180,9 @@ public:
     void OpenByName(const std::string& file);
     // As at the start, without a box: what goes wrong is told in the status line.
     void OpenAgain(const std::string& file);
+    // Shows what others have changed on a server, the record in hand staying; for a host to call between two
+    // acts, as often as each second.
+    void Follow();
 
 private:
     void HookHistory();

@@ -34,6 +34,14 @@ void Database::CopyInto(const fs::path& file) const { engine_->CopyInto(file); }
 void Database::Reindex() { engine_->Reindex(); }
 std::string Database::Fault() { return engine_->Fault(); }
 std::int64_t Database::Version() { return engine_->Version(); }
+bool Database::HasNews() noexcept {
+    try {
+        return engine_->HasNews();
+    } catch (const std::exception&) {
+        return false;  // the next act tells
+    }
+}
+
 bool Database::IsReplaced() const { return engine_->IsReplaced(); }
 bool Database::InTransaction() const { return engine_->InTransaction(); }
 

@@ -125,6 +125,9 @@ public:
     void TryToWrite();
     // A number that changes whenever the file does, by whatever process.
     std::int64_t Version();
+    // Whether a server has told that something was changed since this was asked last; false of a file. It
+    // asks the server nothing and never throws.
+    bool HasNews() noexcept;
     // Whether another file has taken the place of the one that is open, as a compaction by another process
     // brings about. What is written then would be lost, and a transaction refuses to begin.
     bool IsReplaced() const;
@@ -161,6 +164,13 @@ private:
     bool open_ = true;
 };
 
+// Who has written a row last and when, where the engine keeps that: empty of a file.
+struct RowChange {
+    std::string By, At;  // At as "2026-11-26 14:03:05.123456+00"
+
+    bool operator==(const RowChange&) const = default;
+};
+
 // The index of each table, by its key.
 inline constexpr std::string_view TagIndex = "Tag_Number";
 
@@ -191,6 +201,9 @@ public:
     void MoveToNext(const std::function<bool(const Recordset&)>& wanted);
     bool AtEnd() const { return place_ == Place::End || place_ == Place::Empty; }
     bool AtStart() const { return place_ == Place::Start || place_ == Place::Empty; }
+
+    // Of the row of a key; of none where there is no such row.
+    RowChange LastChange(std::string_view key);
 
     std::int64_t RecordCount();
     // All keys in their order, at one go.

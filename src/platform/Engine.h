@@ -47,6 +47,7 @@ public:
     virtual bool Fetch(RowAt place, std::string_view key, RowData& row) = 0;
     // Reads the rows behind a key, in their order, until one is wanted; false when none is.
     virtual bool FetchNextOf(std::string_view key, RowData& row, const std::function<bool()>& wanted) = 0;
+    virtual RowChange LastChange(std::string_view) { return {}; }
     virtual std::int64_t Count() = 0;
     virtual std::vector<std::string> Keys() = 0;
     virtual void EachRow(std::span<const std::string_view> fields,
@@ -92,6 +93,7 @@ public:
 
     virtual void TryToWrite() = 0;  // within a transaction that is undone
     virtual std::int64_t Version() = 0;
+    virtual bool HasNews() { return false; }
     virtual bool IsReplaced() const = 0;
 
     // Of the file, which not every engine has.

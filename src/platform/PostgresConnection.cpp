@@ -1,6 +1,7 @@
 // See PostgresConnection.h.
 #include "platform/PostgresConnection.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string>
@@ -61,14 +62,13 @@ std::string CodeOf(const PGresult* result, std::string_view message) {
         std::string_view Text, Code;
     };
     // A connection that is refused has no code, but English words unless the server has its own language.
-    constexpr Sign signs[] = {
-        {"authentication", "28000"}, {"pg_hba", "28000"},           {"no password supplied", "28000"},
-        {"role \"", "28000"},        {"database \"", "3D000"},      {"starting up", "57P03"},
-        {"shutting down", "57P01"},  {"too many clients", "53300"}, {"remaining connection slots", "53300"}};
+    constexpr Sign signs[] = {{"authentication", "28000"},       {"pg_hba", "28000"},
+                              {"no password supplied", "28000"}, {"role \"", "28000"},
+                              {"database \"", "3D000"},          {"starting up", "57P03"},
+                              {"shutting down", "57P01"},        {"not yet accepting", "57P03"},
+                              {"too many clients", "53300"},     {"remaining connection slots", "53300"}};
     for (const Sign& each : signs) {
-        if (message.find("FATAL") != std::string_view::npos &&
-            message.find(each.Text) != std::string_view::npos)
-            return std::string(each.Code);
+        if (message.find(each.Text) != std::string_view::npos) return std::string(each.Code);
     }
     return "";
 }
@@ -89,7 +89,9 @@ void PostgresParameters::Add(const char* data, std::size_t size, bool isBytes) {
 }
 
 PostgresConnection::PostgresConnection(const ServerLink& link) : link_(link) {
+    const auto asked = Clock::now();
     Connect();
+    CountAnswer(asked);
     Prepare();
 }
 
@@ -136,7 +138,7 @@ void PostgresConnection::Prepare() {
     for (const char* setting :
          {"idle_in_transaction_session_timeout = '60s'", "tcp_keepalives_idle = 5",
           "tcp_keepalives_interval = 2", "tcp_keepalives_count = 2", "tcp_user_timeout = 10000",
-          "extra_float_digits = 1", "search_path = pg_catalog"}) {
+          "extra_float_digits = 1", "datestyle = 'ISO, YMD'", "search_path = pg_catalog"}) {
         PutOff(std::string("SET ") + setting);
     }
 }
@@ -161,10 +163,10 @@ void PostgresConnection::Abandon() noexcept {
 void PostgresConnection::Lose(const std::string& reason) {
     const std::string message = FirstLine(reason.c_str());
     const std::string code = CodeOf(nullptr, message);
-    const bool wasInTransaction = InTransaction();
     hasDiedUnused_ = isOpen_ && answered_ != Clock::time_point() && Clock::now() - asked_ < SlowAnswer;
     Abandon();
-    std::string words = isOpen_ ? "The connection to the server is lost" : "The server cannot be reached";
+    std::string words = isOpen_ ? "The connection to the server is lost; try again when it is back"
+                                : "The server cannot be reached";
     int number = ServerLost;
     for (const FailureWords& each : WordsOfFailures) {
         if (code.empty() || !code.starts_with(each.Code)) continue;
@@ -172,7 +174,6 @@ void PostgresConnection::Lose(const std::string& reason) {
         number = each.Number;
         break;
     }
-    if (wasInTransaction) words += "; what was being written is not";
     throw RuntimeError(number, words + "\n" + link_.Words() + "\n" + message);
 }
 
@@ -208,14 +209,14 @@ void PostgresConnection::Send(const std::string& sql, const PostgresParameters& 
 
 // The next result, or none at the end of a statement.
 PGresult* PostgresConnection::Next() {
-    auto until = Clock::now() + LongestSilence;
+    auto until = Clock::now() + Patience();
     for (;;) {
         const int unsent = PQflush(connection_.get());
         if (unsent < 0) Lose(PQerrorMessage(connection_.get()));
         if (PQisBusy(connection_.get()) == 0) return PQgetResult(connection_.get());
         Wait(unsent > 0, until);
         if (PQconsumeInput(connection_.get()) == 0) Lose(PQerrorMessage(connection_.get()));
-        until = Clock::now() + LongestSilence;
+        until = Clock::now() + Patience();
     }
 }
 
@@ -270,6 +271,12 @@ PGresult* PostgresConnection::Collect(std::size_t statements) {
     return last.release();
 }
 
+// Less where the server has been slow in this act.
+PostgresConnection::Clock::duration PostgresConnection::Patience() const {
+    const bool isSlow = answers_ > 0 && waited_ / answers_ > SlowAnswer;
+    return isSlow ? std::max<Clock::duration>(LongestSilence - waited_, SlowAnswer) : LongestSilence;
+}
+
 void PostgresConnection::CountAnswer(Clock::time_point asked) {
     answered_ = Clock::now();
     waited_ += answered_ - asked;
@@ -278,7 +285,8 @@ void PostgresConnection::CountAnswer(Clock::time_point asked) {
 }
 
 bool PostgresConnection::HasNotice() {
-    if (isLost_ || PQconsumeInput(connection_.get()) == 0) return false;
+    if (!std::exchange(listens_, true)) Run("LISTEN quillmetra");
+    if (PQconsumeInput(connection_.get()) == 0) Lose(PQerrorMessage(connection_.get()));
     while (PGnotify* const notice = PQnotifies(connection_.get())) {
         hasNotice_ = hasNotice_ || notice->extra == link_.Schema;
         PQfreemem(notice);

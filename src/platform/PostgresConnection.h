@@ -70,7 +70,8 @@ public:
     void PutOff(std::string sql) { putOff_.push_back(std::move(sql)); }
     // Takes back what was put off last; false when it has been sent.
     bool TakeBack();
-    // Whether the server has told of a change of its own accord; asks nothing of it.
+    // Whether the server has told of a change since this was asked last; only the first time asks it
+    // something.
     bool HasNotice();
     // Of whatever state, for one who goes on without.
     void Abandon() noexcept;
@@ -85,6 +86,7 @@ private:
     void Wait(bool alsoWrite, Clock::time_point until);
     PGresult* Next();
     PGresult* Collect(std::size_t statements);
+    Clock::duration Patience() const;
     void CountAnswer(Clock::time_point asked);
     RuntimeError Failure(const PGresult* result) const;
 
@@ -92,7 +94,7 @@ private:
     std::unique_ptr<PGconn, decltype(&PQfinish)> connection_{nullptr, PQfinish};
     std::map<std::string, std::string, std::less<>> prepared_;
     std::vector<std::string> putOff_;
-    bool isOpen_ = false, isLost_ = false, hasDiedUnused_ = false, hasNotice_ = false;
+    bool isOpen_ = false, isLost_ = false, hasDiedUnused_ = false, hasNotice_ = false, listens_ = false;
     Clock::time_point asked_{}, answered_{};
     Clock::duration waited_{};
     int answers_ = 0, preparedCount_ = 0;

@@ -145,7 +145,9 @@ void PostgresEngine::Create(const ServerLink& link, const DatabaseKind& kind,
                    engine.Named("Suite") + ")");
         engine.CheckKind(kind);
         for (const TableShape& table : tables) {
-            if (!engine.HasTable(table.Name)) engine.AddTable(table);
+            if (engine.HasTable(table.Name)) continue;
+            engine.AddTable(table);
+            if (table.KeyFields > 1) engine.TieTo(table, tables.front());
         }
         engine.Commit(0);
     } catch (const RuntimeError&) {
@@ -173,6 +175,12 @@ void PostgresEngine::AddTable(const TableShape& table) {
         " FOR EACH STATEMENT EXECUTE FUNCTION " + Named("note_change") + "()");
     tables_.insert(table.Name);
     added_.insert(table.Name);
+}
+
+// Whoever deletes a row takes along what is named of it, so that nobody needs to look for what is left over.
+void PostgresEngine::TieTo(const TableShape& names, const TableShape& keys) {
+    Run("ALTER TABLE " + Named(names.Name) + " ADD FOREIGN KEY (key_order) REFERENCES " + Named(keys.Name) +
+        " ON UPDATE CASCADE ON DELETE CASCADE");
 }
 
 // What begins and ends an inner transaction goes with the statement behind it.
@@ -261,6 +269,11 @@ void CreateOnServer(const ServerLink& link, const DatabaseKind& kind, const std:
 }
 
 std::int64_t PostgresEngine::Version() { return Run("SELECT change FROM " + Named("Suite")).Number(0, 0); }
+
+// A connection that is gone is made anew by the next act, not by this.
+bool PostgresEngine::HasNews() {
+    return depth_ == 0 && connection_ != nullptr && connection_->IsAlive() && connection_->HasNotice();
+}
 
 bool PostgresEngine::IsReplaced() const { return StampOf(file_) != stamp_; }
 

@@ -24,7 +24,8 @@ public:
     PostgresEngine(const std::filesystem::path& file, const DatabaseKind& kind);
     ~PostgresEngine() override;
 
-    // Makes the schema and its tables where they are not there yet, all or nothing.
+    // Makes the schema and its tables where they are not there yet, all or nothing. A table of named texts
+    // belongs to the rows of the first table.
     static void Create(const ServerLink& link, const DatabaseKind& kind,
                        const std::vector<TableShape>& tables);
 
@@ -38,6 +39,7 @@ public:
     bool InTransaction() const override;
     void TryToWrite() override;
     std::int64_t Version() override;
+    bool HasNews() override;
     bool IsReplaced() const override;
 
     // Runs a statement; one that only reads is asked once more when the connection has died since the last.
@@ -48,6 +50,7 @@ public:
 private:
     explicit PostgresEngine(const ServerLink& link);
     void Connect();
+    void TieTo(const TableShape& names, const TableShape& keys);
     void CheckKind(const DatabaseKind& kind);
 
     const ServerLink link_;

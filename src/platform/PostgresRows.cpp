@@ -56,6 +56,7 @@ public:
 
     bool Fetch(RowAt place, std::string_view key, RowData& row) override;
     bool FetchNextOf(std::string_view key, RowData& row, const std::function<bool()>& wanted) override;
+    RowChange LastChange(std::string_view key) override;
     std::int64_t Count() override { return engine_.Run("SELECT count(*) FROM " + name_).Number(0, 0); }
     std::vector<std::string> Keys() override;
     void EachRow(std::span<const std::string_view> fields,
@@ -129,6 +130,16 @@ bool PostgresRows::FetchNextOf(std::string_view key, RowData& row, const std::fu
         if (count == 0) break;
     }
     return false;
+}
+
+RowChange PostgresRows::LastChange(std::string_view key) {
+    const std::string order = SortKey(key);
+    PostgresParameters parameters;
+    parameters.AddBytes(order);
+    const PostgresResult found =
+        engine_.Run("SELECT changed_by, changed_at FROM " + name_ + " WHERE key_order = $1", parameters);
+    if (found.Rows() == 0) return {};
+    return {std::string(found.At(0, 0)), std::string(found.At(0, 1))};
 }
 
 std::vector<std::string> PostgresRows::Keys() {
@@ -232,10 +243,7 @@ public:
                 " WHERE key_order = $1",
             key, {newKey}, &order);
     }
-    void RemoveWithout(const TableShape& keys) override {
-        engine_.Run("DELETE FROM " + table_ + " extra WHERE NOT EXISTS (SELECT FROM " +
-                    engine_.Named(keys.Name) + " kept WHERE kept.key_order = extra.key_order)");
-    }
+    void RemoveWithout(const TableShape&) override {}  // the server has done it
 
 private:
     std::string Run(const std::string& sql, std::string_view key,

@@ -118,6 +118,8 @@ std::string Recordset::LeaveRow() {
     return key == nullptr ? "" : *key;
 }
 
+RowChange Recordset::LastChange(std::string_view key) { return rows_->LastChange(key); }
+
 std::int64_t Recordset::RecordCount() { return rows_->Count(); }
 
 std::vector<std::string> Recordset::Keys() { return rows_->Keys(); }

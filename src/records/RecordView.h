@@ -61,6 +61,8 @@ public:
     // All records in the order of their tags; another object when the file has changed.
     std::shared_ptr<const RecordLines> Lines();
     void ForgetLines() { linesVersion_ = -1; }  // so that they are read anew
+    // Whether others have changed something since the last look, as far as a server has told.
+    bool HasNews() const { return database_->HasNews(); }
     std::size_t IndexOf(std::string_view tag);
     // The position that the browser shows: 1 for the first record, 0 when there is none.
     int Position();

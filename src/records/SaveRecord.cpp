@@ -27,7 +27,7 @@ namespace quillmetra {
 
 namespace {
 
-bool StoreHasFailed = false;
+bool StoreHasFailed = false, ComparesFirst = false;
 
 // Which word asks for the row of a program, which tells that it was loaded, and its code in OtherCalcs.
 struct RowWords {
@@ -191,21 +191,34 @@ bool MayOverwrite(bool inARun) {
                     "Calculation Save", Icon::None, inARun ? Answer::No : Answer::Yes);
 }
 
+bool WantsComparison(const RowChange& change) {
+    constexpr std::size_t toTheMinute = 16;
+    return !change.By.empty() &&
+           AskYesNo(Calc.Tag + " was changed by " + change.By + " at " + change.At.substr(0, toTheMinute) +
+                        ", since it was opened here\nCompare the two before you save?",
+                    "Calculation Save", Icon::Question);
+}
+
 bool WriteRecord(bool inARun) {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
     Recordset heads(*database, HeadTable().Shape, Recordset::Unplaced());
     heads.Index(TagIndex);
     bool mayOverwrite = false;
+    RowChange known;
     std::vector<std::string> refused;
     for (bool done = false; !done;) {
-        // The question waits outside the transaction, and another process may save the same tag meanwhile.
-        if (heads.Seek(Calc.Tag) && !mayOverwrite) {
-            mayOverwrite = MayOverwrite(inARun);
+        // The questions wait outside the transaction, and another process may save the same tag meanwhile.
+        const RowChange change = ChangedSince(*database);
+        if (heads.Seek(Calc.Tag) && (!mayOverwrite || change != known)) {
+            ComparesFirst = WantsComparison(change);
+            mayOverwrite = !ComparesFirst && MayOverwrite(inARun);
             if (!mayOverwrite) return false;
+            known = change;
         }
         KeepBackupOfToday(Suite.DatabaseFile);
+        KeptRows former;
         Transaction all(*database);
-        if (heads.Seek(Calc.Tag) && !mayOverwrite) continue;
+        if (heads.Seek(Calc.Tag) && (!mayOverwrite || ChangedSince(*database) != known)) continue;
         AddForeignRows(*database);
         DropForeignFlags();
         ComposeCodes();
@@ -214,6 +227,7 @@ bool WriteRecord(bool inARun) {
         refused = SaveRows(*database);
         if (refused.empty()) RememberRows(*database);
         all.Commit();
+        former.Let();
         done = true;
     }
     Suite.RecordTotal = static_cast<int>(heads.RecordCount());
@@ -240,6 +254,8 @@ std::string CutHeadings() {
 
 bool StoreFailed() { return StoreHasFailed; }
 
+bool ComparisonWanted() { return ComparesFirst; }
+
 bool SaveTRCalc(bool inARun) {
     Calc.Tag = std::string(Trim(Calc.Tag));
     if (Calc.Tag.empty()) {
@@ -247,7 +263,7 @@ bool SaveTRCalc(bool inARun) {
         return false;
     }
     const std::string updated = Calc.RecordUpdated;
-    StoreHasFailed = false;
+    StoreHasFailed = ComparesFirst = false;
     try {
         FindWhatToSave();
         ComposeCodes();

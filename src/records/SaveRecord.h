@@ -19,6 +19,8 @@ namespace quillmetra {
 bool SaveTRCalc(bool inARun = false);
 // Whether the last save failed for what lies with the database, so that no other record has any chance.
 bool StoreFailed();
+// Whether it was refused since the user first wants to see what another has changed meanwhile.
+bool ComparisonWanted();
 
 // Cuts manufacturer and model, which may come from the file of the headings and then be too long; tells what
 // was cut, in words that go behind "Saved as P-101". To be called before a save, which refuses texts that are

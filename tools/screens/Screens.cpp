@@ -447,6 +447,11 @@ void ShootRecords() {
         Click("frmBackups", "cmdCancel");
     });
     Click("frmTRProg", "mnuBackups");
+    Within([] {
+        Shoot("server");
+        Click("frmServer", "cmdCancel");
+    });
+    Click("frmTRProg", "mnuServerDB");
 }
 
 // A list with one row of each kind, dropped on the browser.

@@ -1,0 +1,267 @@
+// What only a server has: several people at once, rights, and either side dying at any moment.
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+#include <thread>
+
+#if __has_include(<sys/wait.h>)
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "records/RecordCopy.h"
+#include "records/RecordExport.h"
+#include "tests/records/RecordFixture.h"
+
+namespace quillmetra {
+namespace {
+
+using namespace std::chrono_literals;
+
+class ServerTest : public RecordTest {
+protected:
+    void SetUp() override {
+        if (!OnServer()) GTEST_SKIP() << "played by records_on_a_server";
+    }
+
+    std::string Schema() const { return ReadServerLink(File()).Schema; }
+
+    // What psql prints for a statement, as whoever owns the server.
+    static std::string Sql(const std::string& sql) {
+        FILE* const psql = popen(("psql -XAtqc \"" + sql + "\" 2>&1").c_str(), "r");
+        std::string text;
+        for (int c = 0; (c = std::fgetc(psql)) != EOF;) text += static_cast<char>(c);
+        pclose(psql);
+        return text;
+    }
+
+    // Another program changes the head of a record.
+    static void ChangeHead(const std::string& tag, const char* field, const std::string& text) {
+        const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+        Recordset heads(*database, HeadTable().Shape);
+        heads.Index("Tag_Number");
+        ASSERT_TRUE(heads.Seek(tag));
+        heads.Edit();
+        heads.Set(field, text);
+        heads.Update();
+    }
+
+    // A link to the same records as another role, which has the rights that are granted.
+    void BecomeRole(const std::string& name, const std::string& grants) const {
+        ServerLink link = ReadServerLink(File());
+        Sql("DROP OWNED BY " + name);
+        Sql("DROP ROLE " + name);
+        Sql("CREATE ROLE " + name + " LOGIN PASSWORD '" + std::getenv("PGPASSWORD") + "'");
+        Sql("GRANT USAGE ON SCHEMA " + link.Schema + " TO " + name + "; GRANT " + grants +
+            " ON ALL TABLES IN SCHEMA " + link.Schema + " TO " + name);
+        link.User = name;
+        WriteServerLink(File(), link);
+    }
+};
+
+TEST_F(ServerTest, AnothersChangeIsNamedBeforeItIsWrittenOver) {
+    SaveNew("P-1");
+    RecordView browser(Suite.DatabaseFile);
+    EXPECT_FALSE(browser.HasNews());
+    ASSERT_TRUE(Display("P-1"));
+    ChangeHead("P-1", "Calc By", "somebody");
+    const auto until = std::chrono::steady_clock::now() + 1s;
+    bool told = false;
+    while (!told && std::chrono::steady_clock::now() < until) told = browser.HasNews();
+    EXPECT_TRUE(told) << "within a second";
+    EXPECT_FALSE(browser.HasNews()) << "told once";
+
+    Calc.CaseText[9] = "me";
+    Calc.ChangedFlag = words::No;
+    User.Boxes.clear();
+    User.Answers = {Answer::Yes};
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_TRUE(ComparisonWanted());
+    EXPECT_TRUE(
+        User.LastText().starts_with("P-1 was changed by " + std::string(std::getenv("PGUSER")) + " at 20"));
+    EXPECT_EQ(RecordView(Suite.DatabaseFile).Head().CalcBy, "somebody");
+    // Declined, the usual question follows; then nobody has changed anything.
+    User.Boxes.clear();
+    User.Answers = {Answer::No, Answer::Yes};
+    EXPECT_TRUE(SaveTRCalc());
+    EXPECT_EQ(User.Boxes.size(), 2U);
+    User.Boxes.clear();
+    User.Answers = {Answer::Yes};
+    EXPECT_TRUE(SaveTRCalc());
+    EXPECT_EQ(User.LastText(), "Tag Number is on file\nOverwrite the existing record?");
+    // Changed once more while the question stands.
+    User.Boxes.clear();
+    User.Answers = {Answer::Yes, Answer::No, Answer::Yes};
+    int times = 0;
+    User.WhileAsked = [&] {
+        if (times++ == 0) ChangeHead("P-1", "Calc By", "again");
+    };
+    EXPECT_TRUE(SaveTRCalc());
+    EXPECT_EQ(User.Boxes.size(), 3U);
+    User.WhileAsked = {};
+}
+
+TEST_F(ServerTest, AReaderReadsAndIsToldWhatHeMayNot) {
+    SaveNew("P-1");
+    BecomeRole("quillmetra_reader", "SELECT");
+    EXPECT_TRUE(Display("P-1"));
+    EXPECT_EQ(ExportRecords(Suite.DatabaseFile, SuitePath(Folder / "r.csv")), 1);
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_TRUE(User.LastText().starts_with("You have no right to do this on the server\n"))
+        << User.LastText();
+    EXPECT_NE(User.LastText().find("permission denied for table"), std::string::npos);
+    EXPECT_THROW(OpenRecords(Suite.DatabaseFile)->TryToWrite(), RuntimeError);
+    EXPECT_THROW(DeleteRecord(Suite.DatabaseFile, "P-1"), RuntimeError);
+    BecomeRole("quillmetra_writer", "SELECT, INSERT, UPDATE, DELETE");
+    EXPECT_FALSE(Sql("SELECT 1").empty());
+    ASSERT_TRUE(Display("P-1"));
+    EXPECT_TRUE(SaveTRCalc()) << User.LastText();
+    EXPECT_EQ(Sql("SELECT DISTINCT changed_by FROM " + Schema() + ".\\\"Process Calculations\\\""),
+              "quillmetra_writer\n");
+    EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "P-1"));
+}
+
+// A connection that the server ends is made anew by the next act; in the middle of one the act is told.
+TEST_F(ServerTest, ALostConnectionLosesNothing) {
+    SaveNew("P-1");
+    RecordView browser(Suite.DatabaseFile);
+    const std::unique_ptr<Database> writing = OpenRecords(Suite.DatabaseFile);
+    auto all = std::make_unique<Transaction>(*writing);
+    Sql("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE application_name = 'Quillmetra'");
+    EXPECT_THROW(all->Commit(), RuntimeError);
+    all.reset();
+    browser.Next();
+    EXPECT_EQ(browser.Head().Tag, "P-1");
+    SaveNew("P-2");
+    EXPECT_EQ(browser.Count(), 2);
+    EXPECT_EQ(Recordset(*writing, HeadTable().Shape).RecordCount(), 2);
+}
+
+TEST_F(ServerTest, AllRecordsGoToAFileAndBack) {
+    for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
+    TakeMixture("\u00d6l \xff, \"1\"");
+    ASSERT_TRUE(SaveTRCalc()) << User.LastText();
+    const auto bytesOf = [this](const std::string& database) {
+        const std::string csv = SuitePath(Folder / "all.csv");
+        EXPECT_EQ(ExportRecords(database, csv), 6);
+        return ReadBytes(csv);
+    };
+    const std::string server = Suite.DatabaseFile, file = SuitePath(Folder / "file.mdb"),
+                      again = SuitePath(Folder / "again.mdb");
+    MakeEmptyDatabase(file);
+    MakeServerDatabase(again, NewServerLink());
+    std::int64_t told = 0;
+    const auto until = [&told](std::int64_t most) {
+        return [&told, most](std::int64_t done, std::int64_t) { return (told = done) <= most; };
+    };
+    EXPECT_FALSE(CopyAllRecords(server, file, until(0)));
+    EXPECT_FALSE(RecordView(file).HasRecord()) << "all or none";
+    EXPECT_TRUE(CopyAllRecords(server, file, until(1000)));
+    EXPECT_EQ(told, 6 + 6 + 2 + 3 + 1 + 1 + 6) << "rows of all tables";
+    EXPECT_TRUE(CopyAllRecords(file, again, until(1000)));
+    EXPECT_EQ(bytesOf(file), bytesOf(server));
+    EXPECT_EQ(bytesOf(again), bytesOf(server));
+    EXPECT_THROW(CopyAllRecords(server, again, until(1000)), RuntimeError) << "has records";
+}
+
+// --- Killed at random
+// ----------------------------------------------------------------------------------------
+
+// The rows of head, program and settings say each how often the record was saved.
+void SaveRound(int round) {
+    TakeFilledRecord(1, 1, "K-1");
+    Calc.CaseInput[3][0] = Calc.StdPressure = round;
+    Calc.HeadingText[8] = std::to_string(round);
+    Calc.FluidName = "fluid " + std::to_string(round);
+    if (SaveTRCalc()) std::printf("%d\n", round);
+    std::fflush(stdout);
+}
+
+TEST_F(ServerTest, Saver) {
+    const char* const link = std::getenv("QUILLMETRA_SAVER");
+    if (link == nullptr) GTEST_SKIP() << "the process that is killed";
+    std::filesystem::copy_file(MachinePath(link), File(), std::filesystem::copy_options::overwrite_existing);
+    for (int round = std::atoi(std::getenv("QUILLMETRA_ROUND")); getppid() != 1; ++round) SaveRound(round);
+}
+
+// Starts the saver and reads the rounds that it acknowledges, until it is killed or has lost its server.
+class KilledSaver {
+public:
+    KilledSaver(const std::filesystem::path& link, int round) {
+        std::array<int, 2> ends{};
+        if (::pipe(ends.data()) != 0) return;
+        setenv("QUILLMETRA_SAVER", link.c_str(), 1);
+        setenv("QUILLMETRA_ROUND", std::to_string(round).c_str(), 1);
+        process_ = fork();
+        if (process_ == 0) {
+            dup2(ends[1], STDOUT_FILENO);
+            execl("/proc/self/exe", "saver", "--gtest_filter=ServerTest.Saver", nullptr);
+            _exit(1);
+        }
+        unsetenv("QUILLMETRA_SAVER");
+        close(ends[1]);
+        out_ = fdopen(ends[0], "r");
+        Read();
+    }
+    int LastSaved(std::chrono::milliseconds life) {
+        std::this_thread::sleep_for(life);
+        kill(process_, SIGKILL);
+        while (Read()) continue;
+        std::fclose(out_);
+        waitpid(process_, nullptr, 0);
+        return last_;
+    }
+
+private:
+    // The next round; what else the process tells is none.
+    bool Read() {
+        std::array<char, 256> line{};
+        while (std::fgets(line.data(), line.size(), out_) != nullptr) {
+            if (std::sscanf(line.data(), "%d\n", &last_) == 1) return true;
+        }
+        return false;
+    }
+
+    pid_t process_ = -1;
+    FILE* out_ = nullptr;
+    int last_ = 0;
+};
+
+TEST_F(ServerTest, NoKillTearsARecordOrLosesASave) {
+    const char* const count = std::getenv("QUILLMETRA_KILLS");
+    const int kills = count == nullptr ? 12 : std::atoi(count);
+    std::mt19937 chance(4711);
+    int last = 0;
+    for (int i = 0; i < kills; ++i) {
+        KilledSaver saver(File(), last + 1);
+        const auto life = std::chrono::milliseconds(chance() % 250);
+        if (i % 3 == 1) {  // the server of that connection; the others then start anew
+            std::this_thread::sleep_for(life);
+            Sql("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE application_name = "
+                "'Quillmetra'");
+        } else if (i % 12 == 2) {
+            std::this_thread::sleep_for(life);
+            const std::string pid =
+                Sql("SELECT max(pid) FROM pg_stat_activity WHERE application_name = 'Quillmetra'");
+            if (std::atoi(pid.c_str()) > 1) kill(std::atoi(pid.c_str()), SIGKILL);
+        }
+        last = std::max(last, saver.LastSaved(life));
+        while (Sql("SELECT 1") != "1\n") std::this_thread::sleep_for(50ms);
+        const int stored = [&] {
+            User.Boxes.clear();
+            EXPECT_TRUE(Display("K-1")) << User.LastText();
+            return std::atoi(Calc.HeadingText[8].c_str());
+        }();
+        EXPECT_GE(stored, last) << "after kill " << i;
+        EXPECT_EQ(Calc.CaseInput[3][0], stored);
+        EXPECT_EQ(Calc.StdPressure, stored);
+        last = stored;
+    }
+    EXPECT_GT(last, kills / 2);
+}
+
+}  // namespace
+}  // namespace quillmetra
+#endif
