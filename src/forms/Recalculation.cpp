@@ -58,8 +58,8 @@ std::vector<Result> ResultsOf(const Form& form) {
 bool HasResults(int caseIndex) { return StandingResult(result::Velocity, caseIndex) > 0; }
 
 std::vector<bool> ChokedCases() {
-    std::vector<bool> choked;
-    for (int i = 0; i < CaseCount; ++i) choked.push_back(HasResults(i) && IsChoked(i));
+    std::vector<bool> choked(CaseCount);
+    for (int i = 0; i < CaseCount; ++i) choked[At(i)] = HasResults(i) && IsChoked(i);
     return choked;
 }
 
