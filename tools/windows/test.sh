@@ -166,7 +166,7 @@ SCRIPT
     wine "$Package/bin/quillmetra-script.exe" "$(WindowsPath "$WineHome/share.qs")"
     grep -aq P-Ж "$Folder/TRData/TRDB.MDB"
     wine "$Package/bin/quillmetra-script.exe" --export "$Share\\TRData" "$Share\\list.xlsx"
-    unzip -p "$Folder/list.xlsx" xl/sharedStrings.xml | grep -q P-Ж
+    unzip -p "$Folder/list.xlsx" 'xl/worksheets/*.xml' | grep -q P-Ж
     grep -q $'^\xef\xbb\xbf"\\\\\\\\server\\\\share\\\\Ж 水' "$Folder/TRDRV.txt"
 }
 
@@ -223,7 +223,7 @@ SetupWhileRunning() {
         sleep 60 | wine "$Home/bin/$Program.exe" "$([[ $Program == quillmetra ]] && echo "--folder=$Folder" || echo -)" &
         sleep 5
         EndsWith 3 wine "$Build/Quillmetra-$Version-setup.exe" /S /CurrentUser
-        EndsWith 3 wine "$Home/uninstall.exe" /S /CurrentUser "_?=C:${Home#"$WINEPREFIX/drive_c"}"
+        EndsWith 2 wine "$Home/uninstall.exe" /S /CurrentUser "_?=C:${Home#"$WINEPREFIX/drive_c"}"
         diff -r "$Package" "$Home" | grep -v "uninstall.exe" && return 1
         wine taskkill /f /im "$Program.exe"
     done
@@ -257,7 +257,11 @@ Portable() {
 }
 
 InstallMissing "${BuildPackages[@]}" "${TestPackages[@]}" "${WindowsPackages[@]}" "${WindowsSetupPackages[@]}"
-StartWine
+Xvfb :97 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+Screen=$!
+export DISPLAY=:97
+sleep 2
+StartWine  # whose desktop stays without a screen when it starts without one
 Heading "Test programs"
 PlayPrograms
 Heading "Scripts and examples"
@@ -265,9 +269,6 @@ PlayScripts
 Heading "Windows"
 PlayWindows
 Heading "From outside"
-Xvfb :97 -screen 0 1280x1024x24 >/dev/null 2>&1 &
-Screen=$!
-export DISPLAY=:97
 unset WINEPATH  # the package has what it needs
 QtSetting QT_QPA_PLATFORM windows
 Judge "the portable folder" "$WineHome/log" Portable
