@@ -32,10 +32,12 @@ bool GravityMisleads() {
     const bool goesByIt = Calc.LiquidBasis != Calc.LiquidBasisPrevious ||
                           (CentistokesPerUnit(name) > 0) != (CentistokesPerUnit(former) > 0);
     if (Calc.CurrentProgram != program::LiquidLine || IsYes(Calc.NoConversion) || !goesByIt) return false;
-    const auto& gravity = Calc.CaseInput[input::FlowGravity];
+    const auto& gravities = Calc.CaseInput[input::FlowGravity];
+    const double first = gravities[0];
     constexpr double part = 0.001;
-    return std::ranges::any_of(
-        gravity, [&](double each) { return each > 0 && std::abs(each - gravity[0]) > part * gravity[0]; });
+    return std::ranges::any_of(gravities, [first](double gravity) {
+        return gravity > 0 && std::abs(gravity - first) > part * first;
+    });
 }
 }  // namespace
 
