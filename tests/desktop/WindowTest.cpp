@@ -227,6 +227,14 @@ TEST_F(WindowTest, AFormMayUnloadItselfInItsOwnClick) {
     EXPECT_FALSE(IsFormLoaded("frmSample"));
 }
 
+TEST_F(WindowTest, AFormThatWaitsLeavesTheFrontToItsPanel) {
+    const Form& panel = Show("frmTRProg");
+    Sample->SetEnabled(false);
+    WindowOf(*Sample).activateWindow();
+    Settle();
+    EXPECT_EQ(QApplication::activeWindow(), &WindowOf(panel));
+}
+
 TEST_F(WindowTest, AModalFormHoldsTheOthersUntilItGoes) {
     bool held = false;
     WhenDialogOpens([&](QWidget& dialog) {
