@@ -1,4 +1,5 @@
-// Lists of 500 lines from a spreadsheet, beside a loop that gives each line to its form and the bare engine.
+// Lists of 500 lines from a spreadsheet, and their records calculated anew, beside a loop that gives each
+// line to its form and the bare engine.
 #include <fstream>
 
 #include "benchmarks/FilledForm.h"
@@ -6,9 +7,11 @@
 #include "benchmarks/PlainRecords.h"
 #include "forms/Import.h"
 #include "forms/PanelReturn.h"
+#include "forms/Recalculation.h"
 #include "forms/RecordInHand.h"
 #include "platform/Dialogs.h"
 #include "records/RecordFiles.h"
+#include "records/RecordView.h"
 #include "records/SaveRecord.h"
 
 namespace {
@@ -37,6 +40,8 @@ private:
     TemporaryFolder folder_;
 };
 
+bool GoOn(int, int) { return true; }
+
 void ImportLines(benchmark::State& state) {
     const List list;
     for ([[maybe_unused]] auto each : state) {
@@ -44,11 +49,10 @@ void ImportLines(benchmark::State& state) {
         List::Renew();
         state.ResumeTiming();
         Import import(list.File());
-        import.Run([](int, int) { return true;
-    });
-    if (import.Save(false) != Lines) state.SkipWithError("not all lines are new");
+        import.Run(GoOn);
+        if (import.Save(false) != Lines) state.SkipWithError("not all lines are new");
+    }
 }
-}  // namespace
 
 // The values of a line set field by field in a record that is there, calculated by its form, its rows bound
 // to the engine.
@@ -96,6 +100,47 @@ void PlainLines(benchmark::State& state) {
     }
 }
 
+void Fill(const List& list) {
+    List::Renew();
+    Import import(list.File());
+    import.Run(GoOn);
+    import.Save(false);
+}
+
+// From record to record, as a run over a database goes.
+void EachRecord(const std::function<void(const RecordHead&)>& act) {
+    RecordView view(Suite.DatabaseFile);
+    for (int i = 0; i < Lines; ++i) {
+        if (view.Find("L-" + std::to_string(i))) act(view.Head());
+    }
+}
+
+void RecalculateLines(benchmark::State& state) {
+    const List list;
+    Fill(list);
+    for ([[maybe_unused]] auto each : state) {
+        Recalculation run(false);
+        EachRecord([&run](const RecordHead& head) { run.Take(head); });
+        if (run.Records() != Lines) state.SkipWithError("not all lines were calculated");
+    }
+}
+
+// Each record into hand and into its form, calculated there.
+void PlainRecalculation(benchmark::State& state) {
+    const List list;
+    Fill(list);
+    const HeldMessages held(Questions::Answered);
+    for ([[maybe_unused]] auto each : state) {
+        EachRecord([](const RecordHead& head) {
+            TakeRecord(head);
+            FillCalculationForm();
+            OpenCalculation()->CalculateAll();
+        });
+    }
+}
+
+BENCHMARK(RecalculateLines)->Name("list/500 lines recalculated")->Unit(benchmark::kMillisecond);
+BENCHMARK(PlainRecalculation)->Name("list/500 lines recalculated/plain")->Unit(benchmark::kMillisecond);
 BENCHMARK(ImportLines)->Name("list/500 lines imported")->Unit(benchmark::kMillisecond);
 BENCHMARK(PlainLines)->Name("list/500 lines imported/plain")->Unit(benchmark::kMillisecond);
 
