@@ -227,6 +227,8 @@ public:
     void Set(std::size_t field, FieldValue value);
     void SetAll(const std::vector<FieldValue>& values);
     void Update();
+    // Adds many rows at one go, which is much quicker where a server keeps them.
+    void AddAll(std::vector<std::vector<FieldValue>> rows);
     // The deleted row stays current, without fields, until a move.
     void Delete();
 

@@ -53,6 +53,9 @@ public:
     virtual void EachRow(std::span<const std::string_view> fields,
                          const std::function<void(Recordset::TextRow)>& act) = 0;
     virtual void Insert(const RowData& row) = 0;
+    virtual void InsertAll(std::span<const RowData> rows) {
+        for (const RowData& row : rows) Insert(row);
+    }
     virtual void Update(const FieldValue& key, const RowData& row) = 0;
     virtual void Delete(const FieldValue& key) = 0;
 };

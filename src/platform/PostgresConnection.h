@@ -14,9 +14,13 @@
 #include <libpq-fe.h>
 
 #include "platform/Database.h"
+#include "platform/Engine.h"
 #include "platform/ServerLink.h"
 
 namespace quillmetra {
+
+// The number of a failure for want of room on the server.
+inline constexpr int ServerHasNoRoom = EngineFailures + 152;
 
 // The rows that a statement gave.
 class PostgresResult {

@@ -103,7 +103,7 @@ void PostgresEngine::Connect() {
 }
 
 PostgresResult PostgresEngine::Run(const std::string& sql, const PostgresParameters& parameters) {
-    if (depth_ > 0) return connection_->Run(sql, parameters);
+    if (depth_ > 0) return RunWithin(sql, parameters);
     Connect();
     try {
         return connection_->Run(sql, parameters);
@@ -112,6 +112,16 @@ PostgresResult PostgresEngine::Run(const std::string& sql, const PostgresParamet
     }
     connection_ = std::make_unique<PostgresConnection>(link_);
     return connection_->Run(sql, parameters);
+}
+
+// A want of room ends the whole, as it does with a file: what still finds room would be half a record.
+PostgresResult PostgresEngine::RunWithin(const std::string& sql, const PostgresParameters& parameters) {
+    try {
+        return connection_->Run(sql, parameters);
+    } catch (const RuntimeError& error) {
+        hasGivenUp_ = hasGivenUp_ || error.Number == ServerHasNoRoom;
+        throw;
+    }
 }
 
 std::string PostgresEngine::Named(std::string_view table) const {
@@ -198,6 +208,7 @@ void PostgresEngine::Begin(int level) {
     };
     Connect();
     depth_ = 1;
+    hasGivenUp_ = false;
     try {
         begin();
     } catch (const RuntimeError&) {
@@ -243,7 +254,7 @@ void PostgresEngine::Undo(int level) noexcept {
 }
 
 bool PostgresEngine::InTransaction() const {
-    return depth_ > 0 && connection_ != nullptr && connection_->InTransaction();
+    return depth_ > 0 && !hasGivenUp_ && connection_ != nullptr && connection_->InTransaction();
 }
 
 void PostgresEngine::TryToWrite() {

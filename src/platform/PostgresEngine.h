@@ -50,6 +50,7 @@ public:
 private:
     explicit PostgresEngine(const ServerLink& link);
     void Connect();
+    PostgresResult RunWithin(const std::string& sql, const PostgresParameters& parameters);
     void TieTo(const TableShape& names, const TableShape& keys);
     void CheckKind(const DatabaseKind& kind);
 
@@ -59,6 +60,7 @@ private:
     std::unique_ptr<PostgresConnection> connection_;
     std::set<std::string, std::less<>> tables_, added_;
     int depth_ = 0;
+    bool hasGivenUp_ = false;  // the transaction at hand
 };
 
 // A text as the server keeps it, and back. It takes no byte 0 and no byte that is part of no character: such

@@ -1,4 +1,5 @@
 // Rows and named values on a server, see Engine.h.
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <deque>
@@ -62,14 +63,24 @@ public:
     void EachRow(std::span<const std::string_view> fields,
                  const std::function<void(Recordset::TextRow)>& act) override;
     void Insert(const RowData& row) override;
+    void InsertAll(std::span<const RowData> rows) override;
     void Update(const FieldValue& key, const RowData& row) override;
     void Delete(const FieldValue& key) override;
 
 private:
+    // Parameters of a statement that writes, and the texts behind them.
+    struct WrittenRows {
+        std::deque<std::string> Texts;
+        PostgresParameters Parameters;
+
+        void AddKey(const FieldValue& key);
+        void Add(const TableShape& table, const RowData& row);
+    };
+
     const std::string& Select(RowAt place);
     std::string Fields() const;
     void ReadRow(const PostgresResult& result, int number, RowData& row) const;
-    void Write(const std::string& sql, const RowData& row, const FieldValue* key);
+    std::string InsertOf(std::size_t rows) const;
 
     PostgresEngine& engine_;
     const TableShape& table_;
@@ -169,38 +180,57 @@ void PostgresRows::EachRow(std::span<const std::string_view> fields,
     }
 }
 
-void PostgresRows::Write(const std::string& sql, const RowData& row, const FieldValue* key) {
-    const std::string order = KeyOf(row[0]), former = key == nullptr ? "" : KeyOf(*key);
-    std::vector<std::string> texts(row.size());
-    PostgresParameters parameters;
-    parameters.AddBytes(order);
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        if (const auto* text = std::get_if<std::string>(&row[i])) {
-            texts[i] = ToServer(*text);
-        } else if (const auto* number = std::get_if<double>(&row[i])) {
-            texts[i] = NumberText(table_.Fields[i].Type, *number);
-        } else {
-            parameters.AddNull();
-            continue;
-        }
-        parameters.AddText(texts[i]);
-    }
-    if (key != nullptr) parameters.AddBytes(former);
-    engine_.Run(sql, parameters);
+void PostgresRows::WrittenRows::AddKey(const FieldValue& key) {
+    Parameters.AddBytes(Texts.emplace_back(KeyOf(key)));
 }
 
-void PostgresRows::Insert(const RowData& row) {
-    std::string marks = "$1";
-    for (std::size_t i = 0; i < row.size(); ++i) marks += ", $" + std::to_string(i + 2);
-    Write("INSERT INTO " + name_ + "(key_order, " + Fields() + ") VALUES(" + marks + ")", row, nullptr);
+void PostgresRows::WrittenRows::Add(const TableShape& table, const RowData& row) {
+    AddKey(row[0]);
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        if (const auto* text = std::get_if<std::string>(&row[i])) {
+            Parameters.AddText(Texts.emplace_back(ToServer(*text)));
+        } else if (const auto* number = std::get_if<double>(&row[i])) {
+            Parameters.AddText(Texts.emplace_back(NumberText(table.Fields[i].Type, *number)));
+        } else {
+            Parameters.AddNull();
+        }
+    }
 }
+
+std::string PostgresRows::InsertOf(std::size_t rows) const {
+    std::string sql = "INSERT INTO " + name_ + "(key_order, " + Fields() + ") VALUES";
+    std::size_t mark = 0;
+    for (std::size_t row = 0; row < rows; ++row) {
+        sql += row == 0 ? "(" : ", (";
+        for (std::size_t i = 0; i <= table_.Fields.size(); ++i)
+            sql += (i == 0 ? "$" : ", $") + std::to_string(++mark);
+        sql += ")";
+    }
+    return sql;
+}
+
+void PostgresRows::InsertAll(std::span<const RowData> rows) {
+    constexpr std::size_t mostMarks = 20'000;  // of a statement; the server takes 65,535
+    const std::size_t atOnce = std::max<std::size_t>(1, mostMarks / (table_.Fields.size() + 1));
+    for (; !rows.empty(); rows = rows.subspan(std::min(atOnce, rows.size()))) {
+        const auto these = rows.first(std::min(atOnce, rows.size()));
+        WrittenRows written;
+        for (const RowData& row : these) written.Add(table_, row);
+        engine_.Run(InsertOf(these.size()), written.Parameters);
+    }
+}
+
+void PostgresRows::Insert(const RowData& row) { InsertAll({&row, 1}); }
 
 void PostgresRows::Update(const FieldValue& key, const RowData& row) {
     std::string sets = "key_order = $1";
     for (std::size_t i = 0; i < row.size(); ++i)
         sets += ", " + Quoted(table_.Fields[i].Name) + " = $" + std::to_string(i + 2);
-    Write("UPDATE " + name_ + " SET " + sets + " WHERE key_order = $" + std::to_string(row.size() + 2), row,
-          &key);
+    WrittenRows written;
+    written.Add(table_, row);
+    written.AddKey(key);
+    engine_.Run("UPDATE " + name_ + " SET " + sets + " WHERE key_order = $" + std::to_string(row.size() + 2),
+                written.Parameters);
 }
 
 void PostgresRows::Delete(const FieldValue& key) {

@@ -189,6 +189,14 @@ void Recordset::Update() {
     if (!isNew) rows_->Fetch(RowAt::Key, std::get<std::string>(buffer_[0]), row_);
 }
 
+void Recordset::AddAll(std::vector<std::vector<FieldValue>> rows) {
+    for (std::vector<FieldValue>& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i)
+            row[i] = FittedValue(table_.Fields[i], std::move(row[i]));
+    }
+    rows_->InsertAll(rows);
+}
+
 void Recordset::Delete() {
     if (place_ != Place::Row) throw failure::NoCurrentRecord();
     rows_->Delete(row_[0]);

@@ -11,8 +11,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "forms/CalculationForm.h"
+#include "forms/frmCompare.h"
+#include "forms/frmPrintControl.h"
+#include "forms/RecordInHand.h"
+#include "forms/RegisterForms.h"
+#include "platform/UserActs.h"
 #include "records/RecordCopy.h"
 #include "records/RecordExport.h"
+#include "records/RecordRows.h"
 #include "tests/records/RecordFixture.h"
 
 namespace quillmetra {
@@ -82,6 +89,24 @@ TEST_F(ServerTest, AnothersChangeIsNamedBeforeItIsWrittenOver) {
     EXPECT_TRUE(
         User.LastText().starts_with("P-1 was changed by " + std::string(std::getenv("PGUSER")) + " at 20"));
     EXPECT_EQ(RecordView(Suite.DatabaseFile).Head().CalcBy, "somebody");
+    // The form opens the comparison by itself, and nobody has changed anything from there on.
+    RegisterForms();
+    RecordView mine(Suite.DatabaseFile);
+    ASSERT_TRUE(mine.Find("P-1") && TakeRecord(mine.Head()));
+    auto& form = dynamic_cast<CalculationForm&>(LoadForm(FillCalculationForm()));
+    ShowForm(form.Name());
+    Suite.DefaultPaths[path::Database] = Suite.DatabasePath;
+    User.Boxes.clear();
+    ChangeHead("P-1", "Calc By", "another");
+    User.Answers = {Answer::Yes};
+    ClickControl(form.mnuSave);
+    ASSERT_TRUE(IsFormLoaded("frmCompare")) << User.LastText();
+    const auto& shown = dynamic_cast<frmCompare&>(LoadForm("frmCompare"));
+    EXPECT_TRUE(shown.lblRecords.Caption().starts_with("P-1 here and P-1 as it is stored"))
+        << shown.lblRecords.Caption();
+    UnloadForm("frmCompare");
+    DiscardForm(form.Name());
+    ChangeHead("P-1", "Calc By", "somebody");
     // Declined, the usual question follows; then nobody has changed anything.
     User.Boxes.clear();
     User.Answers = {Answer::No, Answer::Yes};
@@ -108,6 +133,16 @@ TEST_F(ServerTest, AReaderReadsAndIsToldWhatHeMayNot) {
     BecomeRole("quillmetra_reader", "SELECT");
     EXPECT_TRUE(Display("P-1"));
     EXPECT_EQ(ExportRecords(Suite.DatabaseFile, SuitePath(Folder / "r.csv")), 1);
+    RegisterForms();
+    EXPECT_TRUE(dynamic_cast<frmCompare&>(LoadForm("frmCompare")).Take("P-1", "P-1")) << User.LastText();
+    User.Printing = PrinterChoice{};
+    ShowForm("frmTRProg");
+    ShowForm("frmPrintControl");
+    auto& print = dynamic_cast<frmPrintControl&>(LoadForm("frmPrintControl"));
+    ClickControl(print.cmdAll);
+    ClickControl(print.cmdProceed);
+    EXPECT_EQ(User.Pages.size(), 1U) << User.LastText();
+    ASSERT_TRUE(Display("P-1"));
     EXPECT_FALSE(SaveTRCalc());
     EXPECT_TRUE(User.LastText().starts_with("You have no right to do this on the server\n"))
         << User.LastText();
@@ -121,6 +156,21 @@ TEST_F(ServerTest, AReaderReadsAndIsToldWhatHeMayNot) {
     EXPECT_EQ(Sql("SELECT DISTINCT changed_by FROM " + Schema() + ".\\\"Process Calculations\\\""),
               "quillmetra_writer\n");
     EXPECT_TRUE(DeleteRecord(Suite.DatabaseFile, "P-1"));
+}
+
+TEST_F(ServerTest, AFullDiskIsToldAndLosesNothing) {
+    SaveNew("P-1");
+    const std::string rows = Schema() + ".\\\"Units\\\"";
+    Sql("CREATE FUNCTION " + Schema() +
+        ".full() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN RAISE disk_full; END'; CREATE TRIGGER full_disk "
+        "BEFORE INSERT ON " +
+        rows + " EXECUTE FUNCTION " + Schema() + ".full()");
+    TakeFilledRecord(1, 1, "P-2");
+    EXPECT_FALSE(SaveTRCalc());
+    EXPECT_TRUE(User.LastText().starts_with("The disk of the server is full\n")) << User.LastText();
+    EXPECT_EQ(RowsWith("P-2"), "");
+    Sql("DROP TRIGGER full_disk ON " + rows);
+    EXPECT_TRUE(SaveTRCalc()) << User.LastText();
 }
 
 // A connection that the server ends is made anew by the next act; in the middle of one the act is told.
@@ -160,6 +210,7 @@ TEST_F(ServerTest, AllRecordsGoToAFileAndBack) {
     EXPECT_FALSE(RecordView(file).HasRecord()) << "all or none";
     EXPECT_TRUE(CopyAllRecords(server, file, until(1000)));
     EXPECT_EQ(told, 6 + 6 + 2 + 3 + 1 + 1 + 6) << "rows of all tables";
+    NamedValues(*OpenRecords(file), ExtrasTable()).Set("gone", "Pipe", "of no record");
     EXPECT_TRUE(CopyAllRecords(file, again, until(1000)));
     EXPECT_EQ(bytesOf(file), bytesOf(server));
     EXPECT_EQ(bytesOf(again), bytesOf(server));
@@ -179,20 +230,60 @@ void SaveRound(int round) {
     std::fflush(stdout);
 }
 
+const std::vector<std::string> ListedTags = {"K-1", "K-2", "K-3"};
+
+// As an import writes its records: all in one transaction.
+void ImportRound(int round) {
+    const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+    Transaction all(*database);
+    RowStore store(*database);
+    for (const std::string& tag : ListedTags) {
+        TakeFilledRecord(1, 1, tag);
+        Calc.CaseInput[3][0] = Calc.StdPressure = round;
+        Calc.HeadingText[8] = std::to_string(round);
+        RecordRows rows;
+        for (const RecordTable* table :
+             {&HeadTable(), &UnitsTable(), &PressureDropTable(), &SettingsTable()}) {
+            for (const auto& value : RowOfRecord(*table))
+                rows.Of(*table).push_back(value.value_or(FieldValue()));
+        }
+        store.Write(rows);
+    }
+    all.Commit();
+}
+
+// An even round deletes what the one before has written.
+void DeleteRound(int round) {
+    round % 2 != 0 ? ImportRound(round) : void(DeleteRecords(Suite.DatabaseFile, ListedTags));
+}
+
+void PlayRound(const std::string& act, int round) {
+    if (act == "save") return SaveRound(round);
+    try {
+        act == "import" ? ImportRound(round) : DeleteRound(round);
+        std::printf("%d\n", round);
+        std::fflush(stdout);
+    } catch (const RuntimeError&) {
+    }
+}
+
 TEST_F(ServerTest, Saver) {
     const char* const link = std::getenv("QUILLMETRA_SAVER");
     if (link == nullptr) GTEST_SKIP() << "the process that is killed";
     std::filesystem::copy_file(MachinePath(link), File(), std::filesystem::copy_options::overwrite_existing);
-    for (int round = std::atoi(std::getenv("QUILLMETRA_ROUND")); getppid() != 1; ++round) SaveRound(round);
+    const std::string act = std::getenv("QUILLMETRA_ACT");
+    for (int round = std::atoi(std::getenv("QUILLMETRA_ROUND")); getppid() != 1; ++round)
+        PlayRound(act, round);
 }
 
 // Starts the saver and reads the rounds that it acknowledges, until it is killed or has lost its server.
 class KilledSaver {
 public:
-    KilledSaver(const std::filesystem::path& link, int round) {
+    KilledSaver(const std::filesystem::path& link, const char* act, int round) {
         std::array<int, 2> ends{};
         if (::pipe(ends.data()) != 0) return;
         setenv("QUILLMETRA_SAVER", link.c_str(), 1);
+        setenv("QUILLMETRA_ACT", act, 1);
         setenv("QUILLMETRA_ROUND", std::to_string(round).c_str(), 1);
         process_ = fork();
         if (process_ == 0) {
@@ -229,13 +320,38 @@ private:
     int last_ = 0;
 };
 
-TEST_F(ServerTest, NoKillTearsARecordOrLosesASave) {
+class ServerKillTest : public ServerTest, public testing::WithParamInterface<const char*> {
+protected:
+    // The round that a record holds, whole; 0 for one that is not there, in any table.
+    int RoundOf(const std::string& tag) {
+        if (RowsWith(tag).empty()) return 0;
+        User.Boxes.clear();
+        EXPECT_TRUE(Display(tag)) << User.LastText();
+        const int round = std::atoi(Calc.HeadingText[8].c_str());
+        EXPECT_EQ(Calc.CaseInput[3][0], round);
+        EXPECT_EQ(Calc.StdPressure, round);
+        return round;
+    }
+
+    // Of all records of the act, which must be in one; those that are deleted are in an even one.
+    int StoredRound(const std::string& act, int last) {
+        const int round = RoundOf("K-1");
+        if (act == "save") return round;
+        for (const std::string& tag : ListedTags) EXPECT_EQ(RoundOf(tag), round) << tag;
+        return act == "delete" && round == 0 ? last + last % 2 : round;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Acts, ServerKillTest, testing::Values("save", "import", "delete"));
+
+TEST_P(ServerKillTest, NoKillTearsARecordOrLosesWhatIsDone) {
+    SaveNew("other");
     const char* const count = std::getenv("QUILLMETRA_KILLS");
-    const int kills = count == nullptr ? 12 : std::atoi(count);
+    const int kills = count == nullptr ? 6 : std::atoi(count);
     std::mt19937 chance(4711);
     int last = 0;
     for (int i = 0; i < kills; ++i) {
-        KilledSaver saver(File(), last + 1);
+        KilledSaver saver(File(), GetParam(), last + 1);
         const auto life = std::chrono::milliseconds(chance() % 250);
         if (i % 3 == 1) {  // the server of that connection; the others then start anew
             std::this_thread::sleep_for(life);
@@ -249,14 +365,8 @@ TEST_F(ServerTest, NoKillTearsARecordOrLosesASave) {
         }
         last = std::max(last, saver.LastSaved(life));
         while (Sql("SELECT 1") != "1\n") std::this_thread::sleep_for(50ms);
-        const int stored = [&] {
-            User.Boxes.clear();
-            EXPECT_TRUE(Display("K-1")) << User.LastText();
-            return std::atoi(Calc.HeadingText[8].c_str());
-        }();
+        const int stored = StoredRound(GetParam(), last);
         EXPECT_GE(stored, last) << "after kill " << i;
-        EXPECT_EQ(Calc.CaseInput[3][0], stored);
-        EXPECT_EQ(Calc.StdPressure, stored);
         last = stored;
     }
     EXPECT_GT(last, kills / 2);
