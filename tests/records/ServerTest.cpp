@@ -268,12 +268,11 @@ void PlayRound(const std::string& act, int round) {
 }
 
 TEST_F(ServerTest, Saver) {
-    const char* const link = std::getenv("QUILLMETRA_SAVER");
-    if (link == nullptr) GTEST_SKIP() << "the process that is killed";
+    const char *const link = std::getenv("QUILLMETRA_SAVER"), *const act = std::getenv("QUILLMETRA_ACT"),
+                      *const first = std::getenv("QUILLMETRA_ROUND");
+    if (link == nullptr || act == nullptr || first == nullptr) GTEST_SKIP() << "the process that is killed";
     std::filesystem::copy_file(MachinePath(link), File(), std::filesystem::copy_options::overwrite_existing);
-    const std::string act = std::getenv("QUILLMETRA_ACT");
-    for (int round = std::atoi(std::getenv("QUILLMETRA_ROUND")); getppid() != 1; ++round)
-        PlayRound(act, round);
+    for (int round = std::atoi(first); getppid() != 1; ++round) PlayRound(act, round);
 }
 
 // Starts the saver and reads the rounds that it acknowledges, until it is killed or has lost its server.
