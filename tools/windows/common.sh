@@ -204,11 +204,12 @@ PlayTests() {
 # What a script prints, the same on every machine but for the names of its own folder.
 Plain() { sed -E 's/\r$//; s#([A-Z]:\\users\\[^\\]*\\Temp|[\\/]tmp)[\\/]quillmetra-[0-9]+#FOLDER#g'; }
 
-# Both players, each in a folder of its own; what they print and the pages they write must be the same.
+# Both players, each in a folder of its own, with the lists of the examples; what they print and the pages they write must be the same.
 PlayBoth() {
     local Script=$PWD/$2 Windows=$WineHome/windows Machine=$WineHome/machine Page
     rm -rf -- "$Windows" "$Machine"
     mkdir "$Windows" "$Machine"
+    tee "$Windows/plant-lines.csv" "$Machine/plant-lines.csv" <examples/plant-lines.csv >/dev/null
     (cd -- "$Windows" && wine "$1" "$(WindowsPath "$Script")" >printed)
     (cd -- "$Machine" && QT_QPA_PLATFORM=offscreen "$Player" "$Script" >printed)
     diff <(Plain <"$Machine/printed") <(Plain <"$Windows/printed")
