@@ -17,7 +17,6 @@ namespace quillmetra {
 namespace {
 
 constexpr const char* FormName = "frmImport";
-bool HasSaved = false;  // of the form shown last
 
 bool IsProblem(const ImportLine& line) {
     return line.State == ImportState::Refused || line.State == ImportState::Told;
@@ -148,7 +147,7 @@ void frmImport::cmdSave_Click() {
         Tell(error.Description, Caption(), Icon::Stop);
         return;
     }
-    HasSaved = true;
+    if (Saved) Saved();
     import_.reset();
     cmdSave.SetEnabled(false);
     chkReplace.SetEnabled(false);
@@ -166,10 +165,12 @@ std::string AskListFile() {
 }
 
 bool ImportRecords(const std::string& file) {
-    HasSaved = false;
-    dynamic_cast<frmImport&>(LoadForm(FormName)).TakeFile(file);
+    bool saved = false;
+    auto& form = dynamic_cast<frmImport&>(LoadForm(FormName));
+    form.TakeFile(file);
+    form.Saved = [&saved] { saved = true; };
     ShowForm(FormName, Modal::Yes);
-    return HasSaved;
+    return saved;
 }
 
 }  // namespace quillmetra

@@ -19,6 +19,7 @@ public:
 
     // The list that is read; set before the form is shown.
     void TakeFile(const std::string& file);
+    Handler Saved;  // some were written; null when nobody asks
 
     Label lblFile{*this, "lblFile", "List"};
     CommandButton cmdFile{*this, "cmdFile", "&List..."};
