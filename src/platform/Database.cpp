@@ -29,6 +29,8 @@ std::string Database::SchemaText(const TableShape& table) { return SqliteEngine:
 
 bool Database::HasTable(std::string_view name) { return engine_->HasTable(name); }
 void Database::AddTable(const TableShape& table) { engine_->AddTable(table); }
+bool Database::IsOfEarlierForm() const { return engine_->IsOfEarlierForm(); }
+void Database::BringUp(const std::vector<TableShape>& tables) { engine_->BringUp(tables); }
 void Database::CompactInto(const fs::path& file) { engine_->CompactInto(file); }
 void Database::CopyInto(const fs::path& file) const { engine_->CopyInto(file); }
 void Database::Reindex() { engine_->Reindex(); }

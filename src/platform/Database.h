@@ -113,6 +113,11 @@ public:
     // Adds a table that is absent. Inside a transaction it goes with it.
     void AddTable(const TableShape& table);
 
+    // Whether a server keeps it in the form of an earlier version, which must be brought up before anything
+    // else is done with it; all or nothing. Throws for one who is not its owner, naming him.
+    bool IsOfEarlierForm() const;
+    void BringUp(const std::vector<TableShape>& tables);
+
     // Writes a copy without gaps, sorted by key, to a file that must not exist.
     void CompactInto(const std::filesystem::path& file);
     // Writes a copy page by page, which is quicker, to a file that must not exist. The caller sees to it that

@@ -88,6 +88,8 @@ public:
     virtual std::unique_ptr<EngineNames> Names(const TableShape& table) = 0;
     virtual bool HasTable(std::string_view name) = 0;
     virtual void AddTable(const TableShape& table) = 0;
+    virtual bool IsOfEarlierForm() const { return false; }
+    virtual void BringUp(const std::vector<TableShape>&) {}
 
     virtual void Begin(int level) = 0;
     virtual void Commit(int level) = 0;

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <future>
 #include <string>
+#include <thread>
 #include <utility>
 
 #ifdef _WIN32
@@ -25,7 +27,7 @@ constexpr auto LongestSilence = 4000ms;
 // Of one act: as long as all its answers together may take when each of them is slow.
 constexpr auto LongestSlowness = 4000ms, SlowAnswer = 250ms;
 constexpr auto BetweenActs = 1000ms;
-constexpr int ServerLost = EngineFailures + 150, ServerRefused = EngineFailures + 151;
+constexpr int ServerLost = EngineFailures + 150;
 
 // By the first letters of the standard's codes of failures.
 struct FailureWords {
@@ -96,36 +98,50 @@ PostgresConnection::PostgresConnection(const ServerLink& link) : link_(link) {
 }
 
 // Keeps the names that are given; the library's own ways find the rest, a password above all.
-void PostgresConnection::Connect() {
+PostgresConnection::Options PostgresConnection::OptionsOfLink() const {
+    Options options = {{"service", link_.Service},
+                       {"host", link_.Host},
+                       {"port", link_.Port},
+                       {"dbname", link_.Database},
+                       {"user", link_.User},
+                       {"client_encoding", "UTF8"},
+                       {"fallback_application_name", "Quillmetra"},
+                       {"tcp_user_timeout", "4000"},
+                       {"keepalives_idle", "5"},
+                       {"keepalives_interval", "2"},
+                       {"keepalives_count", "2"}};
+    std::erase_if(options, [](const auto& option) { return option.second.empty(); });
+    return options;
+}
+
+// What has come of it by then: open, or with words about what is wrong; none when there was no answer.
+PostgresConnection::Handle PostgresConnection::Reach(const Options& options, Clock::time_point until) {
     std::vector<const char*> names, values;
-    const auto add = [&](const char* name, const char* value) {
-        if (*value == '\0') return;
-        names.push_back(name);
-        values.push_back(value);
-    };
-    add("service", link_.Service.c_str());
-    add("host", link_.Host.c_str());
-    add("port", link_.Port.c_str());
-    add("dbname", link_.Database.c_str());
-    add("user", link_.User.c_str());
-    add("client_encoding", "UTF8");
-    add("fallback_application_name", "Quillmetra");
-    for (const auto& [name, value] : {std::pair{"tcp_user_timeout", "4000"},
-                                      {"keepalives_idle", "5"},
-                                      {"keepalives_interval", "2"},
-                                      {"keepalives_count", "2"}})
-        add(name, value);
+    for (const auto& [name, value] : options) {
+        names.push_back(name.c_str());
+        values.push_back(value.c_str());
+    }
     names.push_back(nullptr);
     values.push_back(nullptr);
-
-    connection_.reset(PQconnectStartParams(names.data(), values.data(), 0));
-    if (PQstatus(connection_.get()) == CONNECTION_BAD) Lose(PQerrorMessage(connection_.get()));
-    const auto until = Clock::now() + LongestSilence;
-    for (PostgresPollingStatusType next = PGRES_POLLING_WRITING; next != PGRES_POLLING_OK;) {
-        Wait(next == PGRES_POLLING_WRITING, until);
-        next = PQconnectPoll(connection_.get());
-        if (next == PGRES_POLLING_FAILED) Lose(PQerrorMessage(connection_.get()));
+    Handle handle(PQconnectStartParams(names.data(), values.data(), 0), PQfinish);
+    if (PQstatus(handle.get()) == CONNECTION_BAD) return handle;
+    for (PostgresPollingStatusType next = PGRES_POLLING_WRITING;
+         next != PGRES_POLLING_OK && next != PGRES_POLLING_FAILED; next = PQconnectPoll(handle.get())) {
+        if (!CanGoOn(handle.get(), next == PGRES_POLLING_WRITING, until)) return {nullptr, PQfinish};
     }
+    return handle;
+}
+
+// The library waits for the name of a host to be found, however long that takes; so it does this beside, and
+// is left to itself when the time is over. It shares nothing with anything else.
+void PostgresConnection::Connect() {
+    const auto until = Clock::now() + LongestSilence;
+    std::packaged_task<Handle()> reach([options = OptionsOfLink(), until] { return Reach(options, until); });
+    std::future<Handle> reached = reach.get_future();
+    std::thread(std::move(reach)).detach();
+    if (reached.wait_until(until + SlowAnswer) == std::future_status::ready) connection_ = reached.get();
+    if (connection_ == nullptr) Lose("It does not answer");
+    if (PQstatus(connection_.get()) != CONNECTION_OK) Lose(PQerrorMessage(connection_.get()));
 }
 
 // A client that has gone without a word holds its lock no longer than this.
@@ -177,20 +193,24 @@ void PostgresConnection::Lose(const std::string& reason) {
     throw RuntimeError(number, words + "\n" + link_.Words() + "\n" + message);
 }
 
-void PostgresConnection::Wait(bool alsoWrite, Clock::time_point until) {
+bool PostgresConnection::CanGoOn(PGconn* connection, bool alsoWrite, Clock::time_point until) {
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(until - Clock::now());
-    if (left.count() <= 0) Lose("It does not answer");
+    if (left.count() <= 0) return false;
 #ifdef _WIN32
     WSAPOLLFD waiting{};
     const auto wait = [&] { return WSAPoll(&waiting, 1, static_cast<int>(left.count())); };
-    waiting.fd = static_cast<SOCKET>(PQsocket(connection_.get()));
+    waiting.fd = static_cast<SOCKET>(PQsocket(connection));
 #else
     pollfd waiting{};
     const auto wait = [&] { return poll(&waiting, 1, static_cast<int>(left.count())); };
-    waiting.fd = PQsocket(connection_.get());
+    waiting.fd = PQsocket(connection);
 #endif
     waiting.events = static_cast<short>(POLLIN | (alsoWrite ? POLLOUT : 0));
-    if (wait() == 0) Lose("It does not answer");
+    return wait() != 0;
+}
+
+void PostgresConnection::Wait(bool alsoWrite, Clock::time_point until) {
+    if (!CanGoOn(connection_.get(), alsoWrite, until)) Lose("It does not answer");
 }
 
 void PostgresConnection::Send(const std::string& sql, const PostgresParameters& parameters) {

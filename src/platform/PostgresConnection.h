@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <libpq-fe.h>
@@ -19,8 +20,8 @@
 
 namespace quillmetra {
 
-// The number of a failure for want of room on the server.
-inline constexpr int ServerHasNoRoom = EngineFailures + 152;
+// The numbers of failures for want of right, and of room on the server.
+inline constexpr int ServerRefused = EngineFailures + 151, ServerHasNoRoom = EngineFailures + 152;
 
 // The rows that a statement gave.
 class PostgresResult {
@@ -83,10 +84,17 @@ public:
     [[noreturn]] void Lose(const std::string& reason);
 
 private:
+    using Handle = std::unique_ptr<PGconn, decltype(&PQfinish)>;
+    using Options = std::vector<std::pair<std::string, std::string>>;
+
     void Connect();
+    Options OptionsOfLink() const;
+    static Handle Reach(const Options& options, Clock::time_point until);
     void Prepare();
     void Send(const std::string& sql, const PostgresParameters& parameters);
-    // Until the server can be read from or, when there is something to be sent, written to.
+    // Until the server can be read from or, when there is something to be sent, written to; false when the
+    // time is over before.
+    static bool CanGoOn(PGconn* connection, bool alsoWrite, Clock::time_point until);
     void Wait(bool alsoWrite, Clock::time_point until);
     PGresult* Next();
     PGresult* Collect(std::size_t statements);
@@ -95,7 +103,7 @@ private:
     RuntimeError Failure(const PGresult* result) const;
 
     const ServerLink link_;
-    std::unique_ptr<PGconn, decltype(&PQfinish)> connection_{nullptr, PQfinish};
+    Handle connection_{nullptr, PQfinish};
     std::map<std::string, std::string, std::less<>> prepared_;
     std::vector<std::string> putOff_;
     bool isOpen_ = false, isLost_ = false, hasDiedUnused_ = false, hasNotice_ = false, listens_ = false;

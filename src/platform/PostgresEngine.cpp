@@ -29,59 +29,6 @@ std::unique_ptr<PostgresConnection> TakeIdle(const ServerLink& link) {
     return taken;
 }
 
-const char* ServerType(FieldType type) {
-    switch (type) {
-        case FieldType::Integer: return "smallint";
-        case FieldType::Single: return "real";
-        default: return "text";
-    }
-}
-
-std::string Literal(std::string_view text) {
-    std::string quoted(1, '\'');
-    for (const char c : text) quoted.append(c == '\'' ? 2 : 1, c);
-    return quoted.append(1, '\'');
-}
-
-// In a statement "%s" is the schema as a name and "%l" as a text.
-std::string OfSchema(std::string_view pattern, const std::string& schema) {
-    std::string sql;
-    for (std::size_t i = 0; i < pattern.size(); ++i) {
-        if (pattern[i] != '%') {
-            sql += pattern[i];
-            continue;
-        }
-        sql += pattern[++i] == 's' ? Quoted(schema) : Literal(schema);
-    }
-    return sql;
-}
-
-// The first writing statement of a transaction gives the database its new number, and tells the others of it
-// when the transaction is through.
-constexpr std::string_view Functions[] = {
-    R"(CREATE OR REPLACE FUNCTION %s.note_author() RETURNS trigger LANGUAGE plpgsql AS $$
-BEGIN
-    NEW.changed_by := session_user;
-    NEW.changed_at := now();
-    RETURN NEW;
-END $$)",
-    R"(CREATE OR REPLACE FUNCTION %s.note_change() RETURNS trigger LANGUAGE plpgsql
-SECURITY DEFINER SET search_path = pg_catalog AS $$
-DECLARE
-    own bigint := pg_current_xact_id()::text::bigint;
-BEGIN
-    UPDATE %s."Suite" SET change = own WHERE change <> own;
-    IF FOUND THEN
-        PERFORM pg_notify('quillmetra', %l);
-    END IF;
-    RETURN NULL;
-END $$)"};
-
-constexpr std::string_view SuiteTable =
-    "CREATE TABLE IF NOT EXISTS %s.\"Suite\"(application bigint NOT NULL, number integer NOT NULL, change "
-    "bigint NOT "
-    "NULL)";
-
 }  // namespace
 
 PostgresEngine::PostgresEngine(const ServerLink& link) : link_(link), stamp_{} {}
@@ -134,64 +81,11 @@ void PostgresEngine::CheckKind(const DatabaseKind& kind) {
         Run(OfSchema("SELECT application, number, relname FROM %s.\"Suite\", pg_class"
                      " WHERE relnamespace = to_regnamespace(quote_ident(%l)) AND relkind IN ('r', 'p', 'v')",
                      link_.Schema));
-    if (found.Rows() == 0 || found.Number(0, 0) != kind.Application) throw failure::DatabaseInvalid();
-    if (found.Number(0, 1) > kind.Schema) throw failure::DatabaseNewer();
+    TakeNumber(found, kind);
     for (int i = 0; i < found.Rows(); ++i) tables_.emplace(found.At(i, 2));
 }
 
-void PostgresEngine::Create(const ServerLink& link, const DatabaseKind& kind,
-                            const std::vector<TableShape>& tables) {
-    PostgresEngine engine(link);
-    engine.Begin(0);
-    try {
-        // Who has been given a schema need not have the right to make one.
-        const bool isThere =
-            !engine.Run(OfSchema("SELECT to_regnamespace(quote_ident(%l))", link.Schema)).IsNull(0, 0);
-        if (!isThere) engine.Run(OfSchema("CREATE SCHEMA %s", link.Schema));
-        engine.Run(OfSchema(SuiteTable, link.Schema));
-        for (const std::string_view function : Functions) engine.Run(OfSchema(function, link.Schema));
-        engine.Run("INSERT INTO " + engine.Named("Suite") + " SELECT " + std::to_string(kind.Application) +
-                   ", " + std::to_string(kind.Schema) + ", 0 WHERE NOT EXISTS (SELECT FROM " +
-                   engine.Named("Suite") + ")");
-        engine.CheckKind(kind);
-        for (const TableShape& table : tables) {
-            if (engine.HasTable(table.Name)) continue;
-            engine.AddTable(table);
-            if (table.KeyFields > 1) engine.TieTo(table, tables.front());
-        }
-        engine.Commit(0);
-    } catch (const RuntimeError&) {
-        engine.Undo(0);
-        throw;
-    }
-}
-
 bool PostgresEngine::HasTable(std::string_view name) { return tables_.contains(name); }
-
-void PostgresEngine::AddTable(const TableShape& table) {
-    if (HasTable(table.Name)) return;
-    std::string sql = "CREATE TABLE " + Named(table.Name) + "(key_order bytea NOT NULL";
-    std::string key = "key_order";
-    for (std::size_t i = 0; i < table.Fields.size(); ++i) {
-        const std::string name = Quoted(table.Fields[i].Name);
-        sql += ", " + name + " " + ServerType(table.Fields[i].Type);
-        if (i < table.KeyFields) sql += " COLLATE \"C\" NOT NULL";
-        if (i > 0 && i < table.KeyFields) key += ", " + name;
-    }
-    Run(sql + ", changed_by text, changed_at timestamptz, PRIMARY KEY(" + key + "))");
-    Run("CREATE TRIGGER note_author BEFORE INSERT OR UPDATE ON " + Named(table.Name) +
-        " FOR EACH ROW EXECUTE FUNCTION " + Named("note_author") + "()");
-    Run("CREATE TRIGGER note_change AFTER INSERT OR UPDATE OR DELETE OR TRUNCATE ON " + Named(table.Name) +
-        " FOR EACH STATEMENT EXECUTE FUNCTION " + Named("note_change") + "()");
-    tables_.insert(table.Name);
-    added_.insert(table.Name);
-}
-
-// Whoever deletes a row takes along what is named of it, so that nobody needs to look for what is left over.
-void PostgresEngine::TieTo(const TableShape& names, const TableShape& keys) {
-    Run("ALTER TABLE " + Named(names.Name) + " ADD FOREIGN KEY (key_order) REFERENCES " + Named(keys.Name) +
-        " ON UPDATE CASCADE ON DELETE CASCADE");
-}
 
 // What begins and ends an inner transaction goes with the statement behind it.
 void PostgresEngine::Begin(int level) {
@@ -273,10 +167,6 @@ bool KnowsServers() { return true; }
 
 std::unique_ptr<Engine> OpenOnServer(const fs::path& file, const DatabaseKind& kind) {
     return std::make_unique<PostgresEngine>(file, kind);
-}
-
-void CreateOnServer(const ServerLink& link, const DatabaseKind& kind, const std::vector<TableShape>& tables) {
-    PostgresEngine::Create(link, kind, tables);
 }
 
 std::int64_t PostgresEngine::Version() { return Run("SELECT change FROM " + Named("Suite")).Number(0, 0); }

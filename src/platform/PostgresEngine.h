@@ -2,8 +2,8 @@
 //
 // Each table has the fields of its shape, and beside them "key_order", the bytes by which keys compare
 // (KeyOrder.h) and the primary key, and "changed_by" and "changed_at", which the server fills by itself. The
-// table "Suite" has one row: what kind of database this is, and a number that changes with every transaction
-// that writes. Whoever writes has the database to himself, as with a file.
+// table "Suite" has one row: what kind of database this is, the number of its form, and one that changes with
+// every transaction that writes. Whoever writes has the database to himself, as with a file.
 #pragma once
 
 #include <map>
@@ -33,6 +33,8 @@ public:
     std::unique_ptr<EngineNames> Names(const TableShape& table) override;
     bool HasTable(std::string_view name) override;
     void AddTable(const TableShape& table) override;
+    bool IsOfEarlierForm() const override { return number_ < newest_; }
+    void BringUp(const std::vector<TableShape>& tables) override;
     void Begin(int level) override;
     void Commit(int level) override;
     void Undo(int level) noexcept override;
@@ -51,17 +53,24 @@ private:
     explicit PostgresEngine(const ServerLink& link);
     void Connect();
     PostgresResult RunWithin(const std::string& sql, const PostgresParameters& parameters);
-    void TieTo(const TableShape& names, const TableShape& keys);
     void CheckKind(const DatabaseKind& kind);
+    void TakeNumber(const PostgresResult& found, const DatabaseKind& kind);
+    void AddMissing(const std::vector<TableShape>& tables);
+    void TakeSteps(const std::vector<TableShape>& tables);
+    void MustBeOwner();
+    std::string OfNames(std::string_view pattern, const TableShape& names, const TableShape& keys) const;
 
     const ServerLink link_;
     const std::filesystem::path file_;
     const FileStamp stamp_;
     std::unique_ptr<PostgresConnection> connection_;
     std::set<std::string, std::less<>> tables_, added_;
-    int depth_ = 0;
-    bool hasGivenUp_ = false;  // the transaction at hand
+    int depth_ = 0, number_ = 0, newest_ = 0;  // of its form: as it is, and as it should be
+    bool hasGivenUp_ = false;                  // the transaction at hand
 };
+
+// In a statement "%s" is the schema as a name and "%l" as a text.
+std::string OfSchema(std::string_view pattern, const std::string& schema);
 
 // A text as the server keeps it, and back. It takes no byte 0 and no byte that is part of no character: such
 // a byte becomes a character of those that nobody uses.

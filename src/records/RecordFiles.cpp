@@ -33,6 +33,13 @@ std::vector<TableShape> Shapes() {
     return shapes;
 }
 
+// Later only whoever owns the schema could make the table of extras.
+std::vector<TableShape> ServerShapes() {
+    std::vector<TableShape> shapes = Shapes();
+    shapes.push_back(ExtrasTable());
+    return shapes;
+}
+
 fs::path InFolder(const std::string& folder, const std::string& name) {
     return MachinePath(folder + "\\" + name);
 }
@@ -172,6 +179,7 @@ bool IsSameFile(const std::string& a, const std::string& b) {
 
 std::unique_ptr<Database> OpenRecords(const std::string& file) {
     auto database = std::make_unique<Database>(MachinePath(file), Kind);
+    if (database->IsOfEarlierForm()) database->BringUp(ServerShapes());
     for (const RecordTable* table : RecordTables()) {
         if (table != &SettingsTable() && !database->HasTable(table->Shape.Name)) {
             throw failure::DatabaseInvalid();
@@ -188,9 +196,7 @@ void MakeEmptyDatabase(const std::string& name) {
 }
 
 void MakeServerDatabase(const std::string& name, const ServerLink& link) {
-    std::vector<TableShape> shapes = Shapes();
-    shapes.push_back(ExtrasTable());  // later only whoever owns the schema could make it
-    Database::CreateOnServer(link, Kind, shapes);
+    Database::CreateOnServer(link, Kind, ServerShapes());
     const Scratch beside(InFolder(FolderOf(name), "TRDB.new"));
     WriteServerLink(beside.File, link);
     Replace(beside.File, MachinePath(name));

@@ -205,7 +205,7 @@ TEST_F(DatabaseTest, LinksThatCannotBeFollowedSayWhy) {
     EXPECT_EQ(asked("dbname=none\n").find("The server has no such database"), 0U);
     EXPECT_EQ(asked("user=none\n").find("The server refuses the log-in"), 0U);
     const ServerLink later = NewServerLink();
-    Database::CreateOnServer(later, {Kind.Application, Kind.Schema + 1}, {});
+    Database::CreateOnServer(later, {Kind.Application, Kind.Schema + 9}, {});
     EXPECT_EQ(asked("schema=" + later.Schema + "\n"), failure::DatabaseNewer().Description);
 }
 
