@@ -1,5 +1,5 @@
 # The libraries that build.sh makes beside those of common.sh, each once. Of Qt Svg, of the libraries for XLSX and of that for
-# a server the suite can do without: what cannot be fetched is said, and the suite says what it then has not.
+# a server, with its encryption, the suite can do without: what cannot be fetched is said, and the suite says what it then has not.
 # Sourced, never started by itself.
 # shellcheck shell=bash
 
@@ -96,11 +96,37 @@ MakeXlsx() {
     MakeXlsxwriter
 }
 
+# What a connection to a server is encrypted by; without it a client reaches servers that do not ask for that.
+MakeOpenssl() {
+    local To=$Libraries/openssl-build
+    if [[ -f $Prefix/lib/libssl.dll.a ]]; then
+        return
+    fi
+    Heading "OpenSSL"
+    if ! Source openssl; then
+        echo "Its source package is not to be had: this build keeps records on servers without encryption alone."
+        return
+    fi
+    mkdir -p "$To"
+    (
+        cd -- "$To"
+        CC="ccache $Target-gcc-posix" AR="$Target-ar" RANLIB="$Target-ranlib" RC="$Target-windres" "$Libraries/src/openssl/Configure" \
+            mingw64 shared no-tests no-engine no-legacy no-module no-autoload-config \
+            --prefix=/ --libdir=lib --openssldir="/Program Files/Common Files/SSL" >configure.log
+        make -j "$(nproc)" build_libs >make.log
+        make install_dev DESTDIR="$Prefix" >>make.log
+    )
+}
+
 # The client of PostgreSQL alone, with the log-in of Windows.
 MakeLibpq() {
-    local To=$Libraries/libpq-build From=$Libraries/src/postgresql-15
-    if [[ -f $Prefix/include/libpq-fe.h ]]; then
+    local To=$Libraries/libpq-build From=$Libraries/src/postgresql-15 Options=()
+    MakeOpenssl
+    if [[ -f $Prefix/include/libpq-fe.h && ! $Prefix/lib/libssl.dll.a -nt $Prefix/include/libpq-fe.h ]]; then
         return
+    fi
+    if [[ -f $Prefix/lib/libssl.dll.a ]]; then
+        Options+=(--with-ssl=openssl "--with-includes=$Prefix/include" "--with-libraries=$Prefix/lib")
     fi
     Heading "libpq"
     if ! Source postgresql-15; then
@@ -110,7 +136,8 @@ MakeLibpq() {
     mkdir -p "$To"
     (
         cd -- "$To"
-        "$From/configure" --host="$Target" CC="ccache $Target-gcc-posix" --without-zlib --without-readline >configure.log
+        "$From/configure" --host="$Target" CC="ccache $Target-gcc-posix" --without-zlib --without-readline \
+            "${Options[@]}" >configure.log
         make -j "$(nproc)" -C src/interfaces/libpq >make.log
         cp src/interfaces/libpq/libpq.dll "$Prefix/bin/"
         cp src/interfaces/libpq/libpq.a "$Prefix/lib/libpq.dll.a"

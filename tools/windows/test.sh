@@ -170,6 +170,31 @@ SCRIPT
     grep -q $'^\xef\xbb\xbf"\\\\\\\\server\\\\share\\\\Ж 水' "$Folder/TRDRV.txt"
 }
 
+# The server's folder gets a certificate, which the user of Wine trusts.
+EncryptServer() {
+    local Data Certificates="$WineHome/certificates"
+    Data=$(psql -Atc "SHOW data_directory")
+    mkdir -p "$Certificates"
+    openssl req -x509 -newkey rsa:2048 -nodes -subj /CN=localhost -addext subjectAltName=DNS:localhost \
+        -keyout "$Data/server.key" -out "$Certificates/root.crt"
+    cp -- "$Certificates/root.crt" "$Data/server.crt"
+    chown --reference="$Data" "$Data"/server.{key,crt}
+    psql -qc "ALTER SYSTEM SET ssl = on" -c "SELECT pg_reload_conf()"
+    PGSSLROOTCERT=$(WindowsPath "$Certificates/root.crt")
+    export PGSSLROOTCERT PGSSLMODE=verify-full
+}
+
+# Beside a server: the tests of the record layer and the script of the records there. The package has its libpq.
+OnAServer() {
+    set -euo pipefail
+    EncryptServer
+    wine "$Package/bin/quillmetra-script.exe" "$(WindowsPath "$PWD/tests/scripts/server.qs")"
+    FindLibraries
+    Passes "$Build/bin/test_platform.exe" --gtest_brief=1 '--gtest_filter=DatabaseTest.*'
+    Passes "$Build/bin/test_records.exe" --gtest_brief=1 '--gtest_filter=-FileAlone*:Repair*'
+    [[ $(PGSSLROOTCERT="" PGSSLMODE=require psql -Atc 'SELECT count(*) FROM quillmetra."Process Calculations"') -gt 0 ]]
+}
+
 # --- the setup
 
 Installed="AppData/Local/Programs/Quillmetra"
@@ -256,7 +281,7 @@ Portable() {
     [[ -f $Folder/bin/TRData/Liquid.txt && ! -e $(UserFolder)/AppData/Roaming/quillmetra/TRData ]]
 }
 
-InstallMissing "${BuildPackages[@]}" "${TestPackages[@]}" "${WindowsPackages[@]}" "${WindowsSetupPackages[@]}"
+InstallMissing "${BuildPackages[@]}" "${TestPackages[@]}" "${ServerPackages[@]}" "${WindowsPackages[@]}" "${WindowsSetupPackages[@]}"
 Xvfb :97 -screen 0 1280x1024x24 >/dev/null 2>&1 &
 Screen=$!
 export DISPLAY=:97
@@ -279,6 +304,9 @@ Judge "starts, in less than a second" "$WineHome/log" Starts
 Judge "a second start" "$WineHome/log" StartsOnce
 Judge "texts in UTF-8" "$WineHome/log" SpeaksUtf8
 Judge "a long path on a share" "$WineHome/log" OnAShare
+export -f OnAServer EncryptServer WindowsPath FindLibraries Passes
+export WineHome Package Build Prefix Target
+Judge "records on a server, encrypted" "$WineHome/log" tools/on_server.sh bash -c OnAServer
 Heading "Settings of the system"
 FindLibraries
 QtSetting QT_QPA_PLATFORM offscreen
