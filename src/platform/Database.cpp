@@ -73,4 +73,11 @@ void Transaction::Commit() {
     open_ = false;
 }
 
+ReadAhead::ReadAhead(Database& database, std::string_view key, std::span<const TableShape* const> tables)
+    : engine_(*database.engine_) {
+    engine_.ReadAhead(key, tables);
+}
+
+ReadAhead::~ReadAhead() { engine_.ForgetAhead(); }
+
 }  // namespace quillmetra

@@ -144,6 +144,7 @@ public:
 
 private:
     friend class NamedValues;
+    friend class ReadAhead;
     friend class Recordset;
     friend class Transaction;
 
@@ -167,6 +168,20 @@ private:
     Database& database_;
     int level_;
     bool open_ = true;
+};
+
+// While it lives, a key is sought in these tables among the rows that a server has given all at one go when
+// it was made; with a file it does nothing. A write ends it. What could not be read so is asked for when it
+// is sought, and fails then.
+class ReadAhead {
+public:
+    ReadAhead(Database& database, std::string_view key, std::span<const TableShape* const> tables);
+    ~ReadAhead();
+    ReadAhead(const ReadAhead&) = delete;
+    ReadAhead& operator=(const ReadAhead&) = delete;
+
+private:
+    Engine& engine_;
 };
 
 // Who has written a row last and when, where the engine keeps that: empty of a file.

@@ -99,6 +99,9 @@ public:
     virtual void TryToWrite() = 0;  // within a transaction that is undone
     virtual std::int64_t Version() = 0;
     virtual bool HasNews() { return false; }
+    // See ReadAhead in Database.h; of use where each question takes its time.
+    virtual void ReadAhead(std::string_view, std::span<const TableShape* const>) {}
+    virtual void ForgetAhead() {}
     virtual bool IsReplaced() const = 0;
 
     // Of the file, which not every engine has.

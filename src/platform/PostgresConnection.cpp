@@ -213,14 +213,25 @@ void PostgresConnection::Wait(bool alsoWrite, Clock::time_point until) {
     if (!CanGoOn(connection_.get(), alsoWrite, until)) Lose("It does not answer");
 }
 
-void PostgresConnection::Send(const std::string& sql, const PostgresParameters& parameters) {
-    auto found = prepared_.find(sql);
-    if (found == prepared_.end()) {
-        found = prepared_.emplace(sql, "s" + std::to_string(++preparedCount_)).first;
-        if (PQsendPrepare(connection_.get(), found->second.c_str(), sql.c_str(), 0, nullptr) == 0)
+std::size_t PostgresConnection::SendPutOff() {
+    const std::vector<std::string> putOff = std::exchange(putOff_, {});
+    for (const std::string& sql : putOff) {
+        if (PQsendQueryParams(connection_.get(), sql.c_str(), 0, nullptr, nullptr, nullptr, nullptr, 0) == 0)
             Lose(PQerrorMessage(connection_.get()));
     }
-    if (PQsendQueryPrepared(connection_.get(), found->second.c_str(),
+    return putOff.size();
+}
+
+bool PostgresConnection::SendToPrepare(const std::string& sql) {
+    if (prepared_.contains(sql)) return false;
+    const std::string& name = prepared_[sql] = std::to_string(++preparedCount_);
+    if (PQsendPrepare(connection_.get(), name.c_str(), sql.c_str(), 0, nullptr) == 0)
+        Lose(PQerrorMessage(connection_.get()));
+    return true;
+}
+
+void PostgresConnection::Send(const std::string& sql, const PostgresParameters& parameters) {
+    if (PQsendQueryPrepared(connection_.get(), prepared_.at(sql).c_str(),
                             static_cast<int>(parameters.data_.size()), parameters.data_.data(),
                             parameters.sizes_.data(), parameters.formats_.data(), 0) == 0) {
         Lose(PQerrorMessage(connection_.get()));
@@ -241,34 +252,40 @@ PGresult* PostgresConnection::Next() {
 }
 
 PostgresResult PostgresConnection::Run(const std::string& sql, const PostgresParameters& parameters) {
+    return RunAll({&sql, 1}, parameters).front();
+}
+
+std::vector<PostgresResult> PostgresConnection::RunAll(std::span<const std::string> statements,
+                                                       const PostgresParameters& parameters) {
     if (isLost_) throw RuntimeError(ServerLost, "The connection to the server is lost\n" + link_.Words());
     const auto asked = asked_ = Clock::now();
     if (asked - answered_ > BetweenActs) {
         waited_ = {};
         answers_ = 0;
     }
-    const bool isNew = !prepared_.contains(sql);
-    std::size_t results = putOff_.size() + 1 + (isNew ? 1 : 0);
-    for (const std::string& each : std::exchange(putOff_, {})) {
-        if (PQsendQueryParams(connection_.get(), each.c_str(), 0, nullptr, nullptr, nullptr, nullptr, 0) == 0)
-            Lose(PQerrorMessage(connection_.get()));
+    const std::size_t putOff = SendPutOff();
+    std::vector<std::string> unprepared;
+    for (const std::string& sql : statements) {
+        if (SendToPrepare(sql)) unprepared.push_back(sql);
     }
-    Send(sql, parameters);
+    for (const std::string& sql : statements) Send(sql, parameters);
     if (PQpipelineSync(connection_.get()) == 0) Lose(PQerrorMessage(connection_.get()));
-    PostgresResult result(nullptr);
+    std::vector<PostgresResult> answers;
     try {
-        result = PostgresResult(Collect(results));
+        answers = Collect(putOff + unprepared.size() + statements.size());
     } catch (const RuntimeError&) {
-        if (isNew) prepared_.erase(sql);
+        for (const std::string& sql : unprepared) prepared_.erase(sql);
         throw;
     }
     CountAnswer(asked);
-    return result;
+    answers.erase(answers.begin(), answers.end() - static_cast<std::ptrdiff_t>(statements.size()));
+    return answers;
 }
 
-// Reads all answers up to the mark behind them, so that the connection is ready again; gives the last one.
-PGresult* PostgresConnection::Collect(std::size_t statements) {
-    std::unique_ptr<PGresult, decltype(&PQclear)> last(nullptr, PQclear), failed(nullptr, PQclear);
+// Reads all answers up to the mark behind them, so that the connection is ready again.
+std::vector<PostgresResult> PostgresConnection::Collect(std::size_t statements) {
+    std::vector<PostgresResult> answers;
+    std::unique_ptr<PGresult, decltype(&PQclear)> failed(nullptr, PQclear);
     for (std::size_t i = 0; i <= statements;) {
         std::unique_ptr<PGresult, decltype(&PQclear)> result(Next(), PQclear);
         if (result == nullptr) {
@@ -281,14 +298,14 @@ PGresult* PostgresConnection::Collect(std::size_t statements) {
         if (status == PGRES_FATAL_ERROR && failed == nullptr) {
             failed = std::move(result);
         } else if (status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK) {
-            last = std::move(result);
+            answers.emplace_back(result.release());
         }
     }
     if (failed != nullptr) {
         if (Failure(failed.get()).Number == ServerLost) Lose(PQresultErrorMessage(failed.get()));
         throw Failure(failed.get());
     }
-    return last.release();
+    return answers;
 }
 
 // Less where the server has been slow in this act.

@@ -37,7 +37,7 @@ public:
     std::int64_t Number(int row, int column) const;
 
 private:
-    std::unique_ptr<PGresult, decltype(&PQclear)> result_;
+    std::shared_ptr<PGresult> result_;
 };
 
 // What stands for "$1", "$2", ... of a statement. It must last until the statement has run.
@@ -72,6 +72,10 @@ public:
     // Runs a statement that stays prepared. What was put off before goes with it, so that it costs no time of
     // its own. After a failure of the server's the connection stays of use.
     PostgresResult Run(const std::string& sql, const PostgresParameters& parameters = {});
+    // Several in the time of one, all with the same parameters; their answers in the same order. The first
+    // failure is that of all.
+    std::vector<PostgresResult> RunAll(std::span<const std::string> statements,
+                                       const PostgresParameters& parameters);
     void PutOff(std::string sql) { putOff_.push_back(std::move(sql)); }
     // Takes back what was put off last; false when it has been sent.
     bool TakeBack();
@@ -91,13 +95,15 @@ private:
     Options OptionsOfLink() const;
     static Handle Reach(const Options& options, Clock::time_point until);
     void Prepare();
+    std::size_t SendPutOff();                    // how many
+    bool SendToPrepare(const std::string& sql);  // false when it is prepared
     void Send(const std::string& sql, const PostgresParameters& parameters);
     // Until the server can be read from or, when there is something to be sent, written to; false when the
     // time is over before.
     static bool CanGoOn(PGconn* connection, bool alsoWrite, Clock::time_point until);
     void Wait(bool alsoWrite, Clock::time_point until);
     PGresult* Next();
-    PGresult* Collect(std::size_t statements);
+    std::vector<PostgresResult> Collect(std::size_t statements);
     Clock::duration Patience() const;
     void CountAnswer(Clock::time_point asked);
     RuntimeError Failure(const PGresult* result) const;

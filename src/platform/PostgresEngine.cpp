@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/KeyOrder.h"
 #include "platform/ServerEngine.h"
 
 namespace quillmetra {
@@ -29,6 +30,8 @@ std::unique_ptr<PostgresConnection> TakeIdle(const ServerLink& link) {
     return taken;
 }
 
+bool IsQuestion(std::string_view sql) { return sql.starts_with("SELECT"); }
+
 }  // namespace
 
 PostgresEngine::PostgresEngine(const ServerLink& link) : link_(link), stamp_{} {}
@@ -40,7 +43,8 @@ PostgresEngine::PostgresEngine(const fs::path& file, const DatabaseKind& kind)
 
 PostgresEngine::~PostgresEngine() {
     if (connection_ == nullptr || !connection_->IsAlive() || connection_->InTransaction()) return;
-    if (Idle().size() < MostIdle) Idle().push_back(std::move(connection_));
+    if (Idle().size() == MostIdle) Idle().erase(Idle().begin());
+    Idle().push_back(std::move(connection_));
 }
 
 void PostgresEngine::Connect() {
@@ -50,15 +54,29 @@ void PostgresEngine::Connect() {
 }
 
 PostgresResult PostgresEngine::Run(const std::string& sql, const PostgresParameters& parameters) {
-    if (depth_ > 0) return RunWithin(sql, parameters);
+    if (!IsQuestion(sql)) ForgetAhead();
+    return depth_ > 0 ? RunWithin(sql, parameters) : Ask({&sql, 1}, parameters).front();
+}
+
+std::vector<PostgresResult> PostgresEngine::Ask(std::span<const std::string> statements,
+                                                const PostgresParameters& parameters) {
     Connect();
     try {
-        return connection_->Run(sql, parameters);
+        return connection_->RunAll(statements, parameters);
     } catch (const RuntimeError&) {
-        if (!connection_->HasDiedUnused() || !sql.starts_with("SELECT")) throw;
+        if (!connection_->HasDiedUnused() || !std::ranges::all_of(statements, IsQuestion)) throw;
     }
     connection_ = std::make_unique<PostgresConnection>(link_);
-    return connection_->Run(sql, parameters);
+    return connection_->RunAll(statements, parameters);
+}
+
+PostgresResult PostgresEngine::OfKey(const std::string& sql, std::string_view key) {
+    const std::string order = SortKey(key);
+    const auto read = order == aheadOf_ ? ahead_.find(sql) : ahead_.end();
+    if (read != ahead_.end()) return read->second;
+    PostgresParameters parameters;
+    parameters.AddBytes(order);
+    return Run(sql, parameters);
 }
 
 // A want of room ends the whole, as it does with a file: what still finds room would be half a record.
@@ -101,6 +119,7 @@ void PostgresEngine::Begin(int level) {
         connection_->Run(OfSchema("SELECT pg_advisory_xact_lock(hashtextextended(%l, 81))", link_.Schema));
     };
     Connect();
+    ForgetAhead();
     depth_ = 1;
     hasGivenUp_ = false;
     try {

@@ -43,15 +43,21 @@ public:
     std::int64_t Version() override;
     bool HasNews() override;
     bool IsReplaced() const override;
+    void ReadAhead(std::string_view key, std::span<const TableShape* const> tables) override;
+    void ForgetAhead() override { ahead_.clear(); }
 
     // Runs a statement; one that only reads is asked once more when the connection has died since the last.
     PostgresResult Run(const std::string& sql, const PostgresParameters& parameters = {});
+    // The same for a key as the one parameter, unless its answer was read ahead.
+    PostgresResult OfKey(const std::string& sql, std::string_view key);
     // With the schema before it.
     std::string Named(std::string_view table) const;
 
 private:
     explicit PostgresEngine(const ServerLink& link);
     void Connect();
+    std::vector<PostgresResult> Ask(std::span<const std::string> statements,
+                                    const PostgresParameters& parameters);
     PostgresResult RunWithin(const std::string& sql, const PostgresParameters& parameters);
     void CheckKind(const DatabaseKind& kind);
     void TakeNumber(const PostgresResult& found, const DatabaseKind& kind);
@@ -65,8 +71,10 @@ private:
     const FileStamp stamp_;
     std::unique_ptr<PostgresConnection> connection_;
     std::set<std::string, std::less<>> tables_, added_;
-    int depth_ = 0, number_ = 0, newest_ = 0;  // of its form: as it is, and as it should be
-    bool hasGivenUp_ = false;                  // the transaction at hand
+    std::string aheadOf_;                          // a key, as it compares
+    std::map<std::string, PostgresResult> ahead_;  // by statements
+    int depth_ = 0, number_ = 0, newest_ = 0;      // of its form: as it is, and as it should be
+    bool hasGivenUp_ = false;                      // the transaction at hand
 };
 
 // In a statement "%s" is the schema as a name and "%l" as a text.

@@ -50,6 +50,18 @@ std::string KeyOf(const FieldValue& key) {
     return text == nullptr ? "" : SortKey(*text);
 }
 
+std::string FieldsOf(const TableShape& table) {
+    std::string fields;
+    for (const FieldShape& field : table.Fields) fields += (fields.empty() ? "" : ", ") + Quoted(field.Name);
+    return fields;
+}
+
+// All of a key, with who has written it last and when behind the fields.
+std::string SelectOfKey(const PostgresEngine& engine, const TableShape& table) {
+    return "SELECT " + FieldsOf(table) + ", changed_by, changed_at FROM " + engine.Named(table.Name) +
+           " WHERE key_order = $1";
+}
+
 class PostgresRows : public EngineRows {
 public:
     PostgresRows(PostgresEngine& engine, const TableShape& table)
@@ -78,7 +90,6 @@ private:
     };
 
     const std::string& Select(RowAt place);
-    std::string Fields() const;
     void ReadRow(const PostgresResult& result, int number, RowData& row) const;
     std::string InsertOf(std::size_t rows) const;
 
@@ -88,21 +99,16 @@ private:
     std::array<std::string, 5> selects_;
 };
 
-std::string PostgresRows::Fields() const {
-    std::string fields;
-    for (const FieldShape& field : table_.Fields) fields += (fields.empty() ? "" : ", ") + Quoted(field.Name);
-    return fields;
-}
-
 const std::string& PostgresRows::Select(RowAt place) {
-    static constexpr const char* ends[] = {" WHERE key_order = $1", " ORDER BY key_order LIMIT 1",
+    static constexpr const char* ends[] = {"", " ORDER BY key_order LIMIT 1",
                                            " ORDER BY key_order DESC LIMIT 1",
                                            " WHERE key_order > $1 ORDER BY key_order LIMIT 1",
                                            " WHERE key_order < $1 ORDER BY key_order DESC LIMIT 1"};
     const auto number = static_cast<std::size_t>(place);
     std::string& select = selects_[number];
-    if (select.empty()) select = "SELECT " + Fields() + " FROM " + name_ + ends[number];
-    return select;
+    if (!select.empty()) return select;
+    return select = place == RowAt::Key ? SelectOfKey(engine_, table_)
+                                        : "SELECT " + FieldsOf(table_) + " FROM " + name_ + ends[number];
 }
 
 void PostgresRows::ReadRow(const PostgresResult& result, int number, RowData& row) const {
@@ -115,10 +121,8 @@ void PostgresRows::ReadRow(const PostgresResult& result, int number, RowData& ro
 }
 
 bool PostgresRows::Fetch(RowAt place, std::string_view key, RowData& row) {
-    const std::string order = SortKey(key);
-    PostgresParameters parameters;
-    if (place != RowAt::First && place != RowAt::Last) parameters.AddBytes(order);
-    const PostgresResult found = engine_.Run(Select(place), parameters);
+    const bool isEnd = place == RowAt::First || place == RowAt::Last;
+    const PostgresResult found = isEnd ? engine_.Run(Select(place)) : engine_.OfKey(Select(place), key);
     if (found.Rows() == 0) return false;
     ReadRow(found, 0, row);
     return true;
@@ -126,7 +130,7 @@ bool PostgresRows::Fetch(RowAt place, std::string_view key, RowData& row) {
 
 bool PostgresRows::FetchNextOf(std::string_view key, RowData& row, const std::function<bool()>& wanted) {
     constexpr int atOnce = 500;
-    const std::string sql = "SELECT " + Fields() + " FROM " + name_ +
+    const std::string sql = "SELECT " + FieldsOf(table_) + " FROM " + name_ +
                             " WHERE key_order > $1 ORDER BY key_order LIMIT " + std::to_string(atOnce);
     std::string order = SortKey(key);
     for (int count = atOnce; count == atOnce; order = KeyOf(row[0])) {
@@ -144,13 +148,10 @@ bool PostgresRows::FetchNextOf(std::string_view key, RowData& row, const std::fu
 }
 
 RowChange PostgresRows::LastChange(std::string_view key) {
-    const std::string order = SortKey(key);
-    PostgresParameters parameters;
-    parameters.AddBytes(order);
-    const PostgresResult found =
-        engine_.Run("SELECT changed_by, changed_at FROM " + name_ + " WHERE key_order = $1", parameters);
+    const PostgresResult found = engine_.OfKey(Select(RowAt::Key), key);
     if (found.Rows() == 0) return {};
-    return {std::string(found.At(0, 0)), std::string(found.At(0, 1))};
+    const int behindFields = static_cast<int>(table_.Fields.size());
+    return {std::string(found.At(0, behindFields)), std::string(found.At(0, behindFields + 1))};
 }
 
 std::vector<std::string> PostgresRows::Keys() {
@@ -198,7 +199,7 @@ void PostgresRows::WrittenRows::Add(const TableShape& table, const RowData& row)
 }
 
 std::string PostgresRows::InsertOf(std::size_t rows) const {
-    std::string sql = "INSERT INTO " + name_ + "(key_order, " + Fields() + ") VALUES";
+    std::string sql = "INSERT INTO " + name_ + "(key_order, " + FieldsOf(table_) + ") VALUES";
     std::size_t mark = 0;
     for (std::size_t row = 0; row < rows; ++row) {
         sql += row == 0 ? "(" : ", (";
@@ -243,15 +244,18 @@ void PostgresRows::Delete(const FieldValue& key) {
 class PostgresNames : public EngineNames {
 public:
     PostgresNames(PostgresEngine& engine, const TableShape& table)
-        : engine_(engine), table_(engine.Named(table.Name)) {
+        : engine_(engine), table_(engine.Named(table.Name)), select_(SelectOfKey(engine, table)) {
         key_ = Quoted(table.Fields[0].Name);
         name_ = Quoted(table.Fields[1].Name);
         value_ = Quoted(table.Fields[2].Name);
     }
 
     std::string Value(std::string_view key, std::string_view name) override {
-        return Run("SELECT " + value_ + " FROM " + table_ + " WHERE key_order = $1 AND " + name_ + " = $2",
-                   key, {name});
+        const PostgresResult found = engine_.OfKey(select_, key);
+        for (int i = 0; i < found.Rows(); ++i) {
+            if (FromServer(found.At(i, 1)) == name) return FromServer(found.At(i, 2));
+        }
+        return "";
     }
     void Put(std::string_view key, std::string_view name, std::string_view value) override {
         Run("INSERT INTO " + table_ + "(key_order, " + name_ + ", " + key_ + ", " + value_ +
@@ -276,20 +280,19 @@ public:
     void RemoveWithout(const TableShape&) override {}  // the server has done it
 
 private:
-    std::string Run(const std::string& sql, std::string_view key,
-                    std::initializer_list<std::string_view> more, const std::string* bytes = nullptr) {
+    void Run(const std::string& sql, std::string_view key, std::initializer_list<std::string_view> more,
+             const std::string* bytes = nullptr) {
         const std::string order = SortKey(key);
         std::deque<std::string> texts;
         PostgresParameters parameters;
         parameters.AddBytes(order);
         if (bytes != nullptr) parameters.AddBytes(*bytes);
         for (const std::string_view text : more) parameters.AddText(texts.emplace_back(ToServer(text)));
-        const PostgresResult found = engine_.Run(sql, parameters);
-        return found.Rows() == 0 ? "" : FromServer(found.At(0, 0));
+        engine_.Run(sql, parameters);
     }
 
     PostgresEngine& engine_;
-    const std::string table_;
+    const std::string table_, select_;
     std::string key_, name_, value_;
 };
 
@@ -321,6 +324,25 @@ std::string FromServer(std::string_view text) {
         i += 3;
     }
     return read;
+}
+
+// A failure would be that of a transaction as well. Outside of one it comes again when the row is sought.
+void PostgresEngine::ReadAhead(std::string_view key, std::span<const TableShape* const> tables) {
+    ForgetAhead();
+    if (depth_ > 0) return;
+    aheadOf_ = SortKey(key);
+    std::vector<std::string> statements;
+    for (const TableShape* table : tables) {
+        if (HasTable(table->Name)) statements.push_back(SelectOfKey(*this, *table));
+    }
+    PostgresParameters parameters;
+    parameters.AddBytes(aheadOf_);
+    try {
+        const std::vector<PostgresResult> answers = Ask(statements, parameters);
+        for (std::size_t i = 0; i < answers.size(); ++i) ahead_.emplace(statements[i], answers[i]);
+    } catch (const RuntimeError&) {
+        if (connection_ == nullptr || !connection_->IsAlive()) throw;
+    }
 }
 
 std::unique_ptr<EngineRows> PostgresEngine::Rows(const TableShape& table) {

@@ -211,10 +211,11 @@ void TakeFluidType(const std::string& headFluidType, int storedProgramNumber) {
 
 bool GetTRCalc() {
     const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+    Calc.Tag = std::string(Trim(Calc.Tag));
+    const ReadAhead rows(*database, Calc.Tag, ShapesOfRecords());
     const RecordTable& table = HeadTable();
     Recordset heads(*database, table.Shape, Recordset::Unplaced());
     heads.Index(TagIndex);
-    Calc.Tag = std::string(Trim(Calc.Tag));
     if (!heads.Seek(Calc.Tag)) {
         TellNotFound(table);
         return false;

@@ -53,6 +53,16 @@ const TableShape& ExtrasTable() {
     return table;
 }
 
+const std::vector<const TableShape*>& ShapesOfRecords() {
+    static const std::vector<const TableShape*> shapes = [] {
+        std::vector<const TableShape*> all;
+        for (const RecordTable* table : RecordTables()) all.push_back(&table->Shape);
+        all.push_back(&ExtrasTable());
+        return all;
+    }();
+    return shapes;
+}
+
 std::string ExtraText(NamedValues& extras, const RecordExtra& extra, const RecordTable& table,
                       const Recordset& row) {
     const std::optional<std::string> figures = FiguresOf(extra, table, row);

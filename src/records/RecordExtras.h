@@ -7,6 +7,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/CalcRecord.h"
 #include "platform/NamedValues.h"
@@ -26,6 +27,8 @@ inline constexpr std::array RecordExtras = {
     RecordExtra{"Service", &CalcRecord::Service, {}}};
 
 const TableShape& ExtrasTable();
+// All tables that hold something of a record, this one behind those of RecordTables.
+const std::vector<const TableShape*>& ShapesOfRecords();
 
 // Those of the record in hand. To be saved after its rows, in their transaction; to be loaded after them too.
 void SaveExtras(Database& database);

@@ -2,6 +2,7 @@
 #include "platform/Database.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "platform/KeyOrder.h"
@@ -78,6 +79,48 @@ TEST_F(DatabaseTest, MovesSeeksAndEdits) {
     EXPECT_THROW(rows.MoveNext(), RuntimeError);
     rows.MovePrevious();
     EXPECT_EQ(rows.Text("Tag"), "T-9");
+}
+
+TEST_F(DatabaseTest, WhatIsReadAheadKnowsOwnWritesAndFailsWhereItIsSought) {
+    Database database(File(), Kind), other(File(), Kind);
+    Recordset rows(database, Tanks), others(other, Tanks);
+    const auto valueOf = [](Recordset& from) {
+        from.Index("Tag_Number");
+        return from.Seek("T-1") ? from.Number("SG @ FTP") : -1;
+    };
+    const auto set = [&](Recordset& to, double value) {
+        valueOf(to);
+        to.Edit();
+        to.Set("SG @ FTP", value);
+        to.Update();
+    };
+    Add(rows, "T-1", 1);
+    const TableShape wrong = {Tanks.Name, {{"Tag", FieldType::Text, 10}, {"Level", FieldType::Single}}};
+    const TableShape missing = {"Pumps", Tanks.Fields};
+    const std::array tables = {&Tanks, &missing}, withWrong = {&Tanks, &wrong};
+    {
+        const ReadAhead ahead(database, "t-1", tables);
+        set(others, 2);
+        EXPECT_EQ(valueOf(rows), OnServer() ? 1 : 2);
+        set(rows, 3);
+        set(others, 4);
+        EXPECT_EQ(valueOf(rows), 4) << "the own write has ended it";
+    }
+    {
+        const ReadAhead ahead(database, "t-2", tables);
+        EXPECT_EQ(valueOf(rows), 4) << "another key";
+    }
+    (void)ReadAhead(database, "t-1", tables);
+    set(others, 5);
+    EXPECT_EQ(valueOf(rows), 5) << "it lives no more";
+    const ReadAhead ahead(database, "t-1", withWrong);
+    EXPECT_EQ(valueOf(rows), 5);
+    EXPECT_THROW(
+        {
+            Recordset wrongRows(database, wrong, Recordset::Unplaced());
+            valueOf(wrongRows);
+        },
+        RuntimeError);
 }
 
 TEST_F(DatabaseTest, TransactionsNestAndUndo) {

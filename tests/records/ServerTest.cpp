@@ -253,6 +253,45 @@ TEST_F(ServerTest, ALostConnectionLosesNothing) {
     EXPECT_EQ(Recordset(*writing, HeadTable().Shape).RecordCount(), 2);
 }
 
+// A question outside of a transaction counts as one for the server, which has the count when a connection has
+// ended.
+TEST_F(ServerTest, NoActAsksAQuestionForEachCell) {
+    for (int program = 1; program <= 5; ++program) SaveNew("P-" + std::to_string(program), program);
+    TakeMixture("P-6");
+    ASSERT_TRUE(SaveTRCalc()) << User.LastText();
+    const auto asked = [] {
+        Sql("SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE application_name = "
+            "'Quillmetra'");
+        return std::atoi(
+            Sql("SELECT xact_commit FROM pg_stat_database WHERE datname = current_database()").c_str());
+    };
+    RecordView browser(Suite.DatabaseFile);
+    int record = 0;
+    const auto tag = [&record] { return "P-" + std::to_string(++record % 6 + 1); };
+    const struct {
+        const char* Name;
+        int Most;
+        std::function<void()> Do;
+    } acts[] = {{"open", 4, [] { EXPECT_EQ(RecordView(Suite.DatabaseFile).Count(), 6); }},
+                {"move", 2,
+                 [&] {
+                     ++record % 2 == 1 ? browser.Next() : browser.Previous();
+                     EXPECT_EQ(browser.Position(), record % 2 + 1);
+                 }},
+                {"find", 2, [&] { EXPECT_TRUE(browser.Find(tag()) && browser.Position() > 0); }},
+                {"load", 2, [&] {
+                     Calc = CalcRecord();
+                     Calc.Tag = tag();
+                     EXPECT_TRUE(GetTRCalc());
+                 }}};
+    constexpr int times = 100, others = 30;  // connections, and the server's own cleaning
+    for (const auto& act : acts) {
+        const int before = asked();
+        for (int i = 0; i < times; ++i) act.Do();
+        EXPECT_LE(asked() - before, act.Most * times + others) << act.Name;
+    }
+}
+
 TEST_F(ServerTest, AllRecordsGoToAFileAndBack) {
     for (int program = 1; program <= 5; ++program) SaveNew("P" + std::to_string(program), program);
     TakeMixture("\u00d6l \xff, \"1\"");
