@@ -6,6 +6,7 @@
 
 #include "core/Suite.h"
 #include "platform/TextFiles.h"
+#include "platform/Utf8.h"
 #include "records/Backups.h"
 #include "records/RecordFiles.h"
 
@@ -66,8 +67,9 @@ class Import::Taker : public SheetTaker {
 public:
     Taker(Import& import, const GoesOn& goesOn, int all) : import_(import), goesOn_(goesOn), all_(all) {}
 
-    bool TakeSheet(const std::string& name, bool) override {
+    bool TakeSheet(const std::string& name, bool decimalCommas) override {
         sheet_ = name;
+        decimalCommas_ = decimalCommas;
         heads_.reset();
         mayBeUnits_ = false;
         return true;
@@ -81,7 +83,7 @@ public:
         if (!heads_) {
             TakeHeads(row);
         } else if (!std::exchange(mayBeUnits_, false) || !heads_->TakeUnits(row)) {
-            if (heads_->HasTag()) import_.TakeRow(*heads_, row);
+            if (heads_->HasTag()) import_.TakeRow(*heads_, row, sheet_);
         }
         return true;
     }
@@ -98,7 +100,7 @@ private:
         import_.Add({0, sheet_, ImportState::Told, column, text});
     }
     void TakeHeads(const SheetRow& row) {
-        heads_.emplace(row);
+        heads_.emplace(row, decimalCommas_);
         mayBeUnits_ = true;
         if (!heads_->HasTag()) return Tell("", "the sheet is left out: its first row has no column Tag");
         HasList = true;
@@ -111,7 +113,7 @@ private:
     int done_ = 0;
     std::string sheet_;
     std::optional<ListHeads> heads_;
-    bool mayBeUnits_ = false;
+    bool decimalCommas_ = false, mayBeUnits_ = false;
 };
 
 Import::Import(std::string file)
@@ -143,17 +145,29 @@ bool Import::Run(const GoesOn& goesOn) {
     return true;
 }
 
+// A cell may be as long as its file.
 void Import::Add(ImportLine line) {
+    constexpr std::size_t mostShown = 250;
+    for (std::string* text : {&line.Tag, &line.Column, &line.Text}) {
+        const std::size_t size = text->size();
+        *text = FirstCharacters(*text, mostShown);
+        if (text->size() < size) *text += "...";
+    }
     ++counts_.at(static_cast<std::size_t>(line.State));
     lines_.push_back(std::move(line));
 }
 
-void Import::TakeRow(const ListHeads& heads, const SheetRow& row) {
-    std::string tag;
+// What has no tag goes by its sheet.
+void Import::TakeRow(const ListHeads& heads, const SheetRow& row, const std::string& sheet) {
+    std::string tag = sheet;
     try {
         tag = ListRecords::TagOf(heads, row);
-        const auto [same, isNew] = rowOfTag_.emplace(tag, row.Number);
-        if (!isNew) throw ListRefusal{"Tag", "row " + std::to_string(same->second) + " has this tag already"};
+        const auto [same, isNew] = rowOfTag_.emplace(tag, Place{row.Number, sheet});
+        const auto& [number, itsSheet] = same->second;
+        if (!isNew)
+            throw ListRefusal{"Tag", "row " + std::to_string(number) +
+                                         (itsSheet == sheet ? "" : " of " + itsSheet) +
+                                         " has this tag already"};
         MakeRecord(heads, row, tag);
     } catch (const ListRefusal& refusal) {
         Add({row.Number, tag, ImportState::Refused, refusal.Column, refusal.Reason});
@@ -188,20 +202,20 @@ std::string Import::Summary() const {
 }
 
 int Import::Save(bool replaces) {
+    const int wanted = Count(ImportState::New) + (replaces ? Count(ImportState::Changed) : 0);
+    if (wanted == 0) return 0;
     KeepBackupOfToday(Suite.DatabaseFile);
     Transaction all(*database_);
     if (database_->Version() != version_)
         throw RuntimeError{failure::ValueRefused, "The database was changed meanwhile: read the list anew"};
     database_->AddTable(SettingsTable().Shape);
     RowStore target(*database_);
-    int count = 0;
     for (const ImportLine& line : lines_) {
         if (line.State != ImportState::New && (line.State != ImportState::Changed || !replaces)) continue;
         target.Write(made_->Read(line.Tag).value());
-        ++count;
     }
     all.Commit();
-    return count;
+    return wanted;
 }
 
 }  // namespace quillmetra

@@ -59,7 +59,7 @@ public:
 private:
     class Taker;
 
-    void TakeRow(const ListHeads& heads, const SheetRow& row);
+    void TakeRow(const ListHeads& heads, const SheetRow& row, const std::string& sheet);
     void MakeRecord(const ListHeads& heads, const SheetRow& row, const std::string& tag);
     void Add(ImportLine line);
 
@@ -76,7 +76,11 @@ private:
     ListRecords records_;
     std::vector<ImportLine> lines_;
     std::array<int, 5> counts_{};
-    std::map<std::string, int, KeyLess> rowOfTag_;
+    struct Place {
+        int Row;
+        std::string Sheet;
+    };
+    std::map<std::string, Place, KeyLess> rowOfTag_;
 };
 
 }  // namespace quillmetra

@@ -10,8 +10,8 @@
 namespace quillmetra {
 
 // Throws a ListRefusal without its column: for what is no number or date where one belongs, for errors of the
-// spreadsheet, and for a tag that it has made a date.
-FieldValue CellValue(const RecordColumn& column, const SheetCell& cell);
+// spreadsheet, and for a tag that it has made a date or that has lines.
+FieldValue CellValue(const RecordColumn& column, const SheetCell& cell, bool decimalCommas);
 
 // The text of a cell for a message.
 std::string QuotedCell(const SheetCell& cell);

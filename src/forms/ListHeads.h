@@ -14,7 +14,9 @@ namespace quillmetra {
 class ListHeads {
 public:
     // From the first row of a sheet.
-    explicit ListHeads(const SheetRow& heads);
+    ListHeads(const SheetRow& heads, bool decimalCommas);
+
+    bool HasDecimalCommas() const { return decimalCommas_; }
 
     bool HasTag() const { return tag_ >= 0; }
     int TagColumn() const { return tag_; }
@@ -39,14 +41,25 @@ public:
         return units_.at(static_cast<std::size_t>(program));
     }
 
+    // Whether the gravities of a liquid are gravities or densities, by their unit; empty where it says
+    // nothing.
+    const std::string& DensityMode(int program) const {
+        return densityModes_.at(static_cast<std::size_t>(program));
+    }
+
 private:
     void AddProgram(int program);
+    std::string WhyTwice(int column) const;
     bool LooksLikeUnits(const SheetRow& row) const;
+    bool HasUnit(int column) const;
+    void TakeUnit(int program, const RecordColumn& column, int row, const std::string& unit);
 
     std::map<int, std::string> names_;
     std::array<std::vector<Head>, 6> heads_;
     std::array<std::map<std::string, std::string>, 6> units_;
+    std::array<std::string, 6> densityModes_;
     std::vector<std::string> leftAlone_;
+    bool decimalCommas_ = false;
     int tag_ = -1;
 };
 

@@ -22,6 +22,7 @@
 #include "platform/NumberText.h"
 #include "platform/TextCase.h"
 #include "records/OptionCodes.h"
+#include "records/RecordTransfer.h"
 #include "records/SaveRecord.h"
 #include "tables/PipeSizes.h"
 #include "units/NamedUnitSets.h"
@@ -29,8 +30,6 @@
 namespace quillmetra {
 
 namespace {
-
-constexpr const char* Mixture = "Mixture";
 
 bool IsEmpty(const FieldValue& value) { return ValueText(value).empty(); }
 
@@ -45,27 +44,10 @@ bool IsTheSuites(const RecordColumn& column) {
                    {"Program Number", "Program Name", "Calc Option", "Other Calcs", "Calc Date"});
 }
 
-// The properties of a fluid among the inputs of a program.
-bool IsProperty(const RecordColumn& column) {
-    if (column.IsExtra() || column.Kind != ColumnKind::Input) return false;
-    const auto* cell = std::get_if<Cell>(&column.At.Table->Fields[column.At.Field].From);
-    if (cell == nullptr || cell->Of != Group::CaseInput) return false;
-    if (cell->Row == input::Modulus) return cell->Case == column::OfLiquid;
-    const bool hammer = column.At.Table == &WaterhammerTable();
-    constexpr int properties[] = {input::FlowGravity,  input::Viscosity,       input::RatioSpecificHeats,
-                                  input::CritPressure, input::CritTemperature, input::MolecularWeight};
-    return hammer ? cell->Row == input::FlowGravity
-                  : std::ranges::find(properties, cell->Row) != std::end(properties);
-}
-
-// The state that a fluid has its properties at.
-bool IsState(const RecordColumn& column) {
-    if (column.IsExtra() || column.Kind != ColumnKind::Input) return false;
-    const RecordField& field = column.At.Table->Fields[column.At.Field];
-    const auto* cell = std::get_if<Cell>(&field.From);
-    const auto* made = std::get_if<Made>(&field.From);
-    return (cell != nullptr && cell->Of == Group::CaseInput && cell->Row == input::Pressure) ||
-           (made != nullptr && *made == Made::Temperature);
+int UnitSetOf(int programNumber) { return HasUnitSet(programNumber) ? programNumber % 100 : 0; }
+int UnitSetOf(const FieldValue& programNumber) {
+    const auto* number = std::get_if<double>(&programNumber);
+    return number == nullptr ? 0 : UnitSetOf(static_cast<int>(*number));
 }
 
 std::string InOneLine(std::string text) {
@@ -73,17 +55,11 @@ std::string InOneLine(std::string text) {
     return std::string(Trim(text));
 }
 
-RecordRows::Row EmptyRow(const RecordTable& table, const std::string& tag) {
-    RecordRows::Row row(table.Fields.size());
-    row.front() = tag;
-    return row;
-}
-
-void SetHeadCode(RecordRows& rows, const char* column, const OptionCode& code) {
-    const RecordColumn& codes = *FindColumn(column);
-    std::string text = ValueText(rows.Value(codes));
-    SetCode(text, code);
-    rows.Set(codes, text);
+// 0 for a name that is none.
+int MaterialNumber(const std::string& name) {
+    const auto found = std::ranges::find_if(
+        PipeMaterials, [&name](const PipeMaterial& material) { return SameName(name, material.Name); });
+    return found == PipeMaterials.end() ? 0 : static_cast<int>(found - PipeMaterials.begin()) + 1;
 }
 
 }  // namespace
@@ -98,7 +74,7 @@ std::string ListRecords::TagOf(const ListHeads& heads, const SheetRow& row) {
     const auto cell = std::ranges::find(row.Cells, heads.TagColumn(), &SheetCell::Column);
     if (cell == row.Cells.end()) throw ListRefusal{"Tag", "the row has no tag"};
     try {
-        return ValueText(CellValue(*FindColumn("Tag"), *cell));
+        return ValueText(CellValue(*FindColumn("Tag"), *cell, false));
     } catch (const ListRefusal& refusal) {
         throw ListRefusal{"Tag", refusal.Reason};
     }
@@ -113,6 +89,8 @@ int ListRecords::ProgramOf(const ListHeads& heads, const SheetRow& row,
         const Program* const program = FindProgram(quillmetra::ProgramOf(number));
         if (program == nullptr || *cell->Number != number)
             throw ListRefusal{"Program Number", QuotedCell(*cell) + " is none of the programs 1 to 5"};
+        if (UnitSetOf(number) > UserUnitSet)
+            throw ListRefusal{"Program Number", QuotedCell(*cell) + " is of none of the unit sets 1 to 5"};
         return program->Number;
     }
     if (const SheetCell* cell = heads.Find(row, "Program Name")) {
@@ -137,7 +115,8 @@ ListRecords::Row ListRecords::RowOf(const ListHeads& heads, const SheetRow& row,
             continue;
         }
         try {
-            made.Cells.push_back({head.Of, CellValue(*head.Of, *cell), heads.NameOf(head.Column)});
+            made.Cells.push_back(
+                {head.Of, CellValue(*head.Of, *cell, heads.HasDecimalCommas()), heads.NameOf(head.Column)});
         } catch (const ListRefusal& refusal) {
             throw ListRefusal{heads.NameOf(head.Column), refusal.Reason};
         }
@@ -147,8 +126,9 @@ ListRecords::Row ListRecords::RowOf(const ListHeads& heads, const SheetRow& row,
 
 // What the form of a program begins with, by its unit set.
 const RecordRows& ListRecords::Fresh(int program, int unitSet) {
-    const auto [found, isNew] = fresh_.try_emplace({program, unitSet});
-    if (!isNew) return found->second;
+    const auto found = fresh_.find({program, unitSet});
+    if (found != fresh_.end()) return found->second;
+    const HeldMessages held(Questions::Answered);
     const bool isGas = program::IsOfGas(program);
     Calc.CurrentProgram = program;
     Calc.FluidType = FindProgram(program)->FluidType;
@@ -163,8 +143,10 @@ const RecordRows& ListRecords::Fresh(int program, int unitSet) {
     UnloadForm(FindProgram(program)->Form);
     LoadForm(FindProgram(program)->Form);
     if (auto* const form = dynamic_cast<FluidForm*>(OpenCalculation())) form->StoreForm();
+    if (unitSet == UserUnitSet && !held.Texts().empty())
+        throw ListRefusal{"Program Number", "there is no unit set of the user"};
     Calc.OtherCalcs = words::NoCodes;
-    return found->second = RowsOfRecord();
+    return fresh_[{program, unitSet}] = RowsOfRecord();
 }
 
 FieldValue ListRecords::Kept(const Given& given) {
@@ -184,118 +166,28 @@ void ListRecords::Put(RecordRows& rows, const Given& given) {
     }
 }
 
-// The line of a fluid in the table of its type; empty when that has none.
-void ListRecords::FindFluid(const std::string& fluidType, const std::string& name, const std::string& head,
-                            std::string& line) {
-    auto& known = fluids_[fluidType];
-    if (known.empty()) {
-        try {
-            for (std::string& row : ReadFluidRows(fluidType))
-                known.emplace(LowerCase(std::string(FluidRowName(row))), std::move(row));
-        } catch (const RuntimeError& error) {
-            throw ListRefusal{head, fluidType + ".txt: " + error.Description};
-        }
-    }
-    const auto found = known.find(LowerCase(name));
-    line = found == known.end() ? "" : found->second;
-}
-
-// Those of the former fluid, but for what the list says.
-void ListRecords::DropVaporPressures(RecordRows& rows, const Row& row) {
-    for (const RecordColumn& column : RecordColumns()) {
-        if (column.Kind != ColumnKind::Setting || row.Find(column.Name) != nullptr) continue;
-        const auto* cell = std::get_if<Cell>(&column.At.Table->Fields[column.At.Field].From);
-        if (cell != nullptr && cell->Of == Group::CaseInput && cell->Row == input::VaporPressure)
-            rows.Set(column, 0.0);
-    }
-}
-
-// A fluid without properties in the list brings those of its table, and so does one that is loaded from the
-// table when its state is another one than before.
-void ListRecords::PutFluid(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored) {
-    const auto differs = [&stored](const Given& given) {
-        return !stored || !SameValue(stored->Value(*given.Of), Kept(given));
-    };
-    const auto given = [&](const auto& isWanted) {
-        return std::ranges::any_of(row.Cells, [&](const Given& each) {
-            return isWanted(*each.Of) && !IsEmpty(each.Value) && differs(each);
-        });
-    };
-    renews_ = false;
-    const Given* const name = row.Find("Fluid Name");
-    const bool isOther = name != nullptr && differs(*name);
-    if (isOther) DropVaporPressures(rows, row);
-    if (given(IsProperty)) {
-        if (isOther && row.Find("Calc Option") == nullptr)
-            SetHeadCode(rows, "Calc Option", code::FluidNotLoaded);
-        return;
-    }
-    if (row.Find("Other Calcs") == nullptr && isOther && !rows.FluidType().empty()) {
-        const std::string fluid = ValueText(name->Value);
-        const bool steam = row.Program == program::GasLine || row.Program == program::GasData;
-        if (steam && SameName(fluid, "Steam")) {
-            const bool hasTemperature = given([](const RecordColumn& column) {
-                return IsState(column) && column.Name.find("Temperature") != std::string::npos;
-            });
-            SetHeadCode(rows, "Other Calcs", hasTemperature ? code::Superheated : code::Saturated);
-        } else if (row.Find("Fluid Percent0") == nullptr) {
-            std::string line;
-            FindFluid(rows.FluidType(), fluid, name->Head, line);
-            if (line.empty())
-                throw ListRefusal{name->Head, fluid + " is not in " + rows.FluidType() +
-                                                  ".txt; another fluid needs its properties in the list"};
-            rows.Set(*FindColumn("Fluid Name"), std::string(FluidRowName(line)));
-            SetHeadCode(rows, "Other Calcs", code::PureFluid);
-        }
-        SetHeadCode(rows, "Calc Option", code::FluidLoaded);
-    }
-    const bool isLoaded = HasCode(ValueText(rows.Value(*FindColumn("Calc Option"))), code::FluidLoaded);
-    renews_ = isLoaded && (isOther || given(IsState) || !stored);
-}
-
-// Components go by their names, or by their whole rows.
-void ListRecords::PutMixture(RecordRows& rows, const Row& row) {
-    const auto isPart = [](const Given& given) {
-        return given.Of->Kind == ColumnKind::Mixture && !IsEmpty(given.Value);
-    };
-    if (!std::ranges::any_of(row.Cells, isPart)) return;
-    if (rows.Of(MixtureTable()).empty()) rows.Of(MixtureTable()) = EmptyRow(MixtureTable(), rows.Tag());
-    if (row.Find("Other Calcs") == nullptr) {
-        SetHeadCode(rows, "Other Calcs", code::Mixture);
-        SetHeadCode(rows, "Calc Option", code::FluidLoaded);
-    }
-    if (row.Find("Fluid Name") == nullptr) rows.Set(*FindColumn("Fluid Name"), std::string(Mixture));
-    for (const Given& given : row.Cells) {
-        if (given.Of->Kind != ColumnKind::Mixture) continue;
-        Put(rows, given);
-        const std::string text = ValueText(given.Value);
-        if (given.Of->IsNumber() || text.empty() || text.find(',') != std::string::npos) continue;
-        std::string line;
-        FindFluid(rows.FluidType(), text, given.Head, line);
-        if (line.empty()) throw ListRefusal{given.Head, text + " is not in " + rows.FluidType() + ".txt"};
-        Put(rows, {given.Of, line, given.Head});
-    }
-}
-
-// Of number and name the one that the list gives brings the other.
+// Of number and name the one that the list gives brings the other; both must be of one material.
 void ListRecords::PutMaterial(RecordRows& rows, const Row& row) {
     if (!program::IsLine(row.Program)) return;
-    const RecordColumn& number = *FindColumn("Pipe Material Number");
-    const Given* const name = row.Find("Pipe Material");
+    const RecordColumn& nameColumn = *FindColumn("Pipe Material", row.Program);
+    const Given* const name = row.Find(nameColumn.Name);
     const Given* const given = row.Find("Pipe Material Number");
-    if (name == nullptr && given != nullptr) {
-        const auto* value = std::get_if<double>(&given->Value);
-        const PipeMaterial* const material =
-            value == nullptr ? nullptr : FindPipeMaterial(static_cast<int>(*value));
+    const auto* value = given == nullptr ? nullptr : std::get_if<double>(&given->Value);
+    const int number = value == nullptr ? 0 : static_cast<int>(*value);
+    if (name == nullptr) {
+        if (given == nullptr) return;
+        const PipeMaterial* const material = FindPipeMaterial(number);
         if (material == nullptr) throw ListRefusal{given->Head, "materials have the numbers 1 to 7"};
-        rows.Set(*FindColumn("Pipe Material", row.Program), std::string(material->Name));
+        return rows.Set(nameColumn, std::string(material->Name));
     }
-    if (name == nullptr || given != nullptr) return;
     const std::string text = ValueText(name->Value);
-    for (std::size_t i = 0; i < PipeMaterials.size(); ++i) {
-        if (SameName(text, PipeMaterials.at(i).Name)) return rows.Set(number, static_cast<double>(i + 1));
-    }
-    throw ListRefusal{name->Head, text + " is none of the pipe materials"};
+    const int named = MaterialNumber(text);
+    if (given != nullptr && named != 0 && named != number)
+        throw ListRefusal{name->Head, text + " has the number " + std::to_string(named)};
+    if (given != nullptr) return;
+    if (named == 0) throw ListRefusal{name->Head, text + " is none of the pipe materials"};
+    rows.Set(nameColumn, std::string(FindPipeMaterial(named)->Name));
+    rows.Set(*FindColumn("Pipe Material Number"), static_cast<double>(named));
 }
 
 // A diameter that is typed over has no name any more.
@@ -339,15 +231,6 @@ void ListRecords::PutPipe(const Row& row, const std::optional<RecordRows>& store
                                           TrimmedStr(is)};
 }
 
-void ListRecords::TakeFluids(FluidForm& form) const {
-    if (!renews_) return;
-    if (Calc.SteamKind != words::Saturated) return form.RenewFluids();
-    for (int i = 0; i < form.FluidCases(); ++i) {
-        if (form.LackOf(i, FluidPick::Kind::Saturated).empty())
-            form.Pick(i, {.What = FluidPick::Kind::Saturated});
-    }
-}
-
 // By the name that the list has for the box that is to be mended.
 void ListRecords::RefuseFirst(const DataRefusals& refusals, const Row& row) {
     if (refusals.All().empty()) return;
@@ -356,6 +239,17 @@ void ListRecords::RefuseFirst(const DataRefusals& refusals, const Row& row) {
     const auto given =
         std::ranges::find_if(row.Cells, [&column](const Given& each) { return each.Of->Name == column; });
     throw ListRefusal{given == row.Cells.end() ? column : given->Head, InOneLine(first.Text)};
+}
+
+// Where that is not the gravity of the value itself, nobody would see that it became another one.
+void ListRecords::CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored) const {
+    if (!renews_ && HasOneGravity(rows)) return;
+    const std::string column =
+        FirstByGravity(rows, stored, [&row](const std::string& each) { return row.Find(each) != nullptr; });
+    if (column.empty()) return;
+    throw ListRefusal{
+        row.Find(column)->Head,
+        "mass becomes volume here by a gravity that is another one: give it in the unit on file"};
 }
 
 // A list that knows the dates of new calculations keeps them; what it changes is of today.
@@ -386,15 +280,20 @@ ListRecords::Made ListRecords::Calculate(const RecordRows& rows, const Row& row,
         }
     };
     RecordRows before = rows;
-    if (!ofRecord.empty()) {
+    if (!ofRecord.Fields.empty()) {
         check(rows, RowsOfRecord(), false);
+        CheckGravity(rows, row, *stored);
         ConvertRecordInHand(ofRecord);
         before = RowsOfRecord();
+        TakeFigures(before, rows, *stored,
+                    [&row](const std::string& column) { return row.Find(column) != nullptr; });
+        TakeRecordRows(before);
     }
     const bool filled = FillCalculationForm() != nullptr;
     auto* const form = filled ? dynamic_cast<FluidForm*>(OpenCalculation()) : nullptr;
     if (form == nullptr) throw ListRefusal{"Program Number", "there is no such program"};
     PutPipe(row, stored);
+    if (renews_) CheckMixture(before);
     TakeFluids(*form);
     RefuseFirst(refusals, row);
     form->CalculateAll();
@@ -419,6 +318,50 @@ bool ListRecords::SaysNothingNew(const Row& row, const RecordRows& stored) {
     });
 }
 
+bool ListRecords::IsInUnitsOf(const ListHeads& heads, const RecordRows& stored) {
+    const int program = stored.Program();
+    const std::string& mode = heads.DensityMode(program);
+    if (!mode.empty() && mode != DensityModeOf(ValueText(stored.Value(*FindColumn("Calc Option")))))
+        return false;
+    return std::ranges::all_of(heads.Units(program), [&stored](const auto& unit) {
+        return ValueText(stored.Value(*FindColumn(unit.first))) == unit.second;
+    });
+}
+
+// What a record is in beside its list, and stays in: the row of units is that of the list alone. What a row
+// says of its own units is for the record.
+ListUnits ListRecords::UnitsToKeep(const ListHeads& heads, const Row& row, const RecordRows& stored) {
+    if (IsInUnitsOf(heads, stored)) return {};
+    ListUnits units = UnitsOf(stored);
+    std::erase_if(units.Fields, [&row](const auto& each) { return row.Find(each.first) != nullptr; });
+    if (const Given* codes = row.Find("Calc Option"))
+        units.DensityMode = DensityModeOf(ValueText(codes->Value));
+    return units;
+}
+
+// Those of its columns of units, and of the row of units.
+ListUnits ListRecords::UnitsOfRow(const ListHeads& heads, const Row& row) {
+    ListUnits units{{}, heads.DensityMode(row.Program)};
+    const Given* const codes = row.Find("Calc Option");
+    if (codes != nullptr && units.DensityMode.empty())
+        units.DensityMode = DensityModeOf(ValueText(codes->Value));
+    for (const Given& given : row.Cells) {
+        if (given.Of->Kind != ColumnKind::Unit || !given.Of->Name.ends_with(" Units")) continue;
+        ListUnit& unit = units.Fields[given.Of->Name];
+        unit = {ValueText(given.Value), 0, given.Head};
+        const Given* const factor = row.Find(given.Of->Name.substr(0, given.Of->Name.rfind(' ')) + " Factor");
+        const auto* value = factor == nullptr ? nullptr : std::get_if<double>(&factor->Value);
+        if (value != nullptr) unit.Factor = *value;
+    }
+    for (const auto& [field, unit] : heads.Units(row.Program)) {
+        const auto [there, isNew] = units.Fields.emplace(field, ListUnit{unit, 0, field});
+        if (!isNew && there->second.Name != unit)
+            throw ListRefusal{there->second.Head,
+                              there->second.Name + " here, and " + unit + " in the row of units"};
+    }
+    return units;
+}
+
 ListRecords::Made ListRecords::Make(const ListHeads& heads, const SheetRow& sheetRow,
                                     const std::optional<RecordRows>& known) {
     const int program = ProgramOf(heads, sheetRow, known);
@@ -426,35 +369,15 @@ ListRecords::Made ListRecords::Make(const ListHeads& heads, const SheetRow& shee
     const std::optional<RecordRows> stored = known && known->Program() == program ? known : std::nullopt;
     const Row row = RowOf(heads, sheetRow, program);
 
-    int unitSet = 1;
-    if (const Given* number = row.Find("Program Number")) {
-        const auto* value = std::get_if<double>(&number->Value);
-        const int set = value == nullptr ? 0 : static_cast<int>(*value) % 100;
-        if (*value > 90 && set >= 1 && set <= UserUnitSet) unitSet = set;
-    }
-    const bool isInTheseUnits =
-        stored && std::ranges::all_of(heads.Units(program), [&stored](const auto& unit) {
-            return ValueText(stored->Value(*FindColumn(unit.first))) == unit.second;
-        });
-    if (isInTheseUnits && SaysNothingNew(row, *stored)) return {*stored, {}};
-    RecordRows rows = stored ? *stored : Fresh(program, unitSet);
+    const Given* const number = row.Find("Program Number");
+    const int set = number == nullptr ? 0 : UnitSetOf(number->Value);
+    if (stored && SaysNothingNew(row, *stored) && IsInUnitsOf(heads, *stored)) return {*stored, {}};
+    RecordRows rows = stored ? *stored : Fresh(program, std::max(set, 1));
 
-    ListUnits units, ofRecord;
-    for (const Given& given : row.Cells) {
-        if (given.Of->Kind != ColumnKind::Unit || !given.Of->Name.ends_with(" Units")) continue;
-        units[given.Of->Name] = {ValueText(given.Value), 0, given.Head};
-        const Given* const factor = row.Find(given.Of->Name.substr(0, given.Of->Name.rfind(' ')) + " Factor");
-        const auto* value = factor == nullptr ? nullptr : std::get_if<double>(&factor->Value);
-        if (value != nullptr) units[given.Of->Name].Factor = *value;
-    }
-    for (const auto& [field, unit] : heads.Units(program)) {
-        const auto [there, isNew] = units.emplace(field, ListUnit{unit, 0, field});
-        if (!isNew && there->second.Name != unit)
-            throw ListRefusal{there->second.Head,
-                              there->second.Name + " here, and " + unit + " in the row of units"};
-        if (isNew && stored && ValueText(stored->Value(*FindColumn(field))) != unit)
-            ofRecord = UnitsOf(*stored);
-    }
+    ListUnits units = UnitsOfRow(heads, row);
+    const ListUnits ofRecord = stored ? UnitsToKeep(heads, row, *stored) : ListUnits{};
+    if (stored && set != 0 && set != UnitSetOf(stored->Value(*FindColumn("Program Number"))))
+        units.Fields.merge(UnitsOf(Fresh(program, set)).Fields);
     {
         const HeldMessages held(Questions::Answered);
         TakeUnits(rows, units, stored.has_value());
@@ -463,6 +386,8 @@ ListRecords::Made ListRecords::Make(const ListHeads& heads, const SheetRow& shee
     for (const Given& given : row.Cells) {
         if (given.Of->Kind != ColumnKind::Mixture && given.Of->Name != "Program Name") Put(rows, given);
     }
+    const auto pressure = heads.Units(program).find("Pressure Units");
+    PutModes(rows, pressure == heads.Units(program).end() ? "" : pressure->second, units.DensityMode);
     for (const RecordColumn& column : RecordColumns()) {
         if (column.Kind == ColumnKind::Result && column.IsOf(program)) rows.Set(column, FieldValue());
     }

@@ -48,6 +48,10 @@ private:
     const RecordRows& Fresh(int program, int unitSet);
     // As its field keeps it.
     static FieldValue Kept(const Given& given);
+    static bool IsInUnitsOf(const ListHeads& heads, const RecordRows& stored);
+    static ListUnits UnitsOfRow(const ListHeads& heads, const Row& row);
+    static ListUnits UnitsToKeep(const ListHeads& heads, const Row& row, const RecordRows& stored);
+    static bool IsProperty(const RecordColumn& column);
     static bool SaysNothingNew(const Row& row, const RecordRows& stored);
     static void Put(RecordRows& rows, const Given& given);
     void PutFluid(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored);
@@ -57,8 +61,10 @@ private:
     static void PutMaterial(RecordRows& rows, const Row& row);
     static bool IsDatedToday(const Row& row, const std::optional<RecordRows>& stored);
     static void PutPipe(const Row& row, const std::optional<RecordRows>& stored);
-    void FindFluid(const std::string& fluidType, const std::string& name, const std::string& head,
-                   std::string& line);
+    std::string FluidLine(const RecordRows& rows, const std::string& name, const std::string& head);
+    void PutPure(RecordRows& rows, const Given& name);
+    static void CheckMixture(const RecordRows& rows);
+    void CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored) const;
     void TakeFluids(FluidForm& form) const;
     static void RefuseFirst(const DataRefusals& refusals, const Row& row);
     Made Calculate(const RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored,

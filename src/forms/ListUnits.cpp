@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/Filling.h"
+#include "core/PhysicalConstants.h"
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
@@ -21,7 +22,6 @@ namespace quillmetra {
 
 namespace {
 
-constexpr const char* DensityField = "Density Units";
 constexpr const char* PressureField = "Pressure Units";
 constexpr const char* FlowField = "Flow Units";
 
@@ -109,21 +109,56 @@ void SetCodeOf(RecordRows& rows, const OptionCode& code) {
 
 // A new record has no values yet.
 void PutUnits(RecordRows& rows, const ListUnits& units) {
-    for (const auto& [field, each] : units) {
+    for (const auto& [field, each] : units.Fields) {
         const ListUnit unit = Completed(rows, field, each);
         if (field == FlowField) {
             if (const char* basis = FindUnit(field, unit.Name, IsGas(rows)).Basis)
                 rows.Set(*FindColumn("Basis"), std::string(basis));
         }
-        if (field == PressureField && ModeOf(unit.Name) == std::string(words::Absolute))
-            SetCodeOf(rows, code::AbsolutePressure);
+        if (field == PressureField) PutModes(rows, unit.Name, "");
         rows.Set(UnitColumn(field), unit.Name);
         rows.Set(FactorColumn(field), unit.Factor);
     }
 }
 
+std::string UnitRuleOf(const RecordColumn& column) {
+    return column.IsExtra() ? "" : column.At.Table->Fields[column.At.Field].Rules.Unit;
+}
+
+double NumberAt(const RecordRows& rows, const RecordColumn& column) {
+    const FieldValue value = rows.Value(column);
+    const auto* number = std::get_if<double>(&value);
+    return number == nullptr ? 0 : *number;
+}
+
+// In psia.
+double Barometer(const RecordRows& rows) {
+    const double barometer = NumberAt(rows, *FindColumn("Barometric Pressure"));
+    return barometer > 0 ? barometer : SeaLevelBarometer;
+}
+
+// What a value in its unit is in that of the library, a gravity as a gravity: value * Factor + Offset.
+struct Scale {
+    std::string Unit;
+    double Factor = 1, Offset = 0;
+    bool operator==(const Scale&) const = default;
+};
+Scale ScaleOf(const RecordRows& rows, const std::string& field) {
+    Scale scale{TextAt(rows, field.c_str()), NumberAt(rows, FactorColumn(field)), 0};
+    const std::string codes = TextAt(rows, "Calc Option");
+    if (field == PressureField && !HasCode(codes, code::AbsolutePressure)) scale.Offset = Barometer(rows);
+    if (field != DensityField || rows.FluidType() != words::Liquid) return scale;
+    if (DensityModeOf(codes) != words::Density) return {"SG", 1, 0};
+    scale.Factor /= WaterDensity;
+    return scale;
+}
+
+bool IsKinematic(const std::string& viscosity) { return viscosity == "cs" || viscosity == "m2/s"; }
+
 bool IsIn(const RecordRows& rows, const ListUnits& units) {
-    return std::ranges::all_of(units, [&rows](const auto& each) {
+    if (!units.DensityMode.empty() && units.DensityMode != DensityModeOf(TextAt(rows, "Calc Option")))
+        return false;
+    return std::ranges::all_of(units.Fields, [&rows](const auto& each) {
         return ValueText(rows.Value(UnitColumn(each.first))) == each.second.Name;
     });
 }
@@ -140,14 +175,32 @@ bool IsUnitName(const std::string& name) {
            FlowUnit(unit::LiquidFlow, name).Factor > 0 || FlowUnit(unit::GasFlow, name).Factor > 0;
 }
 
-std::string UnitFieldOf(const RecordColumn& column, int program, const std::string& unit) {
-    const RecordField& field = column.At.Table->Fields[column.At.Field];
-    std::string name = field.Rules.Unit;
-    if (name.ends_with(" Units")) return name;
-    const auto* cell = std::get_if<Cell>(&field.From);
-    const bool isGravity = cell != nullptr && cell->Of == Group::CaseInput && cell->Row == input::FlowGravity;
-    if (!isGravity || !program::TakesDensity(program)) return "";
-    return FindUnit(DensityField, unit, false).Factor > 0 ? DensityField : "";
+std::string UnitFieldOf(const RecordColumn& column) {
+    const std::string unit = UnitRuleOf(column);
+    return unit.ends_with(" Units") ? unit : "";
+}
+
+std::string FixedUnitOf(const RecordColumn& column) {
+    const std::string unit = UnitRuleOf(column);
+    return unit.ends_with(" Units") ? "" : unit;
+}
+
+bool IsGravity(const RecordColumn& column, int program) {
+    if (column.IsExtra() || !program::TakesDensity(program)) return false;
+    const auto* cell = std::get_if<Cell>(&column.At.Table->Fields[column.At.Field].From);
+    return cell != nullptr && cell->Of == Group::CaseInput && cell->Row == input::FlowGravity;
+}
+
+void PutModes(RecordRows& rows, const std::string& pressureUnit, const std::string& densityMode) {
+    if (const char* mode = ModeOf(pressureUnit))
+        SetCodeOf(rows,
+                  std::string_view(mode) == words::Absolute ? code::AbsolutePressure : code::GaugePressure);
+    if (!densityMode.empty())
+        SetCodeOf(rows, densityMode == words::Density ? code::DensityMode : code::GravityMode);
+}
+
+std::string DensityModeOf(const std::string& codes) {
+    return HasCode(codes, code::DensityMode) ? words::Density : words::Gravity;
 }
 
 ListUnits UnitsOf(const RecordRows& rows) {
@@ -157,8 +210,9 @@ ListUnits UnitsOf(const RecordRows& rows) {
         const std::string name = ValueText(rows.Value(column));
         const FieldValue factor = rows.Value(FactorColumn(column.Name));
         if (const auto* number = std::get_if<double>(&factor); number != nullptr && !name.empty())
-            units[column.Name] = {name, *number, column.Name};
+            units.Fields[column.Name] = {name, *number, column.Name};
     }
+    units.DensityMode = DensityModeOf(TextAt(rows, "Calc Option"));
     return units;
 }
 
@@ -167,7 +221,7 @@ void ConvertRecordInHand(const ListUnits& units) {
     const Figures asked = std::exchange(Suite.ConvertedFigures, Figures::Keep);
     const bool isGas = program::IsOfGas(Calc.CurrentProgram);
     UnitChange change;
-    for (const auto& [field, unit] : units) {
+    for (const auto& [field, unit] : units.Fields) {
         const std::size_t row = At(RowOfField(field, isGas));
         Calc.UnitName[row] = unit.Name;
         Calc.UnitFactor[row] = unit.Factor;
@@ -175,18 +229,67 @@ void ConvertRecordInHand(const ListUnits& units) {
             if (const char* basis = FindUnit(field, unit.Name, isGas).Basis)
                 (isGas ? Calc.Basis : Calc.LiquidBasis) = basis;
         }
-        if (field == PressureField && ModeOf(unit.Name) != nullptr) change.PressureMode = ModeOf(unit.Name);
+        if (const char* mode = field == PressureField ? ModeOf(unit.Name) : nullptr) {
+            // The change of the mode wants the ending of the former one, and puts the new one there.
+            Calc.UnitName[row].back() = Calc.PressureMode == words::Absolute ? 'a' : 'g';
+            change.PressureMode = mode;
+        }
     }
+    if (!units.DensityMode.empty()) change.DensityMode = units.DensityMode;
     CarryDensityUnit();
-    change.Commit();
+    change.Commit(ZeroTemperature::IsConverted);
     Suite.ConvertedFigures = asked;
+}
+
+void TakeFigures(RecordRows& rows, const RecordRows& list, const RecordRows& stored,
+                 const std::function<bool(const std::string& column)>& isGiven) {
+    for (const RecordColumn& column : RecordColumns()) {
+        if (column.Kind != ColumnKind::Input || !column.IsOf(rows.Program())) continue;
+        const bool isGravity = IsGravity(column, rows.Program());
+        const std::string field = isGravity ? DensityField : UnitFieldOf(column);
+        if (field.empty()) continue;
+        const bool hasMode = isGravity || field == PressureField;
+        const Scale own = ScaleOf(rows, field), scale = ScaleOf(list, field);
+        const double value = NumberAt(list, column);
+        if (own == ScaleOf(stored, field) && !isGiven(column.Name)) {
+            rows.Set(column, stored.Value(column));
+        } else if (hasMode && value != 0) {
+            rows.Set(column, (value * scale.Factor + scale.Offset - own.Offset) / own.Factor);
+        }
+    }
+}
+
+std::string FirstByGravity(const RecordRows& list, const RecordRows& stored,
+                           const std::function<bool(const std::string& column)>& isGiven) {
+    const bool otherFlow = TextAt(list, "Basis") != TextAt(stored, "Basis");
+    const bool otherViscosity =
+        IsKinematic(TextAt(list, "Viscosity Units")) != IsKinematic(TextAt(stored, "Viscosity Units"));
+    for (const RecordColumn& column : RecordColumns()) {
+        if (column.Kind != ColumnKind::Input || !column.IsOf(list.Program()) || !isGiven(column.Name))
+            continue;
+        const std::string field = UnitFieldOf(column);
+        if ((otherFlow && field == FlowField) || (otherViscosity && field == "Viscosity Units"))
+            return column.Name;
+    }
+    return "";
+}
+
+bool HasOneGravity(const RecordRows& rows) {
+    double first = 0;
+    for (const RecordColumn& column : RecordColumns()) {
+        if (!column.IsOf(rows.Program()) || !IsGravity(column, rows.Program())) continue;
+        const double gravity = NumberAt(rows, column);
+        if (gravity != 0 && first != 0 && gravity != first) return false;
+        if (gravity != 0) first = gravity;
+    }
+    return true;
 }
 
 void TakeUnits(RecordRows& rows, const ListUnits& units, bool isStored) {
     if (!isStored) return PutUnits(rows, units);
     if (IsIn(rows, units)) return;
-    ListUnits whole;
-    for (const auto& [field, unit] : units) whole[field] = Completed(rows, field, unit);
+    ListUnits whole{{}, units.DensityMode};
+    for (const auto& [field, unit] : units.Fields) whole.Fields[field] = Completed(rows, field, unit);
     TakeRecordRows(rows);
     ConvertRecordInHand(whole);
     rows = RowsOfRecord();

@@ -16,6 +16,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "records/Backups.h"
 #include "records/RecordFiles.h"
 #include "records/RecordTables.h"
 #include "reports/FormRows.h"
@@ -142,6 +143,8 @@ std::string Recalculation::Summary() const {
 }
 
 void Recalculation::Save() {
+    if (changed_.empty()) return;
+    KeepBackupOfToday(Suite.DatabaseFile);
     Transaction all(*database_);
     if (database_->Version() != version_)
         throw RuntimeError{failure::ValueRefused,

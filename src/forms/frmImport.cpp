@@ -3,10 +3,10 @@
 
 #include <utility>
 
-#include "core/CalcRecord.h"
 #include "core/Suite.h"
 #include "forms/ColourSchemes.h"
 #include "forms/GridText.h"
+#include "forms/RecordsRun.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/PathText.h"
@@ -74,25 +74,12 @@ void frmImport::ShowRunning(bool running) {
     for (CommandButton* button : {&cmdCopy, &cmdSave}) button->SetEnabled(false);
 }
 
-// The record in hand is that of the browser again at the end.
 void frmImport::cmdRead_Click() {
-    const CalcRecord before = Calc;
-    ShowRunning(true);
-    SetStatus("Reading; Escape stops it");
     import_.reset();
-    bool isWhole = false;
-    std::string failure;
-    try {
-        isWhole = Run();
-    } catch (const RuntimeError& error) {
-        failure = error.Description;
-    }
-    Calc = before;
-    ShowRunning(false);
+    const bool isWhole = RunWhole(
+        *this, "Reading", [this](bool running) { ShowRunning(running); }, [this] { return Run(); });
     if (!isWhole) import_.reset();
-    SetStatus(isWhole ? "" : failure.empty() ? "Stopped; nothing was changed" : failure);
     ShowList();
-    if (!failure.empty()) Tell(failure, Caption(), Icon::Stop);
 }
 
 bool frmImport::Run() {
@@ -138,20 +125,14 @@ void frmImport::cmdSave_Click() {
     const bool replaces = chkReplace.Checked() && import_->Count(ImportState::Changed) > 0;
     std::string question = "Save " + Counted(added, "new record");
     if (replaces) question += " and replace " + std::to_string(import_->Count(ImportState::Changed));
-    if (!AskYesNo(question + "?", Caption(), Icon::Question)) return;
-    std::size_t count = 0;
-    try {
-        const BusyPointer busy;
-        count = static_cast<std::size_t>(import_->Save(replaces));
-    } catch (const RuntimeError& error) {
-        Tell(error.Description, Caption(), Icon::Stop);
-        return;
-    }
+    int count = 0;
+    const auto save = [&] { count = import_->Save(replaces); };
+    if (!SaveOnConsent(*this, question + "?", save)) return;
     if (Saved) Saved();
     import_.reset();
     cmdSave.SetEnabled(false);
     chkReplace.SetEnabled(false);
-    SetStatus(Counted(count, "record") + " saved");
+    SetStatus(Counted(static_cast<std::size_t>(count), "record") + " saved");
 }
 
 void frmImport::cmdCancel_Click() { UnloadForm(Name()); }

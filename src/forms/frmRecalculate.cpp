@@ -3,10 +3,10 @@
 
 #include <utility>
 
-#include "core/CalcRecord.h"
 #include "core/Suite.h"
 #include "forms/ColourSchemes.h"
 #include "forms/GridText.h"
+#include "forms/RecordsRun.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
@@ -57,21 +57,10 @@ void frmRecalculate::ShowRunning(bool running) {
     for (CommandButton* button : {&cmdCopy, &cmdSave}) button->SetEnabled(false);
 }
 
-// The record in hand is that of the browser again at the end.
 void frmRecalculate::cmdRun_Click() {
-    const CalcRecord before = Calc;
-    ShowRunning(true);
-    SetStatus("Calculating; Escape stops it");
-    bool isWhole = false;
-    try {
-        isWhole = Run();
-    } catch (const RuntimeError& error) {
-        Tell(error.Description, Caption(), Icon::Stop);
-    }
-    Calc = before;
-    ShowRunning(false);
+    const bool isWhole = RunWhole(
+        *this, "Calculating", [this](bool running) { ShowRunning(running); }, [this] { return Run(); });
     if (!isWhole) run_.reset();
-    SetStatus(isWhole ? "" : "Stopped; nothing was changed");
     ShowList();
 }
 
@@ -115,13 +104,8 @@ void frmRecalculate::cmdSave_Click() {
     const int changed = run_ == nullptr ? 0 : run_->Changed();
     if (changed == 0) return;
     const std::string count = Counted(static_cast<std::size_t>(changed), "record");
-    if (!AskYesNo("Save the new results of " + count + "?", Caption(), Icon::Question)) return;
-    try {
-        run_->Save();
-    } catch (const RuntimeError& error) {
-        Tell(error.Description, Caption(), Icon::Stop);
-        return;
-    }
+    const auto save = [this] { run_->Save(); };
+    if (!SaveOnConsent(*this, "Save the new results of " + count + "?", save)) return;
     if (Saved) Saved();
     cmdSave.SetEnabled(false);
     SetStatus(count + " saved");

@@ -133,31 +133,33 @@ char SeparatorOf(std::string_view text) {
                                                counts.begin())];
 }
 
-// What a comma in a number can only be: 1,5 and 0,125 have decimals, 1,234 may as well be thousands.
-bool IsSurelyDecimal(std::string_view text) {
-    const std::size_t comma = text.find(',');
-    const std::size_t first = text.front() == '+' || text.front() == '-' ? 1 : 0;
-    const std::size_t before = comma - first, behind = text.size() - comma - 1;
-    return behind != 3 || before == 0 || before > 3 || text[first] == '0';
-}
+// What the numbers of a file say of one decimal sign.
+struct Evidence {
+    bool Any = false, Sure = false;
 
-// Semicolons are what a comma locale separates by; tabs say nothing.
-bool HasDecimalCommas(std::string_view text, char separator) {
-    if (separator == ',') return false;
-    bool any = false, sure = false, points = false;
+    void Take(std::string_view text, char point) {
+        if (text.find_first_of(".,") == std::string_view::npos) return;
+        Sure = Sure || ShowsDecimalSign(text, point);
+        Any = Any || Sure || (text.find(point) != std::string_view::npos && NumberIn(text, point));
+    }
+};
+
+// The decimal sign, or none where nothing tells whether 1.234 has decimals or thousands. Semicolons are what
+// a comma locale separates by; tabs say nothing.
+char DecimalSignOf(std::string_view text, char separator) {
+    if (separator == ',') return '.';
+    Evidence commas, points;
     std::vector<Item> line;
     for (Items items(text, separator); items.Next(line);) {
         for (const Item& item : line) {
-            const std::string_view trimmed = Trim(item.Text);
-            if (trimmed.find(',') != std::string_view::npos && NumberIn(trimmed, ',')) {
-                any = true;
-                sure = sure || IsSurelyDecimal(trimmed);
-            } else if (trimmed.find('.') != std::string_view::npos && NumberIn(trimmed, '.')) {
-                points = true;
-            }
+            commas.Take(Trim(item.Text), ',');
+            points.Take(Trim(item.Text), '.');
         }
     }
-    return separator == ';' ? any && (sure || !points) : sure && !points;
+    const bool isOfCommas = separator == ';';
+    if (commas.Sure != points.Sure) return commas.Sure ? ',' : '.';
+    if (commas.Sure || (isOfCommas && commas.Any)) return isOfCommas ? ',' : '.';
+    return commas.Any || points.Any ? '\0' : '.';
 }
 
 }  // namespace
@@ -177,8 +179,8 @@ void ReadSeparated(const std::string& bytes, SheetTaker& taker) {
     } else {
         separator = SeparatorOf(rows);
     }
-    const bool commas = HasDecimalCommas(rows, separator);
-    if (!taker.TakeSheet("", commas)) return;
+    const char point = DecimalSignOf(rows, separator);
+    if (!taker.TakeSheet("", point == ',')) return;
     std::vector<Item> line;
     SheetRow row;
     for (Items items(rows, separator); items.Next(line);) {
@@ -186,7 +188,7 @@ void ReadSeparated(const std::string& bytes, SheetTaker& taker) {
         row.Number = firstRow + items.Line();
         row.Cells.clear();
         for (Item& item : line) {
-            const std::optional<double> number = NumberIn(item.Text, commas ? ',' : '.');
+            const std::optional<double> number = NumberIn(item.Text, point);
             row.Cells.push_back({item.Column, number ? SheetCell::Kind::Number : SheetCell::Kind::Text,
                                  std::move(item.Text), number});
         }

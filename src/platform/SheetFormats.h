@@ -16,6 +16,9 @@ inline RuntimeError Refused(const std::string& why) { return {321, why}; }
 
 // A text that is one number, without blanks or separators within it, by this decimal sign.
 std::optional<double> NumberIn(std::string_view text, char point);
+// Whether a text is a number in which this can only be the decimal sign: 1,5 and 0,125 and 1.234,5 and
+// 1.234.567 say that it is the comma, 1,234 may as well be thousands.
+bool ShowsDecimalSign(std::string_view text, char point);
 
 void ReadSeparated(const std::string& bytes, SheetTaker& taker);
 void ReadWorkbook(const std::string& bytes, SheetTaker& taker);

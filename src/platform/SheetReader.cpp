@@ -41,9 +41,37 @@ std::size_t SkipMantissa(std::string_view text, char point) {
     return digits == 0 ? 0 : at;
 }
 
+// The digits of 1.234.567 with the number of their points; nothing where they are no groups of three.
+struct Groups {
+    std::size_t End = 0, Separators = 0;
+};
+Groups SkipGroups(std::string_view text, char separator) {
+    const std::size_t first = SkipSign(text, 0);
+    std::size_t at = SkipDigits(text, first);
+    if (at == first || at > first + 3) return {};
+    Groups groups{at, 0};
+    for (; at < text.size() && text[at] == separator; groups = {at, groups.Separators + 1}) {
+        const std::size_t group = at + 1;
+        at = SkipDigits(text, group);
+        if (at != group + 3) return {};
+    }
+    return groups;
+}
+
 }  // namespace
 
 namespace sheets {
+
+bool ShowsDecimalSign(std::string_view text, char point) {
+    const auto [end, separators] = SkipGroups(text, point == ',' ? '.' : ',');
+    if (end == text.size()) return separators > 1;
+    if (separators > 0) return text[end] == point && SkipDigits(text, end + 1) == text.size();
+    if (!NumberIn(text, point)) return false;
+    const std::size_t sign = text.find(point);
+    if (sign == std::string_view::npos) return false;
+    const std::size_t first = SkipSign(text, 0), before = sign - first;
+    return text.size() - sign - 1 != 3 || before == 0 || before > 3 || text[first] == '0';
+}
 
 std::optional<double> NumberIn(std::string_view text, char point) {
     text = Trim(text);

@@ -30,12 +30,17 @@ public:
         if (name != "Relationship") return;
         std::string target = attributes.Text("Target");
         target = target.starts_with('/') ? target.substr(1) : folder_ + target;
-        const std::string type = attributes.Text("Type");
-        ById[attributes.Text("Id")] = target;
-        ByType.emplace(type.substr(type.rfind('/') + 1), target);
+        std::string type = attributes.Text("Type");
+        type.erase(0, type.rfind('/') + 1);
+        ById[attributes.Text("Id")] = {type, target};
+        ByType.emplace(type, target);
     }
 
-    std::map<std::string, std::string> ById, ByType;
+    struct Relation {
+        std::string Type, Target;
+    };
+    std::map<std::string, Relation> ById;
+    std::map<std::string, std::string> ByType;
 
 private:
     std::string folder_;
@@ -47,7 +52,7 @@ Relations RelationsOf(ZipArchive& archive, const std::string& part) {
     const std::string folder = FolderOfPart(part);
     Relations relations(folder);
     const std::string file = folder + "_rels/" + part.substr(folder.size()) + ".rels";
-    if (archive.Has(file)) ReadXml(archive, file, relations);
+    if (archive.Has(file)) ReadXml(archive, file, relations, MostKept);
     return relations;
 }
 
@@ -191,7 +196,10 @@ private:
         int column = 0;
         for (std::size_t i = 0; i < place.size() && IsLetter(place[i]) && column <= MostColumns; ++i)
             column = 26 * column + (LowerCase(place[i]) - 'a' + 1);
-        column_ = column > 0 ? column - 1 : column_ + 1;
+        const int next = column > 0 ? column - 1 : column_ + 1;
+        if (next <= column_)
+            throw Damaged("row " + std::to_string(row_.Number) + " has cells twice or in no order");
+        column_ = next;
         if (column_ >= MostColumns)
             throw Damaged("row " + std::to_string(row_.Number) + " has too many columns");
         type_ = attributes.Text("t");
@@ -267,7 +275,7 @@ std::string PartOfType(const Relations& relations, const char* type) {
 template <typename Taker>
 Taker ReadIfThere(ZipArchive& archive, const std::string& part) {
     Taker taker;
-    if (archive.Has(part)) ReadXml(archive, part, taker);
+    if (archive.Has(part)) ReadXml(archive, part, taker, MostKept);
     return taker;
 }
 
@@ -275,23 +283,21 @@ Taker ReadIfThere(ZipArchive& archive, const std::string& part) {
 
 void ReadWorkbook(const std::string& bytes, SheetTaker& taker) {
     ZipArchive archive(bytes);
-    Relations package("");
-    if (archive.Has("_rels/.rels")) ReadXml(archive, "_rels/.rels", package);
-    const std::string main = PartOfType(package, "officeDocument");
+    const std::string main = PartOfType(RelationsOf(archive, ""), "officeDocument");
     if (!archive.Has(main)) throw Refused("This is an archive, but no workbook (.xlsx)");
 
     SheetNames names;
-    ReadXml(archive, main, names);
+    ReadXml(archive, main, names, MostKept);
     const Relations parts = RelationsOf(archive, main);
     const Book book{names.From1904, ReadIfThere<DateFormats>(archive, PartOfType(parts, "styles")).IsDate,
                     ReadIfThere<SharedTexts>(archive, PartOfType(parts, "sharedStrings")).Texts};
     for (const auto& [name, id] : names.Sheets) {
         const auto part = parts.ById.find(id);
         if (part == parts.ById.end()) throw Damaged("its sheet " + name + " is missing");
-        if (LowerCase(part->second).find("worksheets/") == std::string::npos) continue;  // a chart
+        if (part->second.Type != "worksheet") continue;  // a chart
         if (!taker.TakeSheet(name, false)) continue;
         SheetRows rows(book, taker);
-        ReadXml(archive, part->second, rows);
+        ReadXml(archive, part->second.Target, rows);
         if (rows.IsStopped()) return;
     }
 }

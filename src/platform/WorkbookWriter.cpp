@@ -159,8 +159,8 @@ void WorkbookWriter::Book::EndSheet() {
     if (Sheet == nullptr) return;
     if (Columns > 0) {
         const auto last = static_cast<lxw_col_t>(Columns - 1);
-        worksheet_set_column(Sheet, 0, last, ColumnWidth, nullptr);
         worksheet_set_column(Sheet, 0, 0, FirstWidth, nullptr);
+        if (last > 0) worksheet_set_column(Sheet, 1, last, ColumnWidth, nullptr);
         if (Heads > 0) worksheet_autofilter(Sheet, Heads - 1, 0, std::max(Row, Heads + 1) - 1, last);
     }
     std::FILE* const rows = Sheet->optimize_tmpfile;

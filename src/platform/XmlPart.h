@@ -1,6 +1,8 @@
 // An XML part of an archive, told element by element.
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -32,9 +34,14 @@ public:
     bool Enough = false;
 };
 
+// What is kept of a part stays in memory: of more elements than these a part would fill the machine.
+inline constexpr std::uint64_t MostKept = 4U << 20U;
+
 // The local name of an element or attribute.
 std::string_view LocalName(std::string_view name);
 
-void ReadXml(ZipArchive& archive, const std::string& part, XmlTaker& taker);
+// Refuses what is no XML, what no spreadsheet writes, and more elements than these.
+void ReadXml(ZipArchive& archive, const std::string& part, XmlTaker& taker,
+             std::uint64_t mostElements = std::numeric_limits<std::uint64_t>::max());
 
 }  // namespace quillmetra::sheets

@@ -85,7 +85,9 @@ struct ZipArchive::Engine {
             sum += info.uncompressed_size;
             if (Parts.size() == MostParts) throw Refused("The workbook has more than 10000 parts");
             if ((info.flag & 1U) != 0) throw Refused("The workbook has a password");
-            Parts.emplace(LowerCase(std::string(name.data())), place);
+            std::string part = LowerCase(std::string(name.data()));
+            std::ranges::replace(part, '\\', '/');  // as some programs write them
+            Parts.emplace(std::move(part), place);
         }
         if (state != UNZ_END_OF_LIST_OF_FILE) throw Damaged();
     }

@@ -13,23 +13,13 @@
 
 namespace quillmetra::script {
 
-namespace {
-
-std::filesystem::path FileNamed(const ScriptPlayer& player, const std::string& path) {
-    const std::string named = path.starts_with('@') ? player.Folder() + "\\" + path.substr(1) : path;
-    return AbsolutePath(named);
-}
-
-}  // namespace
-
 std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path) {
-    const std::filesystem::path file = FileNamed(player, path);
-    const std::string name = SuitePath(file);
-    return std::filesystem::is_directory(file) ? DatabaseFileOf(name) : name;
+    std::string name = SuitePath(AbsolutePath(FileNamed(player, path)));
+    return std::filesystem::is_directory(MachinePath(name)) ? DatabaseFileOf(name) : name;
 }
 
 std::string FileToWrite(const ScriptPlayer& player, const std::string& path, const std::string& by) {
-    std::string file = SuitePath(FileNamed(player, path));
+    std::string file = SuitePath(AbsolutePath(FileNamed(player, path)));
     const std::string reason = WhyNotToWrite(file, by);
     if (!reason.empty()) throw ScriptFailure{reason};
     return file;

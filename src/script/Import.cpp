@@ -13,9 +13,9 @@ namespace quillmetra::script {
 
 namespace {
 
-std::vector<std::string> ReportOf(const Import& import) {
+std::vector<std::string> ReportOf(const Import& list) {
     std::vector<std::string> lines = {"Row,Tag,State,Column,What"};
-    for (const ImportLine& each : import.Lines()) {
+    for (const ImportLine& each : list.Lines()) {
         lines.push_back((each.Row > 0 ? std::to_string(each.Row) : "") + "," + Item(each.Tag) + "," +
                         Word(each.State) + "," + Item(each.Column) + "," + Item(each.Text));
     }
@@ -32,16 +32,14 @@ void ImportList(ScriptPlayer& player, const Arguments& arguments) {
     RequireBrowser(player);
 
     Suite.DatabaseFile = DatabaseNamed(player, arguments[0].Text);
-    Import import(DatabaseNamed(player, arguments[1].Text));
-    import.Run([](int, int) { return true;
-});
-WriteReport(player, report, ReportOf(import));
-player.Out << import.Summary() << '\n';
-const bool allEqual = import.Count(ImportState::New) + import.Count(ImportState::Changed) +
-                          import.Count(ImportState::Refused) ==
-                      0;
-player.Differs = !allEqual;
-if (what != "preview") import.Save(what == "replace");
-}  // namespace quillmetra::script
+    Import list(FileNamed(player, arguments[1].Text));
+    list.Run([](int, int) { return true; });
+    WriteReport(player, report, ReportOf(list));
+    player.Out << list.Summary() << '\n';
+    player.Differs =
+        list.Count(ImportState::New) + list.Count(ImportState::Changed) + list.Count(ImportState::Refused) >
+        0;
+    if (what != "preview") list.Save(what == "replace");
+}
 
 }  // namespace quillmetra::script

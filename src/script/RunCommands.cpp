@@ -22,12 +22,11 @@ int NumberAtLeast(const ScriptWord& word, int least) {
     if (number < least) throw ScriptFailure{word.Text + " is less than " + std::to_string(least)};
     return number;
 }
+}  // namespace
 
-// A name that begins with @ counts from the suite's folder.
 std::string FileNamed(const ScriptPlayer& player, const std::string& name) {
     return name.starts_with('@') ? player.Folder() + "\\" + name.substr(1) : name;
 }
-}  // namespace
 
 void Folder(ScriptPlayer& player, const Arguments& arguments) { player.UseFolder(arguments[0].Text); }
 

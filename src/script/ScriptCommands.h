@@ -59,9 +59,11 @@ void Recalculate(ScriptPlayer& player, const Arguments& arguments);
 void Export(ScriptPlayer& player, const Arguments& arguments);
 void Sizes(ScriptPlayer& player, const Arguments& arguments);
 void ImportList(ScriptPlayer& player, const Arguments& arguments);
-// A database, or the folder that it is in, as the suite names files; "@" is the suite's own folder.
+// A file by a name that counts from the suite's folder where it begins with "@".
+std::string FileNamed(const ScriptPlayer& player, const std::string& name);
+// A database likewise, or the folder that it is in, as the suite names files.
 std::string DatabaseNamed(const ScriptPlayer& player, const std::string& path);
-// A file likewise; throws where it must not be written over by what is named ("an export").
+// A file that is written; throws where it must not be written over by what is named ("an export").
 std::string FileToWrite(const ScriptPlayer& player, const std::string& path, const std::string& by);
 // A text in quotes, and the lines of a report to a file; to the output without one.
 std::string Item(const std::string& text);

@@ -76,6 +76,10 @@ TEST_F(SheetReader, SeparatedValues) {
         {"Tag;Flow\nP-1;1,5\nP-2;1.5\n", "[,]\n1 A=t:Tag B=t:Flow\n2 A=t:P-1 B=n:1,5\n3 A=t:P-2 B=t:1.5"},
         {"Tag;Flow\nP-1;1.5\nP-2;1,234", "[]\n1 A=t:Tag B=t:Flow\n2 A=t:P-1 B=n:1.5\n3 A=t:P-2 B=t:1,234"},
         {"Tag\tFlow\nP-1\t1,234\n", "[]\n1 A=t:Tag B=t:Flow\n2 A=t:P-1 B=t:1,234"},
+        {"a;1.000\nb;4,026\nc;1.234,5", "[,]\n1 A=t:a B=t:1.000\n2 A=t:b B=n:4,026\n3 A=t:c B=t:1.234,5"},
+        {"a;1.000\nb;1.234.567", "[,]\n1 A=t:a B=t:1.000\n2 A=t:b B=t:1.234.567"},
+        {"a;1.000\nb\"x;\"0.5\"", "[]\n1 A=t:a B=n:1.000\n2 A=t:b\"x B=n:0.5"},
+        {"a;1.000;100.000", "[]\n1 A=t:a B=t:1.000 C=t:100.000"},
         {"Tag\tFlow\rP-1\t-0,5\r", "[,]\n1 A=t:Tag B=t:Flow\n2 A=t:P-1 B=n:-0,5"},
         {"sep=;\r\na,b;c\r\n", "[]\n2 A=t:a,b B=t:c"},
         {"a,\"b\"\"c,\nd\",e\n\n,,\n1", "[]\n1 A=t:a B=t:b\"c,\nd C=t:e\n4 A=n:1"},
@@ -176,6 +180,11 @@ TEST_F(Workbook, Cells) {
     EXPECT_EQ(Pass("<row/><row><c><v>1</v></c><c r='AA2'><v>2</v></c></row><row r='9'><c/></row>",
                    "<row><c t='s'><v>0</v></c></row>"),
               "[One]\n2 A=n:1 AA=n:2[Two]\n1 A=t:Tag");
+    Parts parts = BookOf("<row><c><v>1</v></c></row>");
+    parts[2].second.replace(parts[2].second.find("worksheets/sheet1"), 17, "one/any");
+    parts[5].first = "xl\\one\\any.xml";
+    Pack(parts);
+    EXPECT_EQ(ReadFile(), "[One]\n1 A=n:1");
     EXPECT_EQ(Pass("</sheetData><mergeCells><mergeCell ref='B4:C6'/></mergeCells><sheetData>"),
               "[One]\nmerged B4:C6");
 }
@@ -187,12 +196,24 @@ TEST_F(Workbook, HostileOnesAreRefused) {
     EXPECT_EQ(Pass(Cell("", "<v>nan</v>")), damaged + "a number in row 3");
     EXPECT_EQ(Pass("<row r='3'><c r='XFE3'/></row>"), damaged + "row 3 has too many columns");
     EXPECT_EQ(Pass("<row r='1048577'/>"), damaged + "row 1048577");
+    EXPECT_EQ(Pass("<row r='3'><c r='B3'/><c r='B3'/></row>"),
+              damaged + "row 3 has cells twice or in no order");
+    const std::string sheet = damaged + "xl/worksheets/sheet1.xml has ";
+    std::string deep;
+    for (int i = 0; i < 100; ++i) deep += "<a>";
+    EXPECT_EQ(Pass(deep), sheet + "elements in one another without end");
+    EXPECT_EQ(Pass("<a b='" + std::string(17U << 20U, 'x') + "'/>"), sheet + "a tag of more than 16 MB");
     EXPECT_EQ(Pass("<row>"), damaged + "xl/worksheets/sheet1.xml, line 1, mismatched tag");
 
     Parts parts = BookOf("");
     parts[5].second = "<!DOCTYPE a [<!ENTITY b 'cc'>]><worksheet>&b;</worksheet>";
     Pack(parts);
     EXPECT_EQ(ReadFile(), damaged + "a part of it declares a type");
+    std::string texts;
+    for (int i = 0; i < 1 << 22; ++i) texts += "<si/>";
+    parts[4].second = "<sst>" + texts + "</sst>";
+    Pack(parts);
+    EXPECT_EQ(ReadFile(), damaged + "xl/sharedStrings.xml has too many elements");
     parts.erase(parts.begin() + 2);
     Pack(parts);
     EXPECT_EQ(ReadFile(), damaged + "its sheet One is missing");

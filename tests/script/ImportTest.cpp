@@ -199,6 +199,65 @@ TEST_F(UsersLists, ARowBecomesACalculationOfItsForm) {
     EXPECT_NE(Saved("N-3", "Normal Final Pressure"), "");
     EXPECT_EQ(Saved("N-4", "Pressure Drop Normal Temperature"), "337.791");
     EXPECT_EQ(Saved("N-2", "Pipe Size"), "1.959");
+    const std::string state = ",100000,60,100,Toluene,80,";
+    EXPECT_EQ(
+        List("Tag,Program Number,Pipe Size,Pipe Length,Pipe Material Number,Pipe Material,Normal Flow,Normal "
+             "Temperature,Normal Flow Source Pressure,Fluid Data0,Fluid Percent0,Fluid Data1,Fluid Percent1\n"
+             "M-1,1,4.026,1000,2," +
+             state + "benzene,20\nM-2,1,4.026,1000,,CAST iron" + state +
+             "Benzene,10\nM-3,1,4.026,1000,2,Wood" + state + "Benzene,20\nM-4,1,4.026,1000,8," + state +
+             "Benzene,20\nM-5,1,4.026,1000,,CAST iron" + state + "Milk,20\n"),
+        "1 new, 0 changed, 0 equal, 4 refused\n3 M-2 refused Fluid Percent0: Sum of percentages must equal "
+        "100\n"
+        "4 M-3 refused Pipe Material: Wood has the number 7\n5 M-4 refused Pipe Material Number: materials "
+        "have "
+        "the numbers 1 to 7\n6 M-5 refused Fluid Data1: Milk is not in Liquid.txt");
+    EXPECT_EQ(Saved("M-1", "Pipe Material") + Saved("M-1", "Normal MW/SG") + Saved("M-1", "Fluid Name"),
+              "Tubing0.8747Mixture");
+}
+
+// Values are taken in the units of the list, or refused: never in others.
+TEST_F(UsersLists, UnitsAreNotPassedOver) {
+    List(
+        "Tag,Normal Temperature,Normal Flow Source Pressure,Normal MW/SG\n-,degC,bara,kg/m3\nP-1,0,1.2,998\n",
+        true);
+    EXPECT_EQ(Saved("P-1", "Normal Temperature") + " " + Saved("P-1", "Normal Flow Source Pressure") +
+                  Saved("P-1", "Pressure Units") + " " + Saved("P-1", "Normal MW/SG"),
+              "32 2.7048psig 0.99899215");
+    List("Tag,Program Number,Normal Flow\nP-1,103,12\n", true);
+    EXPECT_EQ(Saved("P-1", "Flow Units") + Saved("P-1", "Normal Flow"), "kg/s12");
+    const std::string line = ",102,4.026,1000,300,60,100,0.9,1,200,60,100,";
+    List(
+        "Tag,Program Number,Pipe Size,Pipe Length,Case 1 Flow,Case 1 Temperature,Case 1 Source Pressure,Case "
+        "1 MW/SG,"
+        "Pressure Drop Case 1 Viscosity,Normal Flow,Normal Temperature,Normal Flow Source Pressure,Normal "
+        "MW/SG,Normal "
+        "Viscosity\nV-1" +
+        line + "0.8,1\nV-2" + line + "0.9,1\n");
+    const std::string one = "0 new, 0 changed, 0 equal, 1 refused\n";
+    const std::pair<std::string, std::string> lists[] = {
+        {"Tag,Normal Flow\n,[kg/s]\nP-1,5\n",
+         one + "3 P-1 refused Flow Units: [kg/s] is no unit of the library"},
+        {"Tag,Normal MW/SG\n,kg/l\nP-1,0.9\n",
+         one + "3 P-1 refused Density Units: kg/l is no unit of the library"},
+        {"Tag,Program Number\nP-1,199\n",
+         one + "2 P-1 refused Program Number: \"199\" is of none of the unit sets 1 to 5"},
+        {"Tag,Program Number\nP-2,105\n",
+         one + "2 P-2 refused Program Number: there is no unit set of the user"},
+        {"Tag;Data Date;Normal Flow\nP-1;03/04/2026;1,5\n",
+         one + "2 P-1 refused Data Date: \"03/04/2026\" may have its day or its month first: write it as "
+               "2026-11-26"},
+        {"Tag;Normal Flow\nP-1;1.000\n", one + "2 P-1 refused Normal Flow: \"1.000\" is no number: its sign "
+                                               "may be of decimals or of thousands"},
+        {"Tag,Calc By\n\"P\n1\",Ann\n",
+         one + "2  refused Tag: a line break or another character that does not show"},
+        {"Tag,Normal Flow\n,lb/h\nV-1,100000\nV-2,100000\n",
+         "0 new, 1 changed, 0 equal, 1 refused\n3 V-1 refused Normal Flow: mass becomes volume here by a "
+         "gravity that is "
+         "another one: give it in the unit on file\n4 V-2 changed Normal Flow: 222.10318, was 200; and 4 "
+         "more"}};
+    for (const auto& [text, told] : lists) EXPECT_EQ(List(text), told);
+    EXPECT_THROW(List("Tag,Barometric Pressure\n,kPa\nP-1,101.3\n"), RuntimeError);
 }
 
 // Nothing half done: neither of a list that was stopped nor over what somebody else has saved meanwhile.
@@ -237,7 +296,8 @@ TEST_F(UsersLists, WhatIsWrongIsToldWithRowAndColumn) {
         {"H," + line + state + ",1,1,,A name that is too long",
          "Calc By: The field 'Calc By' holds at most 15 characters"},
         {"p-1," + line + state + ",1,1,,", "Tag: row 2 has this tag already"},
-        {"I," + line + "\"1,000\",60,100,,1,1,,", "Normal Flow: \"1,000\" is no number"},
+        {"I," + line + "\"1,000\",60,100,,1,1,,",
+         "Normal Flow: \"1,000\" is no number: its sign may be of decimals or of thousands"},
         {"J," + line + "100000,60,-20,,1,1,,",
          "Normal Flow Source Pressure: Pressure must be greater than minus 14.7"},
         {"K," + line + "-5,60,100,,1,1,,", "Normal Flow: Flow must be greater than zero"},

@@ -128,7 +128,11 @@ expect-cell grdChanges 4 0 T-2
 click cmdCancel
 
 # The same as a command, which prints what it finds.
+set-date 2026-11-27
 recalculate @TRData "" save
+click mnuBackups
+expect-cell grdBackups 1 0 2026-11-27
+click cmdCancel
 recalculate @TRData/TRDB.MDB
 # And a saved line in each pipe.
 sizes @TRData P-102 2 "Water - general service" 40
