@@ -44,10 +44,10 @@ bool IsTheSuites(const RecordColumn& column) {
                    {"Program Number", "Program Name", "Calc Option", "Other Calcs", "Calc Date"});
 }
 
-int UnitSetOf(int programNumber) { return HasUnitSet(programNumber) ? programNumber % 100 : 0; }
-int UnitSetOf(const FieldValue& programNumber) {
+int SetOfNumber(int programNumber) { return HasUnitSet(programNumber) ? programNumber % 100 : 0; }
+int SetOfNumber(const FieldValue& programNumber) {
     const auto* number = std::get_if<double>(&programNumber);
-    return number == nullptr ? 0 : UnitSetOf(static_cast<int>(*number));
+    return number == nullptr ? 0 : SetOfNumber(static_cast<int>(*number));
 }
 
 std::string InOneLine(std::string text) {
@@ -70,6 +70,15 @@ const ListRecords::Given* ListRecords::Row::Find(std::string_view column) const 
     return found == Cells.end() ? nullptr : &*found;
 }
 
+std::function<bool(const std::string&)> ListRecords::Row::Has() const {
+    return [this](const std::string& column) { return Find(column) != nullptr; };
+}
+
+int ListRecords::UnitSetOf(const Row& row) {
+    const Given* const number = row.Find("Program Number");
+    return number == nullptr ? 0 : SetOfNumber(number->Value);
+}
+
 std::string ListRecords::TagOf(const ListHeads& heads, const SheetRow& row) {
     const auto cell = std::ranges::find(row.Cells, heads.TagColumn(), &SheetCell::Column);
     if (cell == row.Cells.end()) throw ListRefusal{"Tag", "the row has no tag"};
@@ -89,7 +98,7 @@ int ListRecords::ProgramOf(const ListHeads& heads, const SheetRow& row,
         const Program* const program = FindProgram(quillmetra::ProgramOf(number));
         if (program == nullptr || *cell->Number != number)
             throw ListRefusal{"Program Number", QuotedCell(*cell) + " is none of the programs 1 to 5"};
-        if (UnitSetOf(number) > UserUnitSet)
+        if (SetOfNumber(number) > UserUnitSet)
             throw ListRefusal{"Program Number", QuotedCell(*cell) + " is of none of the unit sets 1 to 5"};
         return program->Number;
     }
@@ -243,9 +252,11 @@ void ListRecords::RefuseFirst(const DataRefusals& refusals, const Row& row) {
 
 // Where that is not the gravity of the value itself, nobody would see that it became another one.
 void ListRecords::CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored) const {
-    if (!renews_ && HasOneGravity(rows)) return;
-    const std::string column =
-        FirstByGravity(rows, stored, [&row](const std::string& each) { return row.Find(each) != nullptr; });
+    const Given* const name = row.Find("Fluid Name");
+    const bool isOther = name != nullptr && !SameValue(stored.Value(*name->Of), rows.Value(*name->Of));
+    const bool isAnother = renews_ && (isOther || !program::IsOfGas(row.Program));
+    if (!isAnother && HasOneGravity(rows)) return;
+    const std::string column = FirstByGravity(rows, stored, row.Has());
     if (column.empty()) return;
     throw ListRefusal{
         row.Find(column)->Head,
@@ -259,41 +270,53 @@ bool ListRecords::IsDatedToday(const Row& row, const std::optional<RecordRows>& 
     return date == nullptr || SameValue(stored->Value(*date->Of), date->Value);
 }
 
-ListRecords::Made ListRecords::Calculate(const RecordRows& rows, const Row& row,
-                                         const std::optional<RecordRows>& stored, const ListUnits& ofRecord) {
+// What a cell says must be what the record then has, before and behind the calculation.
+void ListRecords::CheckTaken(const Row& row, const RecordRows& before, const RecordRows& after,
+                             bool hasOtherFluid) {
+    for (const Given& given : row.Cells) {
+        if (IsTheSuites(*given.Of) || IsEmpty(given.Value)) continue;
+        if (hasOtherFluid && IsProperty(*given.Of)) continue;
+        const FieldValue has = before.Value(*given.Of), is = after.Value(*given.Of);
+        if (SameValue(has, is)) continue;
+        throw ListRefusal{given.Head, ValueText(has) + " is not taken" +
+                                          (IsEmpty(is) ? "" : ": the calculation has " + ValueText(is))};
+    }
+}
+
+// The record in hand goes from the units of the list to its own.
+void ListRecords::ReturnToUnits(RecordRows& rows, const Row& row, const RecordRows& stored,
+                                const ListUnits& own) const {
+    CheckTaken(row, rows, RowsOfRecord(), false);
+    CheckGravity(rows, row, stored);
+    ConvertRecordInHand(own);
+    const RecordRows list = std::exchange(rows, RowsOfRecord());
+    TakeFigures(rows, list, stored, row.Has());
+    TakeRecordRows(rows);
+}
+
+void ListRecords::TellMissing(Made& made, const Row& row) {
+    for (const Given& result : row.Results) {
+        const FieldValue is = made.Rows.Value(*result.Of);
+        if (!IsEmpty(is) && is != FieldValue(0.0)) continue;
+        made.Told.push_back(result.Head + ": the list has " + ValueText(result.Value) +
+                            ", the calculation nothing");
+    }
+}
+
+ListRecords::Made ListRecords::Calculate(RecordRows rows, const Row& row,
+                                         const std::optional<RecordRows>& stored, const ListUnits& own) {
     const Setting batch(Suite.RunActive, words::Yes, "");
     const Setting zoneUntold(Suite.HideFlowStatus, words::Yes);
     const FormsOfRecord forms;
     const HeldMessages held(Questions::Answered);
     const DataRefusals refusals;
     if (!TakeRecordRows(rows)) throw ListRefusal{"Program Number", "there is no such program"};
-
-    // What a cell says must be what the record then has, before and behind the calculation.
-    const auto check = [&row](const RecordRows& before, const RecordRows& after, bool isCalculated) {
-        for (const Given& given : row.Cells) {
-            if (IsTheSuites(*given.Of) || IsEmpty(given.Value)) continue;
-            if (isCalculated && IsProperty(*given.Of)) continue;
-            const FieldValue has = before.Value(*given.Of), is = after.Value(*given.Of);
-            if (SameValue(has, is)) continue;
-            throw ListRefusal{given.Head, ValueText(has) + " is not taken" +
-                                              (IsEmpty(is) ? "" : ": the calculation has " + ValueText(is))};
-        }
-    };
-    RecordRows before = rows;
-    if (!ofRecord.Fields.empty()) {
-        check(rows, RowsOfRecord(), false);
-        CheckGravity(rows, row, *stored);
-        ConvertRecordInHand(ofRecord);
-        before = RowsOfRecord();
-        TakeFigures(before, rows, *stored,
-                    [&row](const std::string& column) { return row.Find(column) != nullptr; });
-        TakeRecordRows(before);
-    }
+    if (!own.Fields.empty()) ReturnToUnits(rows, row, *stored, own);
     const bool filled = FillCalculationForm() != nullptr;
     auto* const form = filled ? dynamic_cast<FluidForm*>(OpenCalculation()) : nullptr;
     if (form == nullptr) throw ListRefusal{"Program Number", "there is no such program"};
     PutPipe(row, stored);
-    if (renews_) CheckMixture(before);
+    if (renews_) CheckMixture(rows);
     TakeFluids(*form);
     RefuseFirst(refusals, row);
     form->CalculateAll();
@@ -301,20 +324,21 @@ ListRecords::Made ListRecords::Calculate(const RecordRows& rows, const Row& row,
     form->StoreForm();
     if (IsDatedToday(row, stored)) Calc.CaseText[text::CalcDate] = Today();
     Made made{RowsOfRecord(), {}};
-    check(before, made.Rows, renews_);
+    CheckTaken(row, rows, made.Rows, renews_);
     for (const std::string& text : held.Texts()) made.Told.push_back(InOneLine(text));
-    for (const Given& result : row.Results) {
-        const FieldValue is = made.Rows.Value(*result.Of);
-        if (!IsEmpty(is) && is != FieldValue(0.0)) continue;
-        made.Told.push_back(result.Head + ": the list has " + ValueText(result.Value) +
-                            ", the calculation nothing");
-    }
+    TellMissing(made, row);
     return made;
+}
+
+// What says the program alone: its name, and its number without a unit set.
+bool ListRecords::IsOfProgram(const Given& given) {
+    return given.Of->Name == "Program Name" ||
+           (given.Of->Name == "Program Number" && SetOfNumber(given.Value) == 0);
 }
 
 bool ListRecords::SaysNothingNew(const Row& row, const RecordRows& stored) {
     return std::ranges::all_of(row.Cells, [&stored](const Given& given) {
-        return given.Of->Name == "Program Name" || SameValue(stored.Value(*given.Of), Kept(given));
+        return IsOfProgram(given) || SameValue(stored.Value(*given.Of), Kept(given));
     });
 }
 
@@ -362,40 +386,46 @@ ListUnits ListRecords::UnitsOfRow(const ListHeads& heads, const Row& row) {
     return units;
 }
 
-ListRecords::Made ListRecords::Make(const ListHeads& heads, const SheetRow& sheetRow,
-                                    const std::optional<RecordRows>& known) {
-    const int program = ProgramOf(heads, sheetRow, known);
-    // A record of another program is replaced as a whole.
-    const std::optional<RecordRows> stored = known && known->Program() == program ? known : std::nullopt;
-    const Row row = RowOf(heads, sheetRow, program);
+// By the number of a program that the row has: the record goes to the units of another set.
+void ListRecords::TakeUnitSet(RecordRows& stored, const Row& row) {
+    const int set = UnitSetOf(row);
+    if (set == 0 || set == SetOfNumber(stored.Value(*FindColumn("Program Number")))) return;
+    TakeUnits(stored, UnitsOf(Fresh(row.Program, set)), true);
+}
 
-    const Given* const number = row.Find("Program Number");
-    const int set = number == nullptr ? 0 : UnitSetOf(number->Value);
-    if (stored && SaysNothingNew(row, *stored) && IsInUnitsOf(heads, *stored)) return {*stored, {}};
-    RecordRows rows = stored ? *stored : Fresh(program, std::max(set, 1));
-
-    ListUnits units = UnitsOfRow(heads, row);
-    const ListUnits ofRecord = stored ? UnitsToKeep(heads, row, *stored) : ListUnits{};
-    if (stored && set != 0 && set != UnitSetOf(stored->Value(*FindColumn("Program Number"))))
-        units.Fields.merge(UnitsOf(Fresh(program, set)).Fields);
-    {
-        const HeldMessages held(Questions::Answered);
-        TakeUnits(rows, units, stored.has_value());
-    }
-
+// The cells of the row, in the units of the list.
+void ListRecords::PutCells(RecordRows& rows, const Row& row, const ListHeads& heads,
+                           const std::optional<RecordRows>& stored) {
+    const ListUnits units = UnitsOfRow(heads, row);
+    TakeUnits(rows, units, stored.has_value());
     for (const Given& given : row.Cells) {
-        if (given.Of->Kind != ColumnKind::Mixture && given.Of->Name != "Program Name") Put(rows, given);
+        if (given.Of->Kind != ColumnKind::Mixture && !IsOfProgram(given)) Put(rows, given);
     }
-    const auto pressure = heads.Units(program).find("Pressure Units");
-    PutModes(rows, pressure == heads.Units(program).end() ? "" : pressure->second, units.DensityMode);
+    const auto pressure = heads.Units(row.Program).find("Pressure Units");
+    PutModes(rows, pressure == heads.Units(row.Program).end() ? "" : pressure->second, units.DensityMode);
     for (const RecordColumn& column : RecordColumns()) {
-        if (column.Kind == ColumnKind::Result && column.IsOf(program)) rows.Set(column, FieldValue());
+        if (column.Kind == ColumnKind::Result && column.IsOf(row.Program)) rows.Set(column, FieldValue());
     }
     DropPipeName(rows, row, stored);
     PutMixture(rows, row);
     PutMaterial(rows, row);
     PutFluid(rows, row, stored);
-    return Calculate(rows, row, stored, ofRecord);
+}
+
+ListRecords::Made ListRecords::Make(const ListHeads& heads, const SheetRow& sheetRow,
+                                    const std::optional<RecordRows>& known) {
+    const HeldMessages held(Questions::Answered);
+    const int program = ProgramOf(heads, sheetRow, known);
+    // A record of another program is replaced as a whole.
+    std::optional<RecordRows> stored = known && known->Program() == program ? known : std::nullopt;
+    const Row row = RowOf(heads, sheetRow, program);
+    if (stored && SaysNothingNew(row, *stored) && IsInUnitsOf(heads, *stored)) return {*stored, {}};
+
+    if (stored) TakeUnitSet(*stored, row);
+    const ListUnits own = stored ? UnitsToKeep(heads, row, *stored) : ListUnits{};
+    RecordRows rows = stored ? *stored : Fresh(program, std::max(UnitSetOf(row), 1));
+    PutCells(rows, row, heads, stored);
+    return Calculate(std::move(rows), row, stored, own);
 }
 
 }  // namespace quillmetra

@@ -2,6 +2,7 @@
 // row in their fields, checked and calculated by its form.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -40,6 +41,7 @@ private:
         std::vector<Given> Cells;    // without results
         std::vector<Given> Results;  // what the list has of them
         const Given* Find(std::string_view column) const;
+        std::function<bool(const std::string& column)> Has() const;
     };
 
     static int ProgramOf(const ListHeads& heads, const SheetRow& row,
@@ -52,6 +54,7 @@ private:
     static ListUnits UnitsOfRow(const ListHeads& heads, const Row& row);
     static ListUnits UnitsToKeep(const ListHeads& heads, const Row& row, const RecordRows& stored);
     static bool IsProperty(const RecordColumn& column);
+    static bool IsOfProgram(const Given& given);
     static bool SaysNothingNew(const Row& row, const RecordRows& stored);
     static void Put(RecordRows& rows, const Given& given);
     void PutFluid(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored);
@@ -67,8 +70,17 @@ private:
     void CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored) const;
     void TakeFluids(FluidForm& form) const;
     static void RefuseFirst(const DataRefusals& refusals, const Row& row);
-    Made Calculate(const RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored,
-                   const ListUnits& ofRecord);
+    static int UnitSetOf(const Row& row);  // 0 for none
+    void TakeUnitSet(RecordRows& stored, const Row& row);
+    void PutCells(RecordRows& rows, const Row& row, const ListHeads& heads,
+                  const std::optional<RecordRows>& stored);
+    static void CheckTaken(const Row& row, const RecordRows& before, const RecordRows& after,
+                           bool hasOtherFluid);
+    void ReturnToUnits(RecordRows& rows, const Row& row, const RecordRows& stored,
+                       const ListUnits& own) const;
+    static void TellMissing(Made& made, const Row& row);
+    Made Calculate(RecordRows rows, const Row& row, const std::optional<RecordRows>& stored,
+                   const ListUnits& own);
 
     std::map<std::pair<int, int>, RecordRows> fresh_;
     std::map<std::string, std::map<std::string, std::string>> fluids_;  // lines by type and name

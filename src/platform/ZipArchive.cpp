@@ -81,7 +81,7 @@ struct ZipArchive::Engine {
                 unzGetFilePos64(File, &place) != UNZ_OK)
                 throw Damaged();
             if (info.uncompressed_size > MostUnpacked - sum)
-                throw Refused("The workbook would unpack to more than 256 MB");
+                throw Refused("The workbook would unpack to more than 256 MB: save it as CSV");
             sum += info.uncompressed_size;
             if (Parts.size() == MostParts) throw Refused("The workbook has more than 10000 parts");
             if ((info.flag & 1U) != 0) throw Refused("The workbook has a password");

@@ -220,7 +220,7 @@ TEST_F(Workbook, HostileOnesAreRefused) {
     Pack({{"a.txt", "no workbook"}});
     EXPECT_EQ(ReadFile(), "This is an archive, but no workbook (.xlsx)");
     Pack({{"a", std::string(200U << 20U, ' ')}, {"b", std::string(60U << 20U, ' ')}});
-    EXPECT_EQ(ReadFile(), "The workbook would unpack to more than 256 MB");
+    EXPECT_EQ(ReadFile(), "The workbook would unpack to more than 256 MB: save it as CSV");
 }
 
 // Cut and changed at random: refused in words, whatever comes of it.

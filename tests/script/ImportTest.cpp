@@ -226,6 +226,9 @@ TEST_F(UsersLists, UnitsAreNotPassedOver) {
               "32 2.7048psig 0.99899215");
     List("Tag,Program Number,Normal Flow\nP-1,103,12\n", true);
     EXPECT_EQ(Saved("P-1", "Flow Units") + Saved("P-1", "Normal Flow"), "kg/s12");
+    List("Tag,Program Number,Normal Flow,Pipe Size\n,,kg/h,in\nP-1,101,45000,4.026\n", true);
+    EXPECT_EQ(Saved("P-1", "Flow Units") + Saved("P-1", "Normal Flow") + Saved("P-1", "Pipe Size"),
+              "lb/h99208.0164.026");
     const std::string line = ",102,4.026,1000,300,60,100,0.9,1,200,60,100,";
     List(
         "Tag,Program Number,Pipe Size,Pipe Length,Case 1 Flow,Case 1 Temperature,Case 1 Source Pressure,Case "
@@ -262,6 +265,8 @@ TEST_F(UsersLists, UnitsAreNotPassedOver) {
 
 // Nothing half done: neither of a list that was stopped nor over what somebody else has saved meanwhile.
 TEST_F(UsersLists, AllOrNothing) {
+    Calc.LiquidUnitSet = 0;  // as in a run that opened no form
+    EXPECT_EQ(List("Tag,Program Number,Normal Flow\nP-1,1,100000\n"), "0 new, 0 changed, 1 equal, 0 refused");
     std::ofstream(MachinePath(Path("list.csv"))) << "Tag,Normal Flow\nP-1,110000\nP-2,1\n";
     Import stopped(Path("list.csv"));
     EXPECT_FALSE(stopped.Run([](int done, int all) { return all == 3 && done < 1; }));
