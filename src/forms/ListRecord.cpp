@@ -393,6 +393,18 @@ void ListRecords::TakeUnitSet(RecordRows& stored, const Row& row) {
     TakeUnits(stored, UnitsOf(Fresh(row.Program, set)), true);
 }
 
+// What follows from the program, and from the unit of the flow, cannot be said otherwise.
+void ListRecords::CheckHead(const RecordRows& rows, const Row& row) {
+    const Program& program = *FindProgram(row.Program);
+    const Given* const type = row.Find("Fluid Type");
+    if (type != nullptr && !SameName(ValueText(type->Value), program.FluidType))
+        throw ListRefusal{type->Head, ValueText(type->Value) + " in a program of " + program.FluidType};
+    const Given* const basis = row.Find("Basis");
+    const std::string unit = ValueText(rows.Value(*FindColumn("Flow Units"))), its = BasisOf(rows);
+    if (basis != nullptr && !its.empty() && its != ValueText(basis->Value))
+        throw ListRefusal{basis->Head, unit + " is a flow by " + (its == words::Mass ? "mass" : "volume")};
+}
+
 // The cells of the row, in the units of the list.
 void ListRecords::PutCells(RecordRows& rows, const Row& row, const ListHeads& heads,
                            const std::optional<RecordRows>& stored) {
@@ -401,6 +413,7 @@ void ListRecords::PutCells(RecordRows& rows, const Row& row, const ListHeads& he
     for (const Given& given : row.Cells) {
         if (given.Of->Kind != ColumnKind::Mixture && !IsOfProgram(given)) Put(rows, given);
     }
+    CheckHead(rows, row);
     const auto pressure = heads.Units(row.Program).find("Pressure Units");
     PutModes(rows, pressure == heads.Units(row.Program).end() ? "" : pressure->second, units.DensityMode);
     for (const RecordColumn& column : RecordColumns()) {

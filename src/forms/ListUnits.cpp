@@ -199,6 +199,11 @@ void PutModes(RecordRows& rows, const std::string& pressureUnit, const std::stri
         SetCodeOf(rows, densityMode == words::Density ? code::DensityMode : code::GravityMode);
 }
 
+std::string BasisOf(const RecordRows& rows) {
+    const char* const basis = FindUnit(FlowField, TextAt(rows, FlowField), IsGas(rows)).Basis;
+    return basis == nullptr ? "" : basis;
+}
+
 std::string DensityModeOf(const std::string& codes) {
     return HasCode(codes, code::DensityMode) ? words::Density : words::Gravity;
 }

@@ -38,6 +38,8 @@ struct ListUnits {
 void TakeUnits(RecordRows& rows, const ListUnits& units, bool isStored);
 // The modes that a row of units means, by the names of its units, whatever the codes of the list say.
 void PutModes(RecordRows& rows, const std::string& pressureUnit, const std::string& densityMode);
+// Of the unit of its flow; empty where the library does not have it.
+std::string BasisOf(const RecordRows& rows);
 // What the codes of a record say of its gravities.
 std::string DensityModeOf(const std::string& codes);
 // Those that a record is in.

@@ -243,6 +243,8 @@ TEST_F(UsersLists, UnitsAreNotPassedOver) {
          one + "3 P-1 refused Flow Units: [kg/s] is no unit of the library"},
         {"Tag,Normal MW/SG\n,kg/l\nP-1,0.9\n",
          one + "3 P-1 refused Density Units: kg/l is no unit of the library"},
+        {"Tag,Basis\nP-1,Vol\n", one + "2 P-1 refused Basis: lb/h is a flow by mass"},
+        {"Tag,Fluid Type\nP-1,Gas\n", one + "2 P-1 refused Fluid Type: Gas in a program of Liquid"},
         {"Tag,Program Number\nP-1,199\n",
          one + "2 P-1 refused Program Number: \"199\" is of none of the unit sets 1 to 5"},
         {"Tag,Program Number\nP-2,105\n",
