@@ -12,7 +12,7 @@
 
 namespace quillmetra {
 
-RecordCells::RecordCells(Database& database) : extras_(database, ExtrasTable()) {
+RecordCells::RecordCells(Database& database) : database_(database), extras_(database, ExtrasTable()) {
     parts_.reserve(RecordTables().size());
     for (const RecordTable* table : RecordTables()) {
         if (!database.HasTable(table->Shape.Name)) continue;
@@ -30,6 +30,7 @@ std::vector<std::string> RecordCells::Tags(const std::vector<std::string>& wante
 }
 
 bool RecordCells::Take(const std::string& tag) {
+    read_.emplace(database_, tag, ShapesOfRecords());
     Part& head = parts_.front();
     head.Found = head.Rows.Seek(tag);
     if (!head.Found) return false;

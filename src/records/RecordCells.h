@@ -2,6 +2,7 @@
 // of them.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,8 +37,10 @@ private:
     bool MayHave(const RecordTable& table) const;
     bool IsDensity(const RecordField& field) const;
 
+    Database& database_;
     std::vector<Part> parts_;
     NamedValues extras_;
+    std::optional<ReadAhead> read_;  // of the record
     int program_ = 0;
 };
 

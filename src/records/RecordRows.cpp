@@ -84,7 +84,7 @@ std::string ValueText(const FieldValue& value) {
     return number == nullptr ? TrimmedText(value) : TrimmedStr(*number);
 }
 
-RowStore::RowStore(Database& database) : extras_(database, ExtrasTable()) {
+RowStore::RowStore(Database& database) : database_(database), extras_(database, ExtrasTable()) {
     for (const RecordTable* table : RecordTables()) {
         if (!database.HasTable(table->Shape.Name)) continue;
         parts_.push_back({table, Recordset(database, table->Shape, Recordset::Unplaced())});
@@ -101,6 +101,7 @@ bool RowStore::HasRowIn(const RecordTable& table, const RecordRows& rows) {
 }
 
 std::optional<RecordRows> RowStore::Read(std::string_view tag) {
+    const ReadAhead read(database_, tag, ShapesOfRecords());
     if (!parts_.front().Rows.Seek(tag)) return {};
     RecordRows rows;
     for (Part& part : parts_) {

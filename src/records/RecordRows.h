@@ -58,6 +58,7 @@ private:
     void Write(const RecordRows& rows, bool isNew);
     void WriteExtras(Part& part, const RecordRows& rows, bool isNew);
 
+    Database& database_;
     std::vector<Part> parts_;
     NamedValues extras_;
 };

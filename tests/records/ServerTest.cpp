@@ -272,18 +272,22 @@ TEST_F(ServerTest, NoActAsksAQuestionForEachCell) {
         const char* Name;
         int Most;
         std::function<void()> Do;
-    } acts[] = {{"open", 4, [] { EXPECT_EQ(RecordView(Suite.DatabaseFile).Count(), 6); }},
-                {"move", 2,
-                 [&] {
-                     ++record % 2 == 1 ? browser.Next() : browser.Previous();
-                     EXPECT_EQ(browser.Position(), record % 2 + 1);
-                 }},
-                {"find", 2, [&] { EXPECT_TRUE(browser.Find(tag()) && browser.Position() > 0); }},
-                {"load", 2, [&] {
-                     Calc = CalcRecord();
-                     Calc.Tag = tag();
-                     EXPECT_TRUE(GetTRCalc());
-                 }}};
+    } acts[] = {
+        {"open", 4, [] { EXPECT_EQ(RecordView(Suite.DatabaseFile).Count(), 6); }},
+        {"move", 2,
+         [&] {
+             ++record % 2 == 1 ? browser.Next() : browser.Previous();
+             EXPECT_EQ(browser.Position(), record % 2 + 1);
+         }},
+        {"find", 2, [&] { EXPECT_TRUE(browser.Find(tag()) && browser.Position() > 0); }},
+        {"load", 2,
+         [&] {
+             Calc = CalcRecord();
+             Calc.Tag = tag();
+             EXPECT_TRUE(GetTRCalc());
+         }},
+        {"rows", 2, [&] { EXPECT_TRUE(RowStore(*OpenRecords(Suite.DatabaseFile)).Read(tag())); }},
+        {"export of six", 8, [&] { ExportRecords(Suite.DatabaseFile, SuitePath(Folder / "e.csv")); }}};
     constexpr int times = 100, others = 30;  // connections, and the server's own cleaning
     for (const auto& act : acts) {
         const int before = asked();
