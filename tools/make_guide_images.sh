@@ -13,7 +13,7 @@ gas-results:steam-line gas-base-conditions:base-conditions hammer-selected:water
 frmLiqData:liquid-properties frmGasData:gas-properties gas-mixture:gas-mixture
 units:units units-in-place:units-in-place units-choose:units-choose options:options Gas:table-editor
 printout:printout preview:preview print-control:print-control path-finder-found:path-finder Dark:dark
-import:import plant-line:service plant-sizes:plant-sizes plant-recalculate:recalculate"
+import:import server:server plant-line:service plant-sizes:plant-sizes plant-recalculate:recalculate"
 
 ninja -C build/release quillmetra-screens
 Folder=$(mktemp -d)

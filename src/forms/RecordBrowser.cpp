@@ -179,9 +179,11 @@ void frmTRProg::Follow() {
     if (view_ == nullptr || !Visible() || UserActRuns() || fraTags.Visible() || !view_->HasNews()) return;
     try {
         const std::string tag = view_->Head().Tag;
+        const std::vector<std::string> picked = PickedTags();
         if (view_->HasRecord() && !view_->Find(tag)) view_->LeaveDeleted();
         if (!view_->HasRecord()) view_->First();
         ShowRecord();
+        PickAgain(picked);
     } catch (const RuntimeError& error) {
         SetStatus(error.Description);
     }

@@ -7,6 +7,7 @@
 #include "forms/frmTRProg.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
+#include "platform/KeyOrder.h"
 #include "platform/Keys.h"
 #include "platform/NumberText.h"
 #include "records/RecordFiles.h"
@@ -129,6 +130,23 @@ std::vector<std::string> frmTRProg::PickedTags() const {
     }
     if (tags.empty() && view_->HasRecord()) tags.push_back(view_->Head().Tag);
     return tags;
+}
+
+// Those that are still shown; a single one is marked already.
+void frmTRProg::PickAgain(const std::vector<std::string>& tags) {
+    if (tags.size() < 2 || grdRecords.Selected() < grdRecords.FixedRows) return;
+    const std::vector<std::string>& all = view_->Tags();
+    std::vector<int> rows;
+    for (const std::string& tag : tags) {
+        const auto isBefore = [](const std::string& a, const std::string& b) {
+            return CompareKeys(a, b) < 0;
+        };
+        const auto found = std::ranges::lower_bound(all, tag, isBefore);
+        if (found == all.end() || CompareKeys(*found, tag) != 0) continue;
+        const int row = list_.RowOf(static_cast<std::size_t>(found - all.begin()));
+        if (row >= 0) rows.push_back(row + grdRecords.FixedRows);
+    }
+    if (rows.size() > 1) grdRecords.PickRows(std::move(rows), grdRecords.Selected());
 }
 
 bool frmTRProg::AskDelete(const std::vector<std::string>& tags) {

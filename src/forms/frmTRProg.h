@@ -202,6 +202,7 @@ private:
     void EnableTable(bool any);
     // Of the rows that are selected; of the record in hand when it is not among the rows.
     std::vector<std::string> PickedTags() const;
+    void PickAgain(const std::vector<std::string>& tags);
     bool AskDelete(const std::vector<std::string>& tags);
     void ImportList(const std::string& file);
     void RecalculateTags(const std::vector<std::string>& tags);

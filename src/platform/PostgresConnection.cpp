@@ -91,9 +91,10 @@ void PostgresParameters::Add(const char* data, std::size_t size, bool isBytes) {
 }
 
 PostgresConnection::PostgresConnection(const ServerLink& link) : link_(link) {
-    const auto asked = Clock::now();
+    const auto asked = Ask();
     Connect();
-    CountAnswer(asked);
+    CountWait(asked);
+    EndAnswer();
     Prepare();
 }
 
@@ -245,7 +246,9 @@ PGresult* PostgresConnection::Next() {
         const int unsent = PQflush(connection_.get());
         if (unsent < 0) Lose(PQerrorMessage(connection_.get()));
         if (PQisBusy(connection_.get()) == 0) return PQgetResult(connection_.get());
+        const auto from = Clock::now();
         Wait(unsent > 0, until);
+        CountWait(from);
         if (PQconsumeInput(connection_.get()) == 0) Lose(PQerrorMessage(connection_.get()));
         until = Clock::now() + Patience();
     }
@@ -258,11 +261,7 @@ PostgresResult PostgresConnection::Run(const std::string& sql, const PostgresPar
 std::vector<PostgresResult> PostgresConnection::RunAll(std::span<const std::string> statements,
                                                        const PostgresParameters& parameters) {
     if (isLost_) throw RuntimeError(ServerLost, "The connection to the server is lost\n" + link_.Words());
-    const auto asked = asked_ = Clock::now();
-    if (asked - answered_ > BetweenActs) {
-        waited_ = {};
-        answers_ = 0;
-    }
+    asked_ = Ask();
     const std::size_t putOff = SendPutOff();
     std::vector<std::string> unprepared;
     for (const std::string& sql : statements) {
@@ -277,7 +276,7 @@ std::vector<PostgresResult> PostgresConnection::RunAll(std::span<const std::stri
         for (const std::string& sql : unprepared) prepared_.erase(sql);
         throw;
     }
-    CountAnswer(asked);
+    EndAnswer();
     answers.erase(answers.begin(), answers.end() - static_cast<std::ptrdiff_t>(statements.size()));
     return answers;
 }
@@ -308,17 +307,30 @@ std::vector<PostgresResult> PostgresConnection::Collect(std::size_t statements) 
     return answers;
 }
 
-// Less where the server has been slow in this act.
-PostgresConnection::Clock::duration PostgresConnection::Patience() const {
-    const bool isSlow = answers_ > 0 && waited_ / answers_ > SlowAnswer;
-    return isSlow ? std::max<Clock::duration>(LongestSilence - waited_, SlowAnswer) : LongestSilence;
+// Behind a pause a new act begins.
+PostgresConnection::Clock::time_point PostgresConnection::Ask() {
+    const auto now = Clock::now();
+    if (now - lastAnswer_ > BetweenActs) waited_ = {};
+    return now;
 }
 
-void PostgresConnection::CountAnswer(Clock::time_point asked) {
-    answered_ = Clock::now();
-    waited_ += answered_ - asked;
-    ++answers_;
-    if (waited_ > LongestSlowness && waited_ / answers_ > SlowAnswer) Lose("It answers too slowly");
+// Less where the server has been slow in this act.
+PostgresConnection::Clock::duration PostgresConnection::Patience() {
+    return std::max<Clock::duration>(LongestSilence - waited_, SlowAnswer);
+}
+
+// What comes in a stream is not waited for.
+void PostgresConnection::CountWait(Clock::time_point from) {
+    const auto waited = Clock::now() - from;
+    if (waited <= SlowAnswer) return;
+    isSlow_ = true;
+    waited_ += waited;
+    if (waited_ > LongestSlowness) Lose("It answers too slowly");
+}
+
+void PostgresConnection::EndAnswer() {
+    answered_ = lastAnswer_ = Clock::now();
+    if (!std::exchange(isSlow_, false)) waited_ = {};
 }
 
 bool PostgresConnection::HasNotice() {

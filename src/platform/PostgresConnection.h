@@ -104,18 +104,25 @@ private:
     void Wait(bool alsoWrite, Clock::time_point until);
     PGresult* Next();
     std::vector<PostgresResult> Collect(std::size_t statements);
-    Clock::duration Patience() const;
-    void CountAnswer(Clock::time_point asked);
+    static Clock::duration Patience();
+    static Clock::time_point Ask();
+    void CountWait(Clock::time_point from);
+    void EndAnswer();
     RuntimeError Failure(const PGresult* result) const;
 
     const ServerLink link_;
     Handle connection_{nullptr, PQfinish};
     std::map<std::string, std::string, std::less<>> prepared_;
     std::vector<std::string> putOff_;
-    bool isOpen_ = false, isLost_ = false, hasDiedUnused_ = false, hasNotice_ = false, listens_ = false;
+    bool isOpen_ = false, isLost_ = false, hasDiedUnused_ = false, hasNotice_ = false, listens_ = false,
+         isSlow_ = false;
     Clock::time_point asked_{}, answered_{};
-    Clock::duration waited_{};
-    int answers_ = 0, preparedCount_ = 0;
+    int preparedCount_ = 0;
+
+    // Of the act at hand, which may use several connections: how long slow answers, with no quick one among
+    // them, were waited for.
+    static inline Clock::time_point lastAnswer_{};
+    static inline Clock::duration waited_{};
 };
 
 }  // namespace quillmetra

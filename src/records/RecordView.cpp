@@ -123,7 +123,7 @@ bool RecordView::TakeHead() {
 
 void RecordView::First() {
     Renew();
-    if (!hasRecord_) return;
+    if (!hasRecord_ && Tags().empty()) return;
     heads_->MoveFirst();
     TakeHead();
 }

@@ -45,7 +45,7 @@ public:
     bool HasRecord() const { return hasRecord_; }
     const RecordHead& Head() const { return head_; }  // of the record in hand
 
-    void First();
+    void First();  // that of others, too, where there was none
     void Last();
     void Next();                      // stays at the last
     void Previous();                  // stays at the first

@@ -16,6 +16,7 @@
 #include "forms/CalculationForm.h"
 #include "forms/frmCompare.h"
 #include "forms/frmPrintControl.h"
+#include "forms/frmTRProg.h"
 #include "forms/RecordInHand.h"
 #include "forms/RegisterForms.h"
 #include "platform/UserActs.h"
@@ -149,6 +150,30 @@ TEST_F(ServerTest, AnothersChangeIsNamedBeforeItIsWrittenOver) {
     User.WhileAsked = {};
 }
 
+// What others save into an empty database, and what they change while rows are picked.
+TEST_F(ServerTest, TheTableFollowsOthersAndKeepsWhatIsPicked) {
+    RegisterForms();
+    ShowForm("frmTRProg");
+    auto& browser = dynamic_cast<frmTRProg&>(LoadForm("frmTRProg"));
+    browser.OpenByName(Suite.DatabaseFile);
+    browser.Follow();
+    const auto follow = [&](int rows) {
+        const auto until = std::chrono::steady_clock::now() + 1s;
+        do browser.Follow();
+        while (browser.grdRecords.RowCount() != rows && std::chrono::steady_clock::now() < until);
+        EXPECT_EQ(browser.grdRecords.RowCount(), rows);
+    };
+    SaveNew("P-2");
+    SaveNew("P-4");
+    follow(3);
+    EXPECT_TRUE(browser.grdRecords.Enabled());
+    browser.grdRecords.PickRows({1, 2}, 2);
+    SaveNew("P-1");
+    follow(4);
+    EXPECT_EQ(browser.grdRecords.Picked(), (std::vector<int>{2, 3}));
+    EXPECT_EQ(browser.Record.txtTagNum.Text(), "P-4");
+}
+
 TEST_F(ServerTest, AReaderReadsAndIsToldWhatHeMayNot) {
     SaveNew("P-1");
     BecomeRole("quillmetra_reader", "SELECT");
@@ -219,6 +244,20 @@ TEST_F(ServerTest, AHostWhoseNameNobodyFindsIsToldInTime) {
     WriteServerLink(File(), {.Host = "silent.example", .Schema = "x"});
     const auto asked = std::chrono::steady_clock::now();
     EXPECT_EQ(Refusal(), "The server cannot be reached\nsilent.example, schema x\nIt does not answer");
+    EXPECT_LT(std::chrono::steady_clock::now() - asked, 5s);
+}
+
+// However many connections an act uses.
+TEST_F(ServerTest, ASlowServerIsToldInTime) {
+    const std::string suite = Schema() + ".\\\"Suite\\\"";
+    Sql("ALTER TABLE " + suite + " RENAME TO plain; CREATE VIEW " + suite + " AS SELECT plain.* FROM " +
+        Schema() + ".plain, LATERAL (SELECT pg_sleep(0.6)) AS wait");
+    const auto one = OpenRecords(Suite.DatabaseFile), other = OpenRecords(Suite.DatabaseFile);
+    const auto asked = std::chrono::steady_clock::now();
+    const auto act = [&] {
+        for (int i = 0; i < 10; ++i) (i % 2 == 0 ? one : other)->Version();
+    };
+    EXPECT_THROW(act(), RuntimeError);
     EXPECT_LT(std::chrono::steady_clock::now() - asked, 5s);
 }
 

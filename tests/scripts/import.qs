@@ -90,6 +90,20 @@ drop @list.csv
 expect-form frmImport
 click cmdCancel
 
+# A list fills the empty database that is open.
+rows grdRecords 1 2
+answer Yes
+key grdRecords Delete
+expect-message Delete 2 records
+expect-state grdRecords disabled
+drop @list.csv
+click cmdRead
+answer Yes
+click cmdSave
+expect-message Save 1 new record?
+click cmdCancel
+expect-state grdRecords enabled
+
 # The same as a command.
 import @TRData @list.csv "" preview
 import @TRData/TRDB.MDB @list.csv @report.csv replace

@@ -448,6 +448,8 @@ void ShootRecords() {
     });
     Click("frmTRProg", "mnuBackups");
     Within([] {
+        TypeText(ControlOf("frmServer", "txtHost"), "records.office.example");
+        TypeText(ControlOf("frmServer", "txtDatabase"), "plant");
         Shoot("server");
         Click("frmServer", "cmdCancel");
     });
