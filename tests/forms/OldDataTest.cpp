@@ -11,6 +11,7 @@
 #include "records/LoadRecord.h"
 #include "records/RecordFiles.h"
 #include "records/RecordView.h"
+#include "tests/OnServer.h"
 #include "tests/SuiteFixture.h"
 
 namespace quillmetra {
@@ -81,7 +82,7 @@ protected:
     OldData() {
         RegisterForms();
         StartUp(SuitePath(Folder));
-        MakeEmptyDatabase(Database());
+        OnServer() ? MakeServerDatabase(Database(), NewServerLink()) : MakeEmptyDatabase(Database());
         std::string headings = "\"old\", title";
         for (int line = 2; line <= 9; ++line) headings += "\r\nold " + std::to_string(line);
         WriteData("HEADINGS.DAT", headings);
