@@ -1,8 +1,6 @@
 // See PanelReturn.h.
 #include "forms/PanelReturn.h"
 
-#include <algorithm>
-#include <cmath>
 #include <string>
 #include <utility>
 
@@ -18,27 +16,11 @@
 #include "units/UnitChange.h"
 #include "units/UnitPicks.h"
 #include "units/UserUnits.h"
-#include "units/Viscosity.h"
 
 namespace quillmetra {
 
 namespace {
 std::function<void(Figures)> KeepFigures;
-
-// Mass and volume, and the two kinds of viscosity, go by the gravity of the first case for all of them.
-bool GravityMisleads() {
-    const auto& name = Calc.UnitName[unit::Viscosity];
-    const auto& former = Calc.UnitNamePrevious[unit::Viscosity];
-    const bool goesByIt = Calc.LiquidBasis != Calc.LiquidBasisPrevious ||
-                          (CentistokesPerUnit(name) > 0) != (CentistokesPerUnit(former) > 0);
-    if (Calc.CurrentProgram != program::LiquidLine || IsYes(Calc.NoConversion) || !goesByIt) return false;
-    const auto& gravities = Calc.CaseInput[input::FlowGravity];
-    const double first = gravities[0];
-    constexpr double part = 0.001;
-    return std::ranges::any_of(gravities, [first](double gravity) {
-        return gravity > 0 && std::abs(gravity - first) > part * first;
-    });
-}
 }  // namespace
 
 CalculationForm* OpenCalculation() {
@@ -47,7 +29,7 @@ CalculationForm* OpenCalculation() {
 }
 
 void ConvertToNewUnits(UnitChange& change) {
-    const bool gravityMisleads = GravityMisleads();
+    const bool gravityMisleads = change.GravityMisleads();
     if (IsYes(Calc.NoConversion)) BlankAllResults();
     change.Commit(ZeroTemperature::IsConverted, [] {
         Calc.UnitsConverted = words::Yes;
@@ -58,8 +40,7 @@ void ConvertToNewUnits(UnitChange& change) {
     if (gravityMisleads && form != nullptr)
         form->SetStatus(
             "All cases were converted by the gravity of Maximum; those of Normal and Minimum differ: check "
-            "flow "
-            "and viscosity.");
+            "flow and viscosity.");
 }
 
 bool PutPicks(const UnitPicks& picks) {

@@ -1,10 +1,15 @@
 // See UnitChange.h.
 #include "units/UnitChange.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/CalcRecord.h"
+#include "core/Programs.h"
 #include "core/Words.h"
 #include "units/ModeChange.h"
 #include "units/RecordUnits.h"
+#include "units/Viscosity.h"
 
 namespace quillmetra {
 
@@ -17,6 +22,23 @@ void TakeAllDigits() {
         const double now = Calc.UnitFactor[row];
         if (static_cast<float>(former) == static_cast<float>(now)) former = now;
     }
+}
+
+// Mass and volume, and the two kinds of viscosity, lie a gravity apart.
+bool NeedsGravity() {
+    const auto& name = Calc.UnitName[unit::Viscosity];
+    const auto& former = Calc.UnitNamePrevious[unit::Viscosity];
+    return Calc.LiquidBasis != Calc.LiquidBasisPrevious ||
+           (CentistokesPerUnit(name) > 0) != (CentistokesPerUnit(former) > 0);
+}
+
+bool GravitiesDiffer() {
+    constexpr double part = 0.001;
+    const auto& gravities = Calc.CaseInput[input::FlowGravity];
+    const double first = gravities[0];
+    return std::ranges::any_of(gravities, [first](double gravity) {
+        return gravity > 0 && std::abs(gravity - first) > part * first;
+    });
 }
 
 }  // namespace
@@ -36,6 +58,11 @@ UnitChange::~UnitChange() {
 bool UnitChange::HasNewUnits() const {
     return Calc.UnitName != Calc.UnitNamePrevious || Calc.UnitFactor != Calc.UnitFactorPrevious ||
            Calc.Basis != Calc.BasisPrevious || Calc.LiquidBasis != Calc.LiquidBasisPrevious;
+}
+
+bool UnitChange::GravityMisleads() const {
+    return Calc.CurrentProgram == program::LiquidLine && !IsYes(Calc.NoConversion) && NeedsGravity() &&
+           GravitiesDiffer();
 }
 
 void UnitChange::Commit(ZeroTemperature zero, const std::function<void()>& show) {

@@ -27,6 +27,10 @@ public:
     // True when a unit or a basis differs from the previous ones.
     bool HasNewUnits() const;
 
+    // Whether Commit converts flow or viscosity of a liquid line by the gravity of the first case, as it does
+    // for all of them, though another case has another one.
+    bool GravityMisleads() const;
+
     // Changes the modes, converts the values and asks whether to round; before that question it calls show,
     // so that the form has the new numbers under the new units and never the former ones. With NoConversion
     // "Yes" the values stay as they are. Without new units nothing is converted; what an earlier change has
