@@ -21,20 +21,25 @@ struct PlainLine {
     const PipeMaterial* Material = &PipeMaterials[0];
 };
 
-// psia at the far end.
-inline double PlainFinalPressure(const PlainLine& line) {
-    const double d = line.PipeId;
-    const double reynolds = 6.31 * line.Flow / d / line.Viscosity;
+// Of clean pipe; diameter in inches.
+inline double PlainFrictionFactor(double reynolds, double diameter, const PipeMaterial& material) {
     double f = reynolds <= 2000 ? 64 / reynolds : 0.01;
     for (int round = 1; reynolds > 2000 && round <= 100; ++round) {
         const double root = std::sqrt(f);
-        const double x = (line.Material->Roughness / 3.7) / d + (line.Material->Constant / reynolds) / root;
+        const double x = (material.Roughness / 3.7) / diameter + (material.Constant / reynolds) / root;
         const double g = -0.8685999 * std::log(x) - 1 / root;
         const double step = g / (0.8685999 * x + 0.5 / (f * root));
         if (std::fabs(step) <= 1e-06) break;
         f -= step;
     }
-    f += f * line.Fouling / 100;
+    return f;
+}
+
+// psia at the far end.
+inline double PlainFinalPressure(const PlainLine& line) {
+    const double d = line.PipeId;
+    const double clean = PlainFrictionFactor(6.31 * line.Flow / d / line.Viscosity, d, *line.Material);
+    const double f = clean + clean * line.Fouling / 100;
     const TurbulenceRow* row = FindTurbulenceRow(d);
     const double turbulent = row == nullptr ? f : row->Factor;
     const double feet = d / 12;

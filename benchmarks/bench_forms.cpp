@@ -5,6 +5,7 @@
 
 #include "benchmarks/FilledForm.h"
 #include "benchmarks/Measure.h"
+#include "benchmarks/PlainGasLine.h"
 #include "benchmarks/PlainLiquidLine.h"
 #include "benchmarks/TableScene.h"
 #include "core/Programs.h"
@@ -117,23 +118,47 @@ void AllSizes(benchmark::State& state, int program) {
     });
 }
 
-void PlainSizes(benchmark::State& state) {
+// endOf: what a plain line of a diameter ends at.
+template <typename EndOf>
+void PlainSizes(benchmark::State& state, EndOf endOf) {
     const FilledForm filled;
     const std::vector<double> diameters = PipeDiameters();
     Measure(state, [&] {
         double sum = 0;
-        for (const double diameter : diameters) {
-            PlainLine line{.Flow = 100000};
-            line.PipeId = diameter;
-            sum += PlainFinalPressure(line);
-        }
+        for (const double diameter : diameters) sum += endOf(diameter);
         return sum;
     });
 }
 
+void PlainLiquidSizes(benchmark::State& state) {
+    PlainSizes(state,
+               [](double diameter) { return PlainFinalPressure({.Flow = 100000, .PipeId = diameter}); });
+}
+
+// The line of TypeGasCases.
+void PlainGasSizes(benchmark::State& state) {
+    const PlainGas line{.Flow = 50000,
+                        .Length = 1000,
+                        .Viscosity = 0.011,
+                        .Source = 114.7,
+                        .End = 0,
+                        .EquipLoss = 0,
+                        .EntranceK = 0,
+                        .ExitK = 0,
+                        .CritPressure = 667,
+                        .CritTemperature = 343,
+                        .Temperature = 60};
+    PlainSizes(state, [gas = line](double diameter) mutable {
+        gas.PipeId = diameter;
+        const double reynolds = 6.31533 * gas.Flow / diameter / gas.Viscosity;
+        return PlainGasFinalPressure(gas, PlainFrictionFactor(reynolds, diameter, PipeMaterials[0]));
+    });
+}
+
 BENCHMARK_CAPTURE(AllSizes, liquid, program::LiquidLine)->Name("sizes/422 pipes of a liquid");
-BENCHMARK(PlainSizes)->Name("sizes/422 pipes of a liquid/plain");
+BENCHMARK(PlainLiquidSizes)->Name("sizes/422 pipes of a liquid/plain");
 BENCHMARK_CAPTURE(AllSizes, gas, program::GasLine)->Name("sizes/422 pipes of a gas line of 1,000 ft");
+BENCHMARK(PlainGasSizes)->Name("sizes/422 pipes of a gas line of 1,000 ft/plain");
 
 // A flow that differs from round to round.
 std::string NextFlow() {
