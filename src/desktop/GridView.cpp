@@ -200,7 +200,7 @@ protected:
 
     void RenewRows() override {
         renewing_ = true;
-        if (cells_->Renew()) FitColumns();
+        cells_->Renew() ? FitColumns() : GrowColumns();
         for (int row = grid_.CellTyped ? cells_->rowCount({}) - 1 : -1; row >= 0; --row) {
             const bool hidden = grid_.IsHidden(row + grid_.FixedRows);
             if (hidden != table_->isRowHidden(row)) table_->setRowHidden(row, hidden);
@@ -316,11 +316,28 @@ private:
     // With room for the arrow that a head may get; the last column takes what is left.
     void FitColumns() {
         table_->resizeColumnsToContents();
+        widths_.clear();
         if (!grid_.IsList) return;
-        const int arrow = table_->fontMetrics().horizontalAdvance(QStringLiteral(" \u25B2"));
-        for (int i = 0; i + 1 < cells_->columnCount({}); ++i)
-            table_->setColumnWidth(i, table_->columnWidth(i) + arrow);
+        for (int i = 0; i + 1 < cells_->columnCount({}); ++i) {
+            widths_.push_back(table_->columnWidth(i) + RoomOfArrow());
+            table_->setColumnWidth(i, widths_.back());
+        }
     }
+
+    // In a short list a text that is longer than all before it gets its room.
+    void GrowColumns() {
+        constexpr int shortList = 1000;
+        if (cells_->rowCount({}) > shortList) return;
+        const QAbstractItemView& view = *table_;
+        for (int i = 0; i < static_cast<int>(widths_.size()); ++i) {
+            int& widest = widths_[static_cast<std::size_t>(i)];
+            const int width = view.sizeHintForColumn(i) + RoomOfArrow();
+            if (width > widest) table_->setColumnWidth(i, std::max(table_->columnWidth(i), width));
+            widest = std::max(widest, width);
+        }
+    }
+
+    int RoomOfArrow() const { return table_->fontMetrics().horizontalAdvance(QStringLiteral(" \u25B2")); }
 
     std::vector<int> PickedRows() const {
         std::vector<int> rows;
@@ -391,7 +408,8 @@ private:
     CellDelegate* editing_ = nullptr;
     const QObject* viewport_;  // also asked for while the view is being destroyed
     bool passing_ = false;
-    bool renewing_ = false;  // the view follows the model, not the user
+    std::vector<int> widths_;  // that the columns of a list have asked for
+    bool renewing_ = false;    // the view follows the model, not the user
 };
 
 }  // namespace
