@@ -212,6 +212,13 @@ bool LineLossForm::TakeCase(int caseIndex, Wanted wanted) {
     return true;
 }
 
+bool LineLossForm::TakeOtherCase(int caseIndex, Wanted wanted) {
+    const int before = Calc.CaseIndex;
+    if (TakeCase(caseIndex, wanted)) return true;
+    TakeCase(before, wanted);
+    return false;
+}
+
 void LineLossForm::TakePipe(const std::string& listLine) {
     if (const Program* program = FindProgram(Calc.CurrentProgram)) Calc.MessageText = program->PipeWord;
     TakePipeRow(listLine);

@@ -110,6 +110,8 @@ public:
     enum class Wanted { All, NoFlow, NoDiameter };
     int CaseToTry();  // that in hand, or the first one that has its data
     bool TakeCase(int caseIndex, Wanted wanted = Wanted::All);
+    // Instead of that in hand, which is taken again when the other one is refused.
+    bool TakeOtherCase(int caseIndex, Wanted wanted);
     using FluidForm::HasState;
     // The row of the pipe size lookup, as if it had been taken there.
     void TakePipe(const std::string& listLine);

@@ -17,21 +17,15 @@ namespace {
 // After choking, and before any error of a result: it is what the user wants to be told.
 constexpr double Second = 900;
 
-// psi per 100 ft.
-double LossPer100Of(int caseIndex) {
-    return Calc.CaseResult[result::LossPer100][At(caseIndex)] * Calc.UnitFactor[unit::PressureDrop] /
-           Calc.UnitFactor[unit::Length];
-}
-
 std::string ExcessOfCase(const LineCriterion& criterion, int caseIndex) {
-    const double loss = LossPer100Of(caseIndex);
+    const double loss = Calc.CaseResult[result::LossPer100][At(caseIndex)];
     if (Calc.CurrentProgram == program::GasLine) return ExcessOf(criterion, GasFiguresOf(caseIndex), loss);
     return ExcessOf(criterion, LiquidFiguresOf(caseIndex), loss);
 }
 
 std::string Sentence(std::string excess, const LineCriterion& criterion) {
     excess.front() = static_cast<char>(excess.front() - 'a' + 'A');
-    return excess + ": beyond the criterion of " + criterion.Service + " (" + criterion.Source + ").";
+    return excess + ": beyond the criterion of " + criterion.Service + SourceOf(criterion) + ".";
 }
 
 }  // namespace
@@ -48,7 +42,7 @@ std::vector<LineCriterion> ServicesOffered(Form& form) {
 
 HintList ServiceHints(int caseIndex) {
     if (Calc.Service.empty()) return {};
-    const LineCriterion criterion = CriterionOf(Calc.Service);
+    const LineCriterion criterion = CriterionOf(Calc.Service, Calc.FluidType);
     if (criterion.Service.empty())
         return {{Second, "The table of criteria has no service " + Calc.Service + "."}};
     std::string excess = ExcessOfCase(criterion, caseIndex);

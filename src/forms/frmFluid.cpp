@@ -119,6 +119,7 @@ void frmFluid::Open(FluidForm& calculation) {
     SetCaption(isGas ? "Gas of the calculation" : "Liquid of the calculation");
     optPure.SetCaption(isGas ? "&Pure gas" : "&Pure liquid");
     optSteam.SetVisible(isGas);
+    Components.lblRemainingCaption.SetCaption(isGas ? "Remaining mole percent" : "Remaining percent");
     ReadTable();
     const FluidPick pick = FluidForm::PickInForce();
     marked_ = pick.Name;

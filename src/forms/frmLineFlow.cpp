@@ -28,6 +28,7 @@ frmLineFlow::frmLineFlow() : SuiteForm("frmLineFlow") {
     txtFlow.Describe(&lblFlow, &unFlow);
     for (TextBox* box : {&txtGiven, &txtFlow}) {
         box->Locked = true;
+        box->IsNumber = true;
         box->TabStop = false;
         box->ColourGroup = 4;
     }
@@ -81,10 +82,8 @@ void frmLineFlow::txtEnd_Change() { BlankAnswer(); }
 // A case that is refused leaves the one before.
 void frmLineFlow::optCase_Click(int index) {
     if (index == Calc.CaseIndex || OpenLine() == nullptr) return;
-    const int before = Calc.CaseIndex;
-    if (OpenLine()->TakeCase(index, LineLossForm::Wanted::NoFlow)) return ShowCase();
-    Calc.CaseIndex = before;
-    optCase(before).SetChecked(true);
+    if (OpenLine()->TakeOtherCase(index, LineLossForm::Wanted::NoFlow)) return ShowCase();
+    optCase(Calc.CaseIndex).SetChecked(true);
 }
 
 void frmLineFlow::cmdFind_Click() {
@@ -96,11 +95,12 @@ void frmLineFlow::cmdFind_Click() {
     }
     const BusyPointer busy;
     const FlowAnswer answer = FlowForPressure(end);
-    lblReason.SetCaption(answer.Reason);
-    if (answer.Flow == 0) return;
+    lblReason.SetCaption(answer.Told);
+    if (answer.Flow == 0) return txtEnd.SetFocus();
     txtFlow.SetText(Str(answer.Flow));
     cmdOK.SetEnabled(true);
     DefaultButton = &cmdOK;
+    cmdOK.SetFocus();
 }
 
 void frmLineFlow::cmdOK_Click() {

@@ -12,6 +12,7 @@ public:
     frmLineFlow();
 
     void Load() override;
+    void Activated() override { txtEnd.SetFocus(); }
     void CloseBox() override { cmdCancel_Click(); }
 
     Label lblCase{*this, "lblCase", "Case"};

@@ -2,7 +2,6 @@
 #include "forms/frmSizes.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 
 #include "core/Programs.h"
@@ -16,6 +15,7 @@
 #include "platform/Forms.h"
 #include "platform/Keys.h"
 #include "platform/NumberText.h"
+#include "platform/TextCase.h"
 #include "tables/TableFiles.h"
 #include "units/Rounding.h"
 
@@ -33,21 +33,18 @@ std::string WithUnit(const std::string& words, int unitRow) {
     return words + ", " + Calc.UnitName[At(unitRow)];
 }
 
+bool GetsThrough(const LineTrial& trial) { return trial.End == Outcome::Reached && !trial.IsChoked; }
+
 // What keeps a fluid from the end of its line.
-const char* WordOf(Outcome end) {
-    switch (end) {
-        case Outcome::Reached: return "";
+const char* WordOf(const LineTrial& trial) {
+    switch (trial.End) {
+        case Outcome::Reached: return trial.IsChoked ? "chokes" : "";
         case Outcome::ZeroPressure: return "zero pressure";
         case Outcome::Sonic: return "sonic velocity";
         case Outcome::NoResult: return "no result";
-        case Outcome::Stopped: return "stopped";
+        case Outcome::Stopped: break;  // has no row
     }
     return "";
-}
-
-// psi per 100 ft.
-double LossPer100Of(const LineTrial& trial) {
-    return trial.Results.LossPer100 * Calc.UnitFactor[unit::PressureDrop] / Calc.UnitFactor[unit::Length];
 }
 
 }  // namespace
@@ -104,7 +101,8 @@ void frmSizes::ListServices() {
     std::vector<std::string> names;
     for (const LineCriterion& each : criteria_) names.push_back(each.Service);
     lstService.SetRows(std::move(names));
-    const auto own = std::ranges::find(criteria_, Calc.Service, &LineCriterion::Service);
+    const auto own = std::ranges::find_if(
+        criteria_, [](const LineCriterion& each) { return SameName(each.Service, Calc.Service); });
     serviceAtFirst_ = own == criteria_.end() ? 0 : static_cast<int>(own - criteria_.begin());
     lstService.Preselect(serviceAtFirst_);
 }
@@ -145,37 +143,44 @@ void frmSizes::lstSchedule_Click() {
     lstService_Click();
 }
 
-// A table that takes its time hears Escape; what is done then stands.
+// What is done when the user stops stands.
 void frmSizes::TryPipes() {
-    using Clock = std::chrono::steady_clock;
-    constexpr std::chrono::milliseconds soon(200);
     const BusyPointer busy;
-    const auto start = Clock::now();
     const std::string schedule = lstSchedule.Row(lstSchedule.Selected());
     sizes_.clear();
+    isStopped_ = false;
     LineTrials trials;
     for (const std::string& line : lines_) {
         const TableFields fields = SplitTableLine(table::Pipe, line);
         if (schedule != AllSchedules && schedule != fields[1]) continue;
         Size size{line, fields[0], fields[1], PipeDiameterOf(line), {}, {}};
         size.Trial = trials.WithDiameter(size.Diameter);
-        const bool isStopped =
-            size.Trial.End == Outcome::Stopped || (Clock::now() - start > soon && UserWantsToStop());
+        isStopped_ = size.Trial.End == Outcome::Stopped;
+        if (isStopped_) return;
         sizes_.push_back(std::move(size));
-        if (isStopped) return SetStatus("Stopped: these are not all pipes");
     }
 }
 
 void frmSizes::lstService_Click() {
     const std::string limits = LimitsOf(Criterion());
-    lblSource.SetCaption(limits.empty() ? "" : limits + " (" + Criterion().Source + ")");
+    const bool isNone = lstService.Selected() <= 0;
+    lblSource.SetCaption(isNone           ? ""
+                         : limits.empty() ? "This service has no figures"
+                                          : limits + SourceOf(Criterion()));
     for (Size& size : sizes_)
-        size.Excess = ExcessOf(Criterion(), size.Trial.Figures, LossPer100Of(size.Trial));
+        size.Excess = ExcessOf(Criterion(), size.Trial.Figures, size.Trial.Results.LossPer100);
     ShowTable();
 }
 
+bool frmSizes::HasCriterion() const { return !LimitsOf(Criterion()).empty(); }
+
 bool frmSizes::Meets(const Size& size) const {
-    return lstService.Selected() > 0 && size.Trial.End == Outcome::Reached && size.Excess.empty();
+    return HasCriterion() && GetsThrough(size.Trial) && size.Excess.empty();
+}
+
+std::string frmSizes::Verdict(const Size& size) const {
+    if (!GetsThrough(size.Trial)) return WordOf(size.Trial);
+    return Meets(size) ? "meets" : size.Excess;
 }
 
 Grid::Cells frmSizes::Heads() const {
@@ -201,9 +206,7 @@ Grid::Cells frmSizes::CellsOf(const Size& size) const {
     Grid::Cells cells = {size.Nominal,
                          size.Schedule,
                          TrimmedStr(size.Diameter),
-                         !isReached    ? WordOf(trial.End)
-                         : Meets(size) ? "meets"
-                                       : size.Excess,
+                         Verdict(size),
                          Figure(trial.Results.Velocity),
                          ofTheEnd(trial.Results.LossPer100),
                          ofTheEnd(trial.Results.FinalPressure),
@@ -220,32 +223,47 @@ void frmSizes::ShowTable() {
     for (const Size& size : sizes_) rows.push_back(CellsOf(size));
     grdSizes.SetHeads(WithUnitsBelow(rows.front()));
     grdSizes.SetRows(std::move(rows), columns);
-    const auto met = std::ranges::count_if(sizes_, [this](const Size& size) { return Meets(size); });
-    const std::string total = std::to_string(sizes_.size()) + (sizes_.size() == 1 ? " pipe" : " pipes");
-    lblMet.SetCaption(lstService.Selected() > 0 ? std::to_string(met) + " of " + total + " meet the criterion"
-                                                : total);
+    lblMet.SetCaption(CountInWords());
     const int best = BestRow();
     best < 0 ? grdSizes.Deselect() : grdSizes.Select(best + grdSizes.FixedRows, 0);
     cmdOK.SetEnabled(best >= 0);
 }
 
+std::string frmSizes::CountInWords() const {
+    const auto met = std::ranges::count_if(sizes_, [this](const Size& size) { return Meets(size); });
+    const std::string total = std::to_string(sizes_.size()) + (sizes_.size() == 1 ? " pipe" : " pipes");
+    const std::string count =
+        HasCriterion() ? std::to_string(met) + " of " + total + " meet the criterion" : total;
+    return isStopped_ ? count + ": stopped, these are not all" : count;
+}
+
 // The smallest that meets the criterion; without one the pipe in hand.
 int frmSizes::BestRow() const {
-    const bool hasService = lstService.Selected() > 0;
-    const double inHand = Calc.PipeData[pipe::InsideDiameter];
+    if (!HasCriterion()) return RowInHand();
     int best = -1;
     for (std::size_t i = 0; i < sizes_.size(); ++i) {
-        const Size& size = sizes_[i];
-        if (!hasService && size.Diameter == inHand) return static_cast<int>(i);
-        if (!hasService || !Meets(size)) continue;
-        if (best < 0 || size.Diameter < sizes_[At(best)].Diameter) best = static_cast<int>(i);
+        const bool isSmaller = best < 0 || sizes_[i].Diameter < sizes_[At(best)].Diameter;
+        if (isSmaller && Meets(sizes_[i])) best = static_cast<int>(i);
     }
     return best;
 }
 
+// Several schedules have one diameter, of which the name tells one; a list in millimetres has three figures.
+int frmSizes::RowInHand() const {
+    const double inHand = Calc.PipeData[pipe::InsideDiameter];
+    int first = -1;
+    for (std::size_t i = 0; i < sizes_.size(); ++i) {
+        const Size& size = sizes_[i];
+        if (size.Diameter != inHand && size.Diameter != RoundedThree(inHand)) continue;
+        if (PipeNameOf(size.ListLine) == Calc.PipeName) return static_cast<int>(i);
+        if (first < 0) first = static_cast<int>(i);
+    }
+    return first;
+}
+
 bool frmSizes::HasAnswer() const {
     const int best = BestRow();
-    return best >= 0 && sizes_[At(best)].Trial.End == Outcome::Reached;
+    return best >= 0 && GetsThrough(sizes_[At(best)].Trial);
 }
 
 std::string frmSizes::Answer() const {
@@ -259,13 +277,8 @@ void frmSizes::grdSizes_Click() { cmdOK.SetEnabled(grdSizes.Selected() >= grdSiz
 // A case that is refused leaves the table of the one before.
 void frmSizes::optCase_Click(int index) {
     if (index == Calc.CaseIndex || OpenLine() == nullptr) return;
-    const int before = Calc.CaseIndex;
-    if (OpenLine()->TakeCase(index, LineLossForm::Wanted::NoDiameter)) {
-        TryPipes();
-        return lstService_Click();
-    }
-    Calc.CaseIndex = before;
-    optCase(before).SetChecked(true);
+    if (OpenLine()->TakeOtherCase(index, LineLossForm::Wanted::NoDiameter)) return lstSchedule_Click();
+    optCase(Calc.CaseIndex).SetChecked(true);
 }
 
 void frmSizes::cmdCopy_Click() {

@@ -61,7 +61,9 @@ private:
     };
 
     const LineCriterion& Criterion() const;
+    bool HasCriterion() const;
     bool Meets(const Size& size) const;
+    std::string Verdict(const Size& size) const;
     void ListServices();
     void TakeService(LineLossForm& line) const;
     void ReadFamily();
@@ -69,13 +71,16 @@ private:
     void ShowTable();
     Grid::Cells Heads() const;
     Grid::Cells CellsOf(const Size& size) const;
+    std::string CountInWords() const;
     int BestRow() const;
+    int RowInHand() const;
 
     std::vector<PipeFile> families_;       // a row of lstFamily each
     std::vector<LineCriterion> criteria_;  // a row of lstService each, the first asks nothing
     int serviceAtFirst_ = 0;
     std::vector<std::string> lines_;  // of the family in hand
     std::vector<Size> sizes_;         // a row of the table each
+    bool isStopped_ = false;          // before the last of them
 };
 
 }  // namespace quillmetra

@@ -27,12 +27,13 @@ void Add(std::string& list, const std::string& part) { list += (list.empty() ? "
 
 std::string ExcessOf(const LineCriterion& criterion, const LineFigures& figures, double lossPer100) {
     std::string excess;
+    const double loss = lossPer100 * Calc.UnitFactor[unit::PressureDrop] / Calc.UnitFactor[unit::Length];
     const double erosional = criterion.ErosionalC / std::sqrt(figures.OutletDensity);
     if (criterion.LargestVelocity > 0 && figures.OutletVelocity > criterion.LargestVelocity)
         Add(excess, "velocity above" + WithUnit(criterion.LargestVelocity, unit::Velocity));
     if (criterion.ErosionalC > 0 && figures.OutletVelocity > erosional)
         Add(excess, "velocity above" + WithUnit(erosional, unit::Velocity));
-    if (criterion.LargestLoss > 0 && lossPer100 > criterion.LargestLoss)
+    if (criterion.LargestLoss > 0 && loss > criterion.LargestLoss)
         Add(excess, "loss above" + LargestLossOf(criterion));
     return excess;
 }
@@ -45,6 +46,10 @@ std::string LimitsOf(const LineCriterion& criterion) {
         Add(limits, "velocity up to" + Str(criterion.ErosionalC) + " / sqrt(lb/ft3) ft/s");
     if (criterion.LargestLoss > 0) Add(limits, "loss up to" + LargestLossOf(criterion));
     return limits;
+}
+
+std::string SourceOf(const LineCriterion& criterion) {
+    return criterion.Source.empty() ? "" : " (" + criterion.Source + ")";
 }
 
 }  // namespace quillmetra

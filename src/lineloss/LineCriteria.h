@@ -18,10 +18,14 @@ struct LineCriterion {
 };
 
 // "velocity above 10 ft/s, loss above 2 psi per 100 ft" in the units of the record in hand; empty when the
-// line keeps to all. The velocity is that at the outlet, where it is greatest. lossPer100: psi per 100 ft.
+// line keeps to all. The velocity is that at the outlet, where it is greatest unless the pressure rises on
+// the way. lossPer100: as the record has it.
 std::string ExcessOf(const LineCriterion& criterion, const LineFigures& figures, double lossPer100);
 
 // "velocity up to 10 ft/s", in the same units.
 std::string LimitsOf(const LineCriterion& criterion);
+
+// " (Crane TP-410)"; empty where the table names no source.
+std::string SourceOf(const LineCriterion& criterion);
 
 }  // namespace quillmetra

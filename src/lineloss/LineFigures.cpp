@@ -36,16 +36,19 @@ LineCase LineOf(double massFlow, double viscosity) {
             Calc.PipeData[pipe::Length] * Calc.UnitFactor[unit::Length], massFlow, viscosity};
 }
 
-Flow FlowOf(const LineCase& line, double reynoldsRatio) {
+// known: the friction factor, 0 where it is to be found.
+Flow FlowOf(const LineCase& line, double reynoldsRatio, double known = 0) {
     const double status = ReynoldsOf(line.MassFlow, line.Diameter, line.Viscosity);
     const double reynolds = status * reynoldsRatio;
-    const double clean =
-        reynolds <= LaminarLimit
-            ? 64 / reynolds
-            : SolveColebrook(reynolds, line.Diameter, FindPipeMaterial(Calc.PipeMaterialNumber), 0).Factor;
+    const bool isLaminar = reynolds <= LaminarLimit;
+    const auto clean = [&] {
+        if (isLaminar) return 64 / reynolds;
+        return SolveColebrook(reynolds, line.Diameter, FindPipeMaterial(Calc.PipeMaterialNumber), 0).Factor;
+    };
+    const auto fouled = [](double factor) { return factor + factor * Calc.PipeFouling / 100; };
     const TurbulenceRow* const row = FindTurbulenceRow(line.Diameter);
-    const double turbulent = row != nullptr ? row->Factor : reynolds <= LaminarLimit ? clean : Unknown;
-    return {FlowRegimeOf(reynolds, status, line.Diameter), clean + clean * Calc.PipeFouling / 100, turbulent};
+    const double turbulent = row != nullptr ? row->Factor : isLaminar ? clean() : Unknown;
+    return {FlowRegimeOf(reynolds, status, line.Diameter), known > 0 ? known : fouled(clean()), turbulent};
 }
 
 // ft; a count below zero counts with what an earlier line has left, which is not to be had again.
@@ -139,11 +142,11 @@ double NpshOf(double margin, double gravity) {
     return margin / (psiOfAFoot * gravity);
 }
 
-LiquidFigures LiquidFiguresOf(int caseIndex) {
+LiquidFigures LiquidFiguresOf(int caseIndex, double frictionFactor) {
     const double gravity = GravityIn(Input(input::FlowGravity, caseIndex), unit::LiquidDensity);
     const LineCase line = LineOf(LiquidFlowIn(Input(input::LiquidFlow, caseIndex), gravity),
                                  LiquidViscosityIn(Input(input::Viscosity, caseIndex), gravity));
-    const Flow flow = FlowOf(line, 1);
+    const Flow flow = FlowOf(line, 1, frictionFactor);
     const double density = gravity * FrictionWaterDensity;
     const double perFoot = LossPer100Feet(flow.Factor, line.MassFlow, line.Diameter, density) / 100;
     const double rise =

@@ -24,8 +24,8 @@ struct GasFigures : LineFigures {
     double OutletMach = 0;  // by the sonic velocity of the results
 };
 
-// Of a case of the record in hand whose results stand.
-LiquidFigures LiquidFiguresOf(int caseIndex);
+// Of a case of the record in hand whose results stand. The friction factor is found where it is not given.
+LiquidFigures LiquidFiguresOf(int caseIndex, double frictionFactor = 0);
 GasFigures GasFiguresOf(int caseIndex);
 
 // Whether such a case is to pass more gas than its line can; never of a liquid, nor where the source is not

@@ -6,13 +6,14 @@
 #include "core/Programs.h"
 #include "core/Suite.h"
 #include "core/Words.h"
-#include "lineloss/FlowStatus.h"
+#include "lineloss/ChokedFlow.h"
 #include "lineloss/Friction.h"
 #include "lineloss/GasLineLoss.h"
 #include "lineloss/LiquidLineLoss.h"
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "units/Border.h"
+#include "units/CorrelationRange.h"
 #include "units/Rounding.h"
 
 namespace quillmetra {
@@ -22,7 +23,7 @@ namespace {
 bool IsGas() { return Calc.CurrentProgram == program::GasLine; }
 std::size_t ThisCase() { return At(Calc.CaseIndex); }
 
-// The figures of a liquid line, which LiquidFiguresOf finds from a record alone, stand in the working layer.
+// The figures follow from the record, so the results go there first.
 void CalculateLiquid(LineTrial& trial) {
     CalcFriction();
     CalcFinalPressure();
@@ -30,12 +31,8 @@ void CalculateLiquid(LineTrial& trial) {
     trial.End = Calc.FlowPressure == 0 ? Outcome::ZeroPressure : Outcome::Reached;
     trial.Results = static_cast<const LineResults&>(results);
     trial.Reynolds = results.Reynolds;
-    trial.Figures.Regime = FlowRegimeOf(Calc.ReynoldsNumber, Calc.ReynoldsNumber, Calc.PipeId[TheLine]);
-    trial.Figures.TotalLoss = (Calc.PressureDirection == direction::Backwards ? -1 : 1) *
-                              (Calc.SourcePressure[TheLine] - Calc.FlowPressure);
-    trial.Figures.PipeAndFittings = LengthWithFittings();
-    trial.Figures.OutletVelocity = Calc.Velocity;
-    trial.Figures.OutletDensity = Calc.Density;
+    Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
+    static_cast<LineFigures&>(trial.Figures) = LiquidFiguresOf(Calc.CaseIndex, Calc.FrictionFactor);
 }
 
 void CalculateGas(LineTrial& trial) {
@@ -50,11 +47,11 @@ void CalculateGas(LineTrial& trial) {
                 : Calc.FlowPressure == 0 ? Outcome::ZeroPressure
                                          : Outcome::Reached;
     trial.Results = static_cast<const LineResults&>(results);
-    // The figures of a gas line follow from the record, so its results go there first.
     Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
     Calc.CaseResult[result::Velocity][ThisCase()] = results.Velocity;
     Calc.CaseResult[result::SonicVelocity][ThisCase()] = results.SonicVelocity;
     trial.Figures = GasFiguresOf(Calc.CaseIndex);
+    trial.IsChoked = Calc.MassFlow > ChokedFlowOf(Calc);
 }
 
 // The flow of the case in hand, to both layers.
@@ -79,8 +76,17 @@ LineTrial LineTrials::WithFlow(double flow) {
     return Run();
 }
 
+bool LineTrials::IsStopped() const {
+    constexpr std::chrono::milliseconds soon(200);
+    return Clock::now() - start_ > soon && UserWantsToStop();
+}
+
 LineTrial LineTrials::Run() {
     LineTrial trial;
+    if (IsGas() && IsStopped()) {
+        trial.End = Outcome::Stopped;
+        return trial;
+    }
     // All that a calculation finds of the one before and does not write itself.
     Calc.TurbulentFactor = checked_.TurbulentFactor;
     Calc.ColebrookTerm = checked_.ColebrookTerm;
@@ -105,69 +111,88 @@ constexpr double SameFlow = 1e-7;
 // is more.
 constexpr double SameLoss = 0.002;
 
+bool IsBackwards() { return Calc.PressureDirection == direction::Backwards; }
+
+std::string WithUnit(double value, int unitRow) {
+    return TrimmedStr(RoundedFour(value)) + " " + Calc.UnitName[At(unitRow)];
+}
+
 // The flow at which a line ends beyond a pressure: friction takes more, the greater the flow is.
 class FlowSearch {
 public:
     explicit FlowSearch(double endPressure) : target_(PressureIn(endPressure)) {}
 
     FlowAnswer Find() {
-        if (!IsBelow(LeastFlow)) return {0, "Even without flow the line does not end at that pressure"};
-        still_ = below_;
-        double low = LeastFlow, high = GreatestFlow;
-        if (IsBelow(high)) return {0, "No flow loses so much"};
-        while (high > low * (1 + SameFlow)) {
-            const double middle = std::sqrt(low * high);
-            (IsBelow(middle) ? low : high) = middle;
-            if (isStopped_) return {0, "Stopped"};
-        }
-        IsBelow(low);
-        return AnswerAt(low, high);
+        FlowAnswer answer = Search();
+        return isStopped_ ? FlowAnswer{0, "Stopped"} : answer;
     }
 
 private:
+    FlowAnswer Search() {
+        if (!IsBelow(LeastFlow)) return {0, NothingFlows()};
+        still_ = below_;
+        if (IsBelow(GreatestFlow)) return {0, "No flow loses so much"};
+        return AnswerAt(GreatestBelow());
+    }
+
+    double GreatestBelow() {
+        double low = LeastFlow, high = GreatestFlow;
+        while (high > low * (1 + SameFlow) && !isStopped_) {
+            const double middle = std::sqrt(low * high);
+            (IsBelow(middle) ? low : high) = middle;
+        }
+        return low;
+    }
+
+    FlowAnswer AnswerAt(double flow) {
+        IsBelow(flow * (1 + SameFlow));
+        const std::string stop = WhatStops(flow);
+        IsBelow(flow);
+        const bool isMet = std::fabs(below_ - target_) <= SameLoss * std::fabs(still_ - below_);
+        if (!isMet && !IsShownAs(below_)) return {0, stop};
+        return {RoundedFour(flow), IsGas() ? Sentences(ChokedFlowHints(Calc)) : ""};
+    }
+
     // Whether the line loses less at a flow than it may. What does not get to the end loses too much.
     bool IsBelow(double flow) {
         const LineTrial trial = trials_.WithFlow(flow);
         isStopped_ = isStopped_ || trial.End == Outcome::Stopped;
-        if (trial.End != Outcome::Reached) {
-            stop_ = trial.End;
-            return false;
-        }
-        const double end = trial.EndPressure;
-        const bool isBelow = Calc.PressureDirection == direction::Backwards ? end < target_ : end > target_;
-        if (isBelow) {
-            below_ = end;
-        } else {
-            stop_ = Outcome::Reached;
-        }
+        last_ = trial.End;
+        end_ = trial.EndPressure;
+        const bool isBelow = last_ == Outcome::Reached && (IsBackwards() ? end_ < target_ : end_ > target_);
+        if (isBelow) below_ = end_;
         return isBelow;
     }
 
-    // Above the greatest flow below the pressure stands a line that stops, or one of another zone.
-    FlowAnswer AnswerAt(double low, double high) {
-        IsBelow(high);
-        const std::string most =
-            Str(RoundedFour(low)) + " " + Calc.UnitName[IsGas() ? unit::GasFlow : unit::LiquidFlow];
-        const bool isMet = std::fabs(below_ - target_) <= SameLoss * std::fabs(still_ - below_);
-        if (isMet) return {RoundedFour(low), ""};
-        if (stop_ == Outcome::Sonic)
-            return {0, "The gas becomes as fast as sound first: the line takes at most" + most +
-                           ", and ends at" + Shown(below_)};
-        if (stop_ == Outcome::ZeroPressure)
-            return {0, "The line takes at most" + most + ", and ends at" + Shown(below_)};
-        return {0, "No flow has just that loss, the flow zone changes: up to" + most + " the line ends at" +
-                       Shown(below_)};
+    // As the form shows it, the pressure at the end is the one that was asked for.
+    bool IsShownAs(double end) const {
+        return RoundedFour(PressureShown(end)) == RoundedFour(PressureShown(target_));
     }
 
-    static std::string Shown(double psia) {
-        return Str(RoundedFour(PressureShown(psia))) + " " + Calc.UnitName[unit::Pressure];
+    std::string NothingFlows() const {
+        if (last_ == Outcome::Reached && IsShownAs(end_))
+            return "The line has that pressure without any flow";
+        return std::string("Even without flow the line does not ") + (IsBackwards() ? "start" : "end") +
+               " at that pressure";
+    }
+
+    // Above the greatest flow below the pressure stands a line that stops, or one of another zone.
+    std::string WhatStops(double most) const {
+        const std::string flow = WithUnit(most, IsGas() ? unit::GasFlow : unit::LiquidFlow);
+        const std::string end =
+            (IsBackwards() ? "starts at " : "ends at ") + WithUnit(PressureShown(below_), unit::Pressure);
+        const std::string answer = "the line takes at most " + flow + ", and " + end;
+        if (last_ == Outcome::Sonic) return "The gas becomes as fast as sound first: " + answer;
+        if (last_ == Outcome::ZeroPressure) return "The pressure is used up first: " + answer;
+        return "No flow has just that loss, the flow zone changes: up to " + flow + " the line " + end;
     }
 
     LineTrials trials_;
-    const double target_;  // psia
-    double still_ = 0;     // psia, the end without flow
-    double below_ = 0;     // psia, the end of the greatest flow that loses less
-    Outcome stop_ = Outcome::Reached;
+    const double target_;              // psia
+    double still_ = 0;                 // psia, the end without flow
+    double below_ = 0;                 // psia, the end of the greatest flow that loses less
+    Outcome last_ = Outcome::Reached;  // of the last trial, with its end
+    double end_ = 0;                   // psia
     bool isStopped_ = false;
 };
 

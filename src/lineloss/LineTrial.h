@@ -3,9 +3,8 @@
 // is not told.
 #pragma once
 
-#include <functional>
+#include <chrono>
 #include <string>
-#include <vector>
 
 #include "core/CalcRecord.h"
 #include "core/Filling.h"
@@ -29,10 +28,12 @@ struct LineTrial {
     double EndPressure = 0;  // psia, of the end that the case calculates
     LineResults Results{};  // in the units of the record; pressure and loss are 0 when the end is not reached
     double Reynolds = 0;
-    GasFigures Figures{};  // a liquid's has no Mach number
+    GasFigures Figures{};   // a liquid's has no Mach number
+    bool IsChoked = false;  // a gas of which the line passes less, though the march may reach its end
 };
 
-// Needs what data checking has put into the working layer of the record in hand, program 1 or 2.
+// Needs what data checking has put into the working layer of the record in hand, program 1 or 2. Trials of a
+// gas that take their time hear Escape between two of them; those of a liquid never do.
 class LineTrials {
 public:
     LineTrials();
@@ -46,8 +47,12 @@ public:
     LineTrial WithFlow(double flow);
 
 private:
+    using Clock = std::chrono::steady_clock;
+
+    bool IsStopped() const;
     LineTrial Run();
 
+    const Clock::time_point start_ = Clock::now();
     const CalcRecord checked_ = Calc;
     const HeldMessages held_;
     const Setting zoneUntold_;
@@ -55,8 +60,8 @@ private:
 
 // The flow that makes a line end at a pressure.
 struct FlowAnswer {
-    double Flow = 0;     // in the unit and basis of the record, four figures; 0 when there is none
-    std::string Reason;  // why there is none, else empty
+    double Flow = 0;   // in the unit and basis of the record, four figures; 0 when there is none
+    std::string Told;  // why there is none, or what of it the user is to know
 };
 // endPressure: that of the end which the case calculates, in the unit and mode of the record. Needs the same
 // as LineTrials; the flow of the case in hand does not count.

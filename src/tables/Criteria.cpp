@@ -1,6 +1,8 @@
 // See Criteria.h.
 #include "tables/Criteria.h"
 
+#include <utility>
+
 #include "platform/NumberText.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextCase.h"
@@ -31,10 +33,10 @@ std::vector<LineCriterion> CriteriaOf(std::string_view fluidKind) {
     return criteria;
 }
 
-LineCriterion CriterionOf(std::string_view service) {
+LineCriterion CriterionOf(std::string_view service, std::string_view fluidKind) {
     try {
-        for (const std::string& row : ReadTable(table::Criteria)) {
-            if (SameName(RowName(row), service)) return CriterionIn(SplitTableLine(table::Criteria, row));
+        for (LineCriterion& each : CriteriaOf(fluidKind)) {
+            if (SameName(each.Service, service)) return std::move(each);
         }
     } catch (const RuntimeError&) {
         // no table, no criterion

@@ -12,8 +12,8 @@ namespace quillmetra {
 // are those of ReadTable.
 std::vector<LineCriterion> CriteriaOf(std::string_view fluidKind);
 
-// The criterion of a service, one that asks nothing when there is none of that name. Throws nothing: a table
-// that cannot be read has no services.
-LineCriterion CriterionOf(std::string_view service);
+// The one of them with a name, one that asks nothing when there is none. Throws nothing: a table that cannot
+// be read has no services.
+LineCriterion CriterionOf(std::string_view service, std::string_view fluidKind);
 
 }  // namespace quillmetra

@@ -22,7 +22,7 @@ struct LineKind {
 const LineKind Kinds[] = {
     {"frmLiqLineLoss",
      1,
-     "txtFlow=100000 txtTemp=60 txtPressure=100 txtSGFlow=1 txtViscosity=1 txtEquip=2",
+     "txtFlow=100000 txtTemp=60 txtPressure=100 txtSGFlow=1 txtViscosity=1 txtEquip=0.2",
      {"txtVelocity", "txtDropP100", "txtDestPress", "txtTotalLoss", "txtReynoldsNum", "txtRegime"}},
     {"frmGasLineLoss",
      2,

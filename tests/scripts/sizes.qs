@@ -53,6 +53,22 @@ click cmdCalculate(1)
 expect-message Transition
 expect-status "The table of criteria has no service Water - own line."
 
+# Of two services of one name that of the fluid counts; one without figures proposes no pipe.
+write-file TRData/Criteria.txt "Service,\nHeader, Gas, 1, , , Own,\nHeader, Liquid, 9, , , ,\nTo do, Any, soon, , , ,"
+click cmdSizes
+pick lstService Header
+expect lblSource "velocity up to 9 ft/s"
+pick lstService "To do"
+expect lblSource "This service has no figures"
+expect lblMet "422 pipes"
+expect-cell grdSizes 1 3 "zero pressure"
+pick lstService Header
+click cmdOK
+answer Yes
+click cmdCalculate(1)
+expect-message Transition
+expect-status ""
+
 # Other families, other units; nothing of a family that is gone.
 remove-file TRData/W-COPPER.TXT
 click cmdSizes
@@ -81,4 +97,64 @@ answer OK
 type txtEnd -15
 click cmdFind
 expect-box "Data checking" "Destination pressure must be greater than absolute zero" OK Stop
+type txtEnd 100
+click cmdFind
+expect lblReason "The line has that pressure without any flow"
+click cmdCancel
+
+# A case that is refused leaves all of the one before.
+type txtFlow(0) 300000
+type txtTemp(0) 60
+type txtPressure(0) 200
+type txtSGFlow(0) 1
+answer Yes
+click cmdCalculate(1)
+expect-message Transition
+click cmdSizes
+pick lstFamily "Steel, NPS"
+answer OK
+click optCase(0)
+expect-box "Data checking" "Viscosity must be greater than zero" OK Stop
+expect-state optCase(1) checked
+pick lstSchedule 7
+expect-cell grdSizes 15 4 0.3143
+click cmdCancel
+click cmdFlowFor
+answer OK
+click optCase(0)
+expect-message Viscosity
+type txtEnd 90
+click cmdFind
+expect-focus cmdOK
+expect txtFlow 49449
+click cmdCancel
+click optSource
+click cmdFlowFor
+type txtEnd 90
+click cmdFind
+expect lblReason "Even without flow the line does not start at that pressure"
+click cmdCancel
+
+# A gas that the line does not pass, though the march gets to its end.
+write-file TRData/Criteria.txt "Service,\nErosional, Any, , 100, , Own,"
+start
+new 2
+include good-gas-case.qs
+click cmdFlowFor
+type txtEnd 10
+click cmdFind
+expect txtFlow 18664
+expect lblReason "The line chokes at 18377 lb/h and cannot pass this flow (adiabatic, not printed), seen here as 0.41 of sonic velocity."
+type txtEnd -14
+click cmdFind
+expect lblReason "The gas becomes as fast as sound first: the line takes at most 18970 lb/h, and ends at -0.6373 psig"
+expect-state cmdOK disabled
+click cmdCancel
+type txtFlow(1) 18664
+click cmdSizes
+pick lstSchedule 7
+pick lstService Erosional
+expect-cell grdSizes 12 3 "sonic velocity"
+expect-cell grdSizes 13 3 chokes
+expect-cell grdSizes 14 3 meets
 click cmdCancel
