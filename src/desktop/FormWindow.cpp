@@ -110,6 +110,13 @@ FormWindow::FormWindow(Form& form)
     RenewForm();
     SetTabOrder();
     TakeFirstSize();
+    SelectFirst();
+}
+
+// The model has selected what its first focus is on before there was a box to show it.
+void FormWindow::SelectFirst() {
+    const auto* const box = dynamic_cast<const TextBox*>(form_->Focus.Current());
+    if (box != nullptr && box->IsNumber) ViewOf(*box)->Renew(Aspect::SelectAll);
 }
 
 void FormWindow::MakeViews() {

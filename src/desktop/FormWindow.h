@@ -55,6 +55,7 @@ private:
     void MakeViews();
     void Connect(ControlView& view);
     void TakeFirstSize();
+    void SelectFirst();
     void PaintAreas();
     void NameForReaders(ControlView& view);
     void SetTabOrder();

@@ -220,7 +220,7 @@ protected:
         if (grid_.IsList) {
             table_->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
             table_->selectionModel()->select(PickedByModel(), QItemSelectionModel::ClearAndSelect);
-            if (cell.isValid()) table_->scrollTo(cell);
+            if (cell.isValid()) ScrollTo(cell);
         } else if (grid_.CellTyped && cell.isValid()) {
             ShowRange(cell);
         } else {
@@ -311,6 +311,12 @@ private:
         connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
             if (!renewing_ && QApplication::mouseButtons() == Qt::NoButton) PassPicksLater();
         });
+    }
+
+    // With what stands around it, unless it is seen.
+    void ScrollTo(const QModelIndex& cell) {
+        const bool isSeen = table_->viewport()->rect().contains(table_->visualRect(cell));
+        if (!isSeen) table_->scrollTo(cell, QAbstractItemView::PositionAtCenter);
     }
 
     // With room for the arrow that a head may get; the last column takes what is left.
