@@ -54,7 +54,7 @@ void PostgresEngine::Connect() {
 }
 
 PostgresResult PostgresEngine::Run(const std::string& sql, const PostgresParameters& parameters) {
-    if (!IsQuestion(sql)) ForgetAhead();
+    if (!IsQuestion(sql)) ahead_.clear();
     return depth_ > 0 ? RunWithin(sql, parameters) : Ask({&sql, 1}, parameters).front();
 }
 
@@ -119,7 +119,7 @@ void PostgresEngine::Begin(int level) {
         connection_->Run(OfSchema("SELECT pg_advisory_xact_lock(hashtextextended(%l, 81))", link_.Schema));
     };
     Connect();
-    ForgetAhead();
+    ahead_.clear();
     depth_ = 1;
     hasGivenUp_ = false;
     try {
