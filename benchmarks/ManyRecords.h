@@ -4,8 +4,11 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/Programs.h"
 #include "core/Suite.h"
@@ -50,6 +53,21 @@ inline void AddRow(Recordset& rows, const RowValues& values) {
     rows.Update();
 }
 
+// The rows of all records in a table, a thousand at a time, which a server takes much quicker.
+inline void AddManyRows(Database& database, const RecordTable& table) {
+    constexpr int atOnce = 1000;
+    Recordset rows(database, table.Shape);
+    for (int first = 0; first < ManyRecords; first += atOnce) {
+        std::vector<std::vector<FieldValue>> some(atOnce);
+        for (int i = 0; i < atOnce; ++i) {
+            TakeRecord(first + i);
+            for (const std::optional<FieldValue>& value : RowOfRecord(table))
+                some[static_cast<std::size_t>(i)].push_back(value.value_or(FieldValue()));
+        }
+        rows.AddAll(std::move(some));
+    }
+}
+
 // Every head with its rows of units and of the line; the name of the file.
 inline const std::string& ManyRecordsFile() {
     static const TemporaryFolder folder;
@@ -66,11 +84,7 @@ inline const std::string& ManyRecordsFile() {
         Transaction all(*database);
         for (const RecordTable* table :
              {&HeadTable(), &UnitsTable(), &PressureDropTable(), &SettingsTable()}) {
-            Recordset rows(*database, table->Shape);
-            for (int i = 0; i < ManyRecords; ++i) {
-                TakeRecord(i);
-                AddRow(rows, RowOfRecord(*table));
-            }
+            AddManyRows(*database, *table);
         }
         all.Commit();
         return Suite.DatabaseFile;
