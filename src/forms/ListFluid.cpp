@@ -99,7 +99,7 @@ void ListRecords::PutPure(RecordRows& rows, const Given& name) {
 // table when its state is another one than before.
 void ListRecords::PutFluid(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored) {
     const auto differs = [&stored](const Given& given) {
-        return !stored || !SameValue(stored->Value(*given.Of), Kept(given));
+        return !stored || !AreAlike(stored->Value(*given.Of), Kept(given));
     };
     const auto given = [&](const auto& isWanted) {
         return std::ranges::any_of(row.Cells, [&](const Given& each) {
@@ -107,10 +107,16 @@ void ListRecords::PutFluid(RecordRows& rows, const Row& row, const std::optional
         });
     };
     renews_ = false;
+    note_.clear();
     const Given* const name = row.Find("Fluid Name");
     const bool isOther = name != nullptr && differs(*name);
     if (isOther) DropVaporPressures(rows, row);
+    const auto isLoaded = [&rows] {
+        return HasCode(ValueText(rows.Value(*FindColumn("Calc Option"))), code::FluidLoaded);
+    };
     if (given(IsProperty)) {
+        if (stored && isLoaded() && (isOther || given(IsState)))
+            note_ = "the properties that the list does not have are those of the former fluid or state";
         if (isOther && row.Find("Calc Option") == nullptr)
             SetHeadCode(rows, "Calc Option", code::FluidNotLoaded);
         return;
@@ -126,8 +132,13 @@ void ListRecords::PutFluid(RecordRows& rows, const Row& row, const std::optional
         }
         SetHeadCode(rows, "Calc Option", code::FluidLoaded);
     }
-    const bool isLoaded = HasCode(ValueText(rows.Value(*FindColumn("Calc Option"))), code::FluidLoaded);
-    renews_ = isLoaded && (isOther || given(IsState) || !stored);
+    renews_ = isLoaded() && (isOther || given(IsState) || !stored);
+    // An export whose temperature was changed would bring the former ones back.
+    const auto isProperty = [](const Given& each) {
+        return IsProperty(*each.Of) && !ValueText(each.Value).empty();
+    };
+    if (renews_ && std::ranges::any_of(row.Cells, isProperty))
+        note_ = "the list has the properties of the former fluid or state: those of the table are taken";
 }
 
 // Components go by their names, or by their whole rows.

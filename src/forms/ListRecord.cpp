@@ -205,13 +205,13 @@ void ListRecords::DropPipeName(RecordRows& rows, const Row& row, const std::opti
     for (const char* column : {"Pipe Size", "Pipe Wall"}) {
         const RecordColumn* const size = FindColumn(column, row.Program);
         const Given* const given = size == nullptr ? nullptr : row.Find(size->Name);
-        if (given != nullptr && !SameValue(stored->Value(*size), Kept(*given)))
+        if (given != nullptr && !AreAlike(stored->Value(*size), Kept(*given)))
             rows.Set(*FindColumn("Pipe"), std::string());
     }
 }
 
 // A pipe that is named without its diameter has that of its table; with it, both must agree.
-void ListRecords::PutPipe(const Row& row, const std::optional<RecordRows>& stored) {
+void ListRecords::PutPipe(const RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored) {
     const Given* const pipe = row.Find("Pipe");
     const Program* const program = FindProgram(row.Program);
     if (pipe == nullptr || *program->PipeWord == '\0') return;
@@ -220,7 +220,7 @@ void ListRecords::PutPipe(const Row& row, const std::optional<RecordRows>& store
     const RecordColumn& column = *FindColumn("Pipe Size", row.Program);
     const Given* const size = row.Find(column.Name);
     const bool isAsStored = stored && SameValue(stored->Value(*pipe->Of), pipe->Value) &&
-                            (size == nullptr || SameValue(stored->Value(column), Kept(*size)));
+                            (size == nullptr || SameValue(stored->Value(column), rows.Value(column)));
     if (isAsStored) return;
     const Setting family(Suite.PipeFamily, "", "");
     const std::string line = TakePipeNamed(name);
@@ -277,7 +277,7 @@ void ListRecords::CheckTaken(const Row& row, const RecordRows& before, const Rec
         if (IsTheSuites(*given.Of) || IsEmpty(given.Value)) continue;
         if (hasOtherFluid && IsProperty(*given.Of)) continue;
         const FieldValue has = before.Value(*given.Of), is = after.Value(*given.Of);
-        if (SameValue(has, is)) continue;
+        if (AreAlike(has, is)) continue;
         throw ListRefusal{given.Head, ValueText(has) + " is not taken" +
                                           (IsEmpty(is) ? "" : ": the calculation has " + ValueText(is))};
     }
@@ -295,6 +295,13 @@ void ListRecords::ReturnToUnits(RecordRows& rows, const Row& row, const RecordRo
 }
 
 void ListRecords::TellMissing(Made& made, const Row& row) {
+    const bool hasResult = std::ranges::any_of(RecordColumns(), [&made, &row](const RecordColumn& column) {
+        if (column.Kind != ColumnKind::Result || !column.IsOf(row.Program)) return false;
+        const FieldValue is = made.Rows.Value(column);
+        return !IsEmpty(is) && is != FieldValue(0.0);
+    });
+    if (!hasResult && made.Told.empty())
+        made.Told.emplace_back("no case has all its data: nothing is calculated");
     for (const Given& result : row.Results) {
         const FieldValue is = made.Rows.Value(*result.Of);
         if (!IsEmpty(is) && is != FieldValue(0.0)) continue;
@@ -315,7 +322,7 @@ ListRecords::Made ListRecords::Calculate(RecordRows rows, const Row& row,
     const bool filled = FillCalculationForm() != nullptr;
     auto* const form = filled ? dynamic_cast<FluidForm*>(OpenCalculation()) : nullptr;
     if (form == nullptr) throw ListRefusal{"Program Number", "there is no such program"};
-    PutPipe(row, stored);
+    PutPipe(rows, row, stored);
     if (renews_) CheckMixture(rows);
     TakeFluids(*form);
     RefuseFirst(refusals, row);
@@ -326,6 +333,7 @@ ListRecords::Made ListRecords::Calculate(RecordRows rows, const Row& row,
     Made made{RowsOfRecord(), {}};
     CheckTaken(row, rows, made.Rows, renews_);
     for (const std::string& text : held.Texts()) made.Told.push_back(InOneLine(text));
+    if (!note_.empty()) made.Told.push_back(note_);
     TellMissing(made, row);
     return made;
 }
@@ -406,10 +414,10 @@ void ListRecords::CheckHead(const RecordRows& rows, const Row& row) {
 }
 
 // The cells of the row, in the units of the list.
-void ListRecords::PutCells(RecordRows& rows, const Row& row, const ListHeads& heads,
-                           const std::optional<RecordRows>& stored) {
+void ListRecords::PutCells(RecordRows& rows, const Row& row, const ListHeads& heads, bool isStored) {
     const ListUnits units = UnitsOfRow(heads, row);
-    TakeUnits(rows, units, stored.has_value());
+    TakeUnits(rows, units, isStored);
+    const std::optional<RecordRows> stored = isStored ? std::optional(rows) : std::nullopt;
     for (const Given& given : row.Cells) {
         if (given.Of->Kind != ColumnKind::Mixture && !IsOfProgram(given)) Put(rows, given);
     }
@@ -437,7 +445,7 @@ ListRecords::Made ListRecords::Make(const ListHeads& heads, const SheetRow& shee
     if (stored) TakeUnitSet(*stored, row);
     const ListUnits own = stored ? UnitsToKeep(heads, row, *stored) : ListUnits{};
     RecordRows rows = stored ? *stored : Fresh(program, std::max(UnitSetOf(row), 1));
-    PutCells(rows, row, heads, stored);
+    PutCells(rows, row, heads, stored.has_value());
     return Calculate(std::move(rows), row, stored, own);
 }
 

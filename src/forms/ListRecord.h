@@ -63,7 +63,7 @@ private:
     static void DropPipeName(RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored);
     static void PutMaterial(RecordRows& rows, const Row& row);
     static bool IsDatedToday(const Row& row, const std::optional<RecordRows>& stored);
-    static void PutPipe(const Row& row, const std::optional<RecordRows>& stored);
+    static void PutPipe(const RecordRows& rows, const Row& row, const std::optional<RecordRows>& stored);
     std::string FluidLine(const RecordRows& rows, const std::string& name, const std::string& head);
     void PutPure(RecordRows& rows, const Given& name);
     static void CheckMixture(const RecordRows& rows);
@@ -73,8 +73,7 @@ private:
     static int UnitSetOf(const Row& row);  // 0 for none
     void TakeUnitSet(RecordRows& stored, const Row& row);
     static void CheckHead(const RecordRows& rows, const Row& row);
-    void PutCells(RecordRows& rows, const Row& row, const ListHeads& heads,
-                  const std::optional<RecordRows>& stored);
+    void PutCells(RecordRows& rows, const Row& row, const ListHeads& heads, bool isStored);
     static void CheckTaken(const Row& row, const RecordRows& before, const RecordRows& after,
                            bool hasOtherFluid);
     void ReturnToUnits(RecordRows& rows, const Row& row, const RecordRows& stored,
@@ -86,6 +85,7 @@ private:
     std::map<std::pair<int, int>, RecordRows> fresh_;
     std::map<std::string, std::map<std::string, std::string>> fluids_;  // lines by type and name
     bool renews_ = false;                                               // the fluid of the row in hand
+    std::string note_;                                                  // of that fluid
 };
 
 }  // namespace quillmetra

@@ -2,6 +2,7 @@
 #include "forms/ListUnits.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/Filling.h"
 #include "core/PhysicalConstants.h"
@@ -256,12 +257,18 @@ void TakeFigures(RecordRows& rows, const RecordRows& list, const RecordRows& sto
         const bool hasMode = isGravity || field == PressureField;
         const Scale own = ScaleOf(rows, field), scale = ScaleOf(list, field);
         const double value = NumberAt(list, column);
-        if (own == ScaleOf(stored, field) && !isGiven(column.Name)) {
-            rows.Set(column, stored.Value(column));
-        } else if (hasMode && value != 0) {
+        if (hasMode && value != 0)
             rows.Set(column, (value * scale.Factor + scale.Offset - own.Offset) / own.Factor);
-        }
+        const bool isItsUnit = own == ScaleOf(stored, field);
+        if (isItsUnit && (!isGiven(column.Name) || AreAlike(rows.Value(column), stored.Value(column))))
+            rows.Set(column, stored.Value(column));
     }
+}
+
+bool AreAlike(const FieldValue& a, const FieldValue& b) {
+    const auto *one = std::get_if<double>(&a), *other = std::get_if<double>(&b);
+    if (one == nullptr || other == nullptr) return SameValue(a, b);
+    return std::fabs(*one - *other) <= 1e-5 * std::fabs(*one);
 }
 
 std::string FirstByGravity(const RecordRows& list, const RecordRows& stored,

@@ -48,9 +48,12 @@ ListUnits UnitsOf(const RecordRows& rows);
 // The record in hand, whose values follow.
 void ConvertRecordInHand(const ListUnits& units);
 
-// The values of a record that came from the units of a list to its own. What the list does not have is as it
-// was stored. What it has of pressures and gravities is converted whole: a change of modes leaves them four
-// figures, and a pressure near the barometer as it is.
+// To five figures, as a value is that was written in another unit.
+bool AreAlike(const FieldValue& a, const FieldValue& b);
+
+// The values of a record that came from the units of a list to its own. What the list does not have, and what
+// it has alike, is as it was stored. What it has of pressures and gravities is converted whole: a change of
+// modes leaves them four figures, and a pressure near the barometer as it is.
 void TakeFigures(RecordRows& rows, const RecordRows& list, const RecordRows& stored,
                  const std::function<bool(const std::string& column)>& isGiven);
 

@@ -35,6 +35,7 @@ protected:
         EXPECT_TRUE(import.Run([](int, int) { return true; }));
         std::string told = import.Summary();
         for (const ImportLine& line : import.Lines()) {
+            if (line.State == ImportState::Told) told_ = line.Tag + ": " + line.Text;
             if (line.State != ImportState::Changed && line.State != ImportState::Refused) continue;
             told += "\n" + std::to_string(line.Row) + " " + line.Tag + " " + Word(line.State) + " " +
                     line.Column + ": " + line.Text;
@@ -53,6 +54,7 @@ private:
 
 protected:
     ScriptPlayer player_;
+    std::string told_;  // last
 };
 
 // A calculation of a program, and the same in four unit sets.
@@ -199,6 +201,10 @@ TEST_F(UsersLists, ARowBecomesACalculationOfItsForm) {
     EXPECT_NE(Saved("N-3", "Normal Final Pressure"), "");
     EXPECT_EQ(Saved("N-4", "Pressure Drop Normal Temperature"), "337.791");
     EXPECT_EQ(Saved("N-2", "Pipe Size"), "1.959");
+    // Saturated steam with its temperature in another unit than on file, and a row that says too little.
+    EXPECT_EQ(List("Tag,Normal Temperature,Program Number\n,degC,\nN-4,169.8842,2\nN-5,,1\n"),
+              "1 new, 0 changed, 1 equal, 0 refused");
+    EXPECT_EQ(told_, "N-5: no case has all its data: nothing is calculated");
     const std::string state = ",100000,60,100,Toluene,80,";
     EXPECT_EQ(
         List("Tag,Program Number,Pipe Size,Pipe Length,Pipe Material Number,Pipe Material,Normal Flow,Normal "
@@ -363,6 +369,15 @@ TEST_F(UsersLists, OfARecordThatIsThereTheListSaysWhatChanges) {
               "4 in sch 803.8260.621");
     List("Tag,Pipe Size,Normal Temperature\nP-1,3.9,80\n", true);  // the fluid follows its temperature
     EXPECT_EQ(Saved("P-1", "Pipe") + Saved("P-1", "Normal Viscosity"), "0.5417");
+    List("Tag,Normal Temperature,Normal Viscosity\nP-1,60,0.5417\n", true);
+    EXPECT_EQ(Saved("P-1", "Normal Viscosity") + told_.substr(0, 30), "0.621P-1: the list has the properti");
+    List("Tag,Normal Temperature\nP-1,80\n", true);
+    List("Tag,Pipe,Normal Temperature\nP-1,4 in sch 80,80\n", true);
+    List("Tag,Pipe Size,Normal Temperature\n,mm,degC\nP-1,3.826,80\n", true);  // the same numbers
+    EXPECT_EQ(Saved("P-1", "Pipe") + Saved("P-1", "Pipe Size").substr(0, 5) + " " +
+                  Saved("P-1", "Normal Temperature") + " " + Saved("P-1", "Normal Viscosity"),
+              "0.150 176 0.3169");
+    List("Tag,Pipe,Normal Temperature\nP-1,4 in sch 80,80\n", true);
     // Which pipe it needs, and that there is none.
     const std::string sizes = "start\nsizes @TRData P-1 2 \"Liquid - centrifugal suction\"";
     Play(sizes);
