@@ -250,12 +250,13 @@ void ListRecords::RefuseFirst(const DataRefusals& refusals, const Row& row) {
     throw ListRefusal{given == row.Cells.end() ? column : given->Head, InOneLine(first.Text)};
 }
 
-// Where that is not the gravity of the value itself, nobody would see that it became another one.
-void ListRecords::CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored) const {
+// Values that went by a gravity which is not their own: nobody would see that they became others.
+void ListRecords::CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored,
+                               bool misleads) const {
     const Given* const name = row.Find("Fluid Name");
     const bool isOther = name != nullptr && !SameValue(stored.Value(*name->Of), rows.Value(*name->Of));
     const bool isAnother = renews_ && (isOther || !program::IsOfGas(row.Program));
-    if (!isAnother && HasOneGravity(rows)) return;
+    if (!isAnother && !misleads) return;
     const std::string column = FirstByGravity(rows, stored, row.Has());
     if (column.empty()) return;
     throw ListRefusal{
@@ -287,8 +288,7 @@ void ListRecords::CheckTaken(const Row& row, const RecordRows& before, const Rec
 void ListRecords::ReturnToUnits(RecordRows& rows, const Row& row, const RecordRows& stored,
                                 const ListUnits& own) const {
     CheckTaken(row, rows, RowsOfRecord(), false);
-    CheckGravity(rows, row, stored);
-    ConvertRecordInHand(own);
+    CheckGravity(rows, row, stored, ConvertRecordInHand(own));
     const RecordRows list = std::exchange(rows, RowsOfRecord());
     TakeFigures(rows, list, stored, row.Has());
     TakeRecordRows(rows);

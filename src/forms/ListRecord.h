@@ -67,7 +67,7 @@ private:
     std::string FluidLine(const RecordRows& rows, const std::string& name, const std::string& head);
     void PutPure(RecordRows& rows, const Given& name);
     static void CheckMixture(const RecordRows& rows);
-    void CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored) const;
+    void CheckGravity(const RecordRows& rows, const Row& row, const RecordRows& stored, bool misleads) const;
     void TakeFluids(FluidForm& form) const;
     static void RefuseFirst(const DataRefusals& refusals, const Row& row);
     static int UnitSetOf(const Row& row);  // 0 for none

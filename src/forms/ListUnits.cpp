@@ -18,6 +18,7 @@
 #include "units/UnitChange.h"
 #include "units/UnitLibraryFile.h"
 #include "units/UnitSelection.h"
+#include "units/Viscosity.h"
 
 namespace quillmetra {
 
@@ -25,6 +26,7 @@ namespace {
 
 constexpr const char* PressureField = "Pressure Units";
 constexpr const char* FlowField = "Flow Units";
+constexpr const char* ViscosityField = "Viscosity Units";
 
 const RecordColumn& UnitColumn(const std::string& field) { return *FindColumn(field); }
 const RecordColumn& FactorColumn(const std::string& field) {
@@ -154,8 +156,6 @@ Scale ScaleOf(const RecordRows& rows, const std::string& field) {
     return scale;
 }
 
-bool IsKinematic(const std::string& viscosity) { return viscosity == "cs" || viscosity == "m2/s"; }
-
 bool IsIn(const RecordRows& rows, const ListUnits& units) {
     if (!units.DensityMode.empty() && units.DensityMode != DensityModeOf(TextAt(rows, "Calc Option")))
         return false;
@@ -222,9 +222,8 @@ ListUnits UnitsOf(const RecordRows& rows) {
     return units;
 }
 
-// All digits stay: what the values become is not what the user asked about.
-void ConvertRecordInHand(const ListUnits& units) {
-    const Figures asked = std::exchange(Suite.ConvertedFigures, Figures::Keep);
+bool ConvertRecordInHand(const ListUnits& units) {
+    const AllDigits digits;
     const bool isGas = program::IsOfGas(Calc.CurrentProgram);
     UnitChange change;
     for (const auto& [field, unit] : units.Fields) {
@@ -243,8 +242,9 @@ void ConvertRecordInHand(const ListUnits& units) {
     }
     if (!units.DensityMode.empty()) change.DensityMode = units.DensityMode;
     CarryDensityUnit();
+    const bool misleads = change.GravityMisleads();
     change.Commit(ZeroTemperature::IsConverted);
-    Suite.ConvertedFigures = asked;
+    return misleads;
 }
 
 void TakeFigures(RecordRows& rows, const RecordRows& list, const RecordRows& stored,
@@ -274,27 +274,18 @@ bool AreAlike(const FieldValue& a, const FieldValue& b) {
 std::string FirstByGravity(const RecordRows& list, const RecordRows& stored,
                            const std::function<bool(const std::string& column)>& isGiven) {
     const bool otherFlow = TextAt(list, "Basis") != TextAt(stored, "Basis");
-    const bool otherViscosity =
-        IsKinematic(TextAt(list, "Viscosity Units")) != IsKinematic(TextAt(stored, "Viscosity Units"));
+    const auto isKinematic = [](const RecordRows& rows) {
+        return CentistokesPerUnit(TextAt(rows, ViscosityField)) > 0;
+    };
+    const bool otherViscosity = isKinematic(list) != isKinematic(stored);
     for (const RecordColumn& column : RecordColumns()) {
         if (column.Kind != ColumnKind::Input || !column.IsOf(list.Program()) || !isGiven(column.Name))
             continue;
         const std::string field = UnitFieldOf(column);
-        if ((otherFlow && field == FlowField) || (otherViscosity && field == "Viscosity Units"))
+        if ((otherFlow && field == FlowField) || (otherViscosity && field == ViscosityField))
             return column.Name;
     }
     return "";
-}
-
-bool HasOneGravity(const RecordRows& rows) {
-    double first = 0;
-    for (const RecordColumn& column : RecordColumns()) {
-        if (!column.IsOf(rows.Program()) || !IsGravity(column, rows.Program())) continue;
-        const double gravity = NumberAt(rows, column);
-        if (gravity != 0 && first != 0 && gravity != first) return false;
-        if (gravity != 0) first = gravity;
-    }
-    return true;
 }
 
 void TakeUnits(RecordRows& rows, const ListUnits& units, bool isStored) {

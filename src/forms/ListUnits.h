@@ -45,8 +45,8 @@ std::string DensityModeOf(const std::string& codes);
 // Those that a record is in.
 ListUnits UnitsOf(const RecordRows& rows);
 
-// The record in hand, whose values follow.
-void ConvertRecordInHand(const ListUnits& units);
+// The record in hand, whose values follow. True where some went by a gravity of another case.
+bool ConvertRecordInHand(const ListUnits& units);
 
 // To five figures, as a value is that was written in another unit.
 bool AreAlike(const FieldValue& a, const FieldValue& b);
@@ -61,8 +61,6 @@ void TakeFigures(RecordRows& rows, const RecordRows& list, const RecordRows& sto
 // by mass for one by volume, a kinematic viscosity for a dynamic one; empty for none.
 std::string FirstByGravity(const RecordRows& list, const RecordRows& stored,
                            const std::function<bool(const std::string& column)>& isGiven);
-// Whether all cases of a liquid have the same, as far as they have one.
-bool HasOneGravity(const RecordRows& rows);
 
 // Why a row of a list is refused.
 struct ListRefusal {

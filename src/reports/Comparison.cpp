@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "core/Programs.h"
-#include "core/Suite.h"
 #include "core/Words.h"
 #include "platform/Dialogs.h"
 #include "platform/NumberText.h"
@@ -29,16 +28,13 @@ constexpr const char* CannotBe = "cannot be converted";
 class Lent {
 public:
     explicit Lent(CalcRecord& record) : record_(record) { std::swap(Calc, record_); }
-    ~Lent() {
-        std::swap(Calc, record_);
-        Suite.ConvertedFigures = figures_;
-    }
+    ~Lent() { std::swap(Calc, record_); }
     Lent(const Lent&) = delete;
     Lent& operator=(const Lent&) = delete;
 
 private:
     CalcRecord& record_;
-    const Figures figures_ = std::exchange(Suite.ConvertedFigures, Figures::Keep);
+    const AllDigits digits_;
     const HeldMessages held_;
 };
 

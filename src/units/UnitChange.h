@@ -10,7 +10,9 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
+#include "core/Suite.h"
 #include "units/ProgramConversion.h"
 
 namespace quillmetra {
@@ -45,6 +47,19 @@ private:
     static void KeepNumbers();
 
     bool committed_ = false;
+};
+
+// All digits stay for the life of the guard, and nobody is asked: what the values become is not what the user
+// looks at.
+class AllDigits {
+public:
+    AllDigits() : asked_(std::exchange(Suite.ConvertedFigures, Figures::Keep)) {}
+    ~AllDigits() { Suite.ConvertedFigures = asked_; }
+    AllDigits(const AllDigits&) = delete;
+    AllDigits& operator=(const AllDigits&) = delete;
+
+private:
+    const Figures asked_;
 };
 
 }  // namespace quillmetra

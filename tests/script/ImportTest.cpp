@@ -268,6 +268,8 @@ TEST_F(UsersLists, UnitsAreNotPassedOver) {
          "another one: give it in the unit on file\n4 V-2 changed Normal Flow: 222.10318, was 200; and 4 "
          "more"}};
     for (const auto& [text, told] : lists) EXPECT_EQ(List(text), told);
+    EXPECT_EQ(List("Tag,Program Number\nP-1,102\n"), one + "2 P-1 refused : Need flow SG to convert");
+    EXPECT_EQ(Suite.ConvertedFigures, Figures::Ask);
     EXPECT_THROW(List("Tag,Barometric Pressure\n,kPa\nP-1,101.3\n"), RuntimeError);
 }
 
