@@ -32,7 +32,8 @@ void CalculateLiquid(LineTrial& trial) {
     trial.Results = static_cast<const LineResults&>(results);
     trial.Reynolds = results.Reynolds;
     Calc.CaseResult[result::FinalPressure][ThisCase()] = results.FinalPressure;
-    static_cast<LineFigures&>(trial.Figures) = LiquidFiguresOf(Calc.CaseIndex, Calc.FrictionFactor);
+    const LiquidFigures figures = LiquidFiguresOf(Calc.CaseIndex, Calc.FrictionFactor);
+    static_cast<LineFigures&>(trial.Figures) = static_cast<const LineFigures&>(figures);
 }
 
 void CalculateGas(LineTrial& trial) {
