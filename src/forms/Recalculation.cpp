@@ -92,7 +92,7 @@ void Recalculation::Take(const RecordHead& head) {
 
 // A record whose results are gone keeps those that are saved.
 void Recalculation::Calculate(const RecordHead& head) {
-    if (!TakeRecord(head) || FillCalculationForm() == nullptr) return;
+    if (!TakeRecord(head, *database_) || FillCalculationForm() == nullptr) return;
     auto* const form = dynamic_cast<FluidForm*>(OpenCalculation());
     if (form == nullptr) return;
     const std::vector<Result> before = ResultsOf(*form);

@@ -18,25 +18,36 @@ void BeginRecord() {
     ResetRecord();
     Calc.LoadedDatabaseFile = Suite.DatabaseFile;
 }
+
+void BeginWith(const RecordHead& head) {
+    BeginRecord();
+    LoadHeadings();
+    Calc.Tag = head.Tag;
+    TakeFluidType(head.FluidType, head.ProgramNumber);
+}
+
+bool Loaded(bool isWhole) {
+    if (isWhole) Calc.BrowserOpen = words::Yes;
+    return isWhole;
+}
+
 }  // namespace
 
 // Without the headings of a print, of which a run of many records has no use.
 bool TakeRecordRows(const RecordRows& rows) {
     BeginRecord();
     TakeFluidType(rows.FluidType(), rows.Program());
-    if (!TakeRows(rows)) return false;
-    Calc.BrowserOpen = words::Yes;
-    return true;
+    return Loaded(TakeRows(rows));
 }
 
 bool TakeRecord(const RecordHead& head) {
-    BeginRecord();
-    LoadHeadings();
-    Calc.Tag = head.Tag;
-    TakeFluidType(head.FluidType, head.ProgramNumber);
-    if (!GetTRCalc()) return false;
-    Calc.BrowserOpen = words::Yes;
-    return true;
+    BeginWith(head);
+    return Loaded(GetTRCalc());
+}
+
+bool TakeRecord(const RecordHead& head, Database& database) {
+    BeginWith(head);
+    return Loaded(GetTRCalc(database));
 }
 
 const char* FillCalculationForm() {

@@ -10,6 +10,8 @@ struct RecordRows;
 // Reads a record of Suite.DatabaseFile into hand. False, after a message, when it cannot be shown. Throws as
 // OpenRecords.
 bool TakeRecord(const RecordHead& head);
+// Of one that is open already, as for many records.
+bool TakeRecord(const RecordHead& head, Database& database);
 
 // The same for a record that is in no database; false when it is of no program.
 bool TakeRecordRows(const RecordRows& rows);

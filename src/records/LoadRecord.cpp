@@ -209,12 +209,13 @@ void TakeFluidType(const std::string& headFluidType, int storedProgramNumber) {
     Calc.FluidType = program::IsOfGas(ProgramOf(storedProgramNumber)) ? words::Gas : words::Liquid;
 }
 
-bool GetTRCalc() {
-    const std::unique_ptr<Database> database = OpenRecords(Suite.DatabaseFile);
+bool GetTRCalc() { return GetTRCalc(*OpenRecords(Suite.DatabaseFile)); }
+
+bool GetTRCalc(Database& database) {
     Calc.Tag = std::string(Trim(Calc.Tag));
-    const ReadAhead rows(*database, Calc.Tag, ShapesOfRecords());
+    const ReadAhead rows(database, Calc.Tag, ShapesOfRecords());
     const RecordTable& table = HeadTable();
-    Recordset heads(*database, table.Shape, Recordset::Unplaced());
+    Recordset heads(database, table.Shape, Recordset::Unplaced());
     heads.Index(TagIndex);
     if (!heads.Seek(Calc.Tag)) {
         TellNotFound(table);
@@ -225,12 +226,12 @@ bool GetTRCalc() {
         Tell("Not found", "Tag Number Search", Icon::Stop);
         return false;
     }
-    const RowTaker take = RowsIn(*database);
+    const RowTaker take = RowsIn(database);
     TakeWithoutProgram(take);
     if (!GetProgramRow(take)) TakeRow(table, heads, true);
     if (!GetOptions(take)) MarkBlankTemperatures();
-    GetExtras(*database);
-    RememberRows(*database);
+    GetExtras(database);
+    RememberRows(database);
     FinishLoad();
     return true;
 }

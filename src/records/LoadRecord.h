@@ -16,6 +16,8 @@ struct RecordRows;
 // After it the form of Calc.CurrentProgram is loaded with InCalculation "Yes"; UnitsConverted is "Yes", so
 // its first refresh shows all cases.
 bool GetTRCalc();
+// The same of a database that is open already, as for many records.
+bool GetTRCalc(Database& database);
 
 // The same for a record that is in no database, with its rows in hand; without a message for one that is of
 // no program.
