@@ -53,10 +53,11 @@ InstallMissing() {
 
 # Installs a server for the tests, which start their own: without a database that would run from then on.
 InstallServer() {
-    local Folder=/etc/postgresql-common/createcluster.d
-    if ! IsInstalled postgresql-15 && ((EUID == 0)); then
-        mkdir -p "$Folder"
-        echo 'create_main_cluster = false' >"$Folder/quillmetra.conf"
+    local Folder=/etc/postgresql-common/createcluster.d AsRoot=()
+    ((EUID == 0)) || AsRoot=(sudo)
+    if ! IsInstalled postgresql-15 && command -v dpkg-query "${AsRoot[@]}" >/dev/null; then
+        "${AsRoot[@]}" mkdir -p "$Folder"
+        echo 'create_main_cluster = false' | "${AsRoot[@]}" tee "$Folder/quillmetra.conf" >/dev/null
     fi
     InstallMissing "${ServerPackages[@]}"
 }

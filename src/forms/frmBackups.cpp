@@ -9,6 +9,8 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/NumberText.h"
+#include "platform/ServerLink.h"
+#include "platform/TextFiles.h"
 #include "records/RecordFiles.h"
 
 namespace quillmetra {
@@ -57,6 +59,7 @@ void frmBackups::ShowBackups() {
     try {
         backups_ = BackupsOf(Suite.DatabaseFile);
         if (backups_.empty()) SetStatus("There are none yet: the first change of a day makes one");
+        if (IsServerLink(MachinePath(Suite.DatabaseFile))) SetStatus(failure::OnServer().Description);
     } catch (const RuntimeError& error) {
         SetStatus(error.Description);  // of a folder that is gone
     }

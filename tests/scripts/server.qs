@@ -73,6 +73,9 @@ expect-message The records of this database are on a server
 expect-message End of repair procedure!
 drop @TRData/TRDB.MDB
 expect-count grdRecords 3
+click mnuBackups
+expect-status "The records of this database are on a server: whoever looks after the server compacts, repairs and backs up"
+click cmdCancel
 save-as @TRData/TRDB.MDB
 answer OK
 click mnuExport
