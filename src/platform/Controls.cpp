@@ -242,6 +242,7 @@ void Grid::SetRows(std::vector<Cells> rows, int columns) {
     MendRows(0);
     selected_ = -1;
     selectedColumn_ = 0;
+    picked_.clear();
     Notify(Aspect::Rows);
 }
 

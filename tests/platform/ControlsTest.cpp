@@ -102,6 +102,11 @@ TEST_F(ControlsOfAForm, AGridKnowsItsBounds) {
     EXPECT_EQ(Form.grdRows.Selected(), -1) << "the selected cell is gone";
     Form.grdRows.SetSize(-1, -1);
     EXPECT_EQ(Form.grdRows.RowCount(), 0);
+    Form.grdRows.IsList = true;
+    Form.grdRows.SetRows({{"head"}, {"row"}}, 1);
+    Form.grdRows.Select(1, 0);
+    Form.grdRows.SetRows({{"head"}, {"other"}}, 1);
+    EXPECT_TRUE(Form.grdRows.Picked().empty()) << "a row that is gone";
 }
 
 TEST_F(ControlsOfAForm, AControlWorksOnlyWithAllThatHoldsIt) {
