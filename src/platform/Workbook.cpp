@@ -1,11 +1,12 @@
 // Sheets of workbooks (XLSX), see SheetReader.h: an archive of XML parts that name one another.
 #include <charconv>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <utility>
 
+#include "platform/NumberFormats.h"
 #include "platform/NumberText.h"
-#include "platform/SerialDates.h"
 #include "platform/SheetFormats.h"
 #include "platform/TextCase.h"
 #include "platform/Utf8.h"
@@ -70,28 +71,36 @@ public:
     std::vector<std::pair<std::string, std::string>> Sheets;  // name and relation
 };
 
-// Which of the cell formats show a number as a date.
-class DateFormats : public XmlTaker {
+enum class Shown : std::uint8_t { Number, Date, Percent };
+
+// What each of the cell formats shows a number as.
+class CellFormats : public XmlTaker {
 public:
     void Start(std::string_view name, const Attributes& attributes) override {
-        if (name == "numFmt")
-            own_[attributes.Whole("numFmtId")] = IsDateFormat(attributes.Text("formatCode"));
+        if (name == "numFmt") {
+            const std::string code = attributes.Text("formatCode");
+            own_[attributes.Whole("numFmtId")] = OneOf(IsDateFormat(code), IsPercentFormat(code));
+        }
         if (name == "cellXfs") inCells_ = true;
-        if (name == "xf" && inCells_) IsDate.push_back(Shows(attributes.Whole("numFmtId")));
+        if (name == "xf" && inCells_) OfStyle.push_back(Shows(attributes.Whole("numFmtId")));
     }
     void End(std::string_view name) override {
         if (name == "cellXfs") inCells_ = false;
     }
 
-    std::vector<bool> IsDate;
+    std::vector<Shown> OfStyle;
 
 private:
-    bool Shows(int format) const {
+    static Shown OneOf(bool isDate, bool isPercent) {
+        return isDate ? Shown::Date : isPercent ? Shown::Percent : Shown::Number;
+    }
+    Shown Shows(int format) const {
         const auto own = own_.find(format);
-        return own == own_.end() ? IsBuiltInDateFormat(format) : own->second;
+        if (own != own_.end()) return own->second;
+        return OneOf(IsBuiltInDateFormat(format), IsBuiltInPercentFormat(format));
     }
 
-    std::map<int, bool> own_;
+    std::map<int, Shown> own_;
     bool inCells_ = false;
 };
 
@@ -153,7 +162,7 @@ private:
 
 struct Book {
     bool From1904 = false;
-    std::vector<bool> IsDate;
+    std::vector<Shown> OfStyle;
     std::vector<std::string> Texts;
 };
 
@@ -244,11 +253,21 @@ private:
     void TakeNumber(SheetCell& cell) {
         const std::optional<double> number = NumberIn(value_, '.');
         if (!number) throw Damaged("a number in row " + std::to_string(row_.Number));
-        const bool isDate = style_ >= 0 && static_cast<std::size_t>(style_) < book_.IsDate.size() &&
-                            book_.IsDate[static_cast<std::size_t>(style_)];
-        cell.Of = isDate ? SheetCell::Kind::Date : SheetCell::Kind::Number;
-        cell.Text = isDate ? DateOfSerial(*number, book_.From1904) : TrimmedStr(*number);
-        if (!isDate) cell.Number = number;
+        switch (ShownAs()) {
+            case Shown::Date:
+                cell.Of = SheetCell::Kind::Date;
+                cell.Text = DateOfSerial(*number, book_.From1904);
+                break;
+            case Shown::Percent: cell.Text = TrimmedStr(*number * 100) + "%"; break;
+            default:
+                cell.Of = SheetCell::Kind::Number;
+                cell.Text = TrimmedStr(*number);
+                cell.Number = number;
+        }
+    }
+    Shown ShownAs() const {
+        const auto style = static_cast<std::size_t>(style_);
+        return style_ >= 0 && style < book_.OfStyle.size() ? book_.OfStyle[style] : Shown::Number;
     }
     std::string SharedText() const {
         std::size_t index = 0;
@@ -289,7 +308,7 @@ void ReadWorkbook(const std::string& bytes, SheetTaker& taker) {
     SheetNames names;
     ReadXml(archive, main, names, MostKept);
     const Relations parts = RelationsOf(archive, main);
-    const Book book{names.From1904, ReadIfThere<DateFormats>(archive, PartOfType(parts, "styles")).IsDate,
+    const Book book{names.From1904, ReadIfThere<CellFormats>(archive, PartOfType(parts, "styles")).OfStyle,
                     ReadIfThere<SharedTexts>(archive, PartOfType(parts, "sharedStrings")).Texts};
     for (const auto& [name, id] : names.Sheets) {
         const auto part = parts.ById.find(id);

@@ -138,10 +138,13 @@ protected:
                  "sharedStrings' Id='e' Target='sharedStrings.xml'/></Relationships>"},
             {"xl/styles.xml",
              "<styleSheet><numFmts><numFmt numFmtId='164' formatCode='dd/mm/yyyy'/><numFmt numFmtId='165' "
-             "formatCode='[Red]0.00\"days\"'/></numFmts><cellStyleXfs><xf "
+             "formatCode='[Red]0.00\"days\"'/><numFmt numFmtId='166' formatCode='0.0%'/><numFmt "
+             "numFmtId='167' "
+             "formatCode='[hh]:mm'/></numFmts><cellStyleXfs><xf "
              "numFmtId='14'/></cellStyleXfs><cellXfs>"
              "<xf numFmtId='0'/><xf numFmtId='164'/><xf numFmtId='165'/><xf "
-             "numFmtId='22'/></cellXfs></styleSheet>"},
+             "numFmtId='22'/><xf numFmtId='9'/><xf numFmtId='166'/><xf "
+             "numFmtId='167'/></cellXfs></styleSheet>"},
             {"xl/sharedStrings.xml",
              "<sst><si><t>Tag</t></si><si><r><t>P-</t></r><r><t>1</t></r><rPh><t>no</t></rPh></si></sst>"},
             {"xl/worksheets/sheet1.xml", "<worksheet><sheetData>" + sheet + "</sheetData></worksheet>"},
@@ -174,6 +177,9 @@ TEST_F(Workbook, Cells) {
                           {"s='1'", "<v>59</v>", "d:1900-02-28"},
                           {"s='1'", "<v>1e9</v>", "d:1000000000"},
                           {"s='2'", "<v>46352</v>", "n:46352"},
+                          {"s='4'", "<v>0.05</v>", "t:5%"},
+                          {"s='5'", "<v>0.055</v>", "t:5.5%"},
+                          {"s='6'", "<v>0.5</v>", "d:1899-12-31 12:00:00"},
                           {"s='99'", "<v>7</v>", "n:7"}};
     for (const Case& each : cases)
         EXPECT_EQ(Pass(Cell(each.Attributes, each.Inner)), "[One]\n3 B=" + each.Told) << each.Inner;

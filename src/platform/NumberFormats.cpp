@@ -1,5 +1,5 @@
-// See SerialDates.h.
-#include "platform/SerialDates.h"
+// See NumberFormats.h.
+#include "platform/NumberFormats.h"
 
 #include <array>
 #include <chrono>
@@ -16,28 +16,40 @@ bool IsBuiltInDateFormat(int number) {
     return within(14, 22) || within(27, 36) || within(45, 47) || within(50, 58);
 }
 
-bool IsDateFormat(std::string_view code) {
-    for (std::size_t i = 0; i < code.size(); ++i) {
+namespace {
+
+// The letters of a format that stand for parts of a number, as far as it is for positive ones: no text in
+// quotes or behind "\\", "_" and "*", no colours; of elapsed hours, [h], what is within the brackets.
+std::string Letters(std::string_view code) {
+    std::string letters;
+    for (std::size_t i = 0; i < code.size() && code[i] != ';'; ++i) {
         const char c = LowerCase(code[i]);
-        if (c == ';') return false;  // what follows is for other numbers
         if (c == '\\' || c == '_' || c == '*') {
-            ++i;  // the letter behind is shown or measured
+            ++i;
         } else if (c == '"') {
             i = std::min(code.find('"', i + 1), code.size());
         } else if (c == '[') {
             const char inside = i + 1 < code.size() ? LowerCase(code[i + 1]) : ' ';
             const bool elapsed =
                 i + 2 < code.size() && (code[i + 2] == ']' || LowerCase(code[i + 2]) == inside);
-            if (elapsed && (inside == 'h' || inside == 'm' || inside == 's')) return true;
+            if (elapsed) letters += inside;
             i = std::min(code.find(']', i), code.size());
-        } else if (c == 'd' || c == 'm' || c == 'y' || c == 'h' || c == 's') {
-            return true;
         } else if (SameName(code.substr(i, 7), "General")) {
             i += 6;
+        } else {
+            letters += c;
         }
     }
-    return false;
+    return letters;
 }
+
+}  // namespace
+
+bool IsDateFormat(std::string_view code) { return Letters(code).find_first_of("dmyhs") != std::string::npos; }
+
+bool IsBuiltInPercentFormat(int number) { return number == 9 || number == 10; }
+
+bool IsPercentFormat(std::string_view code) { return Letters(code).find('%') != std::string::npos; }
 
 std::string DateOfSerial(double serial, bool from1904) {
     constexpr double dayAfter9999 = 2958466, secondsPerDay = 86400;
