@@ -177,6 +177,8 @@ public:
         if (name == "c") return StartCell(attributes);
         if (name == "mergeCell") taker_.TakeMerged(attributes.Text("ref"));
         if (name == "f") hasFormula_ = true;
+        if (name == "v" && !value_.empty())
+            throw Damaged("row " + std::to_string(row_.Number) + " has a cell with two values");
         inValue_ = name == "v";
         rich_.Start(name);
     }

@@ -4,7 +4,9 @@
 #include <ostream>
 
 #include "core/Suite.h"
+#include "platform/Folders.h"
 #include "platform/TextFiles.h"
+#include "records/RecordFiles.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptFailure.h"
 #include "script/ScriptPlayer.h"
@@ -32,7 +34,10 @@ void ImportList(ScriptPlayer& player, const Arguments& arguments) {
     RequireBrowser(player);
 
     Suite.DatabaseFile = DatabaseNamed(player, arguments[0].Text);
-    Import list(FileNamed(player, arguments[1].Text));
+    const std::string file = FileNamed(player, arguments[1].Text);
+    if (!report.empty() && IsSameFile(FileToWrite(player, report, "a report"), SuitePath(AbsolutePath(file))))
+        throw ScriptFailure{"The list cannot be written over by its report"};
+    Import list(file);
     list.Run([](int, int) { return true; });
     WriteReport(player, report, ReportOf(list));
     player.Out << list.Summary() << '\n';

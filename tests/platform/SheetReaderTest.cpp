@@ -199,6 +199,7 @@ TEST_F(Workbook, HostileOnesAreRefused) {
     const std::string damaged = "The workbook is damaged: ";
     EXPECT_EQ(Pass(Cell("t='s'", "<v>9</v>")), damaged + "a text in row 3");
     EXPECT_EQ(Pass(Cell("t='s'", "<v>-1</v>")), damaged + "a text in row 3");
+    EXPECT_EQ(Pass(Cell("", "<v>1</v><v>2</v>")), damaged + "row 3 has a cell with two values");
     EXPECT_EQ(Pass(Cell("", "<v>nan</v>")), damaged + "a number in row 3");
     EXPECT_EQ(Pass("<row r='3'><c r='XFE3'/></row>"), damaged + "row 3 has too many columns");
     EXPECT_EQ(Pass("<row r='1048577'/>"), damaged + "row 1048577");

@@ -285,6 +285,9 @@ TEST_F(UsersLists, AllOrNothing) {
     EXPECT_EQ(List("Tag,Calc By\nP-1,Ann\n", true).substr(0, 16), "0 new, 1 changed");
     EXPECT_THROW(late.Save(true), RuntimeError);
     EXPECT_EQ(Saved("P-1", "Normal Flow") + Saved("P-1", "Calc By"), "100000Ann");
+    std::istringstream over("import @TRData @list.csv @List.csv");
+    EXPECT_EQ(player_.Play("s", over), 1);
+    EXPECT_EQ(ReadBytes(Path("list.csv")), "Tag,Calc By\nP-1,Ann\n");
 }
 
 TEST_F(UsersLists, WhatIsWrongIsToldWithRowAndColumn) {
