@@ -413,10 +413,24 @@ void ListRecords::CheckHead(const RecordRows& rows, const Row& row) {
         throw ListRefusal{basis->Head, unit + " is a flow by " + (its == words::Mass ? "mass" : "volume")};
 }
 
+// A factor is one of a unit; behind TakeUnits the record is in that of the list.
+void ListRecords::CheckFactors(const RecordRows& rows, const Row& row) {
+    for (const Given& given : row.Cells) {
+        const std::string& name = given.Of->Name;
+        if (given.Of->Kind != ColumnKind::Unit || !name.ends_with(" Factor") || IsEmpty(given.Value))
+            continue;
+        const std::string unit = name.substr(0, name.rfind(' ')) + " Units";
+        if (row.Find(unit) != nullptr || AreAlike(rows.Value(*given.Of), given.Value)) continue;
+        throw ListRefusal{given.Head, ValueText(given.Value) + " is no factor of " +
+                                          ValueText(rows.Value(*FindColumn(unit)))};
+    }
+}
+
 // The cells of the row, in the units of the list.
 void ListRecords::PutCells(RecordRows& rows, const Row& row, const ListHeads& heads, bool isStored) {
     const ListUnits units = UnitsOfRow(heads, row);
     TakeUnits(rows, units, isStored);
+    CheckFactors(rows, row);
     const std::optional<RecordRows> stored = isStored ? std::optional(rows) : std::nullopt;
     for (const Given& given : row.Cells) {
         if (given.Of->Kind != ColumnKind::Mixture && !IsOfProgram(given)) Put(rows, given);

@@ -72,6 +72,7 @@ private:
     static void RefuseFirst(const DataRefusals& refusals, const Row& row);
     static int UnitSetOf(const Row& row);  // 0 for none
     void TakeUnitSet(RecordRows& stored, const Row& row);
+    static void CheckFactors(const RecordRows& rows, const Row& row);
     static void CheckHead(const RecordRows& rows, const Row& row);
     void PutCells(RecordRows& rows, const Row& row, const ListHeads& heads, bool isStored);
     static void CheckTaken(const Row& row, const RecordRows& before, const RecordRows& after,

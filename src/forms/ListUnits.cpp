@@ -87,15 +87,22 @@ std::string TextAt(const RecordRows& rows, const char* column) {
     return ValueText(rows.Value(*FindColumn(column)));
 }
 
-// The factor that a list leaves out is that of the record, or of the library.
+double NumberAt(const RecordRows& rows, const RecordColumn& column) {
+    const FieldValue value = rows.Value(column);
+    const auto* number = std::get_if<double>(&value);
+    return number == nullptr ? 0 : *number;
+}
+
+// The factor that a list leaves out is that of the record, or of the library. One that it has left from a
+// former unit would make other values of all.
 ListUnit Completed(const RecordRows& rows, const std::string& field, ListUnit unit) {
-    if (unit.Factor > 0) return unit;
-    if (ValueText(rows.Value(UnitColumn(field))) == unit.Name) {
-        const FieldValue factor = rows.Value(FactorColumn(field));
-        if (const auto* number = std::get_if<double>(&factor)) unit.Factor = *number;
-    } else {
-        unit.Factor = FindUnit(field, unit.Name, IsGas(rows)).Factor;
-    }
+    const bool isOwn = TextAt(rows, field.c_str()) == unit.Name;
+    const double known =
+        isOwn ? NumberAt(rows, FactorColumn(field)) : FindUnit(field, unit.Name, IsGas(rows)).Factor;
+    constexpr double part = 0.001;  // factors of former libraries have fewer digits
+    if (unit.Factor > 0 && known > 0 && std::fabs(unit.Factor - known) > part * known)
+        throw ListRefusal{unit.Head, TrimmedStr(unit.Factor) + " is no factor of " + unit.Name};
+    if (!(unit.Factor > 0)) unit.Factor = known;
     if (!IsUsableFactor(unit.Factor)) throw ListRefusal{unit.Head, unit.Name + " is no unit of the library"};
     return unit;
 }
@@ -126,12 +133,6 @@ void PutUnits(RecordRows& rows, const ListUnits& units) {
 
 std::string UnitRuleOf(const RecordColumn& column) {
     return column.IsExtra() ? "" : column.At.Table->Fields[column.At.Field].Rules.Unit;
-}
-
-double NumberAt(const RecordRows& rows, const RecordColumn& column) {
-    const FieldValue value = rows.Value(column);
-    const auto* number = std::get_if<double>(&value);
-    return number == nullptr ? 0 : *number;
 }
 
 // In psia.
@@ -290,9 +291,9 @@ std::string FirstByGravity(const RecordRows& list, const RecordRows& stored,
 
 void TakeUnits(RecordRows& rows, const ListUnits& units, bool isStored) {
     if (!isStored) return PutUnits(rows, units);
-    if (IsIn(rows, units)) return;
     ListUnits whole{{}, units.DensityMode};
     for (const auto& [field, unit] : units.Fields) whole.Fields[field] = Completed(rows, field, unit);
+    if (IsIn(rows, units)) return;
     TakeRecordRows(rows);
     ConvertRecordInHand(whole);
     rows = RowsOfRecord();
