@@ -35,17 +35,11 @@ bool RecordCells::Take(const std::string& tag) {
     head.Found = head.Rows.Seek(tag);
     if (!head.Found) return false;
     program_ = ProgramOf(static_cast<int>(head.Rows.Number("Program Number")));
+    const std::string codes = head.Rows.Text("Other Calcs");
     for (Part& part : parts_) {
-        if (&part != &head) part.Found = MayHave(*part.Table) && part.Rows.Seek(tag);
+        if (&part != &head) part.Found = HasRowIn(*part.Table, program_, codes) && part.Rows.Seek(tag);
     }
     return true;
-}
-
-// Rows of other programs, and of a mixture that the record is not any more, are none of its own.
-bool RecordCells::MayHave(const RecordTable& table) const {
-    if (&table == &UnitsTable() || &table == &SettingsTable()) return true;
-    if (&table == &MixtureTable()) return HasCode(parts_.front().Rows.Text("Other Calcs"), code::Mixture);
-    return &table == ProgramTable(program_);
 }
 
 const Recordset* RecordCells::RowOf(const RecordTable& table) const {

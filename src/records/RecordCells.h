@@ -34,7 +34,6 @@ private:
     };
     // Null when the record has no row there.
     const Recordset* RowOf(const RecordTable& table) const;
-    bool MayHave(const RecordTable& table) const;
     bool IsDensity(const RecordField& field) const;
 
     Database& database_;

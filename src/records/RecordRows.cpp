@@ -92,29 +92,24 @@ RowStore::RowStore(Database& database) : database_(database), extras_(database, 
     }
 }
 
-// Rows of other programs, and of a mixture that the record is not any more, are none of its own.
-bool RowStore::HasRowIn(const RecordTable& table, const RecordRows& rows) {
-    static const std::size_t codes = FieldNamed(HeadTable(), "Other Calcs");
-    if (&table == &UnitsTable() || &table == &SettingsTable()) return true;
-    if (&table == &MixtureTable()) return HasCode(TrimmedText(rows.Of(HeadTable())[codes]), code::Mixture);
-    return &table == ProgramTable(rows.Program());
-}
-
 std::optional<RecordRows> RowStore::Read(std::string_view tag) {
     const ReadAhead read(database_, tag, ShapesOfRecords());
-    if (!parts_.front().Rows.Seek(tag)) return {};
+    Part& head = parts_.front();
+    if (!head.Rows.Seek(tag)) return {};
+    const int program = ProgramOf(static_cast<int>(head.Rows.Number("Program Number")));
+    const std::string codes = head.Rows.Text("Other Calcs");
     RecordRows rows;
     for (Part& part : parts_) {
-        const bool isHead = &part == &parts_.front();
-        if (!isHead && (!HasRowIn(*part.Table, rows) || !part.Rows.Seek(tag))) continue;
+        const bool isThere = &part == &head || (HasRowIn(*part.Table, program, codes) && part.Rows.Seek(tag));
+        if (!isThere) continue;
         RecordRows::Row& row = rows.Of(*part.Table);
         for (std::size_t i = 0; i < part.Table->Fields.size(); ++i) row.push_back(part.Rows.Value(i));
     }
-    const RecordTable* const own = ProgramTable(rows.Program());
-    const auto program = std::ranges::find(parts_, own, &Part::Table);
-    if (program == parts_.end() || rows.Of(*own).empty()) return rows;
+    const RecordTable* const own = ProgramTable(program);
+    const auto part = std::ranges::find(parts_, own, &Part::Table);
+    if (part == parts_.end() || rows.Of(*own).empty()) return rows;
     for (std::size_t i = 0; i < RecordExtras.size(); ++i)
-        rows.Extras.at(i) = ExtraText(extras_, RecordExtras[i], *own, program->Rows);
+        rows.Extras.at(i) = ExtraText(extras_, RecordExtras[i], *own, part->Rows);
     return rows;
 }
 

@@ -54,7 +54,6 @@ private:
         const RecordTable* Table;
         Recordset Rows;
     };
-    static bool HasRowIn(const RecordTable& table, const RecordRows& rows);
     void Write(const RecordRows& rows, bool isNew);
     void WriteExtras(Part& part, const RecordRows& rows, bool isNew);
 

@@ -6,6 +6,7 @@
 
 #include "core/Programs.h"
 #include "core/Words.h"
+#include "records/OptionCodes.h"
 #include "records/TextLengths.h"
 #include "units/UnitCatalogue.h"
 
@@ -339,6 +340,12 @@ const RecordTable* ProgramTable(int program) {
         case program::GasData: return &FluidDataTable();
         default: return nullptr;
     }
+}
+
+bool HasRowIn(const RecordTable& table, int program, std::string_view otherCalcs) {
+    if (&table == &HeadTable() || &table == &UnitsTable() || &table == &SettingsTable()) return true;
+    if (&table == &MixtureTable()) return HasCode(otherCalcs, code::Mixture);
+    return &table == ProgramTable(program);
 }
 
 int CellRow(const RecordField& field) {

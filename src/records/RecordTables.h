@@ -6,6 +6,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -100,6 +101,9 @@ const std::vector<const RecordTable*>& RecordTables();
 
 // The table of a program's own row; null for a number that is no program.
 const RecordTable* ProgramTable(int program);
+// Whether a record of a program, with these codes of its head, has a row of its own in a table: rows of other
+// programs, and of a mixture that the record is not any more, are none.
+bool HasRowIn(const RecordTable& table, int program, std::string_view otherCalcs);
 
 // The row of a cell for the fluid type in hand.
 int CellRow(const RecordField& field);
