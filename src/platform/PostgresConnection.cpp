@@ -28,6 +28,7 @@ constexpr auto LongestSilence = 4000ms;
 constexpr auto LongestSlowness = 4000ms, SlowAnswer = 250ms;
 constexpr auto BetweenActs = 1000ms;
 constexpr int ServerLost = EngineFailures + 150;
+constexpr int OldestServer = 130'000;
 
 // By the first letters of the standard's codes of failures.
 struct FailureWords {
@@ -143,6 +144,10 @@ void PostgresConnection::Connect() {
     if (reached.wait_until(until + SlowAnswer) == std::future_status::ready) connection_ = reached.get();
     if (connection_ == nullptr) Lose("It does not answer");
     if (PQstatus(connection_.get()) != CONNECTION_OK) Lose(PQerrorMessage(connection_.get()));
+    if (PQserverVersion(connection_.get()) >= OldestServer) return;
+    Abandon();
+    throw RuntimeError(ServerRefused,
+                       "The server is too old; PostgreSQL 13 or later is needed\n" + link_.Words());
 }
 
 // A client that has gone without a word holds its lock no longer than this.
