@@ -119,15 +119,17 @@ MakeSetup() {
         "-DSETUP=$3" packaging/windows/quillmetra.nsi
 }
 
-# Wine has a home of its own with a share in it, made anew for each run of a script and ended with it.
+# Wine has a home of its own with a share in it, made anew for each run of a script and ended with it. It has no debugger,
+# which may wait for ever at a program that falls.
 StartWine() {
     WineHome=$(mktemp -d)
     mkdir "$WineHome/wine"
-    export WINEPREFIX=$WineHome/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
+    export WINEPREFIX=$WineHome/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe="
     FindLibraries
     trap EndWine EXIT
     wineserver --persistent  # else it ends after each program, and the next one waits for it
     wine wineboot --init >/dev/null 2>&1
+    wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null  # the oldest that the suite is for
     QtSetting QT_QPA_PLATFORM offscreen
     mkdir -p "$WINEPREFIX/dosdevices/unc/server/share"
 }
@@ -140,7 +142,10 @@ FindLibraries() {
 }
 
 # QtSetting NAME VALUE: Wine keeps this machine's variables of Qt from its programs, which get those of its registry.
-QtSetting() { wine reg add 'HKCU\Environment' /v "$1" /d "$2" /f >/dev/null; }
+QtSetting() {
+    wine reg add 'HKCU\Environment' /v "$1" /d "$2" /f >/dev/null
+    [[ $(wine cmd /c "echo %$1%") == "$2"* ]] || { echo "Programs do not get $1"; return 1; }
+}
 
 EndWine() {
     wineserver -k 2>/dev/null || true
@@ -170,6 +175,9 @@ PrintTable() {
     fi
 }
 
+# What a log tells in figures: how many tests were played and left themselves out, how long a start took, how large a folder is.
+WordsOf() { sed -nE 's/^\[  (PASSED|SKIPPED) +\] ([0-9]+) tests?.*/\2 \L\1/p; s/^([0-9]+ (ms|MB))\r?$/\1/p' "$1" | paste -sd' '; }
+
 # Judge NAME LOG COMMAND...: a row for a command; its log is shown when it fails. Not as the condition of an "if",
 # where a shell does not end at the first of its parts that fails.
 Judge() {
@@ -180,17 +188,17 @@ Judge() {
     Code=$?
     set -e
     if ((Code == 0)); then
-        Row "$Name" passed $((SECONDS - Start))
+        Row "$Name" passed $((SECONDS - Start)) "$(WordsOf "$Log")"
     else
         tail -40 "$Log"
         Row "$Name" FAILED $((SECONDS - Start))
     fi
 }
 
-# A program that falls ends as well as any other under Wine's debugger: its last words count.
+# Its last words count beside how it ends: to find no test to play is no success.
 Passes() {
     timeout "${Patience:-900}" wine "$@" | tee "$WineHome/said"
-    grep -q '^\[  PASSED  \]' "$WineHome/said" && ! grep -q '^\[  FAILED  \]' "$WineHome/said"
+    grep -q '^\[  PASSED  \] [1-9]' "$WineHome/said" && ! grep -q '^\[  FAILED  \]' "$WineHome/said"
 }
 
 # PlayTests PROGRAM [OPTION...]; the caller may set Note, words behind the name.
@@ -210,9 +218,10 @@ PlayBoth() {
     rm -rf -- "$Windows" "$Machine"
     mkdir "$Windows" "$Machine"
     tee "$Windows/plant-lines.csv" "$Machine/plant-lines.csv" <examples/plant-lines.csv >/dev/null
-    (cd -- "$Windows" && wine "$1" "$(WindowsPath "$Script")" >printed)
+    (cd -- "$Windows" && timeout 300 wine "$1" "$(WindowsPath "$Script")" >printed)
     (cd -- "$Machine" && QT_QPA_PLATFORM=offscreen "$Player" "$Script" >printed)
     diff <(Plain <"$Machine/printed") <(Plain <"$Windows/printed")
+    diff <(ls "$Machine") <(ls "$Windows")
     for Page in "$Machine"/*.pdf; do
         if [[ -f $Page ]]; then
             SamePages "$Page" "$Windows/$(basename -- "$Page")"
