@@ -12,7 +12,7 @@ Node frmSizes() {
                            Row({list("lblFamily", "lstFamily", 34), list("lblSchedule", "lstSchedule", 14),
                                 list("lblService", "lstService", 34)})})),
          Panel("",
-               Column({Row({"lblSizes", Stretch(), "lblSource"}), Item("grdSizes").Wide(130).Tall(14).Grow(),
+               Column({Row({"lblSizes", Stretch(), "lblSource"}), Item("grdSizes").Wide(118).Tall(14).Grow(),
                        Row({"lblMet", Stretch(), "cmdCopy"})}))
              .Grow(),
          Buttons({"cmdOK", "cmdCancel"})});
